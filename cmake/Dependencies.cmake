@@ -1,0 +1,49 @@
+# PCRE2 and GoogleTest come as the distribution's source packages, put in
+# place by scripts/setup. PCRE2 is built once per toolchain and kept outside
+# the build folder, so that a clean build does not pay for it again.
+if(DEFINED ENV{XDG_CACHE_HOME})
+  set(OV_DEPS_DEFAULT "$ENV{XDG_CACHE_HOME}/ovPreferences")
+else()
+  set(OV_DEPS_DEFAULT "$ENV{HOME}/.cache/ovPreferences")
+endif()
+set(OV_DEPS_DIR
+    "${OV_DEPS_DEFAULT}"
+    CACHE PATH "Where scripts/setup keeps third-party sources and builds")
+
+file(GLOB OV_PCRE2_SOURCE LIST_DIRECTORIES true "${OV_DEPS_DIR}/source/pcre2-*")
+list(FILTER OV_PCRE2_SOURCE INCLUDE REGEX "/pcre2-[0-9.]+$")
+if(NOT OV_PCRE2_SOURCE)
+  message(FATAL_ERROR "PCRE2's sources are missing in ${OV_DEPS_DIR}/source: run scripts/setup first")
+endif()
+list(GET OV_PCRE2_SOURCE -1 OV_PCRE2_SOURCE)
+cmake_path(GET OV_PCRE2_SOURCE FILENAME OV_PCRE2_NAME)
+string(TOLOWER "${CMAKE_SYSTEM_NAME}" OV_PCRE2_FLAVOUR)
+set(OV_PCRE2_PREFIX "${OV_DEPS_DIR}/${OV_PCRE2_NAME}-${OV_PCRE2_FLAVOUR}")
+set(OV_PCRE2_LIBRARY "${OV_PCRE2_PREFIX}/lib/libpcre2-8.a")
+
+if(NOT EXISTS "${OV_PCRE2_LIBRARY}")
+  message(STATUS "Building ${OV_PCRE2_NAME} for ${CMAKE_SYSTEM_NAME}")
+  set(OV_PCRE2_BUILD "${CMAKE_BINARY_DIR}/pcre2")
+  set(OV_PCRE2_TOOLCHAIN "")
+  if(CMAKE_TOOLCHAIN_FILE)
+    set(OV_PCRE2_TOOLCHAIN "-DCMAKE_TOOLCHAIN_FILE=${CMAKE_TOOLCHAIN_FILE}")
+  endif()
+  # Rebuilds must be byte-identical wherever the sources lie, hence the map.
+  execute_process(
+    COMMAND
+      ${CMAKE_COMMAND} -S "${OV_PCRE2_SOURCE}" -B "${OV_PCRE2_BUILD}" -G Ninja ${OV_PCRE2_TOOLCHAIN}
+      -DCMAKE_BUILD_TYPE=Release "-DCMAKE_INSTALL_PREFIX=${OV_PCRE2_PREFIX}" -DBUILD_SHARED_LIBS=OFF
+      -DPCRE2_BUILD_PCRE2GREP=OFF -DPCRE2_BUILD_TESTS=OFF -DPCRE2_SUPPORT_LIBREADLINE=OFF
+      "-DCMAKE_C_FLAGS=-ffile-prefix-map=${OV_PCRE2_SOURCE}=pcre2" COMMAND_ERROR_IS_FATAL ANY
+    OUTPUT_QUIET)
+  execute_process(COMMAND ${CMAKE_COMMAND} --build "${OV_PCRE2_BUILD}" --target install
+                          COMMAND_ERROR_IS_FATAL ANY OUTPUT_QUIET)
+endif()
+
+add_library(pcre2-8 STATIC IMPORTED GLOBAL)
+set_target_properties(
+  pcre2-8 PROPERTIES IMPORTED_LOCATION "${OV_PCRE2_LIBRARY}" INTERFACE_INCLUDE_DIRECTORIES
+                     "${OV_PCRE2_PREFIX}/include" INTERFACE_COMPILE_DEFINITIONS PCRE2_STATIC)
+
+set(INSTALL_GTEST OFF)
+add_subdirectory(/usr/src/googletest "${CMAKE_BINARY_DIR}/googletest" EXCLUDE_FROM_ALL)

@@ -1,0 +1,35 @@
+# ov_layer(NAME SOURCES ... [DEPENDS ...]): one library per folder. DEPENDS is
+# the architecture diagram: a folder may include what it links and no more.
+add_library(ov_options INTERFACE)
+target_link_libraries(ov_options INTERFACE ov_warnings)
+target_include_directories(ov_options INTERFACE "${CMAKE_SOURCE_DIR}")
+# Byte-identical rebuilds, in whatever folder the sources lie.
+target_compile_options(ov_options INTERFACE "-ffile-prefix-map=${CMAKE_SOURCE_DIR}/=")
+if(WIN32)
+  target_compile_definitions(
+    ov_options
+    INTERFACE UNICODE
+              _UNICODE
+              STRICT
+              NOMINMAX
+              WIN32_LEAN_AND_MEAN
+              WINVER=0x0601
+              _WIN32_WINNT=0x0601
+              NTDDI_VERSION=0x06010000)
+  target_link_options(ov_options INTERFACE -static -Wl,--no-insert-timestamp)
+endif()
+if(OV_SANITIZE)
+  target_compile_options(ov_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
+                                              -fno-omit-frame-pointer)
+  target_link_options(ov_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+function(ov_layer NAME)
+  cmake_parse_arguments(LAYER "" "" "SOURCES;DEPENDS" ${ARGN})
+  if(NOT LAYER_SOURCES)
+    add_library(${NAME} INTERFACE)
+    return()
+  endif()
+  add_library(${NAME} STATIC ${LAYER_SOURCES})
+  target_link_libraries(${NAME} PUBLIC ov_options ${LAYER_DEPENDS})
+endfunction()

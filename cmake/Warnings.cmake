@@ -1,0 +1,17 @@
+# The one place that decides what the compiler may complain about; every
+# warning is an error, on both compilers.
+add_library(ov_warnings INTERFACE)
+target_compile_options(
+  ov_warnings
+  INTERFACE $<$<COMPILE_LANGUAGE:CXX>:-Wall
+            -Wextra
+            -Wpedantic
+            -Wshadow
+            -Wconversion
+            -Wnon-virtual-dtor
+            -Woverloaded-virtual
+            -Wnull-dereference
+            -Wduplicated-cond
+            -Wlogical-op
+            -Wimplicit-fallthrough
+            -Werror>)
