@@ -1,0 +1,98 @@
+/// Orthoval Preferences: the interface for hosts, for C and C++.
+///
+/// The library shows one modal dialog that edits one configuration file
+/// (`*.cfg`). It has two entry points, exported under their plain names, so a
+/// host may link the import library or use LoadLibrary and GetProcAddress with
+/// the function pointer types and names below.
+///
+/// Threading. Call from the thread that owns the host's windows. The call
+/// returns when the person has closed the dialog; until then it runs a message
+/// loop of its own on the calling thread. Nothing is locked: one call at a
+/// time in a process, and none from within another.
+///
+/// Ownership. The library copies every text before it returns and keeps no
+/// pointer of the host's. It frees nothing of the host's and gives the host
+/// nothing to free. Unload it only while no call is running.
+///
+/// Parents. `parent` is a window object of this library's own framework layer,
+/// which only code that is built with that layer has. A host that has nothing
+/// but a window handle passes null: with no parent the dialog is owned by the
+/// calling thread's active window and is modal to it. So such a host makes its
+/// window the active one first, on the calling thread:
+///
+///     SetActiveWindow(hostWindow);
+///     ovPreferences_showDialogEx(NULL, L"C:\\cad\\defaults.cfg", L"C:\\cad\\office.cfg", NULL);
+///
+/// Where the thread has no active window either, the dialog has no owner.
+///
+/// Files. The file's bytes are converted by the process's C locale
+/// (`setlocale`). A host that never calls setlocale runs in the "C" locale, in
+/// which every byte is one character of the same number.
+#ifndef OV_PREFERENCES_H
+#define OV_PREFERENCES_H
+
+#include <stddef.h>
+
+/* The library itself defines OV_PREFERENCES_BUILDING; its exports come from a
+   module definition file. */
+#ifndef OV_PREFERENCES_API
+#if defined(_WIN32) && !defined(OV_PREFERENCES_BUILDING)
+#define OV_PREFERENCES_API __declspec(dllimport)
+#else
+#define OV_PREFERENCES_API
+#endif
+#endif
+
+/// The dialog was shown, whether the person then saved or cancelled.
+#define OV_PREFERENCES_SHOWN 0u
+/// The dialog could not be set up and was not shown.
+#define OV_PREFERENCES_NOT_SHOWN 1u
+
+/// File name of the library and the names to ask GetProcAddress for.
+#define OV_PREFERENCES_LIBRARY L"ovPreferences.dll"
+#define OV_PREFERENCES_SHOW_DIALOG_NAME "ovPreferences_showDialog"
+#define OV_PREFERENCES_SHOW_DIALOG_EX_NAME "ovPreferences_showDialogEx"
+
+#ifdef __cplusplus
+class CWnd;
+extern "C" {
+#else
+typedef struct CWnd CWnd;
+#endif
+
+/// Shows the dialog, with no parent and with the texts that an earlier
+/// ovPreferences_showDialogEx has set in this process (all empty at first).
+/// With neither a defaults file nor a current file the dialog opens with the
+/// built-in values, and the person names the file to be written.
+/// @return OV_PREFERENCES_SHOWN or OV_PREFERENCES_NOT_SHOWN.
+OV_PREFERENCES_API unsigned int ovPreferences_showDialog(void);
+
+/// Shows the dialog for the given files.
+///
+/// Each text is null-terminated. A null text leaves the one that an earlier
+/// call has set as it is; an empty text clears it. The texts last until the
+/// library is unloaded: a later call that passes null uses them again.
+///
+/// @param parent       Window that owns the dialog, or null (see Parents).
+/// @param defaultPath  The configuration file with the default values; it is
+///                     only read. Empty: there are no defaults to load.
+/// @param currentPath  The configuration file that is edited: read when the
+///                     dialog opens, written on Save. Empty: no file yet.
+/// @param userName     The name written into the header of the saved file.
+///                     Empty: the name of the Windows user.
+/// @return OV_PREFERENCES_SHOWN or OV_PREFERENCES_NOT_SHOWN. A file that
+///         cannot be read is reported to the person, not to the host.
+OV_PREFERENCES_API unsigned int ovPreferences_showDialogEx(CWnd* parent, const wchar_t* defaultPath,
+                                                           const wchar_t* currentPath,
+                                                           const wchar_t* userName);
+
+/// Types of the two functions, for GetProcAddress.
+typedef unsigned int (*ovPreferences_showDialog_t)(void);
+typedef unsigned int (*ovPreferences_showDialogEx_t)(CWnd* parent, const wchar_t* defaultPath,
+                                                     const wchar_t* currentPath, const wchar_t* userName);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif
