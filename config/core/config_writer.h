@@ -1,0 +1,41 @@
+#pragma once
+
+#include "base/text.h"
+#include "config/core/setting_store.h"
+
+#include <ctime>
+#include <string>
+
+namespace ov
+{
+
+/// What the header of a written file tells about the save.
+struct HeaderInfo {
+    Text date; ///< As FormatSaveDate gives it.
+    Text user;
+    Text computer;
+};
+
+/// The date and time of a save, "Friday 20 November 2026, 19:12:00" in the locale's words; empty
+/// when it does not fit into 128 characters with its terminator.
+Text FormatSaveDate(const std::tm& localTime);
+
+/// The header of a written file; lines are separated by "\n", the last has no line end.
+Text MakeHeader(const HeaderInfo& info);
+
+/// What came of turning a store into the bytes of a file.
+struct WriteResult {
+    bool ok = true;
+    bool inHeader = false; ///< On failure: the header holds the character that cannot be written.
+    Text variable;         ///< On failure: else the variable whose line or comment holds it.
+    Text character;        ///< On failure: the character itself.
+
+    explicit operator bool() const { return ok; }
+};
+
+/// Sets `bytes` to the file for the store's current table: the header, then every variable in name
+/// order under its comment, or under the default table's comment when its own is empty. Characters
+/// are written by the process's locale, lines end in CR LF. On failure `bytes` is of no use.
+WriteResult WriteConfig(const SettingStore& store, TextView header, std::string& bytes);
+
+} // namespace ov

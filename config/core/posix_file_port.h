@@ -1,0 +1,25 @@
+#pragma once
+
+#include "config/core/file_port.h"
+
+namespace ov
+{
+
+/// The file port over POSIX calls. Paths are UTF-8 on the disk; a second writer is shut out by an
+/// advisory lock.
+class PosixFilePort final : public FilePort
+{
+  public:
+    FileKind Kind(const Text& path) override;
+    bool IsSameFile(const Text& first, const Text& second) override;
+    FileResult OpenForReading(const Text& path, FileHandle& file) override;
+    FileResult Read(FileHandle file, std::span<char> buffer, std::size_t& count) override;
+    FileResult Create(const Text& path, CreateMode mode, FileHandle& file) override;
+    FileResult Write(FileHandle file, std::string_view bytes) override;
+    FileResult Flush(FileHandle file) override;
+    FileResult Close(FileHandle file) override;
+    FileResult Rename(const Text& from, const Text& to) override;
+    FileResult Remove(const Text& path) override;
+};
+
+} // namespace ov

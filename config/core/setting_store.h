@@ -1,0 +1,75 @@
+#pragma once
+
+#include "base/text.h"
+#include "config/core/setting_table.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <optional>
+
+namespace ov
+{
+
+/// Table selectors. Every operation takes 0 for the current table and any other value for
+/// the default table.
+inline constexpr int kCurrentTable = 0;
+inline constexpr int kDefaultTable = 1;
+
+/// All configuration variables between reading and writing a file: the current table (the file
+/// being edited) and the default table (the defaults file, never written). Names and values are
+/// compared case-sensitively. Only changes of the current table set the modified mark.
+class SettingStore
+{
+  public:
+    /// The variable's value; empty when it is absent.
+    Text GetSettingValue(TextView name, int table) const;
+
+    /// True exactly when the variable's value is "1".
+    bool GetSettingFlag(TextView name, int table) const;
+
+    /// True when the variable is present, even with an empty value.
+    bool HasSetting(TextView name, int table) const;
+
+    /// Inserts or updates a variable. An update keeps the comment that the variable has, so that
+    /// what a file says above it survives edits. In the current table an insertion and a changed
+    /// value set the modified mark; a changed kind alone does not.
+    void SetSetting(TextView name, TextView value, std::int32_t kind, TextView comment, int table);
+
+    /// Puts text before and after the value of a variable that is present in the table, and sets
+    /// its kind; as SetSetting with the joined value, but in time proportional to the added text.
+    void ExtendSetting(TextView name, TextView before, TextView after, std::int32_t kind, int table);
+
+    /// The variable's record, nothing when it is absent. Its texts stand until the next change.
+    std::optional<SettingRecord> FindSetting(TextView name, int table) const;
+
+    /// Removes all variables of the table; for the current table also clears the modified mark.
+    void Clear(int table);
+
+    /// Puts a whole new table in the place of the selected one. As clearing the table and
+    /// inserting every variable: the current table's modified mark then tells whether there is one.
+    void Replace(int table, SettingTable&& records);
+
+    /// The number of variables in the table.
+    std::size_t Count(int table) const { return Table(table).Count(); }
+
+    /// Calls the function with every record of the table in ordinal order of the names, until it
+    /// returns false.
+    void VisitInOrder(int table, const std::function<bool(const SettingRecord&)>& visit) const;
+
+    /// The selected table, for reading.
+    const SettingTable& Table(int table) const { return table == kCurrentTable ? current_ : default_; }
+
+    /// True when the current table was changed since the mark was last cleared.
+    bool IsModified() const { return modified_; }
+    void SetModified(bool modified) { modified_ = modified; }
+
+  private:
+    SettingTable& Table(int table) { return table == kCurrentTable ? current_ : default_; }
+
+    SettingTable current_;
+    SettingTable default_;
+    bool modified_ = false;
+};
+
+} // namespace ov

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <vector>
+
+namespace ov
+{
+
+/// Room for many texts that live and die together. Grows in blocks and never moves a text.
+class TextArena
+{
+  public:
+    /// Room for `length` units, not initialised; stands until the arena is destroyed.
+    char16_t* Allocate(std::size_t length);
+
+  private:
+    std::vector<std::unique_ptr<char16_t[]>> blocks_;
+    char16_t* free_ = nullptr;
+    std::size_t free_length_ = 0;
+};
+
+} // namespace ov
