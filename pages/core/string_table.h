@@ -1,0 +1,23 @@
+#pragma once
+
+#include "base/text.h"
+
+#include <span>
+
+namespace ov
+{
+
+/// One string of the library's string table.
+struct StringRow {
+    unsigned id;
+    const char16_t* text;
+};
+
+/// Every string that the resource compiler puts into the library, from the
+/// same rows, for code that runs without the library.
+std::span<const StringRow> StringTable();
+
+/// The string of that id; empty when there is none.
+TextView FindString(unsigned id);
+
+} // namespace ov
