@@ -1,0 +1,56 @@
+/// Processes and what they hold.
+#pragma once
+
+#include "tests/support/await.h"
+
+#include <windows.h>
+
+#include <string>
+#include <vector>
+
+namespace uidriver
+{
+
+/// What this process holds; for leak tests over many rounds.
+struct Resources {
+    unsigned gdiObjects = 0;
+    unsigned userObjects = 0;  ///< windows, menus, icons and cursors
+    std::size_t heapBytes = 0; ///< busy bytes in all heaps
+    std::size_t privateBytes = 0;
+};
+
+/// Counts what this process holds now. Takes up to a second.
+Resources MeasureResources();
+
+/// "12 GDI objects, 40 USER objects, ..." for a failure's message.
+std::string Describe(const Resources& resources);
+
+/// A process that was started; the object closes the handle, it does not end
+/// the process.
+class Process
+{
+  public:
+    /// Starts the program; an argument may hold blanks and quotes.
+    /// IsStarted() tells whether that worked.
+    Process(const std::wstring& program, const std::vector<std::wstring>& arguments);
+    ~Process();
+    Process(const Process&) = delete;
+    Process& operator=(const Process&) = delete;
+
+    bool IsStarted() const { return m_handle != nullptr; }
+    bool IsRunning() const;
+    DWORD Id() const { return m_id; }
+    /// Waits for its end. False at the deadline.
+    bool AwaitEnd(unsigned deadline = DefaultDeadline) const;
+    /// The exit code; STILL_ACTIVE while it runs.
+    DWORD ExitCode() const;
+
+  private:
+    HANDLE m_handle = nullptr;
+    DWORD m_id = 0;
+};
+
+/// Quotes one argument so that the C runtime reads it back as it is.
+std::wstring QuoteArgument(const std::wstring& argument);
+
+} // namespace uidriver
