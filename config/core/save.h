@@ -79,7 +79,8 @@ SaveResult SaveConfigFile(const SettingStore& store, const Text& path, FilePort&
                           SaveSurroundings& surroundings, const SaveNotice& notice);
 
 /// What to tell the person about a save that failed: what failed and where the old content is.
-/// Empty for a save that succeeded and for a file that could not be created.
+/// Empty for a save that succeeded, and for a file that could not be created while the old one
+/// stands.
 Text SaveFailureText(const SaveResult& result);
 
 } // namespace ov

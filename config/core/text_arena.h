@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <utility>
 #include <vector>
 
 namespace ov
@@ -11,6 +12,17 @@ namespace ov
 class TextArena
 {
   public:
+    TextArena() = default;
+    TextArena(TextArena&& other) noexcept { *this = std::move(other); }
+    TextArena& operator=(TextArena&& other) noexcept
+    {
+        blocks_ = std::move(other.blocks_);
+        other.blocks_.clear();
+        free_ = std::exchange(other.free_, nullptr);
+        free_length_ = std::exchange(other.free_length_, 0);
+        return *this;
+    }
+
     /// Room for `length` units, not initialised; stands until the arena is destroyed.
     char16_t* Allocate(std::size_t length);
 

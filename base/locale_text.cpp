@@ -1,0 +1,272 @@
+#include "base/locale_text.h"
+
+#include "base/utf8.h"
+
+#include <algorithm>
+#include <clocale>
+#include <cstdlib>
+#include <cstring>
+#include <cwchar>
+
+namespace ov
+{
+namespace
+{
+
+// Bytes that mean nothing in the locale travel as lone surrogates, which no locale can spell.
+constexpr char16_t kEscapeBase = 0xDC00;
+constexpr char16_t kNoByte = 0xFFFF;
+
+constexpr char16_t EscapeOf(unsigned char byte)
+{
+    return static_cast<char16_t>(kEscapeBase + byte);
+}
+
+constexpr bool IsEscape(char32_t unit)
+{
+    return unit >= kEscapeBase + 0x80u && unit <= kEscapeBase + 0xFFu;
+}
+
+LocaleCoding CurrentCoding()
+{
+    const char* name = std::setlocale(LC_CTYPE, nullptr);
+    if (name == nullptr || std::strcmp(name, "C") == 0 || std::strcmp(name, "POSIX") == 0)
+        return LocaleCoding::Identity;
+    if (MB_CUR_MAX == 1)
+        return LocaleCoding::SingleByte;
+    // Only UTF-8 spells the euro sign with these three bytes. It is read and written here, since
+    // the runtimes differ on characters beyond 16 bits.
+    std::mbtowc(nullptr, nullptr, 0);
+    wchar_t euro = 0;
+    if (std::mbtowc(&euro, "\xE2\x82\xAC", 3) == 3 && euro == 0x20AC)
+        return LocaleCoding::Utf8;
+    return LocaleCoding::MultiByte;
+}
+
+ByteTable SingleByteTable()
+{
+    std::mbtowc(nullptr, nullptr, 0);
+    ByteTable table{};
+    for (unsigned value = 0; value < table.size(); ++value) {
+        const auto byte = static_cast<char>(value);
+        wchar_t character = 0;
+        const bool known = std::mbtowc(&character, &byte, 1) >= 0 && character < 0xFFFF;
+        const auto unit =
+            known ? static_cast<char16_t>(character) : EscapeOf(static_cast<unsigned char>(value));
+        const bool taken = std::find(table.begin(), table.begin() + value, unit) != table.begin() + value;
+        table[value] = taken ? EscapeOf(static_cast<unsigned char>(value)) : unit;
+    }
+    return table;
+}
+
+void AppendWide(wchar_t character, Text& text)
+{
+    if constexpr (sizeof(wchar_t) == sizeof(char16_t))
+        text.push_back(static_cast<char16_t>(character));
+    else
+        AppendUtf16(text, static_cast<char32_t>(character));
+}
+
+void DecodeMultiByte(std::string_view bytes, Text& text)
+{
+    std::mbtowc(nullptr, nullptr, 0);
+    while (!bytes.empty()) {
+        wchar_t character = 0;
+        const int length = std::mbtowc(&character, bytes.data(), bytes.size());
+        if (length < 0) {
+            std::mbtowc(nullptr, nullptr, 0);
+            text.push_back(EscapeOf(static_cast<unsigned char>(bytes.front())));
+            bytes.remove_prefix(1);
+            continue;
+        }
+        AppendWide(character, text);
+        bytes.remove_prefix(length == 0 ? 1 : static_cast<std::size_t>(length));
+    }
+}
+
+void DecodeUtf8(std::string_view bytes, Text& text)
+{
+    while (!bytes.empty()) {
+        const CodePoint c = ReadUtf8(bytes);
+        if (c.valid)
+            AppendUtf16(text, c.value);
+        else
+            text.push_back(EscapeOf(static_cast<unsigned char>(bytes.front())));
+        bytes.remove_prefix(c.length);
+    }
+}
+
+EncodeResult EncodeUtf8(TextView text, std::string& bytes)
+{
+    for (std::size_t i = 0; i < text.size();) {
+        const CodePoint c = ReadUtf16(text.substr(i));
+        if (c.valid)
+            AppendUtf8(bytes, c.value);
+        else if (IsEscape(c.value))
+            bytes.push_back(static_cast<char>(c.value & 0xFF));
+        else
+            return {false, i};
+        i += c.length;
+    }
+    return {true, text.size()};
+}
+
+// Appends one character by the runtime; false when what it wrote does not read back as the same
+// character, since some runtimes write a similar one.
+bool AppendMultiByte(wchar_t character, std::string& bytes)
+{
+    std::string buffer(static_cast<std::size_t>(MB_CUR_MAX), '\0');
+    std::wctomb(nullptr, 0);
+    const int length = std::wctomb(buffer.data(), character);
+    if (length <= 0)
+        return false;
+    const auto size = static_cast<std::size_t>(length);
+    wchar_t back = 0;
+    std::mbtowc(nullptr, nullptr, 0);
+    if (std::mbtowc(&back, buffer.data(), size) < 0 || back != character)
+        return false;
+    bytes.append(buffer, 0, size);
+    return true;
+}
+
+EncodeResult EncodeMultiByte(TextView text, std::string& bytes)
+{
+    for (std::size_t i = 0; i < text.size();) {
+        const CodePoint c = ReadUtf16(text.substr(i));
+        const bool fits = c.valid && (sizeof(wchar_t) > sizeof(char16_t) || c.value <= 0xFFFF);
+        if (IsEscape(c.value))
+            bytes.push_back(static_cast<char>(c.value & 0xFF));
+        else if (!fits || !AppendMultiByte(static_cast<wchar_t>(c.value), bytes))
+            return {false, i};
+        i += c.length;
+    }
+    return {true, text.size()};
+}
+
+EncodeResult EncodeIdentity(TextView text, std::string& bytes)
+{
+    const std::size_t start = bytes.size();
+    bytes.resize(start + text.size());
+    char* out = bytes.data() + start;
+    // All units together first: the loop then runs without a branch for each.
+    unsigned seen = 0;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        seen |= text[i];
+        out[i] = static_cast<char>(text[i]);
+    }
+    if (seen <= 0xFF)
+        return {true, text.size()};
+    const auto first = std::find_if(text.begin(), text.end(), [](char16_t c) { return c > 0xFF; });
+    return {false, static_cast<std::size_t>(first - text.begin())};
+}
+
+} // namespace
+
+LocaleDecoder::LocaleDecoder() : coding_(CurrentCoding())
+{
+    if (coding_ == LocaleCoding::SingleByte)
+        table_ = SingleByteTable();
+}
+
+void LocaleDecoder::Append(std::string_view bytes, Text& text) const
+{
+    switch (coding_) {
+    case LocaleCoding::Utf8:
+        DecodeUtf8(bytes, text);
+        return;
+    case LocaleCoding::MultiByte:
+        DecodeMultiByte(bytes, text);
+        return;
+    case LocaleCoding::Identity:
+    case LocaleCoding::SingleByte:
+        break;
+    }
+    const std::size_t start = text.size();
+    text.resize(start + bytes.size());
+    char16_t* out = text.data() + start;
+    if (coding_ == LocaleCoding::Identity)
+        std::transform(bytes.begin(), bytes.end(), out, [](char c) { return static_cast<unsigned char>(c); });
+    else
+        std::transform(bytes.begin(), bytes.end(), out,
+                       [this](char c) { return table_[static_cast<unsigned char>(c)]; });
+}
+
+LocaleEncoder::LocaleEncoder() : coding_(CurrentCoding())
+{
+    if (coding_ != LocaleCoding::SingleByte)
+        return;
+    // Built from the decoding table, so that exactly what was read can be written.
+    low_.fill(kNoByte);
+    const ByteTable table = SingleByteTable();
+    for (unsigned value = 0; value < table.size(); ++value) {
+        const char16_t unit = table[value];
+        if (unit < low_.size())
+            low_[unit] = static_cast<char16_t>(value);
+        else
+            others_.emplace_back(unit, static_cast<unsigned char>(value));
+    }
+    std::sort(others_.begin(), others_.end());
+}
+
+EncodeResult LocaleEncoder::Append(TextView text, std::string& bytes) const
+{
+    const std::size_t start = bytes.size();
+    EncodeResult result{true, text.size()};
+    switch (coding_) {
+    case LocaleCoding::Identity:
+        result = EncodeIdentity(text, bytes);
+        break;
+    case LocaleCoding::Utf8:
+        result = EncodeUtf8(text, bytes);
+        break;
+    case LocaleCoding::MultiByte:
+        result = EncodeMultiByte(text, bytes);
+        break;
+    case LocaleCoding::SingleByte:
+        for (std::size_t i = 0; i < text.size() && result.ok; ++i) {
+            char16_t byte = kNoByte;
+            if (text[i] < low_.size()) {
+                byte = low_[text[i]];
+            } else {
+                const auto found = std::lower_bound(others_.begin(), others_.end(),
+                                                    std::pair<char16_t, unsigned char>(text[i], 0));
+                if (found != others_.end() && found->first == text[i])
+                    byte = found->second;
+            }
+            if (byte == kNoByte)
+                result = {false, i};
+            else
+                bytes.push_back(static_cast<char>(byte));
+        }
+        break;
+    }
+    if (!result.ok)
+        bytes.resize(start);
+    return result;
+}
+
+Text DecodeLocale(std::string_view bytes)
+{
+    Text text;
+    LocaleDecoder().Append(bytes, text);
+    return text;
+}
+
+EncodeResult EncodeLocale(TextView text, std::string& bytes)
+{
+    bytes.clear();
+    return LocaleEncoder().Append(text, bytes);
+}
+
+Text FormatTime(const char* pattern, const std::tm& time, std::size_t capacity)
+{
+    const std::wstring widePattern(pattern, pattern + std::strlen(pattern));
+    std::wstring buffer(capacity, L'\0');
+    buffer.resize(std::wcsftime(buffer.data(), buffer.size(), widePattern.c_str(), &time));
+    Text text;
+    for (const wchar_t c : buffer)
+        AppendWide(c, text);
+    return text;
+}
+
+} // namespace ov

@@ -1,0 +1,49 @@
+#include "config/core/setting_comment.h"
+
+namespace ov
+{
+namespace
+{
+
+// Turns the last blank before each 100th column into a line break. A longer word stays whole, and
+// a blank at the very front is never used.
+Text WrapAtBlanks(TextView description)
+{
+    constexpr std::size_t columns = 100;
+    Text text(description);
+    std::size_t blank = 0; // The last blank that may be used; 0 is none.
+    std::size_t column = 0;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] == u'\n') {
+            column = 0;
+            continue;
+        }
+        if (text[i] == u' ')
+            blank = i;
+        if (column >= columns && blank >= 1) {
+            text[blank] = u'\n';
+            column = i - blank;
+            blank = 0;
+        } else {
+            ++column;
+        }
+    }
+    return text;
+}
+
+} // namespace
+
+Text MakeCommentBlock(TextView description)
+{
+    Text block = u"\n#\n# ";
+    for (const char16_t c : WrapAtBlanks(description)) {
+        if (c == u'\n')
+            block += u"\n# ";
+        else if (c != u'\r')
+            block.push_back(c);
+    }
+    block += u"\n#\n";
+    return block;
+}
+
+} // namespace ov

@@ -1,0 +1,76 @@
+#include "config/core/setting_store.h"
+
+#include <utility>
+
+namespace ov
+{
+
+Text SettingStore::GetSettingValue(TextView name, int table) const
+{
+    const auto record = FindSetting(name, table);
+    return record ? Text(record->value) : Text();
+}
+
+bool SettingStore::GetSettingFlag(TextView name, int table) const
+{
+    const auto record = FindSetting(name, table);
+    return record && record->value == u"1";
+}
+
+bool SettingStore::HasSetting(TextView name, int table) const
+{
+    return Table(table).Find(name) != SettingTable::kNone;
+}
+
+void SettingStore::SetSetting(TextView name, TextView value, std::int32_t kind, TextView comment, int table)
+{
+    SettingTable& records = Table(table);
+    const SettingTable::Index index = records.Find(name);
+    const bool changed = index == SettingTable::kNone || records.At(index).value != value;
+    if (table == kCurrentTable && changed)
+        modified_ = true;
+    if (index == SettingTable::kNone)
+        records.Insert(name, value, kind, comment);
+    else
+        records.SetValue(index, value, kind);
+}
+
+void SettingStore::ExtendSetting(TextView name, TextView before, TextView after, std::int32_t kind, int table)
+{
+    SettingTable& records = Table(table);
+    const SettingTable::Index index = records.Find(name);
+    if (index == SettingTable::kNone)
+        return;
+    if (table == kCurrentTable && !(before.empty() && after.empty()))
+        modified_ = true;
+    records.ExtendValue(index, before, after, kind);
+}
+
+std::optional<SettingRecord> SettingStore::FindSetting(TextView name, int table) const
+{
+    const SettingTable& records = Table(table);
+    const SettingTable::Index index = records.Find(name);
+    if (index == SettingTable::kNone)
+        return std::nullopt;
+    return records.At(index);
+}
+
+void SettingStore::Clear(int table)
+{
+    Replace(table, SettingTable());
+}
+
+void SettingStore::Replace(int table, SettingTable&& records)
+{
+    SettingTable& target = Table(table);
+    target = std::move(records);
+    if (table == kCurrentTable)
+        modified_ = target.Count() > 0;
+}
+
+void SettingStore::VisitInOrder(int table, const std::function<bool(const SettingRecord&)>& visit) const
+{
+    Table(table).VisitInOrder(visit);
+}
+
+} // namespace ov

@@ -1,0 +1,156 @@
+#include "base/locale_text.h"
+
+#include "tests/core/scoped_locale.h"
+
+#include <gtest/gtest.h>
+
+namespace ov
+{
+namespace
+{
+
+std::string AllBytes()
+{
+    std::string bytes;
+    for (int value = 0; value < 256; ++value)
+        bytes.push_back(static_cast<char>(value));
+    return bytes;
+}
+
+TEST(LocaleText, CLocaleMapsEachByteToTheCharacterOfItsValue)
+{
+    const test::ScopedLocale locale("C");
+    const Text text = DecodeLocale(AllBytes());
+    ASSERT_EQ(text.size(), 256u);
+    for (char16_t value = 0; value < 256; ++value)
+        EXPECT_EQ(text[value], value);
+}
+
+TEST(LocaleText, AllBytesSurviveInTheCLocale)
+{
+    const test::ScopedLocale locale("C");
+    std::string back;
+    ASSERT_TRUE(EncodeLocale(DecodeLocale(AllBytes()), back));
+    EXPECT_EQ(back, AllBytes());
+}
+
+TEST(LocaleText, FirstCharacterThatCannotBeWrittenIsReported)
+{
+    const test::ScopedLocale locale("C");
+    std::string bytes = "before";
+    const EncodeResult result = EncodeLocale(u"a\u00FF\u0100\u20AC", bytes);
+    EXPECT_FALSE(result);
+    EXPECT_EQ(result.position, 2u);
+    EXPECT_EQ(bytes, "");
+}
+
+TEST(LocaleText, FailedAppendLeavesTheBytesAsTheyWere)
+{
+    const test::ScopedLocale locale("C");
+    std::string bytes = "kept";
+    EXPECT_FALSE(LocaleEncoder().Append(u"ab\u4E00", bytes));
+    EXPECT_EQ(bytes, "kept");
+}
+
+TEST(LocaleText, TimeIsFormattedInTheLocalesWords)
+{
+    const test::ScopedLocale locale("C");
+    std::tm time{};
+    time.tm_year = 126;
+    time.tm_mon = 10;
+    time.tm_mday = 20;
+    time.tm_wday = 5;
+    time.tm_hour = 19;
+    time.tm_min = 12;
+    EXPECT_EQ(FormatTime("%A %d %B %Y, %H:%M:%S", time, 128), u"Friday 20 November 2026, 19:12:00");
+}
+
+TEST(LocaleText, TimeThatDoesNotFitIsEmpty)
+{
+    const test::ScopedLocale locale("C");
+    std::tm time{};
+    time.tm_year = 126;
+    EXPECT_EQ(FormatTime("%Y", time, 5), u"2026");
+    EXPECT_EQ(FormatTime("%Y", time, 4), u"");
+}
+
+#ifdef _WIN32
+
+TEST(LocaleText, CodePage1252MapsItsOwnCharacters)
+{
+    const test::ScopedLocale locale(".1252");
+    ASSERT_TRUE(locale.IsSet());
+    EXPECT_EQ(DecodeLocale("\x80\xE9"), u"\u20AC\u00E9");
+    std::string bytes;
+    ASSERT_TRUE(EncodeLocale(u"\u20AC\u00E9", bytes));
+    EXPECT_EQ(bytes, "\x80\xE9");
+}
+
+TEST(LocaleText, AllBytesSurviveInCodePages)
+{
+    for (const char* name : {".1250", ".1251", ".1252", ".1253", ".1254", ".1257"}) {
+        const test::ScopedLocale locale(name);
+        ASSERT_TRUE(locale.IsSet()) << name;
+        std::string back;
+        ASSERT_TRUE(EncodeLocale(DecodeLocale(AllBytes()), back)) << name;
+        EXPECT_EQ(back, AllBytes()) << name;
+    }
+}
+
+TEST(LocaleText, SimilarCharacterIsNotWrittenInPlaceOfAnother)
+{
+    const test::ScopedLocale locale(".1252");
+    ASSERT_TRUE(locale.IsSet());
+    std::string bytes;
+    EXPECT_FALSE(EncodeLocale(u"\u0100", bytes)); // A with a macron, not A
+}
+
+TEST(LocaleText, DoubleByteCodePageGoesBothWays)
+{
+    const test::ScopedLocale locale(".932");
+    ASSERT_TRUE(locale.IsSet());
+    const std::string bytes = "a\x93\xFA\x96\x7B\\";
+    EXPECT_EQ(DecodeLocale(bytes), u"a\u65E5\u672C\\");
+    std::string back;
+    ASSERT_TRUE(EncodeLocale(DecodeLocale(bytes), back));
+    EXPECT_EQ(back, bytes);
+    EXPECT_FALSE(EncodeLocale(u"\u0E01", back)); // Thai
+}
+
+#else
+
+TEST(LocaleText, Utf8LocaleWritesAndReadsSurrogatePairs)
+{
+    const test::ScopedLocale locale("C.UTF-8");
+    ASSERT_TRUE(locale.IsSet());
+    const std::string bytes = "A\xC3\xA9\xE2\x82\xAC\xF0\x9F\x98\x80";
+    EXPECT_EQ(DecodeLocale(bytes), u"A\u00E9\u20AC\U0001F600");
+    std::string back;
+    ASSERT_TRUE(EncodeLocale(DecodeLocale(bytes), back));
+    EXPECT_EQ(back, bytes);
+}
+
+TEST(LocaleText, InvalidUtf8SurvivesAsItsBytes)
+{
+    const test::ScopedLocale locale("C.UTF-8");
+    ASSERT_TRUE(locale.IsSet());
+    EXPECT_EQ(DecodeLocale("a\xE9z"), Text(u"a") + char16_t{0xDCE9} + u"z");
+    std::string back;
+    ASSERT_TRUE(EncodeLocale(DecodeLocale(AllBytes()), back));
+    EXPECT_EQ(back, AllBytes());
+}
+
+TEST(LocaleText, LoneSurrogateCannotBeWrittenInUtf8)
+{
+    const test::ScopedLocale locale("C.UTF-8");
+    ASSERT_TRUE(locale.IsSet());
+    std::string bytes;
+    const EncodeResult result = EncodeLocale(Text(u"ab") + char16_t{0xD83D}, bytes);
+    EXPECT_FALSE(result);
+    EXPECT_EQ(result.position, 2u);
+}
+
+#endif
+
+} // namespace
+} // namespace ov
