@@ -1,0 +1,159 @@
+#include "framework/data_exchange.h"
+
+#include "framework/exceptions.h"
+#include "framework/thread_state.h"
+
+#include <stdexcept>
+#include <string>
+
+namespace
+{
+/// Locks a window's notifications out for its life.
+class CExchangeLock
+{
+  public:
+    explicit CExchangeLock(HWND window)
+        : m_lock{window, AfxGetThreadState().exchangeLocks},
+          m_restore(AfxGetThreadState().exchangeLocks, &m_lock)
+    {
+    }
+
+  private:
+    AFX_EXCHANGE_LOCK m_lock;
+    CRestoreValue<const AFX_EXCHANGE_LOCK*> m_restore;
+};
+
+ov::Text TextOf(HWND control)
+{
+    CWnd window;
+    window.m_hWnd = control;
+    return window.GetWindowText();
+}
+
+// Setting an equal text would lose the caret and flicker.
+void SetTextOf(HWND control, const ov::Text& text)
+{
+    if (TextOf(control) != text)
+        ::SetWindowTextW(control, Wide(text));
+}
+
+bool IsRadioButton(HWND control)
+{
+    return (::SendMessageW(control, WM_GETDLGCODE, 0, 0) & DLGC_RADIOBUTTON) != 0;
+}
+} // namespace
+
+BOOL CWnd::UpdateData(BOOL saveAndValidate)
+{
+    CDataExchange exchange(this, saveAndValidate);
+    const CExchangeLock lock(m_hWnd);
+    try {
+        DoDataExchange(&exchange);
+    } catch (const CUserException&) {
+        return FALSE;
+    }
+    return TRUE;
+}
+
+CDataExchange::CDataExchange(CWnd* window, BOOL saveAndValidate)
+    : m_bSaveAndValidate(saveAndValidate), m_pDlgWnd(window)
+{
+}
+
+HWND CDataExchange::PrepareCtrl(int id)
+{
+    const HWND control = ::GetDlgItem(m_pDlgWnd->m_hWnd, id);
+    if (control == nullptr)
+        throw std::runtime_error("The dialog has no control " + std::to_string(id) + ".");
+    m_lastControl = control;
+    m_lastIsEdit = false;
+    return control;
+}
+
+HWND CDataExchange::PrepareEditCtrl(int id)
+{
+    const HWND control = PrepareCtrl(id);
+    m_lastIsEdit = true;
+    return control;
+}
+
+void CDataExchange::Fail()
+{
+    if (m_bSaveAndValidate && m_lastControl != nullptr) {
+        ::SetFocus(m_lastControl);
+        if (m_lastIsEdit)
+            ::SendMessageW(m_lastControl, EM_SETSEL, 0, -1);
+    }
+    throw CUserException();
+}
+
+void DDX_Control(CDataExchange* exchange, int id, CWnd& control)
+{
+    if (control.m_hWnd == nullptr)
+        control.SubclassWindow(exchange->PrepareCtrl(id));
+}
+
+void DDX_Text(CDataExchange* exchange, int id, ov::Text& text)
+{
+    const HWND control = exchange->PrepareEditCtrl(id);
+    if (exchange->m_bSaveAndValidate)
+        text = TextOf(control);
+    else
+        SetTextOf(control, text);
+}
+
+void DDX_Check(CDataExchange* exchange, int id, int& value)
+{
+    const HWND control = exchange->PrepareCtrl(id);
+    if (exchange->m_bSaveAndValidate)
+        value = static_cast<int>(::SendMessageW(control, BM_GETCHECK, 0, 0));
+    else
+        ::SendMessageW(control, BM_SETCHECK, static_cast<WPARAM>(value), 0);
+}
+
+void DDX_Radio(CDataExchange* exchange, int id, int& value)
+{
+    HWND control = exchange->PrepareCtrl(id);
+    if (exchange->m_bSaveAndValidate)
+        value = -1;
+    int index = 0;
+    do {
+        // Other controls may stand within the group; they are not counted.
+        if (IsRadioButton(control)) {
+            if (!exchange->m_bSaveAndValidate) {
+                ::SendMessageW(control, BM_SETCHECK, index == value ? BST_CHECKED : BST_UNCHECKED, 0);
+            } else if (::SendMessageW(control, BM_GETCHECK, 0, 0) == BST_CHECKED) {
+                value = index;
+            }
+            ++index;
+        }
+        control = ::GetWindow(control, GW_HWNDNEXT);
+    } while (control != nullptr && (::GetWindowLongPtrW(control, GWL_STYLE) & WS_GROUP) == 0);
+}
+
+void DDX_CBIndex(CDataExchange* exchange, int id, int& index)
+{
+    const HWND control = exchange->PrepareCtrl(id);
+    if (exchange->m_bSaveAndValidate) {
+        index = static_cast<int>(::SendMessageW(control, CB_GETCURSEL, 0, 0));
+        return;
+    }
+    // Asked for an entry that it does not have, a box may keep its selection.
+    const auto count = static_cast<int>(::SendMessageW(control, CB_GETCOUNT, 0, 0));
+    const int selected = index >= 0 && index < count ? index : -1;
+    ::SendMessageW(control, CB_SETCURSEL, static_cast<WPARAM>(selected), 0);
+}
+
+void DDX_CBString(CDataExchange* exchange, int id, ov::Text& text)
+{
+    const HWND control = exchange->PrepareCtrl(id);
+    if (exchange->m_bSaveAndValidate) {
+        text = TextOf(control);
+        return;
+    }
+    const LRESULT found = ::SendMessageW(control, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
+                                         reinterpret_cast<LPARAM>(Wide(text)));
+    ::SendMessageW(control, CB_SETCURSEL, static_cast<WPARAM>(found), 0);
+    if (found == CB_ERR)
+        SetTextOf(control, text);
+}

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "base/text.h"
+#include "framework/window.h"
+
+/// One run of DoDataExchange: which way values move, and who is told off.
+class CDataExchange
+{
+  public:
+    CDataExchange(CWnd* window, BOOL saveAndValidate);
+
+    BOOL m_bSaveAndValidate; ///< TRUE: from the controls into the members
+    CWnd* m_pDlgWnd;         ///< the window that holds the controls
+
+    /// The control; throws std::runtime_error when the window has none of this id.
+    HWND PrepareCtrl(int id);
+    /// The same for an edit, whose text Fail will select.
+    HWND PrepareEditCtrl(int id);
+    /// Refuses a value that the user has been told about: the control last
+    /// prepared gets the focus and the exchange ends; UpdateData returns FALSE.
+    [[noreturn]] void Fail();
+
+  private:
+    HWND m_lastControl = nullptr;
+    bool m_lastIsEdit = false;
+};
+
+/// Binds the object to its control, once.
+void DDX_Control(CDataExchange* exchange, int id, CWnd& control);
+/// A text of any length.
+void DDX_Text(CDataExchange* exchange, int id, ov::Text& text);
+/// A check box: BST_UNCHECKED, BST_CHECKED or BST_INDETERMINATE.
+void DDX_Check(CDataExchange* exchange, int id, int& value);
+/// The index of the checked button in the group that the given first button (the
+/// one with WS_GROUP) begins; -1 when none is.
+void DDX_Radio(CDataExchange* exchange, int id, int& value);
+/// The index of the selected entry of a combo box; -1 for none, and for an index
+/// that the box does not have.
+void DDX_CBIndex(CDataExchange* exchange, int id, int& index);
+/// The text of a combo box; toward the control it selects the equal entry if any.
+void DDX_CBString(CDataExchange* exchange, int id, ov::Text& text);

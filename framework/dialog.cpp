@@ -1,0 +1,162 @@
+#include "framework/dialog.h"
+
+#include "framework/application.h"
+#include "framework/dialog_template.h"
+#include "framework/modal_doors.h"
+#include "framework/modal_owner.h"
+#include "framework/thread_state.h"
+
+IMPLEMENT_DYNAMIC(CDialog, CWnd)
+
+BEGIN_MESSAGE_MAP(CDialog, CWnd)
+    ON_MESSAGE(WM_INITDIALOG, &CDialog::HandleInitDialog)
+    ON_COMMAND(IDOK, &CDialog::OnOK)
+    ON_COMMAND(IDCANCEL, &CDialog::OnCancel)
+END_MESSAGE_MAP()
+
+namespace
+{
+// All messages reach the object through its window procedure; the system's
+// dialog procedure only has to exist, else WM_INITDIALOG is not sent at all.
+INT_PTR CALLBACK AfxDlgProc(HWND, UINT message, WPARAM, LPARAM)
+{
+    return message == WM_INITDIALOG;
+}
+
+bool IsMultiLineEdit(HWND window)
+{
+    wchar_t name[8] = L"";
+    ::GetClassNameW(window, name, 8);
+    return ::lstrcmpiW(name, L"edit") == 0 && (::GetWindowLongPtrW(window, GWL_STYLE) & ES_MULTILINE) != 0;
+}
+} // namespace
+
+CDialog::CDialog(UINT templateId, CWnd* parent) : m_nIDTemplate(templateId), m_pParentWnd(parent) {}
+
+CDialog::~CDialog()
+{
+    // While the object still is a dialog, for its children's notifications.
+    if (m_hWnd != nullptr)
+        CDialog::DestroyWindow();
+}
+
+bool CDialog::CreateWindowFromTemplate(UINT templateId, HWND parent)
+{
+    BeginModal();
+    bool bound = false;
+    {
+        const CCreationHook hook(this);
+        ::CreateDialogParamW(AfxGetResourceHandle(), MAKEINTRESOURCEW(templateId), parent, &AfxDlgProc, 0);
+        bound = hook.IsBound();
+    }
+    if (!bound)
+        PostNcDestroy();
+    else if (m_hWnd != nullptr && !ContinueModal())
+        DestroyWindow(); // OnInitDialog ended the dialog
+    return bound && m_hWnd != nullptr;
+}
+
+BOOL CDialog::Create(UINT templateId, CWnd* parent)
+{
+    m_nIDTemplate = templateId;
+    m_pParentWnd = parent;
+    return CreateWindowFromTemplate(templateId, AfxSafeHwnd(parent != nullptr ? parent : AfxGetMainWnd()));
+}
+
+INT_PTR CDialog::DoModal()
+{
+    if (CModalHook* const hook = AfxGetModalHook()) {
+        if (const std::optional<INT_PTR> answer = hook->OnModalDialog(*this))
+            return *answer;
+    }
+    {
+        // Reset on every way out, the object may be run again.
+        const CRestoreValue modal(m_modal, true);
+        CModalOwner owner(AfxGetModalOwner(AfxSafeHwnd(m_pParentWnd)));
+        if (CreateWindowFromTemplate(m_nIDTemplate, owner.GetHandle()))
+            RunModalLoop();
+        owner.Release(m_hWnd);
+    }
+    DestroyWindow();
+    return m_nModalResult;
+}
+
+void CDialog::EndDialog(int result)
+{
+    EndModalLoop(result);
+    // A modal dialog must stay until its owner is enabled again: hidden earlier,
+    // it would make the system activate another program's window.
+    if (!m_modal)
+        ::EndDialog(m_hWnd, result);
+}
+
+LRESULT CDialog::HandleInitDialog(WPARAM, LPARAM)
+{
+    // Not through the system's dialog procedure, whose frames an exception of
+    // OnInitDialog must not pass.
+    CRect before;
+    GetWindowRect(before);
+    const BOOL setFocus = OnInitDialog();
+    CRect after;
+    if (m_hWnd != nullptr && ContinueModal() && (GetStyle() & WS_CHILD) == 0 &&
+        AfxIsTemplateWithoutPlace(m_nIDTemplate)) {
+        GetWindowRect(after);
+        // Unless the dialog has found itself a place.
+        if (before.TopLeft() == after.TopLeft())
+            CenterWindow();
+    }
+    return setFocus;
+}
+
+BOOL CDialog::OnInitDialog()
+{
+    if (!UpdateData(FALSE)) {
+        EndDialog(-1);
+        return FALSE;
+    }
+    return TRUE;
+}
+
+void CDialog::OnOK()
+{
+    if (UpdateData(TRUE))
+        EndDialog(IDOK);
+}
+
+void CDialog::OnCancel()
+{
+    EndDialog(IDCANCEL);
+}
+
+bool CDialog::IsChildPage() const
+{
+    return (GetStyle() & WS_CHILD) != 0 && (GetExStyle() & WS_EX_CONTROLPARENT) != 0;
+}
+
+BOOL CDialog::PreTranslateMessage(MSG* message)
+{
+    if (CWnd::PreTranslateMessage(message))
+        return TRUE;
+    // A multi-line edit answers Escape by closing the dialog it lies in, which
+    // for one on a child dialog would be that child. Escape means the whole.
+    if (!IsChildPage() && message->message == WM_KEYDOWN && message->wParam == VK_ESCAPE &&
+        IsMultiLineEdit(message->hwnd)) {
+        const HWND cancel = ::GetDlgItem(m_hWnd, IDCANCEL);
+        if (cancel == nullptr || ::IsWindowEnabled(cancel)) {
+            SendMessage(WM_COMMAND, IDCANCEL, 0);
+            return TRUE;
+        }
+    }
+    return PreTranslateInput(message);
+}
+
+BOOL CDialog::PreTranslateInput(MSG* message)
+{
+    // A child dialog that is a control parent leaves the navigation to the
+    // dialog it sits in. Did it call IsDialogMessage itself, Tab would circle
+    // within the child and mnemonics would find only the child's controls; the
+    // outermost dialog's call sees the controls of all as one row.
+    if (IsChildPage())
+        return FALSE;
+    return CWnd::PreTranslateInput(message);
+}

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "framework/window.h"
+
+/// Sent to a modal dialog whenever its message queue has run empty: wParam is
+/// MSGF_DIALOGBOX, lParam counts the calls since the last message. A handler
+/// returns non-zero to be called once more.
+constexpr UINT WM_KICKIDLE = 0x036A;
+
+/// A dialog made from a template of the module's resources.
+class CDialog : public CWnd
+{
+    DECLARE_DYNAMIC(CDialog)
+    /// A dialog that Create makes modeless.
+    CDialog() = default;
+    /// A dialog that DoModal makes modal over the parent's top-level window.
+    explicit CDialog(UINT templateId, CWnd* parent = nullptr);
+    ~CDialog() override;
+
+    /// Makes the dialog's window without a loop. Without a parent it belongs to
+    /// the application's main window. FALSE when it could not be made or ended
+    /// itself in OnInitDialog.
+    virtual BOOL Create(UINT templateId, CWnd* parent = nullptr);
+    /// Runs the dialog and returns what EndDialog was given; -1 when the dialog
+    /// could not be made, IDCANCEL when WM_QUIT ended it.
+    virtual INT_PTR DoModal();
+    /// Ends a modal dialog, hides a modeless one.
+    void EndDialog(int result);
+
+    BOOL PreTranslateMessage(MSG* message) override;
+
+    UINT m_nIDTemplate = 0;
+
+  protected:
+    DECLARE_MESSAGE_MAP()
+
+    /// Prepares the dialog before it is seen: moves the members into the
+    /// controls. FALSE when it has set the focus itself.
+    virtual BOOL OnInitDialog();
+    /// Moves the controls into the members and ends with IDOK, unless a value
+    /// was refused.
+    virtual void OnOK();
+    virtual void OnCancel();
+    BOOL PreTranslateInput(MSG* message) override;
+
+    CWnd* m_pParentWnd = nullptr;
+
+  private:
+    LRESULT HandleInitDialog(WPARAM wParam, LPARAM lParam);
+    bool CreateWindowFromTemplate(UINT templateId, HWND parent);
+    bool IsChildPage() const;
+
+    bool m_modal = false;
+};

@@ -1,0 +1,51 @@
+#include "framework/file_dialog.h"
+
+#include "framework/modal_doors.h"
+
+#include <algorithm>
+
+namespace
+{
+// The longest path that Windows knows, in characters.
+constexpr std::size_t longestPath = 32768;
+} // namespace
+
+CFileDialog::CFileDialog(BOOL openFileDialog, LPCWSTR defaultExtension, LPCWSTR fileName, DWORD flags,
+                         LPCWSTR filter, CWnd* parent)
+    : m_open(openFileDialog != FALSE), m_filter(FromWide(filter)),
+      m_defaultExtension(FromWide(defaultExtension)), m_fileName(FromWide(fileName))
+{
+    m_ofn.lStructSize = sizeof m_ofn;
+    m_ofn.hwndOwner = AfxSafeHwnd(parent);
+    m_ofn.Flags = flags | OFN_EXPLORER;
+}
+
+INT_PTR CFileDialog::DoModal()
+{
+    m_ofn.hwndOwner = AfxGetModalOwner(m_ofn.hwndOwner);
+    if (CModalHook* const hook = AfxGetModalHook()) {
+        const CFileDialogRequest request{m_open,   m_defaultExtension,         m_fileName,     m_ofn.Flags,
+                                         m_filter, FromWide(m_ofn.lpstrTitle), m_ofn.hwndOwner};
+        if (const std::optional<CPathAnswer> answer = hook->OnFileDialog(request)) {
+            m_path = answer->path;
+            return m_path.empty() ? IDCANCEL : IDOK;
+        }
+    }
+    std::vector<wchar_t> path(longestPath);
+    m_fileName.copy(reinterpret_cast<char16_t*>(path.data()), longestPath - 1);
+    // The system wants the parts of the filter zero-terminated, the list twice.
+    ov::Text filter = m_filter;
+    std::replace(filter.begin(), filter.end(), u'|', u'\0');
+    filter.push_back(u'\0');
+    m_ofn.lpstrFilter = m_filter.empty() ? nullptr : Wide(filter);
+    m_ofn.lpstrDefExt = m_defaultExtension.empty() ? nullptr : Wide(m_defaultExtension);
+    m_ofn.lpstrFile = path.data();
+    m_ofn.nMaxFile = static_cast<DWORD>(path.size());
+    const BOOL chosen = m_open ? ::GetOpenFileNameW(&m_ofn) : ::GetSaveFileNameW(&m_ofn);
+    m_ofn.lpstrFilter = nullptr;
+    m_ofn.lpstrFile = nullptr;
+    if (!chosen)
+        return IDCANCEL;
+    m_path = FromWide(path.data());
+    return IDOK;
+}

@@ -1,0 +1,72 @@
+#pragma once
+
+#include "framework/windows_api.h"
+
+/// An extent in pixels.
+class CSize : public SIZE
+{
+  public:
+    constexpr CSize() : SIZE{0, 0} {}
+    constexpr CSize(int width, int height) : SIZE{width, height} {}
+    constexpr CSize(SIZE size) : SIZE(size) {}
+    constexpr bool operator==(const CSize& other) const { return cx == other.cx && cy == other.cy; }
+};
+
+/// A place in pixels.
+class CPoint : public POINT
+{
+  public:
+    constexpr CPoint() : POINT{0, 0} {}
+    constexpr CPoint(int left, int top) : POINT{left, top} {}
+    constexpr CPoint(POINT point) : POINT(point) {}
+    /// From the packed pair that mouse messages carry; coordinates may be negative.
+    explicit CPoint(LPARAM packed) : POINT{GET_X_LPARAM(packed), GET_Y_LPARAM(packed)} {}
+    constexpr void Offset(int dx, int dy)
+    {
+        x += dx;
+        y += dy;
+    }
+    constexpr bool operator==(const CPoint& other) const { return x == other.x && y == other.y; }
+};
+
+/// A rectangle in pixels; right and bottom lie outside. It converts to the
+/// pointers that Windows calls take.
+class CRect : public RECT
+{
+  public:
+    constexpr CRect() : RECT{0, 0, 0, 0} {}
+    constexpr CRect(int l, int t, int r, int b) : RECT{l, t, r, b} {}
+    constexpr CRect(const RECT& rectangle) : RECT(rectangle) {}
+    constexpr CRect(POINT topLeft, SIZE size)
+        : RECT{topLeft.x, topLeft.y, topLeft.x + size.cx, topLeft.y + size.cy}
+    {
+    }
+
+    operator LPRECT() { return this; }
+    operator LPCRECT() const { return this; }
+
+    constexpr int Width() const { return right - left; }
+    constexpr int Height() const { return bottom - top; }
+    constexpr CSize Size() const { return {Width(), Height()}; }
+    constexpr CPoint TopLeft() const { return {left, top}; }
+    constexpr CPoint BottomRight() const { return {right, bottom}; }
+    constexpr CPoint CenterPoint() const { return {(left + right) / 2, (top + bottom) / 2}; }
+    constexpr BOOL IsRectEmpty() const { return left >= right || top >= bottom; }
+    constexpr BOOL PtInRect(POINT point) const
+    {
+        return point.x >= left && point.x < right && point.y >= top && point.y < bottom;
+    }
+    constexpr void SetRect(int l, int t, int r, int b) { *this = CRect(l, t, r, b); }
+    constexpr void SetRectEmpty() { *this = CRect(); }
+    constexpr void OffsetRect(int dx, int dy) { *this = CRect(left + dx, top + dy, right + dx, bottom + dy); }
+    constexpr void MoveToXY(int x, int y) { OffsetRect(x - left, y - top); }
+    constexpr void InflateRect(int dx, int dy)
+    {
+        *this = CRect(left - dx, top - dy, right + dx, bottom + dy);
+    }
+    constexpr void DeflateRect(int dx, int dy) { InflateRect(-dx, -dy); }
+    constexpr bool operator==(const CRect& other) const
+    {
+        return left == other.left && top == other.top && right == other.right && bottom == other.bottom;
+    }
+};

@@ -1,0 +1,118 @@
+#include "framework/module_state.h"
+
+#include "framework/application.h"
+#include "framework/exceptions.h"
+#include "framework/thread_state.h"
+
+#include <utility>
+
+// Provided by the linker: the start of the module that this code lies in.
+extern "C" IMAGE_DOS_HEADER __ImageBase;
+
+namespace
+{
+// Where a library keeps its manifest; an executable's is number 1.
+constexpr WORD libraryManifestId = 2;
+
+void CreateContext(AFX_MODULE_STATE& state)
+{
+    if (std::exchange(state.contextTried, true))
+        return;
+    ACTCTXW description{};
+    description.cbSize = sizeof description;
+    description.dwFlags = ACTCTX_FLAG_HMODULE_VALID | ACTCTX_FLAG_RESOURCE_NAME_VALID;
+    description.hModule = state.instance;
+    description.lpResourceName = MAKEINTRESOURCEW(libraryManifestId);
+    // Without a manifest there is no context, and the host's remains in force.
+    state.context = ::CreateActCtxW(&description);
+}
+
+void InitialiseOnce(AFX_MODULE_STATE& state)
+{
+    if (state.initialised || state.application == nullptr)
+        return;
+    try {
+        state.initialised = state.application->InitInstance() != FALSE;
+    } catch (...) {
+        AfxReportCurrentException();
+    }
+}
+} // namespace
+
+AFX_MODULE_STATE* AfxGetStaticModuleState()
+{
+    static const auto self = reinterpret_cast<HINSTANCE>(&__ImageBase);
+    static AFX_MODULE_STATE state{self, self};
+    return &state;
+}
+
+AFX_MODULE_STATE* AfxGetModuleState()
+{
+    AFX_MODULE_STATE* const current = AfxGetThreadState().moduleState;
+    return current != nullptr ? current : AfxGetStaticModuleState();
+}
+
+AFX_MAINTAIN_STATE2::AFX_MAINTAIN_STATE2(AFX_MODULE_STATE* state)
+    : m_previous(std::exchange(AfxGetThreadState().moduleState, state))
+{
+    CreateContext(*state);
+    if (state->context != INVALID_HANDLE_VALUE)
+        m_activated = ::ActivateActCtx(state->context, &m_cookie) != FALSE;
+    InitialiseOnce(*state);
+}
+
+AFX_MAINTAIN_STATE2::~AFX_MAINTAIN_STATE2()
+{
+    if (m_activated)
+        ::DeactivateActCtx(0, m_cookie);
+    AfxGetThreadState().moduleState = m_previous;
+    // Outside the outermost call nobody is left who could hold a temporary object.
+    if (m_previous == nullptr)
+        AfxDeleteTempMap();
+}
+
+BOOL AfxInitLibrary(HINSTANCE instance)
+{
+    AFX_MODULE_STATE& state = *AfxGetStaticModuleState();
+    state.instance = instance;
+    state.resources = instance;
+    return TRUE;
+}
+
+void AfxTermLibrary()
+{
+    AFX_MODULE_STATE& state = *AfxGetStaticModuleState();
+    if (std::exchange(state.initialised, false)) {
+        try {
+            state.application->ExitInstance();
+        } catch (...) {
+            // No box under the loader lock: it would never answer.
+            ::OutputDebugStringW(L"ExitInstance failed.\n");
+        }
+    }
+    if (state.context != INVALID_HANDLE_VALUE)
+        ::ReleaseActCtx(std::exchange(state.context, INVALID_HANDLE_VALUE));
+    state.contextTried = false;
+    AfxUnregisterWndClasses();
+    AfxFreeThreadState();
+}
+
+HINSTANCE AfxGetInstanceHandle()
+{
+    return AfxGetModuleState()->instance;
+}
+
+HINSTANCE AfxGetResourceHandle()
+{
+    return AfxGetModuleState()->resources;
+}
+
+ov::Text AfxLoadString(UINT id)
+{
+    // A buffer of size 0 asks for the text itself, which lies in the module.
+    const wchar_t* text = nullptr;
+    const int length = ::LoadStringW(AfxGetResourceHandle(), id, reinterpret_cast<wchar_t*>(&text), 0);
+    if (length <= 0)
+        return {};
+    return FromWide(std::wstring_view(text, static_cast<std::size_t>(length)));
+}

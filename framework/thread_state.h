@@ -1,0 +1,141 @@
+#pragma once
+
+#include "framework/dc.h"
+#include "framework/window.h"
+
+#include <cstddef>
+#include <memory>
+#include <unordered_map>
+#include <vector>
+
+// What the framework remembers for each thread. For the framework's own
+// sources only.
+
+struct AFX_MODULE_STATE;
+
+/// The temporary objects for handles that belong to somebody else, in the order
+/// in which they were asked for.
+template <class Handle, class Object, auto Member>
+class CTempMap
+{
+  public:
+    CTempMap() = default;
+    ~CTempMap() { DeleteFrom(0); }
+    CTempMap(const CTempMap&) = delete;
+    CTempMap& operator=(const CTempMap&) = delete;
+
+    Object* FromHandle(Handle handle)
+    {
+        if (handle == nullptr)
+            return nullptr;
+        if (const auto found = m_byHandle.find(handle); found != m_byHandle.end())
+            return found->second;
+        m_entries.push_back({handle, std::make_unique<Object>()});
+        Object* const object = m_entries.back().object.get();
+        object->*Member = handle;
+        m_byHandle.emplace(handle, object);
+        return object;
+    }
+
+    std::size_t Count() const { return m_entries.size(); }
+
+    /// Deletes all but the first `count` objects; what the handles stand for stays.
+    void DeleteFrom(std::size_t count)
+    {
+        while (m_entries.size() > count) {
+            m_byHandle.erase(m_entries.back().handle);
+            // Without its handle the object has nothing to destroy.
+            (*m_entries.back().object).*Member = nullptr;
+            m_entries.pop_back();
+        }
+    }
+
+  private:
+    struct Entry {
+        Handle handle;
+        std::unique_ptr<Object> object;
+    };
+    std::vector<Entry> m_entries;
+    std::unordered_map<Handle, Object*> m_byHandle;
+};
+
+/// All temporary objects of a thread.
+struct AFX_TEMP_MAPS {
+    CTempMap<HWND, CWnd, &CWnd::m_hWnd> windows;
+    CTempMap<HDC, CDC, &CDC::m_hDC> contexts;
+    CTempMap<HGDIOBJ, CFont, &CFont::m_hObject> fonts;
+    CTempMap<HGDIOBJ, CBrush, &CBrush::m_hObject> brushes;
+    CTempMap<HGDIOBJ, CPen, &CPen::m_hObject> pens;
+    CTempMap<HGDIOBJ, CBitmap, &CBitmap::m_hObject> bitmaps;
+
+    struct Mark {
+        std::size_t windows = 0, contexts = 0, fonts = 0, brushes = 0, pens = 0, bitmaps = 0;
+    };
+    Mark GetMark() const;
+    /// Deletes what was asked for after the mark was taken.
+    void DeleteFrom(const Mark& mark);
+};
+
+/// A window whose data exchange runs, as a list from the innermost outwards.
+struct AFX_EXCHANGE_LOCK {
+    HWND window;
+    const AFX_EXCHANGE_LOCK* outer;
+};
+
+struct AFX_THREAD_STATE {
+    std::unordered_map<HWND, CWnd*> permanentWindows;
+    AFX_TEMP_MAPS temporary;
+    MSG currentMessage{};
+    CWnd* windowBeingCreated = nullptr;
+    const AFX_EXCHANGE_LOCK* exchangeLocks = nullptr;
+    AFX_MODULE_STATE* moduleState = nullptr;
+    bool reportingException = false;
+};
+
+/// This thread's state; made when first asked for.
+AFX_THREAD_STATE& AfxGetThreadState();
+/// Frees this thread's state. It is done by hand: a destructor registered for
+/// the thread would keep a library loaded until the thread ends.
+void AfxFreeThreadState();
+
+/// Sets a variable for the life of a scope.
+template <class Value>
+class CRestoreValue
+{
+  public:
+    CRestoreValue(Value& variable, Value value) : m_variable(variable), m_previous(variable)
+    {
+        variable = value;
+    }
+    ~CRestoreValue() { m_variable = m_previous; }
+    CRestoreValue(const CRestoreValue&) = delete;
+    CRestoreValue& operator=(const CRestoreValue&) = delete;
+
+  private:
+    Value& m_variable;
+    Value m_previous;
+};
+
+/// Binds the object to the next window that this thread creates, before that
+/// window's first message.
+class CCreationHook
+{
+  public:
+    explicit CCreationHook(CWnd* window);
+    ~CCreationHook();
+    CCreationHook(const CCreationHook&) = delete;
+    CCreationHook& operator=(const CCreationHook&) = delete;
+
+    /// True once the window has been met.
+    bool IsBound() const;
+
+  private:
+    CRestoreValue<CWnd*> m_pending;
+    HHOOK m_hook;
+};
+
+/// The window procedure of every window that a permanent object stands for.
+LRESULT CALLBACK AfxWndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+
+/// Unregisters the window classes of AfxRegisterWndClass.
+void AfxUnregisterWndClasses();

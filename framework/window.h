@@ -1,0 +1,241 @@
+#pragma once
+
+#include "base/text.h"
+#include "framework/geometry.h"
+#include "framework/message_map.h"
+#include "framework/wide.h"
+
+class CDataExchange;
+class CFont;
+
+/// A window. The object and its window are bound by a handle map of the thread:
+/// a permanent entry for objects that the program made, a temporary one for
+/// windows that FromHandle was asked about (such an object lives until the next
+/// idle time and handles no messages). Deleting an object destroys its window.
+class CWnd : public CCmdTarget
+{
+    DECLARE_DYNAMIC(CWnd)
+    CWnd() = default;
+    ~CWnd() override;
+
+    // --- the handle -------------------------------------------------------
+    HWND m_hWnd = nullptr;
+    HWND GetSafeHwnd() const { return m_hWnd; }
+    operator HWND() const { return m_hWnd; }
+    /// The object for a window, a temporary one when the program made none;
+    /// null for null.
+    static CWnd* FromHandle(HWND window);
+    /// The object that the program made for a window, else null.
+    static CWnd* FromHandlePermanent(HWND window);
+    /// Binds the object to a window, without taking over its messages.
+    BOOL Attach(HWND window);
+    /// Undoes Attach; the window stays.
+    HWND Detach();
+    /// Binds the object to a window and takes over its messages.
+    BOOL SubclassWindow(HWND window);
+    BOOL SubclassDlgItem(UINT id, CWnd* parent);
+    /// Undoes SubclassWindow.
+    HWND UnsubclassWindow();
+
+    // --- creation and destruction -----------------------------------------
+    /// Creates a child window. The object handles its messages from the first on.
+    BOOL Create(LPCWSTR className, LPCWSTR text, DWORD style, const RECT& rectangle, CWnd* parent, UINT id);
+    /// Creates any window; `menuOrId` is the id for a child. A null class name
+    /// stands for a plain class of the framework's.
+    BOOL CreateEx(DWORD exStyle, LPCWSTR className, LPCWSTR text, DWORD style, int x, int y, int width,
+                  int height, HWND parent, HMENU menuOrId);
+    BOOL CreateEx(DWORD exStyle, LPCWSTR className, LPCWSTR text, DWORD style, const RECT& rectangle,
+                  CWnd* parent, UINT id);
+    virtual BOOL DestroyWindow();
+
+    // --- text, state, style -------------------------------------------------
+    void SetWindowText(const ov::Text& text);
+    void SetWindowText(LPCWSTR text);
+    ov::Text GetWindowText() const;
+    void GetWindowText(ov::Text& text) const { text = GetWindowText(); }
+    int GetWindowTextLength() const { return ::GetWindowTextLengthW(m_hWnd); }
+    BOOL EnableWindow(BOOL enable = TRUE) { return ::EnableWindow(m_hWnd, enable); }
+    BOOL IsWindowEnabled() const { return ::IsWindowEnabled(m_hWnd); }
+    BOOL ShowWindow(int command) { return ::ShowWindow(m_hWnd, command); }
+    BOOL IsWindowVisible() const { return ::IsWindowVisible(m_hWnd); }
+    BOOL IsIconic() const { return ::IsIconic(m_hWnd); }
+    DWORD GetStyle() const { return static_cast<DWORD>(::GetWindowLongPtrW(m_hWnd, GWL_STYLE)); }
+    DWORD GetExStyle() const { return static_cast<DWORD>(::GetWindowLongPtrW(m_hWnd, GWL_EXSTYLE)); }
+    /// Changes style bits; with `positionFlags` the frame is drawn anew. False
+    /// when the bits were so already.
+    BOOL ModifyStyle(DWORD remove, DWORD add, UINT positionFlags = 0);
+    BOOL ModifyStyleEx(DWORD remove, DWORD add, UINT positionFlags = 0);
+    HICON SetIcon(HICON icon, BOOL big);
+    CFont* GetFont() const;
+    void SetFont(CFont* font, BOOL redraw = TRUE);
+
+    // --- size and place -----------------------------------------------------
+    void MoveWindow(int x, int y, int width, int height, BOOL repaint = TRUE);
+    void MoveWindow(LPCRECT rectangle, BOOL repaint = TRUE);
+    BOOL SetWindowPos(const CWnd* insertAfter, int x, int y, int width, int height, UINT flags);
+    void GetWindowRect(LPRECT rectangle) const { ::GetWindowRect(m_hWnd, rectangle); }
+    void GetClientRect(LPRECT rectangle) const { ::GetClientRect(m_hWnd, rectangle); }
+    void ScreenToClient(LPRECT rectangle) const;
+    void ScreenToClient(LPPOINT point) const { ::ScreenToClient(m_hWnd, point); }
+    void ClientToScreen(LPRECT rectangle) const;
+    void ClientToScreen(LPPOINT point) const { ::ClientToScreen(m_hWnd, point); }
+    int SetWindowRgn(HRGN region, BOOL redraw) { return ::SetWindowRgn(m_hWnd, region, redraw); }
+    /// Centres a top-level window over its owner, else on the screen, within
+    /// the work area.
+    void CenterWindow();
+    /// The places that SetWindowPos knows by name.
+    static const CWnd wndTop, wndBottom, wndTopMost, wndNoTopMost;
+
+    // --- the tree ------------------------------------------------------------
+    CWnd* GetParent() const { return FromHandle(::GetParent(m_hWnd)); }
+    CWnd* GetOwner() const { return FromHandle(::GetWindow(m_hWnd, GW_OWNER)); }
+    CWnd* GetTopLevelParent() const { return FromHandle(::GetAncestor(m_hWnd, GA_ROOT)); }
+    CWnd* GetWindow(UINT command) const { return FromHandle(::GetWindow(m_hWnd, command)); }
+    CWnd* GetDlgItem(int id) const { return FromHandle(::GetDlgItem(m_hWnd, id)); }
+    int GetDlgCtrlID() const { return ::GetDlgCtrlID(m_hWnd); }
+    BOOL IsChild(const CWnd* window) const;
+    CWnd* GetNextDlgTabItem(CWnd* from, BOOL previous = FALSE) const;
+
+    // --- painting --------------------------------------------------------------
+    void Invalidate(BOOL erase = TRUE) { ::InvalidateRect(m_hWnd, nullptr, erase); }
+    void InvalidateRect(LPCRECT rectangle, BOOL erase = TRUE) { ::InvalidateRect(m_hWnd, rectangle, erase); }
+    void ValidateRect(LPCRECT rectangle) { ::ValidateRect(m_hWnd, rectangle); }
+    void UpdateWindow() { ::UpdateWindow(m_hWnd); }
+    BOOL RedrawWindow(LPCRECT rectangle = nullptr, HRGN region = nullptr,
+                      UINT flags = RDW_INVALIDATE | RDW_UPDATENOW | RDW_ERASE);
+    void SetRedraw(BOOL redraw = TRUE) { SendMessage(WM_SETREDRAW, static_cast<WPARAM>(redraw), 0); }
+
+    // --- messages, focus, timers -------------------------------------------
+    LRESULT SendMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const
+    {
+        return ::SendMessageW(m_hWnd, message, wParam, lParam);
+    }
+    BOOL PostMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const
+    {
+        return ::PostMessageW(m_hWnd, message, wParam, lParam);
+    }
+    CWnd* SetFocus() { return FromHandle(::SetFocus(m_hWnd)); }
+    static CWnd* GetFocus() { return FromHandle(::GetFocus()); }
+    static CWnd* GetActiveWindow() { return FromHandle(::GetActiveWindow()); }
+    BOOL SetForegroundWindow() { return ::SetForegroundWindow(m_hWnd); }
+    UINT_PTR SetTimer(UINT_PTR id, UINT milliseconds)
+    {
+        return ::SetTimer(m_hWnd, id, milliseconds, nullptr);
+    }
+    BOOL KillTimer(UINT_PTR id) { return ::KillTimer(m_hWnd, id); }
+    /// A message box owned by this window, through the one door of AfxShowMessageBox.
+    int MessageBox(const ov::Text& text, const ov::Text& caption, UINT type = MB_OK) const;
+
+    // --- scrolling -----------------------------------------------------------
+    BOOL GetScrollInfo(int bar, SCROLLINFO* info, UINT mask = SIF_ALL) const;
+    BOOL SetScrollInfo(int bar, SCROLLINFO* info, BOOL redraw = TRUE);
+    int GetScrollPos(int bar) const { return ::GetScrollPos(m_hWnd, bar); }
+    int SetScrollPos(int bar, int position, BOOL redraw = TRUE)
+    {
+        return ::SetScrollPos(m_hWnd, bar, position, redraw);
+    }
+    void GetScrollRange(int bar, int* minimum, int* maximum) const;
+    /// Scrolls the contents, child windows included.
+    void ScrollWindow(int dx, int dy, LPCRECT rectangle = nullptr, LPCRECT clip = nullptr)
+    {
+        ::ScrollWindow(m_hWnd, dx, dy, rectangle, clip);
+    }
+
+    // --- controls by id --------------------------------------------------------
+    void CheckDlgButton(int id, UINT state) { ::CheckDlgButton(m_hWnd, id, state); }
+    UINT IsDlgButtonChecked(int id) const { return ::IsDlgButtonChecked(m_hWnd, id); }
+    void CheckRadioButton(int first, int last, int checked)
+    {
+        ::CheckRadioButton(m_hWnd, first, last, checked);
+    }
+    ov::Text GetDlgItemText(int id) const;
+    void SetDlgItemText(int id, const ov::Text& text) { ::SetDlgItemTextW(m_hWnd, id, Wide(text)); }
+
+    // --- data exchange ---------------------------------------------------------
+    /// Moves values from the controls into the members (TRUE) or back. While it
+    /// runs, notifications of this window's controls are not handled. False when
+    /// a value was refused; the user has been told then.
+    BOOL UpdateData(BOOL saveAndValidate = TRUE);
+
+    // --- pre-translation and modal loops --------------------------------------
+    /// Looks at a message before it is dispatched; TRUE takes it away.
+    virtual BOOL PreTranslateMessage(MSG* message);
+    /// Lets the permanent objects from the message's window up to `stop` look at
+    /// the message, innermost first.
+    static BOOL WalkPreTranslateTree(HWND stop, MSG* message);
+    BOOL IsDialogMessage(MSG* message) { return ::IsDialogMessageW(m_hWnd, message); }
+    /// Dispatches messages until EndModalLoop; returns its result. At WM_QUIT the
+    /// loop ends as if cancelled, and the message is posted again for the loop
+    /// outside.
+    int RunModalLoop();
+    virtual void EndModalLoop(int result);
+
+  protected:
+    DECLARE_MESSAGE_MAP()
+
+    // --- the way of a message ---------------------------------------------
+    virtual LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam);
+    virtual BOOL OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result);
+    virtual BOOL OnCommand(WPARAM wParam, LPARAM lParam);
+    virtual BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result);
+    virtual LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam);
+    /// The default handling of the message that is being handled.
+    LRESULT Default();
+    /// The message that is being handled.
+    static const MSG* GetCurrentMessage();
+
+    virtual void DoDataExchange(CDataExchange*) {}
+    /// Called when the object is bound, before the window's messages are taken over.
+    virtual void PreSubclassWindow() {}
+    /// Called last when the window is gone; the object may delete itself.
+    virtual void PostNcDestroy() {}
+    /// IsDialogMessage for keyboard and mouse messages.
+    virtual BOOL PreTranslateInput(MSG* message);
+
+    // --- handlers; each does the default handling -------------------------
+    int OnCreate(CREATESTRUCTW*) { return static_cast<int>(Default()); }
+    void OnDestroy() { Default(); }
+    void OnSize(UINT, int, int) { Default(); }
+    void OnPaint() { Default(); }
+    void OnClose() { Default(); }
+    BOOL OnEraseBkgnd(CDC*) { return Default() != 0; }
+    void OnSysCommand(UINT, LPARAM) { Default(); }
+    void OnGetMinMaxInfo(MINMAXINFO*) { Default(); }
+    HCURSOR OnQueryDragIcon() { return reinterpret_cast<HCURSOR>(Default()); }
+    void OnHScroll(UINT, UINT, CWnd*) { Default(); }
+    void OnVScroll(UINT, UINT, CWnd*) { Default(); }
+    BOOL OnMouseWheel(UINT, short, CPoint) { return Default() != 0; }
+    void OnTimer(UINT_PTR) { Default(); }
+
+    /// True while the modal loop is to go on.
+    bool ContinueModal() const { return m_continueModal; }
+    /// Allows a modal loop to run until EndModalLoop, which may come before it.
+    void BeginModal();
+    int m_nModalResult = -1; ///< what EndModalLoop was given, else -1
+
+  private:
+    friend class CCreationHook;
+    friend LRESULT CALLBACK AfxWndProc(HWND, UINT, WPARAM, LPARAM);
+    explicit CWnd(HWND place) : m_hWnd(place) {}
+    /// Attach, PreSubclassWindow, then the window procedure.
+    void Bind(HWND window);
+    void FinishNcDestroy();
+
+    WNDPROC m_superWndProc = nullptr;
+    bool m_continueModal = false;
+};
+
+/// The handle of a window object that may be null.
+inline HWND AfxSafeHwnd(const CWnd* window)
+{
+    return window != nullptr ? window->m_hWnd : nullptr;
+}
+
+/// Registers a plain window class of the framework's, once for each combination;
+/// its name.
+LPCWSTR AfxRegisterWndClass(UINT style, HCURSOR cursor = nullptr, HBRUSH background = nullptr,
+                            HICON icon = nullptr);
+
+/// Deletes the objects that FromHandle made, of windows and drawing objects.
+/// Modal loops do it when idle; pointers are good until then.
+void AfxDeleteTempMap();

@@ -1,0 +1,135 @@
+#include "framework/module_state.h"
+#include "framework/thread_state.h"
+
+#include <cwchar>
+#include <set>
+#include <string>
+#include <utility>
+
+namespace
+{
+// A new thread's first window makes the system create its input method window
+// in between; that one is never ours.
+bool IsInputMethodWindow(HWND window)
+{
+    if ((::GetClassLongPtrW(window, GCL_STYLE) & CS_IME) != 0)
+        return true;
+    wchar_t name[8] = L"";
+    ::GetClassNameW(window, name, 8);
+    return ::lstrcmpiW(name, L"ime") == 0;
+}
+
+std::set<std::wstring>& RegisteredClasses()
+{
+    static std::set<std::wstring> classes;
+    return classes;
+}
+} // namespace
+
+CCreationHook::CCreationHook(CWnd* window)
+    : m_pending(AfxGetThreadState().windowBeingCreated, window),
+      m_hook(::SetWindowsHookExW(
+          WH_CBT,
+          [](int code, WPARAM wParam, LPARAM lParam) -> LRESULT {
+              AFX_THREAD_STATE& state = AfxGetThreadState();
+              const auto created = reinterpret_cast<HWND>(wParam);
+              if (code == HCBT_CREATEWND && state.windowBeingCreated != nullptr &&
+                  !IsInputMethodWindow(created)) {
+                  CWnd* const object = std::exchange(state.windowBeingCreated, nullptr);
+                  // Nothing may unwind through the system: a refusal makes the
+                  // creation fail instead.
+                  try {
+                      object->Bind(created);
+                  } catch (...) {
+                      return 1;
+                  }
+              }
+              return ::CallNextHookEx(nullptr, code, wParam, lParam);
+          },
+          nullptr, ::GetCurrentThreadId()))
+{
+}
+
+CCreationHook::~CCreationHook()
+{
+    if (m_hook != nullptr)
+        ::UnhookWindowsHookEx(m_hook);
+}
+
+bool CCreationHook::IsBound() const
+{
+    return AfxGetThreadState().windowBeingCreated == nullptr;
+}
+
+BOOL CWnd::CreateEx(DWORD exStyle, LPCWSTR className, LPCWSTR text, DWORD style, int x, int y, int width,
+                    int height, HWND parent, HMENU menuOrId)
+{
+    if (className == nullptr)
+        className = AfxRegisterWndClass(0, ::LoadCursorW(nullptr, IDC_ARROW));
+    {
+        const CCreationHook hook(this);
+        const HWND created = ::CreateWindowExW(exStyle, className, text, style, x, y, width, height, parent,
+                                               menuOrId, AfxGetInstanceHandle(), nullptr);
+        if (hook.IsBound())
+            return created != nullptr;
+    }
+    // The window never existed: what follows its end is still owed.
+    PostNcDestroy();
+    return FALSE;
+}
+
+BOOL CWnd::CreateEx(DWORD exStyle, LPCWSTR className, LPCWSTR text, DWORD style, const RECT& rectangle,
+                    CWnd* parent, UINT id)
+{
+    const CRect r(rectangle);
+    return CreateEx(exStyle, className, text, style, r.left, r.top, r.Width(), r.Height(),
+                    AfxSafeHwnd(parent), reinterpret_cast<HMENU>(static_cast<UINT_PTR>(id)));
+}
+
+BOOL CWnd::Create(LPCWSTR className, LPCWSTR text, DWORD style, const RECT& rectangle, CWnd* parent, UINT id)
+{
+    return CreateEx(0, className, text, style | WS_CHILD, rectangle, parent, id);
+}
+
+BOOL CWnd::DestroyWindow()
+{
+    if (m_hWnd == nullptr)
+        return FALSE;
+    const HWND window = m_hWnd;
+    const bool permanent = FromHandlePermanent(window) == this;
+    const BOOL destroyed = ::DestroyWindow(window);
+    // A window whose messages were taken over has let go of the object by
+    // itself, and the object may be gone; one that was merely attached has not.
+    if (permanent && FromHandlePermanent(window) == this)
+        Detach();
+    return destroyed;
+}
+
+LPCWSTR AfxRegisterWndClass(UINT style, HCURSOR cursor, HBRUSH background, HICON icon)
+{
+    const HINSTANCE instance = AfxGetInstanceHandle();
+    wchar_t name[96];
+    std::swprintf(name, std::size(name), L"Afx:%p:%x:%p:%p:%p", static_cast<void*>(instance), style,
+                  static_cast<void*>(cursor), static_cast<void*>(background), static_cast<void*>(icon));
+    WNDCLASSW description{};
+    if (!::GetClassInfoW(instance, name, &description)) {
+        description = {};
+        description.style = style;
+        description.lpfnWndProc = &::DefWindowProcW;
+        description.hInstance = instance;
+        description.hIcon = icon;
+        description.hCursor = cursor;
+        description.hbrBackground = background;
+        description.lpszClassName = name;
+        if (::RegisterClassW(&description) == 0)
+            return nullptr;
+    }
+    return RegisteredClasses().insert(name).first->c_str();
+}
+
+void AfxUnregisterWndClasses()
+{
+    for (const std::wstring& name : RegisteredClasses())
+        ::UnregisterClassW(name.c_str(), AfxGetInstanceHandle());
+    RegisteredClasses().clear();
+}
