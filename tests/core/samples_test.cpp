@@ -1,0 +1,157 @@
+// The two sample files, read as the program reads them.
+#include "config/core/config_reader.h"
+#include "pages/core/all_page_rows.h"
+#include "pages/core/page_values.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <set>
+#include <sstream>
+#include <string>
+
+namespace
+{
+using ov::kCurrentTable;
+using ov::kDefaultTable;
+
+std::string ReadSample(const char* name)
+{
+    const auto path = std::filesystem::path(GOLDEN_DIRECTORY) / ".." / ".." / "samples" / name;
+    std::ifstream file(path, std::ios::binary);
+    EXPECT_TRUE(file.is_open()) << path;
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+class Samples : public testing::Test
+{
+  protected:
+    Samples()
+    {
+        ov::ReadConfig(store, kDefaultTable, ReadSample("defaults.cfg"));
+        ov::ReadConfig(store, kCurrentTable, ReadSample("office.cfg"));
+    }
+
+    std::string Current(const char16_t* name) const
+    {
+        EXPECT_TRUE(store.HasSetting(name, kCurrentTable)) << ov::Utf8FromText(name);
+        return ov::Utf8FromText(store.GetSettingValue(name, kCurrentTable));
+    }
+
+    std::string Comment(const char16_t* name) const
+    {
+        const auto record = store.FindSetting(name, kCurrentTable);
+        return record ? ov::Utf8FromText(record->comment) : "absent";
+    }
+
+    ov::SettingStore store;
+};
+
+/// The names that the lines of a file assign; commented-out lines do not count.
+std::size_t CountAssignedNames(const std::string& bytes)
+{
+    std::set<std::string> names;
+    std::istringstream lines(bytes);
+    for (std::string line; std::getline(lines, line);) {
+        std::istringstream words(line);
+        std::string name;
+        std::string sign;
+        if (words >> name >> sign && name[0] != '#' && name[0] != '%')
+            names.insert(name);
+    }
+    return names.size();
+}
+
+TEST_F(Samples, EveryAssignedVariableIsRead)
+{
+    EXPECT_EQ(store.Count(kDefaultTable), CountAssignedNames(ReadSample("defaults.cfg")));
+    EXPECT_EQ(store.Count(kCurrentTable), CountAssignedNames(ReadSample("office.cfg")));
+    EXPECT_GE(store.Count(kDefaultTable), 55u);
+    EXPECT_LE(store.Count(kDefaultTable), 65u);
+    EXPECT_GE(store.Count(kCurrentTable), 115u);
+    EXPECT_LE(store.Count(kCurrentTable), 125u);
+}
+
+TEST_F(Samples, LinesEndAsOnWindows)
+{
+    for (const char* name : {"defaults.cfg", "office.cfg"}) {
+        const std::string bytes = ReadSample(name);
+        ASSERT_TRUE(bytes.ends_with("\r\n")) << name;
+        for (std::size_t i = 0; i < bytes.size(); ++i) {
+            if (bytes[i] == '\n') {
+                EXPECT_EQ(bytes[i - 1], '\r') << name << " at " << i;
+            }
+        }
+    }
+}
+
+TEST_F(Samples, ListsAreJoined)
+{
+    EXPECT_EQ(Current(u"_ORTHOVAL_BRANDING_RENAME_TABLES"),
+              "HR Civil 2004:HR Civil;HR Struct 2004:HR Structures;York Water:HR Water");
+    EXPECT_EQ(
+        Current(u"_ORTHOVAL_CONVENTION_FILENAME"),
+        "HR[0-9]{4}-(C|S|E|M|W)-[0-9]{3}[A-Z]?\\.dgn;HR[0-9]{4}-XREF-.+\\.dgn;A14JV-[A-Z]{2}-[0-9]{5}\\.dgn");
+}
+
+TEST_F(Samples, ListInTheDefaultsKeepsItsLastItemOnly)
+{
+    EXPECT_EQ(ov::Utf8FromText(store.GetSettingValue(u"_ORTHOVAL_CONVENTION_FILENAME", kDefaultTable)),
+              "HR[0-9][0-9][0-9][0-9]-XREF-*.DGN");
+}
+
+TEST_F(Samples, HashStaysInValuesWithoutQuotes)
+{
+    EXPECT_EQ(Current(u"_ORTHOVAL_CERTIFY_PREWATERMARK_KEYIN"), "mdl silentload plotlog #2");
+    EXPECT_EQ(Current(u"_ORTHOVAL_REPORT_DISCIPLINES_DIR"), "\\\\hr-york-fs01\\cadstds\\#Disciplines\\");
+}
+
+TEST_F(Samples, QuotesInsideAValueStay)
+{
+    EXPECT_EQ(Current(u"_ORTHOVAL_BILINGUAL_TEXT_KEYIN_2"),
+              "active level \"TEXT CY\";active font \"Engineering Italic\"");
+    EXPECT_EQ(Current(u"_ORTHOVAL_README_FILE"),
+              "\\\\hr-york-fs01\\cadstds\\orthoval\\docs\\York read me.pdf");
+}
+
+TEST_F(Samples, VariableThatNoPageKnowsIsRead)
+{
+    EXPECT_EQ(Current(u"HR_BATCH_FOLDERS"), "P:\\2217\\dgn;P:\\2231\\dgn");
+}
+
+TEST_F(Samples, CommentsByHandTravelWithTheirVariable)
+{
+    EXPECT_EQ(Comment(u"_ORTHOVAL_CHECK_TAGS"), "# Tags only in title blocks, as agreed with the client.\n");
+    EXPECT_EQ(Comment(u"_ORTHOVAL_CHECK_TEXT"), "");
+}
+
+TEST_F(Samples, CommentedOutVariableIsPartOfTheNextComment)
+{
+    EXPECT_FALSE(store.HasSetting(u"_ORTHOVAL_CONVENTION_MODELNAME", kCurrentTable));
+    EXPECT_EQ(Comment(u"_ORTHOVAL_CONVENTION_MODELNAME_PROMPT"),
+              "# Model names are not checked until all sheets have been split.\n"
+              "# _ORTHOVAL_CONVENTION_MODELNAME = \"[A-Z]{2}-SHEET-[0-9]{2}\"\n");
+}
+
+TEST_F(Samples, OfficeFileNamesEverySettingOfTheFinishedPages)
+{
+    for (const ov::PageRows* page : ov::AllPageRows()) {
+        for (const ov::SettingRow& row : page->settings)
+            EXPECT_TRUE(store.HasSetting(row.variable, kCurrentTable)) << ov::Utf8FromText(row.variable);
+    }
+}
+
+TEST_F(Samples, SavingUntouchedPagesChangesNoValue)
+{
+    store.SetModified(false);
+    for (const ov::PageRows* page : ov::AllPageRows()) {
+        ov::PageValues values(page->settings);
+        values.Load(store, kCurrentTable);
+        values.Save(store, true, [](int) { return ov::Text(); });
+    }
+    EXPECT_FALSE(store.IsModified());
+}
+
+} // namespace
