@@ -1,0 +1,15 @@
+#pragma once
+
+class CFont;
+class CToolTipControl;
+
+// What the controls need of the application object, which lies above them: the
+// application defines these two, so that nothing here includes it.
+
+/// The font that every dialog shares. Made on first request and kept by the
+/// application; null without a main window.
+CFont* GetSharedDialogFont();
+
+/// The process-wide tooltip window and registry of help texts; null while there
+/// is no such window.
+CToolTipControl* GetToolTipControl();
