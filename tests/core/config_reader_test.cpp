@@ -1,0 +1,401 @@
+#include "config/core/config_reader.h"
+
+#include "tests/core/memory_file_port.h"
+#include "tests/core/scoped_locale.h"
+
+#include <gtest/gtest.h>
+#include <string>
+
+namespace ov
+{
+namespace
+{
+
+class ConfigReader : public testing::Test
+{
+  protected:
+    void ReadCurrent(std::string_view bytes) { ReadConfig(store_, kCurrentTable, bytes); }
+    void ReadDefault(std::string_view bytes) { ReadConfig(store_, kDefaultTable, bytes); }
+    Text Value(TextView name, int table = kCurrentTable) const { return store_.GetSettingValue(name, table); }
+    Text Comment(TextView name) const { return Text(store_.FindSetting(name, kCurrentTable)->comment); }
+    std::int32_t Kind(TextView name, int table = kCurrentTable) const
+    {
+        return store_.FindSetting(name, table)->kind;
+    }
+    std::size_t Count() const { return store_.Count(kCurrentTable); }
+
+    const test::ScopedLocale locale_{"C"};
+    SettingStore store_;
+    test::MemoryFilePort files_;
+};
+
+TEST_F(ConfigReader, LineWithoutBlanksIsSkipped)
+{
+    ReadCurrent("NAME=value\nOTHER = 1\n");
+    EXPECT_EQ(Count(), 1u);
+    EXPECT_TRUE(store_.HasSetting(u"OTHER", kCurrentTable));
+}
+
+TEST_F(ConfigReader, BlankOnlyBeforeTheOperatorGivesAnEmptyValue)
+{
+    ReadCurrent("NAME =value\n");
+    ASSERT_TRUE(store_.HasSetting(u"NAME", kCurrentTable));
+    EXPECT_EQ(Value(u"NAME"), u"");
+    EXPECT_EQ(Kind(u"NAME"), SettingKindText);
+}
+
+TEST_F(ConfigReader, BlankOnlyBehindTheOperatorSkipsTheLine)
+{
+    ReadCurrent("NAME= value\n");
+    EXPECT_EQ(Count(), 0u);
+}
+
+TEST_F(ConfigReader, BlankOnlyBehindTheOperatorIsReadWhenTheValueHoldsAnOperator)
+{
+    ReadCurrent("NAME= a=b\n");
+    EXPECT_TRUE(store_.HasSetting(u"NAME=", kCurrentTable));
+    EXPECT_EQ(Value(u"NAME="), u"");
+}
+
+TEST_F(ConfigReader, TwoBlanksOnEachSideKeepOneBlankOfTheValue)
+{
+    ReadCurrent("NAME  =  5\n");
+    EXPECT_EQ(Value(u"NAME"), u" 5");
+    EXPECT_EQ(Kind(u"NAME"), SettingKindText);
+}
+
+TEST_F(ConfigReader, QuotedValueIsCutAtTheNumberSign)
+{
+    ReadCurrent("A = \"a # b\"\nB = a # b\n");
+    EXPECT_EQ(Value(u"A"), u"a ");
+    EXPECT_EQ(Value(u"B"), u"a # b");
+}
+
+TEST_F(ConfigReader, NumberSignAtTheFrontOfAQuotedValueStays)
+{
+    ReadCurrent("A = \"# b\"\n");
+    EXPECT_EQ(Value(u"A"), u"# b");
+}
+
+TEST_F(ConfigReader, InnerQuotesOfAQuotedValueAreRemoved)
+{
+    ReadCurrent("A = \"a \"b\" c\"\nB = a \"b\" c\n");
+    EXPECT_EQ(Value(u"A"), u"a b c");
+    EXPECT_EQ(Value(u"B"), u"a \"b\" c");
+}
+
+TEST_F(ConfigReader, TwoQuotesOrOneAreAnEmptyText)
+{
+    ReadCurrent("A = \"\"\nB = \"\n");
+    for (const char16_t* name : {u"A", u"B"}) {
+        ASSERT_TRUE(store_.HasSetting(name, kCurrentTable));
+        EXPECT_EQ(Value(name), u"");
+        EXPECT_EQ(Kind(name), SettingKindText);
+    }
+}
+
+TEST_F(ConfigReader, AppendLineJoinsBehindTheEarlierValue)
+{
+    ReadCurrent("NAME = a\nNAME > b\n");
+    EXPECT_EQ(Value(u"NAME"), u"a;b");
+}
+
+TEST_F(ConfigReader, AppendLineInTheDefaultFileCombinesWithTheCurrentTable)
+{
+    ReadCurrent("NAME = current\n");
+    ReadDefault("NAME = a\nNAME > b\n");
+    EXPECT_EQ(Value(u"NAME", kDefaultTable), u"current;b");
+}
+
+TEST_F(ConfigReader, AppendLineInTheDefaultFileStaysAloneWithoutACurrentValue)
+{
+    ReadDefault("NAME > b\n");
+    EXPECT_EQ(Value(u"NAME", kDefaultTable), u"b");
+}
+
+TEST_F(ConfigReader, DefaultListReadFirstKeepsOnlyItsLastItem)
+{
+    ReadDefault("NAME = a\nNAME > b\nNAME > c\n");
+    EXPECT_EQ(Value(u"NAME", kDefaultTable), u"c");
+}
+
+TEST_F(ConfigReader, EveryOperatorOfTheDefaultFileLooksAtTheCurrentTable)
+{
+    ReadCurrent("P = p\nC = 1\nD = .5\n");
+    ReadDefault("P < x\nC + 2\nD : 9\nE : 9\n");
+    EXPECT_EQ(Value(u"P", kDefaultTable), u"x;p");
+    EXPECT_EQ(Value(u"C", kDefaultTable), u"12");
+    EXPECT_EQ(Kind(u"C", kDefaultTable), SettingKindInteger);
+    EXPECT_EQ(Value(u"D", kDefaultTable), u".5");
+    EXPECT_EQ(Kind(u"D", kDefaultTable), SettingKindReal);
+    EXPECT_EQ(Value(u"E", kDefaultTable), u"9");
+}
+
+TEST_F(ConfigReader, ReadingTheDefaultFileLeavesTheCurrentTableAlone)
+{
+    ReadCurrent("A = 1\n");
+    store_.SetModified(false);
+    ReadDefault("A > 2\nB = 3\n");
+    EXPECT_EQ(Count(), 1u);
+    EXPECT_EQ(Value(u"A"), u"1");
+    EXPECT_FALSE(store_.IsModified());
+}
+
+TEST_F(ConfigReader, ReadingTheCurrentFileClearsTheMarkBeforeItsInsertionsSetIt)
+{
+    ReadCurrent("A = 1\n");
+    EXPECT_TRUE(store_.IsModified());
+    ReadCurrent("# nothing but a comment\n");
+    EXPECT_FALSE(store_.IsModified());
+}
+
+TEST_F(ConfigReader, FileOfCommentsOnlyEmptiesTheTable)
+{
+    ReadCurrent("A = 1\n");
+    ReadCurrent("# A = 1\n\n# B\n");
+    EXPECT_EQ(Count(), 0u);
+}
+
+TEST_F(ConfigReader, EmptyFileLeavesTheTableAsItWas)
+{
+    ReadCurrent("A = 1\n");
+    store_.SetModified(false);
+    ReadCurrent("");
+    EXPECT_EQ(Value(u"A"), u"1");
+    EXPECT_FALSE(store_.IsModified());
+}
+
+TEST_F(ConfigReader, PrependLineJoinsBeforeTheEarlierValue)
+{
+    ReadCurrent("NAME = a\nNAME < b\nNEW < c\n");
+    EXPECT_EQ(Value(u"NAME"), u"b;a");
+    EXPECT_EQ(Value(u"NEW"), u"c");
+}
+
+TEST_F(ConfigReader, ConcatenateLineJoinsWithoutASeparator)
+{
+    ReadCurrent("NAME = a\nNAME + b\nNEW + c\n");
+    EXPECT_EQ(Value(u"NAME"), u"ab");
+    EXPECT_EQ(Value(u"NEW"), u"c");
+}
+
+TEST_F(ConfigReader, ConditionalLineDefinesOnlyWhatIsUndefined)
+{
+    ReadCurrent("NAME = a\nNAME : b\nNEW : c\n");
+    EXPECT_EQ(Value(u"NAME"), u"a");
+    EXPECT_EQ(Value(u"NEW"), u"c");
+}
+
+TEST_F(ConfigReader, AssignmentReplacesTheEarlierValue)
+{
+    ReadCurrent("NAME = a\nNAME > b\nNAME = c\n");
+    EXPECT_EQ(Value(u"NAME"), u"c");
+}
+
+TEST_F(ConfigReader, OperatorsAreLookedForInTheirOrder)
+{
+    ReadCurrent("A = a\nA >= b\nA +> c\nA :< d\nA x+: e\n");
+    EXPECT_EQ(Value(u"A"), u"d;b;ce");
+}
+
+TEST_F(ConfigReader, JoiningToAnEmptyValueKeepsTheSeparator)
+{
+    ReadCurrent("A =\nA > b\nB =\nB < b\n");
+    EXPECT_EQ(Value(u"A"), u";b");
+    EXPECT_EQ(Value(u"B"), u"b;");
+}
+
+TEST_F(ConfigReader, DirectivesAreSkippedAndChangeNothingElse)
+{
+    ReadCurrent("\n# about A\n%include x.cfg\n% if defined (B)\nA = 1\n");
+    EXPECT_EQ(Count(), 1u);
+    EXPECT_EQ(Comment(u"A"), u"\n# about A\n");
+}
+
+TEST_F(ConfigReader, HeaderAboveTheFirstBlankLineIsDropped)
+{
+    ReadCurrent("# header\n#\n\n# about A\nA = 1\n# about B\n\nB = 2\n");
+    EXPECT_EQ(Comment(u"A"), u"\n# about A\n");
+    EXPECT_EQ(Comment(u"B"), u"# about B\n\n");
+}
+
+TEST_F(ConfigReader, FirstAssignmentEndsTheHeaderToo)
+{
+    ReadCurrent("# kept\nA = 1\n# one\n\n# two\nB = 2\n");
+    EXPECT_EQ(Comment(u"A"), u"# kept\n");
+    EXPECT_EQ(Comment(u"B"), u"# one\n\n# two\n");
+}
+
+TEST_F(ConfigReader, SkippedLineKeepsTheCommentForTheNextVariable)
+{
+    ReadCurrent("\n# one\nNAME=value\n# two\nB = 2\n");
+    EXPECT_EQ(Comment(u"B"), u"\n# one\n# two\n");
+}
+
+TEST_F(ConfigReader, LaterLinesOfANameKeepItsFirstComment)
+{
+    ReadCurrent("\n# one\nA = 1\n# two\nA > 2\n# three\nB = 1\n");
+    EXPECT_EQ(Comment(u"A"), u"\n# one\n");
+    EXPECT_EQ(Comment(u"B"), u"# three\n");
+}
+
+TEST_F(ConfigReader, IgnoredConditionalLineUsesUpItsComment)
+{
+    ReadCurrent("A = 1\n# about A\nA : 2\nB = 1\n");
+    EXPECT_EQ(Comment(u"B"), u"");
+}
+
+TEST_F(ConfigReader, CommentLinesAreTrimmed)
+{
+    ReadCurrent("\n  # a \t\n \t \nA = 1\n");
+    EXPECT_EQ(Comment(u"A"), u"\n# a\n\n");
+}
+
+TEST_F(ConfigReader, ValuesAreClassified)
+{
+    EXPECT_EQ(ClassifyValue(u""), SettingKindText);
+    EXPECT_EQ(ClassifyValue(u"0"), SettingKindInteger);
+    EXPECT_EQ(ClassifyValue(u"-12"), SettingKindInteger);
+    EXPECT_EQ(ClassifyValue(u"-"), SettingKindInteger);
+    EXPECT_EQ(ClassifyValue(u"1.5"), SettingKindReal);
+    EXPECT_EQ(ClassifyValue(u"-.5"), SettingKindReal);
+    EXPECT_EQ(ClassifyValue(u"."), SettingKindReal);
+    EXPECT_EQ(ClassifyValue(u"1.2.3"), SettingKindReal);
+    EXPECT_EQ(ClassifyValue(u"1-2"), SettingKindText);
+    EXPECT_EQ(ClassifyValue(u"--1"), SettingKindText);
+    EXPECT_EQ(ClassifyValue(u"+1"), SettingKindText);
+    EXPECT_EQ(ClassifyValue(u"1 "), SettingKindText);
+    EXPECT_EQ(ClassifyValue(u"1e5"), SettingKindText);
+    EXPECT_EQ(ClassifyValue(u"\uFF11"), SettingKindText); // a full-width digit
+}
+
+TEST_F(ConfigReader, ConcatenatedValuesAreClassifiedAsAWhole)
+{
+    const Text parts[] = {u"", u"-", u"1", u"12", u".", u"1.5", u"-2", u"a", u"1a"};
+    for (const Text& first : parts) {
+        for (const Text& second : parts) {
+            for (const Text& third : parts) {
+                std::string bytes = "A = " + Utf8FromText(first) + "\nA + " + Utf8FromText(second) +
+                                    "\nA + " + Utf8FromText(third) + "\n";
+                ReadCurrent(bytes);
+                EXPECT_EQ(Value(u"A"), first + second + third);
+                EXPECT_EQ(Kind(u"A"), ClassifyValue(first + second + third)) << bytes;
+            }
+        }
+    }
+}
+
+TEST_F(ConfigReader, ListOfNumbersIsText)
+{
+    ReadCurrent("A = 1\nA > 2\n");
+    EXPECT_EQ(Kind(u"A"), SettingKindText);
+}
+
+TEST_F(ConfigReader, NulBytesAreKept)
+{
+    ReadCurrent(std::string_view("A = x\0y\nB\0 = 1\n", 16));
+    EXPECT_EQ(Value(u"A"), Text(u"x\0y", 3));
+    EXPECT_EQ(Value(Text(u"B\0", 2)), u"1");
+}
+
+TEST_F(ConfigReader, LoneCarriageReturnIsPartOfItsLine)
+{
+    ReadCurrent("A = x\ry\r\r\nB = 1\r\n");
+    EXPECT_EQ(Value(u"A"), u"x\ry");
+    EXPECT_EQ(Value(u"B"), u"1");
+}
+
+TEST_F(ConfigReader, ControlZDoesNotEndTheFile)
+{
+    ReadCurrent("A = 1\x1A\nB = 2\n");
+    EXPECT_EQ(Value(u"A"), u"1\x1A");
+    EXPECT_EQ(Value(u"B"), u"2");
+}
+
+TEST_F(ConfigReader, LastLineNeedsNoLineEnd)
+{
+    ReadCurrent("A = 1\nB = 2");
+    EXPECT_EQ(Value(u"B"), u"2");
+}
+
+TEST_F(ConfigReader, ByteOrderMarkIsPartOfTheFirstLine)
+{
+    ReadCurrent("\xEF\xBB\xBF"
+                "A = 1\n");
+    EXPECT_EQ(Value(u"\u00EF\u00BB\u00BFA"), u"1");
+}
+
+TEST_F(ConfigReader, LineOfAMegabyteIsReadWhole)
+{
+    const std::string value(1 << 20, 'v');
+    ReadCurrent("A = " + value + "\nB = 2\n");
+    EXPECT_EQ(Value(u"A").size(), value.size());
+    EXPECT_EQ(Value(u"B"), u"2");
+}
+
+TEST_F(ConfigReader, MillionBlankLinesAreAComment)
+{
+    ReadCurrent(std::string(1000000, '\n') + "A = 1\n");
+    EXPECT_EQ(Comment(u"A").size(), 1000000u);
+}
+
+TEST_F(ConfigReader, FileIsReadInAnyBlocks)
+{
+    const std::string bytes = "# header\r\n\r\n# about A\r\nA = \"x\"\r\nA > y\r\nB = 2";
+    for (std::size_t block = 1; block <= bytes.size(); ++block) {
+        files_.contents[u"a.cfg"] = bytes;
+        files_.blockSize = block;
+        ASSERT_TRUE(ReadConfigFile(store_, kCurrentTable, u"a.cfg", files_).read);
+        EXPECT_EQ(Value(u"A"), u"x;y");
+        EXPECT_EQ(Comment(u"A"), u"\n# about A\n");
+        EXPECT_EQ(Value(u"B"), u"2");
+    }
+}
+
+TEST_F(ConfigReader, EmptyPathAndMissingFileAreNotReadWithoutAWord)
+{
+    ReadCurrent("A = 1\n");
+    for (const char16_t* path : {u"", u"missing.cfg"}) {
+        const ReadResult result = ReadConfigFile(store_, kCurrentTable, path, files_);
+        EXPECT_FALSE(result.read);
+        EXPECT_EQ(result.systemText, u"");
+    }
+    EXPECT_EQ(Value(u"A"), u"1");
+}
+
+TEST_F(ConfigReader, FileThatCannotBeOpenedIsToldAndLeavesTheStore)
+{
+    ReadCurrent("A = 1\n");
+    files_.contents[u"a.cfg"] = "B = 1\n";
+    files_.failing = {2}; // after the question whether it exists
+    const ReadResult result = ReadConfigFile(store_, kCurrentTable, u"a.cfg", files_);
+    EXPECT_FALSE(result.read);
+    EXPECT_EQ(result.systemText, test::kFaultText);
+    EXPECT_EQ(Value(u"A"), u"1");
+    EXPECT_FALSE(store_.HasSetting(u"B", kCurrentTable));
+}
+
+TEST_F(ConfigReader, FileThatBreaksOffWhileReadingLeavesTheStore)
+{
+    ReadCurrent("A = 1\n");
+    files_.contents[u"a.cfg"] = "B = 1\nC = 1\n";
+    files_.blockSize = 6;
+    files_.failing = {4}; // the second block
+    const ReadResult result = ReadConfigFile(store_, kCurrentTable, u"a.cfg", files_);
+    EXPECT_FALSE(result.read);
+    EXPECT_EQ(result.systemText, test::kFaultText);
+    EXPECT_EQ(Value(u"A"), u"1");
+    EXPECT_FALSE(store_.HasSetting(u"B", kCurrentTable));
+    EXPECT_EQ(files_.openFiles, 0);
+}
+
+TEST_F(ConfigReader, EmptyFileCountsAsRead)
+{
+    ReadCurrent("A = 1\n");
+    files_.contents[u"a.cfg"] = "";
+    EXPECT_TRUE(ReadConfigFile(store_, kCurrentTable, u"a.cfg", files_).read);
+    EXPECT_EQ(Value(u"A"), u"1");
+}
+
+} // namespace
+} // namespace ov

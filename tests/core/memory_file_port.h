@@ -1,0 +1,170 @@
+#pragma once
+
+#include "config/core/file_port.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <limits>
+#include <map>
+#include <set>
+#include <string>
+
+namespace ov::test
+{
+
+/// What the memory file port says about a fault.
+inline constexpr TextView kFaultText = u"The injected fault.";
+
+/// Thrown by the memory file port where the process shall end.
+struct Crash {
+};
+
+/// A file system in memory that fails on request. Its operations are numbered from 1 in the order
+/// of their calls. A write that fails or in which the process ends leaves half of its bytes behind.
+class MemoryFilePort final : public FilePort
+{
+  public:
+    std::map<Text, std::string> contents;
+    std::set<Text> directories;
+    std::size_t blockSize = std::numeric_limits<std::size_t>::max(); ///< At most so many bytes a read.
+    std::set<int> failing;                                           ///< Numbers of the calls that fail.
+    int crashing = 0; ///< Number of the call in which the process ends; 0 is none.
+    int calls = 0;
+    int openFiles = 0;
+    bool unflushed = false; ///< Bytes were written since the last flush.
+
+    FileKind Kind(const Text& path) override
+    {
+        const Call call(*this);
+        if (call.Fails())
+            return FileKind::Unknown;
+        if (directories.contains(path))
+            return FileKind::Directory;
+        return contents.contains(path) ? FileKind::File : FileKind::Absent;
+    }
+
+    bool IsSameFile(const Text& first, const Text& second) override
+    {
+        const Call call(*this);
+        return !call.Fails() && first == second && contents.contains(first);
+    }
+
+    FileResult OpenForReading(const Text& path, FileHandle& file) override
+    {
+        const Call call(*this);
+        if (call.Fails() || !contents.contains(path))
+            return Fault();
+        file = Open(path);
+        return {};
+    }
+
+    FileResult Read(FileHandle file, std::span<char> buffer, std::size_t& count) override
+    {
+        const Call call(*this);
+        if (call.Fails())
+            return Fault();
+        OpenFile& open = open_[file];
+        const std::string& content = contents[open.path];
+        count = std::min({buffer.size(), blockSize, content.size() - open.position});
+        std::copy_n(content.data() + open.position, count, buffer.data());
+        open.position += count;
+        return {};
+    }
+
+    FileResult Create(const Text& path, CreateMode mode, FileHandle& file) override
+    {
+        const Call call(*this);
+        if (call.Fails() || directories.contains(path) ||
+            (mode == CreateMode::New && contents.contains(path)))
+            return Fault();
+        contents[path].clear();
+        file = Open(path);
+        return {};
+    }
+
+    FileResult Write(FileHandle file, std::string_view bytes) override
+    {
+        const Call call(*this, true);
+        const bool whole = !call.Fails() && calls != crashing;
+        contents[open_[file].path].append(bytes, 0, whole ? bytes.size() : bytes.size() / 2);
+        unflushed = true;
+        call.EndHere();
+        return call.Fails() ? Fault() : FileResult{};
+    }
+
+    FileResult Flush(FileHandle) override
+    {
+        const Call call(*this);
+        if (call.Fails())
+            return Fault();
+        unflushed = false;
+        return {};
+    }
+
+    FileResult Close(FileHandle file) override
+    {
+        const Call call(*this);
+        open_.erase(file);
+        --openFiles;
+        return call.Fails() ? Fault() : FileResult{};
+    }
+
+    FileResult Rename(const Text& from, const Text& to) override
+    {
+        const Call call(*this);
+        if (call.Fails() || !contents.contains(from) || contents.contains(to) || directories.contains(to))
+            return Fault();
+        contents[to] = contents[from];
+        contents.erase(from);
+        return {};
+    }
+
+    FileResult Remove(const Text& path) override
+    {
+        const Call call(*this);
+        if (call.Fails() || contents.erase(path) == 0)
+            return Fault();
+        return {};
+    }
+
+  private:
+    struct OpenFile {
+        Text path;
+        std::size_t position = 0;
+    };
+
+    // Numbers a call and ends the process where that is asked for.
+    class Call
+    {
+      public:
+        explicit Call(MemoryFilePort& port, bool halfDone = false) : port_(port), number_(++port.calls)
+        {
+            if (number_ == port.crashing && !halfDone)
+                throw Crash();
+        }
+        void EndHere() const
+        {
+            if (number_ == port_.crashing)
+                throw Crash();
+        }
+        bool Fails() const { return port_.failing.contains(number_); }
+
+      private:
+        MemoryFilePort& port_;
+        int number_;
+    };
+
+    static FileResult Fault() { return {false, Text(kFaultText)}; }
+
+    FileHandle Open(const Text& path)
+    {
+        ++openFiles;
+        open_[++last_handle_] = {path, 0};
+        return last_handle_;
+    }
+
+    std::map<FileHandle, OpenFile> open_;
+    FileHandle last_handle_ = 0;
+};
+
+} // namespace ov::test
