@@ -76,12 +76,14 @@ class Save
     }
 
     // A file that cannot be read is overwritten all the same: a save is not given up for want of
-    // a backup.
+    // a backup. Reading is tried twice, since the memory is the only backup there will be.
     void KeepOldContentInMemory()
     {
-        std::string content;
-        if (ReadBlocks(files_, path_, [&content](std::string_view block) { content += block; }))
-            old_content_ = std::move(content);
+        for (int attempt = 0; attempt < 2 && !old_content_; ++attempt) {
+            std::string content;
+            if (ReadBlocks(files_, path_, [&content](std::string_view block) { content += block; }))
+                old_content_ = std::move(content);
+        }
     }
 
     bool Write(const std::string& bytes, CreateMode mode)
