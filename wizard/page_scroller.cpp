@@ -1,0 +1,122 @@
+#include "wizard/page_scroller.h"
+
+#include <iterator>
+
+namespace
+{
+
+// Spin buttons tell their parent about presses by the vertical scroll message.
+bool IsSpinButton(const CWnd* window)
+{
+    wchar_t name[32];
+    return AfxSafeHwnd(window) != nullptr &&
+           ::GetClassNameW(window->m_hWnd, name, static_cast<int>(std::size(name))) != 0 &&
+           ::lstrcmpiW(name, UPDOWN_CLASSW) == 0;
+}
+
+} // namespace
+
+CPageScroller::CPageScroller(CWnd& page, CSize displaySize) : m_page(page)
+{
+    m_horizontal.displaySize = displaySize.cx;
+    m_vertical.displaySize = displaySize.cy;
+}
+
+void CPageScroller::OnSize()
+{
+    if (m_page.GetSafeHwnd() == nullptr)
+        return;
+    ScrollToOrigin();
+    UpdateScrollBars();
+}
+
+void CPageScroller::ScrollToOrigin()
+{
+    if (m_page.GetSafeHwnd() == nullptr)
+        return;
+    for (const int bar : {SB_HORZ, SB_VERT}) {
+        if (const int shift = ov::ResetAxis(AxisOf(bar)); shift != 0) {
+            m_page.SetScrollPos(bar, 0, TRUE);
+            ScrollContent(bar, shift);
+        }
+    }
+}
+
+void CPageScroller::UpdateScrollBars()
+{
+    CRect window;
+    CRect client;
+    m_page.GetWindowRect(&window);
+    m_page.GetClientRect(&client);
+    const int width = ov::AvailableSize(window.Width(), client.Width(), ::GetSystemMetrics(SM_CXVSCROLL));
+    const int height = ov::AvailableSize(window.Height(), client.Height(), ::GetSystemMetrics(SM_CYHSCROLL));
+    const int dx = UpdateScrollBar(SB_HORZ, m_horizontal, width);
+    const int dy = UpdateScrollBar(SB_VERT, m_vertical, height);
+    if (dx != 0 || dy != 0)
+        m_page.ScrollWindow(dx, dy);
+}
+
+// Showing or hiding a bar resizes the page, which updates both bars from
+// within; what each bar shows is therefore asked right before it is set.
+int CPageScroller::UpdateScrollBar(int bar, ov::ScrollAxis& axis, int available)
+{
+    const ov::ScrollUpdate update = ov::UpdateAxis(axis, available, m_page.GetScrollPos(bar));
+    SCROLLINFO info{};
+    info.nMax = update.bar.maximum;
+    info.nPage = static_cast<UINT>(update.bar.pageSize);
+    info.nPos = update.bar.position;
+    info.cbSize = sizeof info;
+    info.fMask = SIF_RANGE | SIF_PAGE | SIF_POS;
+    m_page.SetScrollInfo(bar, &info, TRUE);
+    return update.contentShift;
+}
+
+bool CPageScroller::Request(int bar, ov::ScrollRequest request)
+{
+    if (m_page.GetSafeHwnd() == nullptr)
+        return false;
+    SCROLLINFO info{};
+    m_page.GetScrollInfo(bar, &info, SIF_TRACKPOS);
+    ov::ScrollAxis& axis = AxisOf(bar);
+    const int step = ov::Scroll(axis, request, info.nTrackPos);
+    if (step == 0)
+        return false;
+    m_page.SetScrollPos(bar, axis.position, TRUE);
+    ScrollContent(bar, -step);
+    return true;
+}
+
+void CPageScroller::ScrollContent(int bar, int shift)
+{
+    if (bar == SB_HORZ)
+        m_page.ScrollWindow(shift, 0);
+    else
+        m_page.ScrollWindow(0, shift);
+}
+
+void CPageScroller::OnHScroll(UINT code, const CWnd*)
+{
+    Request(SB_HORZ, static_cast<ov::ScrollRequest>(code));
+}
+
+void CPageScroller::OnVScroll(UINT code, const CWnd* sender)
+{
+    if (!IsSpinButton(sender))
+        Request(SB_VERT, static_cast<ov::ScrollRequest>(code));
+}
+
+BOOL CPageScroller::OnMouseWheel(short delta)
+{
+    int minimum = 0;
+    int maximum = 0;
+    m_page.GetScrollRange(SB_VERT, &minimum, &maximum);
+    if (minimum == maximum)
+        return FALSE;
+    UINT lines = 0;
+    ::SystemParametersInfoW(SPI_GETWHEELSCROLLLINES, 0, &lines, 0);
+    const ov::WheelSteps steps = ov::StepsOfWheel(delta, lines);
+    // A step that moves nothing has reached the end; the others would not either.
+    for (std::uint64_t i = 0; i < steps.count && Request(SB_VERT, steps.request); ++i) {
+    }
+    return TRUE;
+}

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "framework/afxwin.h"
+#include "wizard/core/page_scroll.h"
+
+/// Scrolls a page whose content is larger than its window, in both directions,
+/// with the window's own scroll bars. It belongs to its page.
+class CPageScroller
+{
+  public:
+    /// `displaySize` is the size of the page's whole content in pixels.
+    CPageScroller(CWnd& page, CSize displaySize);
+
+    /// After a new size of the page: back to the origin, bars fitted.
+    void OnSize();
+
+    /// Moves the content, child windows included, back to the top-left corner.
+    void ScrollToOrigin();
+
+    /// Performs a scroll-bar request; `sender` is the control that sent it, null
+    /// for the page's own bar.
+    void OnHScroll(UINT code, const CWnd* sender);
+    void OnVScroll(UINT code, const CWnd* sender);
+
+    /// Scrolls by a wheel movement (120 a notch). FALSE when the page has
+    /// nothing to scroll vertically.
+    BOOL OnMouseWheel(short delta);
+
+  private:
+    void UpdateScrollBars();
+    int UpdateScrollBar(int bar, ov::ScrollAxis& axis, int available);
+    bool Request(int bar, ov::ScrollRequest request);
+    void ScrollContent(int bar, int shift);
+    ov::ScrollAxis& AxisOf(int bar) { return bar == SB_HORZ ? m_horizontal : m_vertical; }
+
+    CWnd& m_page;
+    ov::ScrollAxis m_horizontal;
+    ov::ScrollAxis m_vertical;
+};
