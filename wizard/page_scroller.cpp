@@ -37,7 +37,7 @@ void CPageScroller::ScrollToOrigin()
     for (const int bar : {SB_HORZ, SB_VERT}) {
         if (const int shift = ov::ResetAxis(AxisOf(bar)); shift != 0) {
             m_page.SetScrollPos(bar, 0, TRUE);
-            ScrollContent(bar, shift);
+            ScrollAlong(bar, shift);
         }
     }
 }
@@ -53,7 +53,7 @@ void CPageScroller::UpdateScrollBars()
     const int dx = UpdateScrollBar(SB_HORZ, m_horizontal, width);
     const int dy = UpdateScrollBar(SB_VERT, m_vertical, height);
     if (dx != 0 || dy != 0)
-        m_page.ScrollWindow(dx, dy);
+        ScrollContent(dx, dy);
 }
 
 // Showing or hiding a bar resizes the page, which updates both bars from
@@ -82,16 +82,34 @@ bool CPageScroller::Request(int bar, ov::ScrollRequest request)
     if (step == 0)
         return false;
     m_page.SetScrollPos(bar, axis.position, TRUE);
-    ScrollContent(bar, -step);
+    ScrollAlong(bar, -step);
     return true;
 }
 
-void CPageScroller::ScrollContent(int bar, int shift)
+void CPageScroller::ScrollAlong(int bar, int shift)
 {
     if (bar == SB_HORZ)
-        m_page.ScrollWindow(shift, 0);
+        ScrollContent(shift, 0);
     else
-        m_page.ScrollWindow(0, shift);
+        ScrollContent(0, shift);
+}
+
+void CPageScroller::ScrollContent(int dx, int dy)
+{
+    if (m_page.IsWindowVisible()) {
+        m_page.ScrollWindow(dx, dy);
+        return;
+    }
+    // Windows scrolls nothing in a hidden window, and a page is resized before
+    // it is shown again: its controls are moved one by one.
+    for (HWND child = ::GetWindow(m_page.m_hWnd, GW_CHILD); child != nullptr;
+         child = ::GetWindow(child, GW_HWNDNEXT)) {
+        CRect rect;
+        ::GetWindowRect(child, &rect);
+        m_page.ScreenToClient(&rect);
+        ::SetWindowPos(child, nullptr, rect.left + dx, rect.top + dy, 0, 0,
+                       SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    }
 }
 
 void CPageScroller::OnHScroll(UINT code, const CWnd*)

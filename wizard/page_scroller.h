@@ -30,7 +30,8 @@ class CPageScroller
     void UpdateScrollBars();
     int UpdateScrollBar(int bar, ov::ScrollAxis& axis, int available);
     bool Request(int bar, ov::ScrollRequest request);
-    void ScrollContent(int bar, int shift);
+    void ScrollContent(int dx, int dy);
+    void ScrollAlong(int bar, int shift);
     ov::ScrollAxis& AxisOf(int bar) { return bar == SB_HORZ ? m_horizontal : m_vertical; }
 
     CWnd& m_page;
