@@ -1,0 +1,42 @@
+#include "app/cmd_line_info.h"
+
+#include "framework/wide.h"
+
+void CCmdLineInfo::ParseParam(LPCWSTR parameter, BOOL isFlag, BOOL isLast)
+{
+    struct Keyword {
+        ov::TextView word;
+        ov::Text& target;
+    };
+    const Keyword keywords[] = {
+        {u"DEFAULT:", m_defaultPath},
+        {u"CURRENT:", m_currentPath},
+        {u"USER:", m_userName},
+    };
+    const ov::Text text = FromWide(parameter);
+    for (const Keyword& keyword : keywords) {
+        // Found anywhere, yet cut by length from the start: a keyword belongs
+        // at the very beginning, and nothing checks that it stands there.
+        if (text.find(keyword.word) != ov::Text::npos) {
+            keyword.target = text.substr(keyword.word.size());
+            return;
+        }
+    }
+    if (text.empty() || isFlag)
+        return;
+    switch (m_positional++) {
+    case 0:
+        m_defaultPath = text;
+        if (isLast)
+            m_currentPath = text;
+        break;
+    case 1:
+        m_currentPath = text;
+        break;
+    case 2:
+        m_userName = text;
+        break;
+    default:
+        break;
+    }
+}

@@ -1,0 +1,137 @@
+#include "app/preferences_app.h"
+
+#include "config/system_info.h"
+#include "controls/application.h"
+#include "pages/page_factory.h"
+#include "resources/ids.h"
+#include "wizard/application_texts.h"
+#include "wizard/page_factory.h"
+#include "wizard/preferences_wizard.h"
+
+CPreferencesApp theApp;
+CCmdLineInfo theCommandLine;
+CToolTipControl theToolTip;
+
+namespace
+{
+HICON dialogIcon = nullptr;
+
+// How the tooltip window is made: a balloon; the second word is carried along.
+constexpr UINT toolTipSecondStyle = 8;
+constexpr LONG fallbackFontHeight = 14;
+
+/// Puts the previous main window back however the dialog ends.
+class MainWindowScope
+{
+  public:
+    explicit MainWindowScope(CWnd* window) : m_previous(theApp.m_pMainWnd) { theApp.m_pMainWnd = window; }
+    ~MainWindowScope() { theApp.m_pMainWnd = m_previous; }
+    MainWindowScope(const MainWindowScope&) = delete;
+    MainWindowScope& operator=(const MainWindowScope&) = delete;
+
+  private:
+    CWnd* m_previous;
+};
+
+/// The tooltip window lives exactly as long as the dialog.
+class ToolTipScope
+{
+  public:
+    explicit ToolTipScope(CWnd* owner)
+    {
+        if (theToolTip.GetSafeHwnd() == nullptr)
+            theToolTip.Create(owner, ToolTipBalloon, toolTipSecondStyle, nullptr);
+    }
+    ~ToolTipScope()
+    {
+        if (theToolTip.GetSafeHwnd() != nullptr)
+            theToolTip.DestroyWindow();
+    }
+    ToolTipScope(const ToolTipScope&) = delete;
+    ToolTipScope& operator=(const ToolTipScope&) = delete;
+};
+} // namespace
+
+BOOL CPreferencesApp::InitInstance()
+{
+    INITCOMMONCONTROLSEX controls{sizeof controls,
+                                  ICC_WIN95_CLASSES | ICC_STANDARD_CLASSES | ICC_DATE_CLASSES};
+    ::InitCommonControlsEx(&controls);
+    CWinApp::InitInstance();
+    AfxEnableControlContainer();
+    SetRegistryKey(L"Orthoval Preferences");
+    return TRUE;
+}
+
+int CPreferencesApp::ExitInstance()
+{
+    if (theToolTip.GetSafeHwnd() != nullptr)
+        theToolTip.DestroyWindow();
+    return CWinApp::ExitInstance();
+}
+
+CFont* CPreferencesApp::GetDialogFont()
+{
+    if (m_dialogFont.GetSafeHandle() != nullptr)
+        return &m_dialogFont;
+    if (m_pMainWnd == nullptr || m_pMainWnd->GetSafeHwnd() == nullptr)
+        return nullptr;
+    LOGFONTW description{};
+    const auto font = reinterpret_cast<HFONT>(m_pMainWnd->SendMessage(WM_GETFONT, 0, 0));
+    if (font == nullptr || ::GetObjectW(font, sizeof description, &description) == 0) {
+        description = {};
+        description.lfHeight = fallbackFontHeight;
+        description.lfPitchAndFamily = FF_SWISS;
+        ::lstrcpynW(description.lfFaceName, L"Tahoma", LF_FACESIZE);
+    }
+    return m_dialogFont.CreateFontIndirect(&description) ? &m_dialogFont : nullptr;
+}
+
+unsigned int CPreferencesApp::ShowPreferences(CWnd* parent)
+{
+    if (dialogIcon == nullptr)
+        dialogIcon = LoadIcon(IDI_TOOLTIP);
+    CPreferencesWizard dialog(parent);
+    const MainWindowScope mainWindow(&dialog);
+    const ToolTipScope toolTip(&dialog);
+    if (!dialog.CreatePages())
+        return 1;
+    return dialog.DoModal() == -1 ? 1 : 0;
+}
+
+const ov::Text& CPreferencesApp::GetUserName()
+{
+    if (ov::Trim(theCommandLine.m_userName).empty())
+        theCommandLine.m_userName = GetLogonUserName();
+    return theCommandLine.m_userName;
+}
+
+CFont* GetSharedDialogFont()
+{
+    return theApp.GetDialogFont();
+}
+
+CToolTipControl* GetToolTipControl()
+{
+    return theToolTip.GetSafeHwnd() != nullptr ? &theToolTip : nullptr;
+}
+
+const ov::Text& GetDefaultConfigPath()
+{
+    return theCommandLine.m_defaultPath;
+}
+
+const ov::Text& GetCurrentConfigPath()
+{
+    return theCommandLine.m_currentPath;
+}
+
+const ov::Text& GetConfigUserName()
+{
+    return theApp.GetUserName();
+}
+
+std::unique_ptr<CWizardPage> CreateCataloguePage(const ov::PageInfo& info, CPreferencesWizard* owner)
+{
+    return MakePage(info, owner);
+}

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "app/cmd_line_info.h"
+#include "controls/tool_tip_control.h"
+#include "framework/afxwin.h"
+
+/// The process-wide application object: it carries what outlives a dialog (the
+/// three texts, the icon, the font) and owns the tooltip window.
+class CPreferencesApp : public CWinApp
+{
+  public:
+    BOOL InitInstance() override;
+    int ExitInstance() override;
+
+    /// The font of every dialog: a copy of the main window's font, or Tahoma 14
+    /// when it has none. Made on first request; none without a main window.
+    CFont* GetDialogFont();
+
+    /// Shows the dialog modally. 0 when it was shown, 1 when it could not be
+    /// set up.
+    unsigned int ShowPreferences(CWnd* parent);
+
+    /// The name for the saved file's header: as given, else the logged-on
+    /// user's, asked for once.
+    const ov::Text& GetUserName();
+
+  private:
+    CFont m_dialogFont;
+};
+
+extern CPreferencesApp theApp;
+extern CCmdLineInfo theCommandLine;
+extern CToolTipControl theToolTip;

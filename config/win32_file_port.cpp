@@ -1,0 +1,146 @@
+#include "config/win32_file_port.h"
+
+#include <algorithm>
+#include <limits>
+
+#include "framework/afxwin.h"
+
+namespace
+{
+// How much of the system's text a message shows, in characters.
+constexpr DWORD systemTextCapacity = 256;
+
+ov::FileResult Failed(DWORD error)
+{
+    wchar_t buffer[systemTextCapacity];
+    const DWORD length = ::FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr,
+                                          error, 0, buffer, systemTextCapacity, nullptr);
+    const ov::Text text = FromWide(std::wstring_view(buffer, length));
+    return {false, ov::Text(ov::Trim(text))};
+}
+
+ov::FileResult Result(BOOL succeeded)
+{
+    return succeeded ? ov::FileResult{} : Failed(::GetLastError());
+}
+
+HANDLE Handle(ov::FileHandle file)
+{
+    return reinterpret_cast<HANDLE>(file);
+}
+
+DWORD PieceOf(std::size_t size)
+{
+    return static_cast<DWORD>(std::min<std::size_t>(size, std::numeric_limits<DWORD>::max()));
+}
+
+/// What tells one file from another, whatever path leads to it.
+bool IdentityOf(const ov::Text& path, BY_HANDLE_FILE_INFORMATION& identity)
+{
+    const HANDLE file = ::CreateFileW(Wide(path), 0, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                                      nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+    if (file == INVALID_HANDLE_VALUE)
+        return false;
+    const bool known = ::GetFileInformationByHandle(file, &identity) != FALSE;
+    ::CloseHandle(file);
+    return known;
+}
+} // namespace
+
+ov::FileKind CWin32FilePort::Kind(const ov::Text& path)
+{
+    const DWORD attributes = ::GetFileAttributesW(Wide(path));
+    if (attributes != INVALID_FILE_ATTRIBUTES)
+        return (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0 ? ov::FileKind::Directory : ov::FileKind::File;
+    switch (::GetLastError()) {
+    case ERROR_FILE_NOT_FOUND:
+    case ERROR_PATH_NOT_FOUND:
+    case ERROR_INVALID_NAME:
+    case ERROR_BAD_PATHNAME:
+    case ERROR_INVALID_DRIVE:
+        return ov::FileKind::Absent;
+    default:
+        return ov::FileKind::Unknown;
+    }
+}
+
+bool CWin32FilePort::IsSameFile(const ov::Text& first, const ov::Text& second)
+{
+    BY_HANDLE_FILE_INFORMATION one{};
+    BY_HANDLE_FILE_INFORMATION other{};
+    return IdentityOf(first, one) && IdentityOf(second, other) &&
+           one.dwVolumeSerialNumber == other.dwVolumeSerialNumber &&
+           one.nFileIndexHigh == other.nFileIndexHigh && one.nFileIndexLow == other.nFileIndexLow;
+}
+
+ov::FileResult CWin32FilePort::OpenForReading(const ov::Text& path, ov::FileHandle& file)
+{
+    const HANDLE opened = ::CreateFileW(Wide(path), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                                        OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr);
+    if (opened == INVALID_HANDLE_VALUE)
+        return Failed(::GetLastError());
+    file = reinterpret_cast<ov::FileHandle>(opened);
+    return {};
+}
+
+ov::FileResult CWin32FilePort::Read(ov::FileHandle file, std::span<char> buffer, std::size_t& count)
+{
+    DWORD got = 0;
+    const BOOL succeeded = ::ReadFile(Handle(file), buffer.data(), PieceOf(buffer.size()), &got, nullptr);
+    count = got;
+    return Result(succeeded);
+}
+
+ov::FileResult CWin32FilePort::Create(const ov::Text& path, ov::CreateMode mode, ov::FileHandle& file)
+{
+    // OPEN_ALWAYS and a cut rather than CREATE_ALWAYS, which refuses hidden
+    // files and drops the attributes that a file has.
+    const DWORD disposition = mode == ov::CreateMode::New ? CREATE_NEW : OPEN_ALWAYS;
+    const HANDLE created = ::CreateFileW(Wide(path), GENERIC_WRITE, FILE_SHARE_READ, nullptr, disposition,
+                                         FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (created == INVALID_HANDLE_VALUE)
+        return Failed(::GetLastError());
+    if (mode == ov::CreateMode::Truncate && !::SetEndOfFile(created)) {
+        const DWORD error = ::GetLastError();
+        ::CloseHandle(created);
+        return Failed(error);
+    }
+    file = reinterpret_cast<ov::FileHandle>(created);
+    return {};
+}
+
+ov::FileResult CWin32FilePort::Write(ov::FileHandle file, std::string_view bytes)
+{
+    while (!bytes.empty()) {
+        DWORD written = 0;
+        if (!::WriteFile(Handle(file), bytes.data(), PieceOf(bytes.size()), &written, nullptr))
+            return Failed(::GetLastError());
+        if (written == 0)
+            return Failed(ERROR_WRITE_FAULT);
+        bytes.remove_prefix(written);
+    }
+    return {};
+}
+
+ov::FileResult CWin32FilePort::Flush(ov::FileHandle file)
+{
+    return Result(::FlushFileBuffers(Handle(file)));
+}
+
+ov::FileResult CWin32FilePort::Close(ov::FileHandle file)
+{
+    return Result(::CloseHandle(Handle(file)));
+}
+
+ov::FileResult CWin32FilePort::Rename(const ov::Text& from, const ov::Text& to)
+{
+    return Result(::MoveFileExW(Wide(from), Wide(to), MOVEFILE_WRITE_THROUGH));
+}
+
+ov::FileResult CWin32FilePort::Remove(const ov::Text& path)
+{
+    const DWORD attributes = ::GetFileAttributesW(Wide(path));
+    if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0)
+        ::SetFileAttributesW(Wide(path), attributes & ~DWORD{FILE_ATTRIBUTE_READONLY});
+    return Result(::DeleteFileW(Wide(path)));
+}

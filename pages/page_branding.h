@@ -1,0 +1,16 @@
+#pragma once
+
+#include "pages/settings_page.h"
+
+/// Branding of feature tables.
+class CPageBranding : public CSettingsPage
+{
+    DECLARE_DYNAMIC(CPageBranding)
+
+  public:
+    CPageBranding(CPreferencesWizard* owner, const ov::PageInfo& info);
+
+  protected:
+    void OnBrowseRenames();
+    DECLARE_MESSAGE_MAP()
+};

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "controls/pref_list_ctrl.h"
+#include "wizard/wizard_page.h"
+
+/// The category list on the left: one row per page; selecting a row shows its
+/// page. A page itself by its looks, but it holds no settings.
+class CLeftPane : public CWizardPage
+{
+    DECLARE_DYNAMIC(CLeftPane)
+
+  public:
+    CLeftPane(CPreferencesWizard* wizard, CSize scrollSize);
+
+    BOOL OnInitDialog() override;
+    bool CreateOrShow(CWnd* parent, const CRect& rectangle) override;
+
+    /// Makes and places the pane; false when its window could not be made.
+    bool Show(CPreferencesWizard* wizard, const CRect& rectangle);
+
+  protected:
+    void DoDataExchange(CDataExchange* exchange) override;
+    void InitControlLayout() override;
+    virtual void RegisterTooltips();
+
+    void OnItemChanged(NMHDR* header, LRESULT* result);
+    DECLARE_MESSAGE_MAP()
+
+  private:
+    void FillList();
+
+    CPreferencesWizard* m_wizard;
+    CPrefListCtrl m_list;
+};

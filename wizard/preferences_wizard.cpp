@@ -1,0 +1,313 @@
+#include "wizard/preferences_wizard.h"
+
+#include <algorithm>
+
+#include "controls/application.h"
+#include "controls/core/layout.h"
+#include "controls/tool_tip_control.h"
+#include "pages/core/page_catalogue.h"
+#include "resources/ids.h"
+#include "wizard/application_texts.h"
+#include "wizard/core/wizard_state.h"
+#include "wizard/messages.h"
+#include "wizard/page_factory.h"
+
+namespace
+{
+// Reference size for proportional placement and the smallest size, in pixels.
+constexpr UINT designWidth = 580;
+constexpr UINT designHeight = 400;
+constexpr CSize leftPaneScrollSize{100, 300};
+constexpr UINT lastPageId = 29;
+constexpr UINT firstShownPageId = 2;
+} // namespace
+
+IMPLEMENT_DYNAMIC(CPreferencesWizard, CResizableDlg)
+
+BEGIN_MESSAGE_MAP(CPreferencesWizard, CResizableDlg)
+    ON_WM_SIZE()
+    ON_WM_PAINT()
+    ON_WM_SYSCOMMAND()
+    ON_WM_GETMINMAXINFO()
+    ON_WM_QUERYDRAGICON()
+    ON_BN_CLICKED(IDC_PREFERENCES_BROWSE, &CPreferencesWizard::OnBrowseConfigFile)
+    ON_BN_CLICKED(IDC_PREFERENCES_SAVE, &CPreferencesWizard::OnSave)
+    ON_BN_CLICKED(IDCANCEL, &CPreferencesWizard::OnCancelCommand)
+    ON_BN_CLICKED(IDC_PREFERENCES_LOAD_DEFAULTS, &CPreferencesWizard::OnLoadDefaults)
+    ON_MESSAGE(WM_PAGE_MODIFIED, &CPreferencesWizard::OnPageModified)
+END_MESSAGE_MAP()
+
+CPreferencesWizard::CPreferencesWizard(CWnd* parent)
+    : CResizableDlg(IDD_PREFERENCES, parent, true, designWidth, designHeight),
+      m_icon(AfxGetApp()->LoadIcon(IDI_PREFERENCES))
+{
+    CPreferencesWizard::InitControlLayout();
+}
+
+CPreferencesWizard::~CPreferencesWizard()
+{
+    m_configFile.reset();
+    m_pages.clear();
+    m_leftPane.reset();
+}
+
+void CPreferencesWizard::DoDataExchange(CDataExchange* exchange)
+{
+    CResizableDlg::DoDataExchange(exchange);
+    DDX_Control(exchange, IDC_PREFERENCES_CONFIG_FILE, m_configPathEdit);
+    DDX_Control(exchange, IDC_PREFERENCES_SAVE, m_saveButton);
+    DDX_Control(exchange, IDC_PREFERENCES_LOAD_DEFAULTS, m_loadDefaultsButton);
+    DDX_Control(exchange, IDC_PREFERENCES_DESCRIPTION, m_focusDescriptionEdit);
+    DDX_Control(exchange, IDC_PREFERENCES_VARIABLE_NAME, m_focusVariableEdit);
+}
+
+void CPreferencesWizard::InitControlLayout()
+{
+    using namespace ov;
+    constexpr auto bottomLeft = LayoutKeepLeft | LayoutAnchorBottom;
+    AddLayout(IDC_PREFERENCES_PANE_AREA, LayoutStretchHeight);
+    AddLayout(IDC_PREFERENCES_PAGE_AREA, LayoutStretchWidth | LayoutStretchHeight);
+    AddLayout(IDC_PREFERENCES_CONFIG_FILE_LABEL, LayoutKeepLeft | LayoutKeepTop);
+    AddLayout(IDC_PREFERENCES_CONFIG_FILE, LayoutKeepTop | LayoutStretchWidth);
+    AddLayout(IDC_PREFERENCES_BROWSE, LayoutKeepTop | LayoutAnchorRight);
+    AddLayout(IDC_PREFERENCES_DESCRIPTION_LABEL, bottomLeft);
+    AddLayout(IDC_PREFERENCES_DESCRIPTION, LayoutAnchorBottom | LayoutStretchWidth);
+    AddLayout(IDC_PREFERENCES_SAVE, bottomLeft);
+    AddLayout(IDC_PREFERENCES_LOAD_DEFAULTS, bottomLeft);
+    AddLayout(IDCANCEL, LayoutAnchorRight | LayoutAnchorBottom);
+    AddLayout(IDC_PREFERENCES_VARIABLE_NAME_LABEL, bottomLeft);
+    AddLayout(IDC_PREFERENCES_VARIABLE_NAME, bottomLeft);
+}
+
+void CPreferencesWizard::RegisterTooltips()
+{
+    CToolTipControl* tips = GetToolTipControl();
+    if (tips == nullptr)
+        return;
+    tips->AddTool(&m_configPathEdit, IDS_HELP_PREFERENCES_CONFIG_FILE);
+    tips->AddTool(GetDlgItem(IDC_PREFERENCES_BROWSE), IDS_HELP_PREFERENCES_BROWSE);
+    tips->AddTool(&m_saveButton, IDS_HELP_PREFERENCES_SAVE);
+    tips->AddTool(GetDlgItem(IDCANCEL), IDS_HELP_PREFERENCES_CANCEL);
+}
+
+bool CPreferencesWizard::CreatePages()
+{
+    for (const ov::PageInfo& info : ov::PageCatalogue()) {
+        if (auto page = CreateCataloguePage(info, this))
+            m_pages.push_back(std::move(page));
+    }
+    return true;
+}
+
+bool CPreferencesWizard::CreateLeftPane()
+{
+    if (!m_leftPane)
+        m_leftPane = std::make_unique<CLeftPane>(this, leftPaneScrollSize);
+    if (!m_leftPane->Show(this, PlaceholderRect(IDC_PREFERENCES_PANE_AREA)))
+        return false;
+    PlaceAfter(*m_leftPane, IDC_PREFERENCES_PANE_AREA);
+    return true;
+}
+
+BOOL CPreferencesWizard::OnInitDialog()
+{
+    CResizableDlg::OnInitDialog();
+    SetIcon(m_icon, TRUE);
+    SetIcon(m_icon, FALSE);
+    if (!CreateLeftPane())
+        return TRUE;
+    RegisterTooltips();
+
+    // Every page gets its window now, so that all of them hold their values
+    // before the person sees any.
+    for (UINT pageId = 1; pageId <= lastPageId; ++pageId)
+        SelectPage(pageId);
+    SelectPage(firstShownPageId);
+    m_store.SetModified(false);
+
+    m_defaultPath = GetDefaultConfigPath();
+    const bool haveDefaults = !ov::Trim(m_defaultPath).empty();
+    if (haveDefaults) {
+        ReadConfigFile(1);
+        LoadAllPages(1);
+    }
+    m_currentPath = GetCurrentConfigPath();
+    const bool haveCurrent = !ov::Trim(m_currentPath).empty();
+    if (haveCurrent) {
+        m_configPathEdit.SetWindowText(m_currentPath);
+        OpenConfigFile(true);
+    }
+    if (haveDefaults && m_currentPath.empty())
+        m_store.SetModified(false);
+    UpdateButtons();
+    return TRUE;
+}
+
+CRect CPreferencesWizard::PlaceholderRect(UINT id) const
+{
+    CRect rectangle;
+    if (const CWnd* placeholder = GetDlgItem(id)) {
+        placeholder->GetWindowRect(&rectangle);
+        ScreenToClient(&rectangle);
+    }
+    return rectangle;
+}
+
+void CPreferencesWizard::PlaceAfter(CWnd& child, UINT placeholderId)
+{
+    // The tab order is the Z order: the child takes its placeholder's turn.
+    if (const CWnd* placeholder = GetDlgItem(placeholderId))
+        child.SetWindowPos(placeholder, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+}
+
+bool CPreferencesWizard::HasPage(UINT pageId) const
+{
+    return std::ranges::any_of(m_pages, [&](const auto& page) { return page->GetPageId() == pageId; });
+}
+
+void CPreferencesWizard::SelectPage(UINT pageId)
+{
+    const auto found =
+        std::ranges::find_if(m_pages, [&](const auto& page) { return page->GetPageId() == pageId; });
+    if (found == m_pages.end())
+        return;
+    const int index = static_cast<int>(found - m_pages.begin());
+    if (index == m_currentPage)
+        return;
+    m_currentPage = index;
+    CWizardPage& page = **found;
+    if (page.CreateOrShow(this, PlaceholderRect(IDC_PREFERENCES_PAGE_AREA))) {
+        PlaceAfter(page, IDC_PREFERENCES_PAGE_AREA);
+        page.OnPostShow();
+    }
+    for (const auto& other : m_pages) {
+        if (other.get() != &page && other->GetSafeHwnd() != nullptr)
+            other->ShowWindow(SW_HIDE);
+    }
+}
+
+void CPreferencesWizard::RepositionCurrentPage()
+{
+    if (m_currentPage < 0 || m_currentPage >= static_cast<int>(m_pages.size()))
+        return;
+    if (GetSafeHwnd() != nullptr && GetDlgItem(IDC_PREFERENCES_PAGE_AREA) != nullptr)
+        m_pages[static_cast<size_t>(m_currentPage)]->MoveToRect(PlaceholderRect(IDC_PREFERENCES_PAGE_AREA));
+}
+
+void CPreferencesWizard::OnSize(UINT type, int width, int height)
+{
+    CResizableDlg::OnSize(type, width, height);
+    if (type != SIZE_MINIMIZED && m_leftPane)
+        m_leftPane->MoveToRect(PlaceholderRect(IDC_PREFERENCES_PANE_AREA));
+}
+
+void CPreferencesWizard::OnGetMinMaxInfo(MINMAXINFO* info)
+{
+    ApplyMinimumSize(info);
+}
+
+void CPreferencesWizard::OnSysCommand(UINT id, LPARAM lParam)
+{
+    CResizableDlg::OnSysCommand(id, lParam);
+}
+
+void CPreferencesWizard::OnPaint()
+{
+    if (!IsIconic()) {
+        CResizableDlg::OnPaint();
+        return;
+    }
+    CPaintDC paint(this);
+    CRect client;
+    GetClientRect(&client);
+    const int x = (client.Width() - ::GetSystemMetrics(SM_CXICON) + 1) / 2;
+    const int y = (client.Height() - ::GetSystemMetrics(SM_CYICON) + 1) / 2;
+    paint.DrawIcon(x, y, m_icon);
+}
+
+HCURSOR CPreferencesWizard::OnQueryDragIcon()
+{
+    return m_icon;
+}
+
+BOOL CPreferencesWizard::PreTranslateMessage(MSG* message)
+{
+    UpdateFocusItems();
+    return CResizableDlg::PreTranslateMessage(message);
+}
+
+void CPreferencesWizard::UpdateFocusItems()
+{
+    const HWND focus = ::GetFocus();
+    if (focus == nullptr || focus == m_focusDescriptionEdit.GetSafeHwnd() || focus == m_lastFocus)
+        return;
+    m_lastFocus = focus;
+    CWnd* control = CWnd::FromHandle(focus);
+    if (control == nullptr || !control->IsWindowVisible() || focus == m_focusVariableEdit.GetSafeHwnd())
+        return;
+    if (const CToolTipControl* tips = GetToolTipControl()) {
+        m_focusDescriptionEdit.SetWindowText(tips->GetDescription(control));
+        m_focusVariableEdit.SetWindowText(tips->GetVariableName(control));
+    }
+}
+
+void CPreferencesWizard::UpdateButtons()
+{
+    const ov::ButtonStates states = ov::StatesOfButtons(m_store.IsModified(), m_store.Count(1));
+    if (m_saveButton.GetSafeHwnd() != nullptr)
+        m_saveButton.EnableWindow(states.save);
+    if (m_loadDefaultsButton.GetSafeHwnd() != nullptr)
+        m_loadDefaultsButton.EnableWindow(states.loadDefaults);
+}
+
+void CPreferencesWizard::LoadAllPages(int selector)
+{
+    for (const auto& page : m_pages) {
+        if (page->GetSafeHwnd() != nullptr)
+            page->LoadSettings(selector);
+        else
+            page->SetPendingSelector(selector);
+    }
+    m_store.SetModified(selector != 0);
+    UpdateButtons();
+}
+
+LRESULT CPreferencesWizard::OnPageModified(WPARAM, LPARAM modified)
+{
+    m_store.SetModified(modified != 0);
+    UpdateButtons();
+    return 1;
+}
+
+void CPreferencesWizard::OnLoadDefaults()
+{
+    LoadAllPages(1);
+}
+
+void CPreferencesWizard::OnSave()
+{
+    if (SaveAllPages())
+        EndDialog(IDOK);
+}
+
+void CPreferencesWizard::OnCancelCommand()
+{
+    if (m_store.IsModified()) {
+        const int answer = ShowMessage(AfxLoadString(IDS_ASK_ABANDON),
+                                       MB_YESNOCANCEL | MB_ICONQUESTION | MB_SETFOREGROUND | MB_TOPMOST);
+        if (answer == IDCANCEL || (answer == IDNO && !SaveAllPages()))
+            return;
+    }
+    EndDialog(IDCANCEL);
+}
+
+void CPreferencesWizard::OnOK()
+{
+    // Enter in one of the read-only fields arrives as OK. No button stands for
+    // it, and closing here would drop the edits without a question.
+}
+
+int CPreferencesWizard::ShowMessage(const ov::Text& text, UINT type)
+{
+    return AfxShowMessageBox(m_hWnd, text, AfxLoadString(IDS_APP_CAPTION), type);
+}

@@ -1,0 +1,216 @@
+#include "wizard/wizard_page.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "resources/ids.h"
+#include "wizard/core/wizard_state.h"
+#include "wizard/messages.h"
+#include "wizard/preferences_wizard.h"
+#include "wizard/prefs_mem_dc.h"
+
+namespace
+{
+// The reference size for proportional placement, shared by every dialog.
+constexpr UINT designWidth = 580;
+constexpr UINT designHeight = 400;
+
+constexpr int pageColour = COLOR_MENU;
+
+ov::KeyTarget TargetOf(const CWnd* window)
+{
+    if (window == nullptr)
+        return ov::KeyTarget::None;
+    wchar_t className[16];
+    ::GetClassNameW(window->m_hWnd, className, static_cast<int>(std::size(className)));
+    if (::lstrcmpiW(className, L"Edit") != 0)
+        return ov::KeyTarget::Other;
+    return (window->GetStyle() & ES_MULTILINE) != 0 ? ov::KeyTarget::MultiLineEdit
+                                                    : ov::KeyTarget::SingleLineEdit;
+}
+} // namespace
+
+IMPLEMENT_DYNAMIC(CWizardPage, CResizableDlg)
+
+BEGIN_MESSAGE_MAP(CWizardPage, CResizableDlg)
+    ON_WM_SIZE()
+    ON_WM_PAINT()
+    ON_WM_ERASEBKGND()
+    ON_MESSAGE(WM_CTLCOLORSTATIC, &CWizardPage::OnCtlColorStatic)
+    ON_WM_HSCROLL()
+    ON_WM_VSCROLL()
+    ON_WM_MOUSEWHEEL()
+END_MESSAGE_MAP()
+
+CWizardPage::CWizardPage(CPreferencesWizard* owner, UINT pageId, CSize scrollSize, UINT templateId)
+    : CResizableDlg(templateId, nullptr, false, designWidth, designHeight), m_templateId(templateId),
+      m_pageId(pageId), m_owner(owner), m_scroller(*this, scrollSize)
+{
+}
+
+CWizardPage::~CWizardPage() = default;
+
+BOOL CWizardPage::PreTranslateMessage(MSG* message)
+{
+    const bool isKey = message->message == WM_KEYDOWN || message->message == WM_KEYUP;
+    if (isKey && message->wParam == VK_RETURN) {
+        // Enter must never reach the dialog as "OK": it would close it.
+        switch (ov::EnterRule(TargetOf(CWnd::FromHandle(message->hwnd)))) {
+        case ov::EnterAction::Swallow:
+            return TRUE;
+        case ov::EnterAction::BecomeSpace:
+            message->wParam = VK_SPACE;
+            break;
+        case ov::EnterAction::Pass:
+            break;
+        }
+    }
+    if (isKey && message->wParam == VK_TAB && OnTabKey())
+        return TRUE;
+    return CResizableDlg::PreTranslateMessage(message);
+}
+
+bool CWizardPage::CreateOrShow(CWnd* parent, const CRect& rectangle)
+{
+    if (GetSafeHwnd() == nullptr && !Create(GetTemplateId(), parent))
+        return false;
+    if (parent != nullptr) {
+        MoveToRect(rectangle);
+        ShowWindow(SW_SHOW);
+    }
+    return true;
+}
+
+void CWizardPage::MoveToRect(const CRect& rectangle)
+{
+    if (GetSafeHwnd() != nullptr)
+        MoveWindow(rectangle, TRUE);
+}
+
+void CWizardPage::SetModified(bool modified)
+{
+    if (CPreferencesWizard* wizard = GetParentWizard())
+        wizard->SendMessage(WM_PAGE_MODIFIED, reinterpret_cast<WPARAM>(m_hWnd), modified ? 1 : 0);
+}
+
+bool CWizardPage::LoadSettings(int)
+{
+    return false;
+}
+
+bool CWizardPage::SaveSettings(CPreferencesWizard*)
+{
+    return false;
+}
+
+CPreferencesWizard* CWizardPage::GetParentWizard() const
+{
+    if (GetSafeHwnd() == nullptr)
+        return nullptr;
+    return DYNAMIC_DOWNCAST(CPreferencesWizard, GetParent());
+}
+
+int CWizardPage::TakePendingSelector()
+{
+    return std::exchange(m_pendingSelector, 0);
+}
+
+void CWizardPage::OnSettingChanged()
+{
+    SetModified(true);
+}
+
+void CWizardPage::BrowseFolder(ov::Text& text)
+{
+    CPreferencesWizard* wizard = GetParentWizard();
+    if (wizard == nullptr)
+        return;
+    CFolderBrowser browser(AfxLoadString(IDS_SELECT_FOLDER), wizard);
+    if (browser.DoModal() != IDOK)
+        return;
+    text = browser.GetPathName();
+    SetModified(true);
+    UpdateData(FALSE);
+}
+
+void CWizardPage::BrowseFileOrList(ov::Text& text, bool list)
+{
+    if (list) {
+        if (EditValueList(text, 1, u';', u'"', 0, 1)) {
+            SetModified(true);
+            UpdateData(FALSE);
+        }
+        return;
+    }
+    CFileDialog chooser(TRUE, nullptr, nullptr, OFN_HIDEREADONLY | OFN_EXPLORER | OFN_ENABLESIZING, nullptr,
+                        this);
+    const ov::Text title = AfxLoadString(IDS_SELECT_FILE);
+    chooser.m_ofn.lpstrTitle = Wide(title);
+    if (chooser.DoModal() != IDOK)
+        return;
+    text = chooser.GetPathName();
+    SetModified(true);
+    UpdateData(FALSE);
+}
+
+bool CWizardPage::EditValueList(ov::Text& text, UINT browsing, char16_t separator, char16_t qualifier,
+                                char16_t fieldSeparator, size_t fieldCount)
+{
+    UpdateData(TRUE);
+    if (std::ranges::count(text, qualifier) % 2 != 0) {
+        AfxShowMessageBox(m_hWnd, AfxLoadString(IDS_QUALIFIER_MISSING), AfxLoadString(IDS_APP_CAPTION),
+                          MB_OK | MB_ICONERROR | MB_SETFOREGROUND | MB_TOPMOST);
+        return false;
+    }
+    // The editor itself follows.
+    static_cast<void>(browsing), static_cast<void>(separator), static_cast<void>(fieldSeparator),
+        static_cast<void>(fieldCount);
+    return true;
+}
+
+void CWizardPage::OnSize(UINT type, int width, int height)
+{
+    CResizableDlg::OnSize(type, width, height);
+    m_scroller.OnSize();
+    Invalidate(TRUE);
+}
+
+void CWizardPage::OnPaint()
+{
+    CPaintDC paint(this);
+    CPrefsMemDC memory(&paint, paint.m_ps.rcPaint);
+    CRect client;
+    GetClientRect(&client);
+    memory.FillSolidRect(client, ::GetSysColor(pageColour));
+}
+
+BOOL CWizardPage::OnEraseBkgnd(CDC*)
+{
+    // OnPaint covers every pixel; erasing first would flicker.
+    return TRUE;
+}
+
+LRESULT CWizardPage::OnCtlColorStatic(WPARAM context, LPARAM control)
+{
+    // Labels and boxes stand on the page's colour, which need not be a dialog's.
+    if (TargetOf(CWnd::FromHandle(reinterpret_cast<HWND>(control))) != ov::KeyTarget::Other)
+        return Default();
+    ::SetTextColor(reinterpret_cast<HDC>(context), ::GetSysColor(COLOR_MENUTEXT));
+    ::SetBkColor(reinterpret_cast<HDC>(context), ::GetSysColor(pageColour));
+    return reinterpret_cast<LRESULT>(::GetSysColorBrush(pageColour));
+}
+
+void CWizardPage::OnHScroll(UINT code, UINT, CWnd* sender)
+{
+    m_scroller.OnHScroll(code, sender);
+}
+
+void CWizardPage::OnVScroll(UINT code, UINT, CWnd* sender)
+{
+    m_scroller.OnVScroll(code, sender);
+}
+
+BOOL CWizardPage::OnMouseWheel(UINT, short delta, CPoint)
+{
+    return m_scroller.OnMouseWheel(delta);
+}
