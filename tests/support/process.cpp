@@ -102,11 +102,10 @@ Resources MeasureResources()
     resources.gdiObjects = CountGdiObjects();
     resources.userObjects = CountUserObjects();
     resources.heapBytes = CountHeapBytes();
-    PROCESS_MEMORY_COUNTERS_EX counters = {};
+    PROCESS_MEMORY_COUNTERS counters = {};
     counters.cb = sizeof counters;
-    if (K32GetProcessMemoryInfo(GetCurrentProcess(), reinterpret_cast<PROCESS_MEMORY_COUNTERS*>(&counters),
-                                sizeof counters))
-        resources.privateBytes = counters.PrivateUsage;
+    if (K32GetProcessMemoryInfo(GetCurrentProcess(), &counters, sizeof counters))
+        resources.privateBytes = counters.PagefileUsage;
     return resources;
 }
 
@@ -124,9 +123,19 @@ Process::Process(const std::wstring& program, const std::vector<std::wstring>& a
         commandLine += L' ' + QuoteArgument(argument);
     STARTUPINFOW startup = {};
     startup.cb = sizeof startup;
+    // Its messages are ours; its output is not, or whoever reads ours through a
+    // pipe would wait for both to end.
+    SECURITY_ATTRIBUTES inherited = {sizeof inherited, nullptr, TRUE};
+    HANDLE nowhere = CreateFileW(L"NUL", GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                                 &inherited, OPEN_EXISTING, 0, nullptr);
+    startup.dwFlags = STARTF_USESTDHANDLES;
+    startup.hStdInput = startup.hStdOutput = nowhere;
+    startup.hStdError = GetStdHandle(STD_ERROR_HANDLE);
     PROCESS_INFORMATION information = {};
-    if (!CreateProcessW(program.c_str(), commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
-                        &startup, &information))
+    const BOOL started = CreateProcessW(program.c_str(), commandLine.data(), nullptr, nullptr, TRUE, 0,
+                                        nullptr, nullptr, &startup, &information);
+    CloseHandle(nowhere);
+    if (!started)
         return;
     CloseHandle(information.hThread);
     m_handle = information.hProcess;

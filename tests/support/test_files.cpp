@@ -78,7 +78,9 @@ TempFolder::TempFolder()
     wchar_t folder[MAX_PATH + 1] = {};
     GetTempPathW(static_cast<DWORD>(std::size(folder)), folder);
     do {
-        m_path = folder + (L"ov" + std::to_wstring(GetCurrentProcessId())) + L'-' + std::to_wstring(++count);
+        m_path = folder;
+        m_path.append(L"ov").append(std::to_wstring(GetCurrentProcessId()));
+        m_path.append(L"-").append(std::to_wstring(++count));
     } while (!CreateDirectoryW(m_path.c_str(), nullptr) && GetLastError() == ERROR_ALREADY_EXISTS);
 }
 
@@ -143,9 +145,9 @@ std::string Difference(const std::string& expected, const std::string& actual)
     }
     std::string account = "\n@@ from line " + std::to_string(start + 1) + " @@\n";
     for (auto line = heads.in1; line != beforeEnd; ++line)
-        account += "-" + Printable(*line) + "\n";
+        account.append("-").append(Printable(*line)).append("\n");
     for (auto line = heads.in2; line != afterEnd; ++line)
-        account += "+" + Printable(*line) + "\n";
+        account.append("+").append(Printable(*line)).append("\n");
     return account;
 }
 
