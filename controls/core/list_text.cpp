@@ -1,0 +1,256 @@
+#include "controls/core/list_text.h"
+
+#include "match/core/tokens.h"
+
+#include <algorithm>
+#include <numeric>
+#include <set>
+#include <unordered_map>
+#include <utility>
+
+namespace ov
+{
+namespace
+{
+
+constexpr std::size_t longestField = 1024;
+
+Text Folded(TextView text)
+{
+    Text folded(text);
+    std::ranges::transform(folded, folded.begin(), ToUpperAscii);
+    return folded;
+}
+
+// Finds a character at or after positions that only ever grow, passing over each character of the
+// text once in all.
+class ForwardFinder
+{
+  public:
+    ForwardFinder(TextView text, char16_t wanted) : text_(text), wanted_(wanted) {}
+
+    // The text's length when there is none.
+    std::size_t At(std::size_t from)
+    {
+        if (!searched_ || found_ < from) {
+            found_ = std::min(text_.find(wanted_, from), text_.size());
+            searched_ = true;
+        }
+        return found_;
+    }
+
+  private:
+    TextView text_;
+    char16_t wanted_;
+    std::size_t found_ = 0;
+    bool searched_ = false;
+};
+
+// One field after the other from the front of an entry.
+class FieldReader
+{
+  public:
+    FieldReader(TextView entry, const ListFormat& format)
+        : rest_(entry), stops_{format.fieldSeparator, u'\0'}, qualifier_(format.qualifier)
+    {
+    }
+
+    Text Next()
+    {
+        Text field;
+        const std::size_t consumed =
+            ExtractTokenString(field, rest_, u" ", u" ", nullptr, stops_, nullptr,
+                               qualifier_ != u'\0' ? &qualifier_ : nullptr, longestField);
+        rest_.remove_prefix(std::min(consumed, rest_.size()));
+        return field;
+    }
+
+  private:
+    TextView rest_;
+    char16_t stops_[2];
+    char16_t qualifier_;
+};
+
+ListRows::Row ReadFields(TextView entry, const ListFormat& format)
+{
+    FieldReader reader(entry, format);
+    ListRows::Row row(std::max<std::size_t>(format.fieldCount, 1));
+    for (Text& field : row)
+        field = reader.Next();
+    return row;
+}
+
+// Which rows read back as which text: of several equal ones the first counts.
+class RowIndex
+{
+  public:
+    std::optional<std::size_t> Take(const Text& folded)
+    {
+        const auto found = rows_.find(folded);
+        if (found == rows_.end() || found->second.empty())
+            return std::nullopt;
+        return found->second.extract(found->second.begin()).value();
+    }
+    void Add(Text folded, std::size_t row) { rows_[std::move(folded)].insert(row); }
+
+  private:
+    std::unordered_map<Text, std::set<std::size_t>> rows_;
+};
+
+} // namespace
+
+std::vector<TextView> SplitEntries(TextView listText, const ListFormat& format)
+{
+    std::vector<TextView> entries;
+    if (listText.empty())
+        return entries;
+    const std::size_t length = listText.size();
+    ForwardFinder separators(listText, format.separator);
+    ForwardFinder qualifiers(listText, format.qualifier);
+    std::size_t start = 0;
+    std::size_t position = 0;
+    do {
+        const std::size_t end = separators.At(position);
+        const std::size_t opening = format.qualifier != u'\0' ? qualifiers.At(position) : length;
+        if (opening < end && end < length) {
+            // The separator may lie between qualifiers: look for one behind them.
+            const std::size_t closing = qualifiers.At(opening + 1);
+            if (closing + 1 == length) {
+                entries.push_back(listText.substr(start));
+                return entries;
+            }
+            if (closing < length) {
+                position = closing + 1;
+                continue;
+            }
+        }
+        entries.push_back(listText.substr(start, end - start));
+        start = position = end + 1;
+    } while (position < length);
+    return entries;
+}
+
+Text ReadField(TextView entry, std::size_t field, const ListFormat& format)
+{
+    FieldReader reader(entry, format);
+    for (; field > 0; --field)
+        reader.Next();
+    return reader.Next();
+}
+
+void ListRows::Fill(TextView listText)
+{
+    rows_.clear();
+    RowIndex index;
+    for (const TextView entry : SplitEntries(listText, format_)) {
+        if (entry.empty())
+            continue;
+        std::size_t row = rows_.size();
+        if (const auto equal = index.Take(Folded(entry))) {
+            row = *equal;
+            rows_[row] = ReadFields(entry, format_);
+        } else {
+            rows_.push_back(ReadFields(entry, format_));
+        }
+        index.Add(Folded(EntryText(row)), row);
+    }
+}
+
+std::optional<std::size_t> ListRows::FindEqual(TextView entry) const
+{
+    const auto equal = [](char16_t a, char16_t b) { return ToUpperAscii(a) == ToUpperAscii(b); };
+    const auto found = std::ranges::find_if(
+        rows_, [&](const Row& row) { return std::ranges::equal(JoinFields(row), entry, equal); });
+    if (found == rows_.end())
+        return std::nullopt;
+    return static_cast<std::size_t>(found - rows_.begin());
+}
+
+std::optional<ListRows::Inserted> ListRows::Insert(std::size_t index, TextView entry)
+{
+    if (entry.empty())
+        return std::nullopt;
+    Row fields = ReadFields(entry, format_);
+    if (const auto equal = FindEqual(entry)) {
+        rows_[*equal] = std::move(fields);
+        return Inserted{*equal, true};
+    }
+    index = std::min(index, rows_.size());
+    rows_.insert(rows_.begin() + static_cast<std::ptrdiff_t>(index), std::move(fields));
+    return Inserted{index, false};
+}
+
+std::optional<ListRows::Inserted> ListRows::Move(std::size_t from, std::size_t to)
+{
+    const Text entry = EntryText(from);
+    Delete(from);
+    return Insert(to, entry);
+}
+
+void ListRows::Delete(std::size_t row)
+{
+    if (row < rows_.size())
+        rows_.erase(rows_.begin() + static_cast<std::ptrdiff_t>(row));
+}
+
+std::vector<std::size_t> ListRows::Sort(bool ascending)
+{
+    std::vector<std::size_t> former(rows_.size());
+    std::iota(former.begin(), former.end(), std::size_t{0});
+    std::ranges::stable_sort(former, [&](std::size_t a, std::size_t b) {
+        return ascending ? rows_[a] < rows_[b] : rows_[b] < rows_[a];
+    });
+    std::vector<Row> sorted;
+    sorted.reserve(rows_.size());
+    std::vector<std::size_t> places(rows_.size());
+    for (const std::size_t row : former) {
+        places[row] = sorted.size();
+        sorted.push_back(std::move(rows_[row]));
+    }
+    rows_ = std::move(sorted);
+    return places;
+}
+
+Text ListRows::JoinFields(const Row& row) const
+{
+    const bool hasSeparator = format_.fieldSeparator != u'\0';
+    Text entry;
+    for (std::size_t i = 0; i < row.size(); ++i) {
+        if (i > 0 && hasSeparator)
+            entry.push_back(format_.fieldSeparator);
+        const bool qualified =
+            hasSeparator && format_.qualifier != u'\0' && row[i].find(format_.fieldSeparator) != Text::npos;
+        if (qualified)
+            entry.push_back(format_.qualifier);
+        entry += row[i];
+        if (qualified)
+            entry.push_back(format_.qualifier);
+    }
+    return entry;
+}
+
+Text ListRows::EntryText(std::size_t row) const
+{
+    return JoinFields(rows_[row]);
+}
+
+Text ListRows::ListText() const
+{
+    Text text;
+    for (const Row& row : rows_) {
+        const Text joined = JoinFields(row);
+        const TextView entry = Trim(joined);
+        if (entry.empty())
+            continue;
+        text += entry;
+        text.push_back(format_.separator);
+    }
+    // Entries may begin or end in separators of their own.
+    const std::size_t first = text.find_first_not_of(format_.separator);
+    if (first == Text::npos)
+        return {};
+    const std::size_t last = text.find_last_not_of(format_.separator);
+    return text.substr(first, last - first + 1);
+}
+
+} // namespace ov
