@@ -1,0 +1,128 @@
+#include "app/host_size.h"
+#include "controls/application.h"
+#include "include/ovPreferences.h"
+#include "tests/app/program.h"
+#include "wizard/application_texts.h"
+
+namespace
+{
+class SizeWindow : public CWnd
+{
+};
+
+LOGFONTW DescriptionOf(CFont& font)
+{
+    LOGFONTW description{};
+    ::GetObjectW(font.GetSafeHandle(), sizeof description, &description);
+    return description;
+}
+
+/// An application that starts without a font, whatever earlier tests did.
+class FreshApplication
+{
+  public:
+    ~FreshApplication() { theApp.m_pMainWnd = nullptr; }
+    CPreferencesApp& operator*() { return m_app; }
+    CPreferencesApp* operator->() { return &m_app; }
+
+  private:
+    CPreferencesApp m_app;
+};
+} // namespace
+
+TEST(HostSize, CopyAndMoveAssignTheEightBytesAndReturnTheObject)
+{
+    using Bentley::UIFramework::BSize;
+    BSize source(3, -4);
+    BSize target;
+    EXPECT_EQ(&(target = source), &target);
+    EXPECT_EQ(target.cx, 3);
+    EXPECT_EQ(target.cy, -4);
+    BSize moved;
+    EXPECT_EQ(&(moved = BSize(5, 6)), &moved);
+    EXPECT_EQ(moved.cx, 5);
+    EXPECT_EQ(moved.cy, 6);
+}
+
+TEST_F(ProgramTest, NullTextsLeaveTheStoredOnes)
+{
+    // The dialog itself is turned away: only the arguments count here.
+    class TurnAway : public CModalHook
+    {
+      public:
+        std::optional<INT_PTR> OnModalDialog(CDialog&) override { return IDCANCEL; }
+    } turnAway;
+    CModalHook* const previous = AfxSetModalHook(&turnAway);
+    EXPECT_EQ(ovPreferences_showDialogEx(nullptr, L"d.cfg", L"c.cfg", L"Jane"), 0u);
+    EXPECT_EQ(ovPreferences_showDialogEx(nullptr, nullptr, nullptr, nullptr), 0u);
+    EXPECT_EQ(GetDefaultConfigPath(), u"d.cfg");
+    EXPECT_EQ(GetCurrentConfigPath(), u"c.cfg");
+    EXPECT_EQ(GetConfigUserName(), u"Jane");
+    EXPECT_EQ(ovPreferences_showDialogEx(nullptr, nullptr, L"", nullptr), 0u);
+    EXPECT_EQ(GetDefaultConfigPath(), u"d.cfg");
+    EXPECT_EQ(GetCurrentConfigPath(), u"");
+    AfxSetModalHook(previous);
+}
+
+TEST_F(ProgramTest, ADialogThatCannotBeMadeGivesOne)
+{
+    class Fail : public CModalHook
+    {
+      public:
+        std::optional<INT_PTR> OnModalDialog(CDialog&) override { return -1; }
+    } fail;
+    CModalHook* const previous = AfxSetModalHook(&fail);
+    EXPECT_EQ(ovPreferences_showDialog(), 1u);
+    AfxSetModalHook(previous);
+    EXPECT_EQ(theApp.m_pMainWnd, nullptr);
+    EXPECT_EQ(theToolTip.GetSafeHwnd(), nullptr);
+}
+
+TEST_F(ProgramTest, AnEmptyUserNameIsAskedForOnceAndKept)
+{
+    wchar_t name[256];
+    DWORD length = 256;
+    ASSERT_TRUE(::GetUserNameW(name, &length));
+    theCommandLine.m_userName = u" \t";
+    EXPECT_EQ(GetConfigUserName(), FromWide(name));
+    EXPECT_EQ(theCommandLine.m_userName, FromWide(name));
+}
+
+TEST_F(ProgramTest, InitialisationNamesTheRegistryKey)
+{
+    EXPECT_EQ(theApp.GetRegistryKey(), u"Orthoval Preferences");
+}
+
+TEST_F(ProgramTest, TheSharedFontIsACopyOfTheMainWindowsFont)
+{
+    Open(L"", L"");
+    CFont* const font = GetSharedDialogFont();
+    ASSERT_NE(font, nullptr);
+    CFont* const dialogFont = dialog->GetFont();
+    ASSERT_NE(dialogFont, nullptr);
+    EXPECT_NE(font->GetSafeHandle(), dialogFont->GetSafeHandle());
+    EXPECT_STREQ(DescriptionOf(*font).lfFaceName, DescriptionOf(*dialogFont).lfFaceName);
+    EXPECT_EQ(DescriptionOf(*font).lfHeight, DescriptionOf(*dialogFont).lfHeight);
+    EXPECT_EQ(GetSharedDialogFont(), font);
+}
+
+TEST_F(ProgramTest, WithoutAMainWindowThereIsNoFont)
+{
+    FreshApplication app;
+    EXPECT_EQ(app->GetDialogFont(), nullptr);
+}
+
+TEST_F(ProgramTest, AMainWindowWithoutAFontGivesTahoma)
+{
+    SizeWindow window;
+    ASSERT_TRUE(window.CreateEx(0, nullptr, L"", WS_POPUP, 0, 0, 10, 10, nullptr, nullptr));
+    FreshApplication app;
+    app->m_pMainWnd = &window;
+    CFont* const font = app->GetDialogFont();
+    ASSERT_NE(font, nullptr);
+    const LOGFONTW description = DescriptionOf(*font);
+    EXPECT_STREQ(description.lfFaceName, L"Tahoma");
+    EXPECT_EQ(description.lfHeight, 14);
+    EXPECT_EQ(description.lfPitchAndFamily & 0xF0, FF_SWISS);
+    window.DestroyWindow();
+}
