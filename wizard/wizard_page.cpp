@@ -110,6 +110,12 @@ CPreferencesWizard* CWizardPage::GetParentWizard() const
     return DYNAMIC_DOWNCAST(CPreferencesWizard, GetParent());
 }
 
+void CWizardPage::LayoutPass()
+{
+    m_scroller.ScrollToOrigin();
+    CResizableDlg::LayoutPass();
+}
+
 int CWizardPage::TakePendingSelector()
 {
     return std::exchange(m_pendingSelector, 0);

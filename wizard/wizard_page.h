@@ -68,6 +68,10 @@ class CWizardPage : public CResizableDlg
     void SetPendingSelector(int selector) { m_pendingSelector = selector; }
 
   protected:
+    /// Back to the origin first: the places that the layout gives are those of
+    /// an unscrolled page.
+    void LayoutPass() override;
+
     int TakePendingSelector();
     void OnSettingChanged();
 
