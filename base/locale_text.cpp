@@ -261,8 +261,12 @@ EncodeResult EncodeLocale(TextView text, std::string& bytes)
 Text FormatTime(const char* pattern, const std::tm& time, std::size_t capacity)
 {
     const std::wstring widePattern(pattern, pattern + std::strlen(pattern));
-    std::wstring buffer(capacity, L'\0');
+    // One character more than allowed: some runtimes leave out the terminator when the result fills
+    // the buffer exactly.
+    std::wstring buffer(capacity + 1, L'\0');
     buffer.resize(std::wcsftime(buffer.data(), buffer.size(), widePattern.c_str(), &time));
+    if (buffer.size() >= capacity)
+        return {};
     Text text;
     for (const wchar_t c : buffer)
         AppendWide(c, text);

@@ -9,7 +9,7 @@
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
-#include <iterator>
+#include <sstream>
 #include <stdexcept>
 #include <sys/resource.h>
 
@@ -40,7 +40,9 @@ class PosixFiles : public testing::Test
     std::string Get(const char* name) const
     {
         std::ifstream file(directory_ / name, std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), {}};
+        std::ostringstream bytes;
+        bytes << file.rdbuf();
+        return bytes.str();
     }
 
     fs::path directory_;

@@ -1,0 +1,69 @@
+#include "bench/config_input.h"
+
+#include <array>
+#include <cstdio>
+#include <random>
+
+namespace ov::bench
+{
+namespace
+{
+
+constexpr std::array kWords = {"the",  "cells",    "of",       "a",        "design",  "file",
+                               "are",  "checked",  "when",     "this",     "setting", "is",
+                               "on",   "each",     "standard", "reported", "level",   "for",
+                               "user", "Orthoval", "name",     "models",   "and",     "colours"};
+
+class Generator
+{
+  public:
+    std::string Sentence(int words)
+    {
+        std::string text;
+        for (int i = 0; i < words; ++i) {
+            if (i > 0)
+                text += ' ';
+            text += kWords[Below(kWords.size())];
+        }
+        return text;
+    }
+
+    std::string Value()
+    {
+        switch (Below(4)) {
+        case 0:
+            return Below(2) == 0 ? "0" : "1";
+        case 1:
+            return std::to_string(Below(10000));
+        case 2:
+            return '"' + Sentence(3).append("\"");
+        default:
+            return "C:\\orthoval\\" + std::to_string(Below(1000)) + "\\";
+        }
+    }
+
+    std::size_t Below(std::size_t limit) { return engine_() % limit; }
+
+  private:
+    std::mt19937 engine_{20261120}; // A fixed seed: every run measures the same bytes.
+};
+
+} // namespace
+
+std::string MakeConfigFile(int variables)
+{
+    Generator generator;
+    std::string bytes = "#\r\n# A header.\r\n#\r\n";
+    for (int i = 0; i < variables; ++i) {
+        std::array<char, 32> name{};
+        std::snprintf(name.data(), name.size(), "_ORTHOVAL_BENCH_%07d", i);
+        bytes += "\r\n#\r\n";
+        for (int line = 0; line < 2; ++line)
+            bytes.append("# ").append(generator.Sentence(16)).append("\r\n");
+        bytes += "#\r\n";
+        bytes.append(name.data()).append(" = ").append(generator.Value()).append("\r\n");
+    }
+    return bytes;
+}
+
+} // namespace ov::bench
