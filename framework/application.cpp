@@ -15,7 +15,8 @@ CWinApp::CWinApp(LPCWSTR applicationName) : m_pszAppName(applicationName)
 
 CWinApp::~CWinApp()
 {
-    AfxGetStaticModuleState()->application = nullptr;
+    if (AfxGetStaticModuleState()->application == this)
+        AfxGetStaticModuleState()->application = nullptr;
 }
 
 void CCommandLineInfo::ParseParam(LPCWSTR parameter, BOOL isFlag, BOOL)

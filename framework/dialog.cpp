@@ -42,7 +42,9 @@ CDialog::~CDialog()
 
 bool CDialog::CreateWindowFromTemplate(UINT templateId, HWND parent)
 {
-    BeginModal();
+    // From here on EndDialog has something to end, though the loop is yet to run.
+    m_continueModal = true;
+    m_nModalResult = -1;
     bool bound = false;
     {
         const CCreationHook hook(this);
@@ -51,7 +53,7 @@ bool CDialog::CreateWindowFromTemplate(UINT templateId, HWND parent)
     }
     if (!bound)
         PostNcDestroy();
-    else if (m_hWnd != nullptr && !ContinueModal())
+    else if (m_hWnd != nullptr && !m_continueModal)
         DestroyWindow(); // OnInitDialog ended the dialog
     return bound && m_hWnd != nullptr;
 }
@@ -60,7 +62,10 @@ BOOL CDialog::Create(UINT templateId, CWnd* parent)
 {
     m_nIDTemplate = templateId;
     m_pParentWnd = parent;
-    return CreateWindowFromTemplate(templateId, AfxSafeHwnd(parent != nullptr ? parent : AfxGetMainWnd()));
+    const bool created =
+        CreateWindowFromTemplate(templateId, AfxSafeHwnd(parent != nullptr ? parent : AfxGetMainWnd()));
+    m_continueModal = false;
+    return created;
 }
 
 INT_PTR CDialog::DoModal()
@@ -98,7 +103,7 @@ LRESULT CDialog::HandleInitDialog(WPARAM, LPARAM)
     GetWindowRect(before);
     const BOOL setFocus = OnInitDialog();
     CRect after;
-    if (m_hWnd != nullptr && ContinueModal() && (GetStyle() & WS_CHILD) == 0 &&
+    if (m_hWnd != nullptr && m_continueModal && (GetStyle() & WS_CHILD) == 0 &&
         AfxIsTemplateWithoutPlace(m_nIDTemplate)) {
         GetWindowRect(after);
         // Unless the dialog has found itself a place.

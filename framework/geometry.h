@@ -20,7 +20,10 @@ class CPoint : public POINT
     constexpr CPoint(int left, int top) : POINT{left, top} {}
     constexpr CPoint(POINT point) : POINT(point) {}
     /// From the packed pair that mouse messages carry; coordinates may be negative.
-    explicit CPoint(LPARAM packed) : POINT{GET_X_LPARAM(packed), GET_Y_LPARAM(packed)} {}
+    explicit CPoint(LPARAM packed)
+        : POINT{static_cast<short>(LOWORD(packed)), static_cast<short>(HIWORD(packed))}
+    {
+    }
     constexpr void Offset(int dx, int dy)
     {
         x += dx;

@@ -28,12 +28,6 @@ BOOL CWnd::WalkPreTranslateTree(HWND stop, MSG* message)
     return FALSE;
 }
 
-void CWnd::BeginModal()
-{
-    m_continueModal = true;
-    m_nModalResult = -1;
-}
-
 void CWnd::EndModalLoop(int result)
 {
     m_nModalResult = result;
@@ -69,6 +63,7 @@ int CWnd::RunModalLoop()
     const AFX_TEMP_MAPS::Mark mark = temporary.GetMark();
     const HWND owner = ::GetWindow(window, GW_OWNER);
     m_continueModal = true;
+    m_nModalResult = -1;
     if (!IsWindowVisible())
         ShowWindow(SW_SHOWNORMAL);
     UpdateWindow();
@@ -93,9 +88,8 @@ int CWnd::RunModalLoop()
         Dispatch(window, message);
         idle = true;
         idleCount = 0;
-        // Something else may have destroyed the window; its loop is over then.
-        if (!::IsWindow(window))
-            m_continueModal = false;
     }
+    if (!::IsWindow(window) && m_nModalResult == -1)
+        m_nModalResult = IDCANCEL;
     return m_nModalResult;
 }

@@ -82,7 +82,7 @@ BOOL AfxInitLibrary(HINSTANCE instance)
 void AfxTermLibrary()
 {
     AFX_MODULE_STATE& state = *AfxGetStaticModuleState();
-    if (std::exchange(state.initialised, false)) {
+    if (std::exchange(state.initialised, false) && state.application != nullptr) {
         try {
             state.application->ExitInstance();
         } catch (...) {

@@ -207,11 +207,8 @@ class CWnd : public CCmdTarget
     BOOL OnMouseWheel(UINT, short, CPoint) { return Default() != 0; }
     void OnTimer(UINT_PTR) { Default(); }
 
-    /// True while the modal loop is to go on.
-    bool ContinueModal() const { return m_continueModal; }
-    /// Allows a modal loop to run until EndModalLoop, which may come before it.
-    void BeginModal();
-    int m_nModalResult = -1; ///< what EndModalLoop was given, else -1
+    bool m_continueModal = false; ///< a modal loop runs or may begin
+    int m_nModalResult = -1;      ///< what EndModalLoop was given, else -1
 
   private:
     friend class CCreationHook;
@@ -222,7 +219,6 @@ class CWnd : public CCmdTarget
     void FinishNcDestroy();
 
     WNDPROC m_superWndProc = nullptr;
-    bool m_continueModal = false;
 };
 
 /// The handle of a window object that may be null.

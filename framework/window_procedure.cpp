@@ -2,6 +2,8 @@
 #include "framework/exceptions.h"
 #include "framework/thread_state.h"
 
+#include <utility>
+
 // The way of a message: AfxWndProc -> WindowProc -> OnWndMsg -> OnCommand or
 // OnNotify -> OnCmdMsg -> the handler in the map.
 
@@ -73,6 +75,10 @@ void CWnd::FinishNcDestroy()
     CWinApp* const application = AfxGetApp();
     if (application != nullptr && application->m_pMainWnd == this)
         application->m_pMainWnd = nullptr;
+    // Destroyed by somebody else while its modal loop runs: the loop is over,
+    // and there is no window left that could wake it.
+    if (std::exchange(m_continueModal, false))
+        ::PostThreadMessageW(::GetCurrentThreadId(), WM_NULL, 0, 0);
     UnsubclassWindow();
     PostNcDestroy();
 }
