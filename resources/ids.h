@@ -7,6 +7,8 @@
 // Icons
 #define IDI_PREFERENCES 501
 #define IDI_TOOLTIP 502
+#define IDI_MOVE_DOWN 10044
+#define IDI_MOVE_UP 10045
 
 // The manifest that a library's own activation context is made from, and the
 // one that the system reads from a program.
@@ -16,6 +18,7 @@
 // Dialog templates
 #define IDD_PREFERENCES 100
 #define IDD_LEFT_PANE 113
+#define IDD_CONFIG_SETTING 9337
 #define IDD_PAGE_BRANDING 9364
 #define IDD_PAGE_CELL_HANDLING 9350
 #define IDD_PAGE_CERTIFYING 9352
@@ -60,6 +63,15 @@
 
 // Category pane
 #define IDC_LEFT_PANE_LIST 1504
+
+// Multi-entry value editor
+#define IDC_CONFIG_SETTING_INSERT 1514
+#define IDC_CONFIG_SETTING_DELETE 1515
+#define IDC_CONFIG_SETTING_MOVE_UP 1516
+#define IDC_CONFIG_SETTING_MOVE_DOWN 1517
+#define IDC_CONFIG_SETTING_BROWSE 9335
+#define IDC_CONFIG_SETTING_LIST 9338
+#define IDC_CONFIG_SETTING_VALUE 9339
 
 // Conforming page
 #define IDC_CONFORMING_CHECK_CELLS 2000
@@ -127,9 +139,25 @@
 #define IDS_ASK_ABANDON 5015
 #define IDS_SELECT_FOLDER 5016
 #define IDS_SELECT_FILE 5017
+#define IDS_CONFIG_SETTING_COLUMN 5018
+#define IDS_ASK_DELETE_ITEMS 5019
 #define IDS_QUALIFIER_MISSING 5020
 #define IDS_NO_CONFIG_FILE 5030
 #define IDS_CANNOT_RENAME_BACKUP 2068
+
+// Why a save failed, and where the file's old content is. %1 and %2 stand for
+// what the rows say.
+#define IDS_SAVE_PLACE_TAKEN_BY_FOLDER 5100
+#define IDS_SAVE_CREATE_FAILED 5101
+#define IDS_SAVE_WRITE_FAILED 5102
+#define IDS_SAVE_FLUSH_FAILED 5103
+#define IDS_SAVE_CLOSE_FAILED 5104
+#define IDS_SAVE_CHARACTER_IN_VARIABLE 5105
+#define IDS_SAVE_CHARACTER_IN_HEADER 5106
+#define IDS_SAVE_OLD_NONE 5107
+#define IDS_SAVE_OLD_STANDS 5108
+#define IDS_SAVE_OLD_UNDER_BACKUP_NAME 5109
+#define IDS_SAVE_OLD_LOST 5110
 
 // The launcher
 #define IDS_HOST_LIBRARY_MISSING 5200
@@ -141,6 +169,14 @@
 #define IDS_HELP_PREFERENCES_BROWSE 7002
 #define IDS_HELP_PREFERENCES_SAVE 7003
 #define IDS_HELP_PREFERENCES_CANCEL 7004
+
+// Help texts: multi-entry value editor; Cancel has that of the preferences dialog
+#define IDS_HELP_CONFIG_SETTING_LIST 7005
+#define IDS_HELP_CONFIG_SETTING_VALUE 7006
+#define IDS_HELP_CONFIG_SETTING_INSERT 7007
+#define IDS_HELP_CONFIG_SETTING_DELETE 7008
+#define IDS_HELP_CONFIG_SETTING_OK 7009
+#define IDS_HELP_CONFIG_SETTING_BROWSE 7010
 
 // Help texts: Conforming page
 #define IDS_HELP_CONFORMING_CHECK_CELLS 8000

@@ -7,6 +7,7 @@
 #include "controls/tool_tip_control.h"
 #include "resources/ids.h"
 #include "wizard/application_texts.h"
+#include "wizard/core/save_messages.h"
 #include "wizard/preferences_wizard.h"
 
 namespace
@@ -85,9 +86,10 @@ bool CPreferencesWizard::SaveConfigFile()
         return false;
     WindowsSurroundings surroundings;
     const ov::SaveResult result =
-        m_configFile->SaveSettings(m_store, m_currentPath, surroundings,
-                                   [this](const ov::Text& message) { ShowMessage(message, warningStyle); });
-    const ov::Text message = ov::SaveFailureText(result);
+        m_configFile->SaveSettings(m_store, m_currentPath, surroundings, [this](const ov::Text& systemText) {
+            ShowMessage(ov::NoBackupText(systemText, &AfxLoadString), warningStyle);
+        });
+    const ov::Text message = ov::SaveFailureText(result, &AfxLoadString);
     if (!message.empty())
         ShowMessage(message, warningStyle);
     return result.Saved();

@@ -69,10 +69,7 @@ class Save
         }
         stale_backup_ = true;
         KeepOldContentInMemory();
-        Text message = u"Cannot rename backup file while saving.";
-        if (!renaming.systemText.empty())
-            message.append(u"\n").append(renaming.systemText, 0, kLongestSystemText);
-        notice_(message);
+        notice_(renaming.systemText.substr(0, kLongestSystemText));
     }
 
     // A file that cannot be read is overwritten all the same: a save is not given up for want of
@@ -145,47 +142,6 @@ class Save
     std::optional<std::string> old_content_;
 };
 
-TextView WhatFailed(SaveOutcome outcome)
-{
-    switch (outcome) {
-    case SaveOutcome::PathIsDirectory:
-        return u"The configuration file cannot be saved because a folder has its name.";
-    case SaveOutcome::WriteFailed:
-        return u"The configuration file could not be written.";
-    case SaveOutcome::FlushFailed:
-        return u"The configuration file could not be stored on the disk.";
-    case SaveOutcome::CloseFailed:
-        return u"The configuration file could not be closed.";
-    case SaveOutcome::CharacterRefused:
-        return u"The configuration file cannot be saved in the character set of this computer.";
-    case SaveOutcome::NoPath:
-        return u"Error: No configuration file has been defined. Use the '...' button at the top of the "
-               u"dialog "
-               u"window to define an output file name for the configuration file.";
-    case SaveOutcome::CreateFailed:
-        return u"The configuration file could not be created.";
-    case SaveOutcome::Saved:
-        break;
-    }
-    return {};
-}
-
-TextView WhereOldContentIs(OldContent oldContent)
-{
-    switch (oldContent) {
-    case OldContent::NoneBefore:
-        return u"No file was written.";
-    case OldContent::Stands:
-        return u"The previous file is unchanged.";
-    case OldContent::UnderBackupName:
-        return u"The previous file is kept under this name: ";
-    case OldContent::Lost:
-        break;
-    }
-    return u"The previous content could not be put back. Do not close the dialog before saving to another "
-           u"file.";
-}
-
 } // namespace
 
 Text BackupPath(TextView path)
@@ -226,28 +182,6 @@ SaveResult SaveConfigFile(const SettingStore& store, const Text& path, FilePort&
     SaveResult result = Save(path, files, notice).Run(bytes, exists);
     result.header = header;
     return result;
-}
-
-Text SaveFailureText(const SaveResult& result)
-{
-    // A file that cannot be created is told only when the old one did not come back.
-    if (result.outcome == SaveOutcome::CreateFailed && result.oldContent != OldContent::UnderBackupName)
-        return {};
-    Text message(WhatFailed(result.outcome));
-    if (message.empty() || result.outcome == SaveOutcome::NoPath)
-        return message;
-    if (result.outcome == SaveOutcome::CharacterRefused) {
-        message.append(u"\nIt cannot hold the character \"").append(result.character).append(u"\" of ");
-        message.append(result.inHeader ? Text(u"the user or computer name")
-                                       : u"the variable " + result.variable);
-        message.append(u".");
-    }
-    if (!result.systemText.empty())
-        message.append(u"\n").append(result.systemText);
-    message.append(u"\n").append(WhereOldContentIs(result.oldContent));
-    if (result.oldContent == OldContent::UnderBackupName)
-        message.append(result.backupPath);
-    return message;
 }
 
 } // namespace ov

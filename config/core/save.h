@@ -50,18 +50,19 @@ enum class OldContent {
 struct SaveResult {
     SaveOutcome outcome = SaveOutcome::Saved;
     OldContent oldContent = OldContent::NoneBefore; ///< Only of meaning when the save failed.
-    Text systemText;                                ///< The system's words for the failure; may be empty.
-    Text backupPath;                                ///< The backup's name; empty when none was to be made.
+    Text systemText{};                              ///< The system's words for the failure; may be empty.
+    Text backupPath{};                              ///< The backup's name; empty when none was to be made.
     bool inHeader = false;                          ///< CharacterRefused: the character stands in the header.
-    Text variable;                                  ///< CharacterRefused: else the variable that holds it.
-    Text character;                                 ///< CharacterRefused: the character.
-    Text header; ///< The header of the file; empty when the save did not come that far.
+    Text variable{};                                ///< CharacterRefused: else the variable that holds it.
+    Text character{};                               ///< CharacterRefused: the character.
+    Text header{}; ///< The header of the file; empty when the save did not come that far.
 
     bool Saved() const { return outcome == SaveOutcome::Saved; }
 };
 
-/// Shows a message during the save, with a warning; returns when the person has seen it.
-using SaveNotice = std::function<void(const Text& message)>;
+/// Tells the person, during the save, that there will be no backup, with the system's words for the
+/// reason (at most 255 characters; may be empty). Returns when the person has seen it.
+using SaveNotice = std::function<void(const Text& systemText)>;
 
 /// The backup's name for a file: the path up to its last "." and "bak".
 Text BackupPath(TextView path);
@@ -77,10 +78,5 @@ Text BackupPath(TextView path);
 /// comes out before anything is touched. The store's modified mark is left to the caller.
 SaveResult SaveConfigFile(const SettingStore& store, const Text& path, FilePort& files,
                           SaveSurroundings& surroundings, const SaveNotice& notice);
-
-/// What to tell the person about a save that failed: what failed and where the old content is.
-/// Empty for a save that succeeded, and for a file that could not be created while the old one
-/// stands.
-Text SaveFailureText(const SaveResult& result);
 
 } // namespace ov

@@ -1,0 +1,89 @@
+#include "wizard/core/save_messages.h"
+
+#include <gtest/gtest.h>
+
+#include "pages/core/string_table.h"
+
+namespace
+{
+using namespace ov;
+
+Text Load(unsigned id)
+{
+    return Text(FindString(id));
+}
+
+Text Message(const SaveResult& result)
+{
+    return SaveFailureText(result, &Load);
+}
+} // namespace
+
+TEST(SaveMessages, ASaveThatSucceededHasNone)
+{
+    EXPECT_EQ(Message({}), u"");
+}
+
+TEST(SaveMessages, NoPathSaysWhereToNameOne)
+{
+    EXPECT_EQ(Message({.outcome = SaveOutcome::NoPath}),
+              u"Error: No configuration file has been defined. Use the '...' button at the top of the dialog "
+              u"window "
+              u"to define an output file name for the configuration file.");
+}
+
+TEST(SaveMessages, AFileThatCannotBeCreatedIsNotTold)
+{
+    EXPECT_EQ(Message({.outcome = SaveOutcome::CreateFailed}), u"");
+    EXPECT_EQ(Message({.outcome = SaveOutcome::CreateFailed, .oldContent = OldContent::Stands}), u"");
+}
+
+TEST(SaveMessages, AnOldFileThatDidNotComeBackIsToldWhateverFailed)
+{
+    const Text message = Message({.outcome = SaveOutcome::CreateFailed,
+                                  .oldContent = OldContent::UnderBackupName,
+                                  .systemText = u"Access denied.",
+                                  .backupPath = u"C:\\office.bak"});
+    EXPECT_EQ(message,
+              u"The configuration file has not been saved.\nIt could not be created: Access denied.\n\n"
+              u"The previous file is kept under this name: C:\\office.bak");
+}
+
+TEST(SaveMessages, ACharacterNamesItsVariableAndThatTheOldFileStands)
+{
+    const Text message = Message({.outcome = SaveOutcome::CharacterRefused,
+                                  .oldContent = OldContent::Stands,
+                                  .variable = u"_ORTHOVAL_MENU_NAME",
+                                  .character = u"\u4E2D"});
+    EXPECT_NE(message.find(u"_ORTHOVAL_MENU_NAME contains the character \u4E2D"), Text::npos);
+    EXPECT_NE(message.find(u"The file on disk is as it was before."), Text::npos);
+}
+
+TEST(SaveMessages, EveryFailedStepHasItsOwnReasonWithTheSystemsWords)
+{
+    Text previous;
+    for (const SaveOutcome outcome :
+         {SaveOutcome::WriteFailed, SaveOutcome::FlushFailed, SaveOutcome::CloseFailed}) {
+        const Text message =
+            Message({.outcome = outcome, .oldContent = OldContent::Stands, .systemText = u"Disk full."});
+        EXPECT_NE(message.find(u"Disk full."), Text::npos);
+        EXPECT_NE(message, previous);
+        previous = message;
+    }
+}
+
+TEST(SaveMessages, APercentSignInAPathIsNoPlaceholder)
+{
+    const Text message = Message({.outcome = SaveOutcome::WriteFailed,
+                                  .oldContent = OldContent::UnderBackupName,
+                                  .systemText = u"%2 50%",
+                                  .backupPath = u"C:\\%1.bak"});
+    EXPECT_NE(message.find(u"could not be written: %2 50%\n"), Text::npos);
+    EXPECT_NE(message.find(u"C:\\%1.bak"), Text::npos);
+}
+
+TEST(SaveMessages, ASaveWithoutABackupGivesTheSystemsWordsALineOfTheirOwn)
+{
+    EXPECT_EQ(NoBackupText(u"", &Load), u"Cannot rename backup file while saving.");
+    EXPECT_EQ(NoBackupText(u"File exists.", &Load), u"Cannot rename backup file while saving.\nFile exists.");
+}

@@ -1,0 +1,106 @@
+#include "wizard/core/save_messages.h"
+
+#include <initializer_list>
+
+#include "resources/ids.h"
+
+namespace ov
+{
+namespace
+{
+
+/// Puts the values in the place of %1 and %2.
+Text Compose(const Text& pattern, std::initializer_list<TextView> values)
+{
+    Text composed;
+    for (std::size_t at = 0; at < pattern.size(); ++at) {
+        const std::size_t value = pattern[at] == u'%' && at + 1 < pattern.size()
+                                      ? static_cast<std::size_t>(pattern[at + 1]) - u'1'
+                                      : values.size();
+        if (value < values.size()) {
+            composed += values.begin()[value];
+            ++at;
+        } else {
+            composed += pattern[at];
+        }
+    }
+    return composed;
+}
+
+unsigned ReasonId(SaveOutcome outcome)
+{
+    switch (outcome) {
+    case SaveOutcome::PathIsDirectory:
+        return IDS_SAVE_PLACE_TAKEN_BY_FOLDER;
+    case SaveOutcome::CreateFailed:
+        return IDS_SAVE_CREATE_FAILED;
+    case SaveOutcome::WriteFailed:
+        return IDS_SAVE_WRITE_FAILED;
+    case SaveOutcome::FlushFailed:
+        return IDS_SAVE_FLUSH_FAILED;
+    case SaveOutcome::CloseFailed:
+        return IDS_SAVE_CLOSE_FAILED;
+    default:
+        return 0;
+    }
+}
+
+Text Reason(const SaveResult& result, const StringLoader& load)
+{
+    if (result.outcome == SaveOutcome::CharacterRefused) {
+        return Compose(load(result.inHeader ? IDS_SAVE_CHARACTER_IN_HEADER : IDS_SAVE_CHARACTER_IN_VARIABLE),
+                       {result.variable, result.character});
+    }
+    return Compose(load(ReasonId(result.outcome)), {result.systemText});
+}
+
+Text OldContentText(const SaveResult& result, const StringLoader& load)
+{
+    switch (result.oldContent) {
+    case OldContent::NoneBefore:
+        return load(IDS_SAVE_OLD_NONE);
+    case OldContent::Stands:
+        return load(IDS_SAVE_OLD_STANDS);
+    case OldContent::UnderBackupName:
+        return Compose(load(IDS_SAVE_OLD_UNDER_BACKUP_NAME), {result.backupPath});
+    case OldContent::Lost:
+        break;
+    }
+    return load(IDS_SAVE_OLD_LOST);
+}
+
+bool OldContentIsInPlace(OldContent oldContent)
+{
+    return oldContent == OldContent::NoneBefore || oldContent == OldContent::Stands;
+}
+
+} // namespace
+
+Text SaveFailureText(const SaveResult& result, const StringLoader& load)
+{
+    switch (result.outcome) {
+    case SaveOutcome::Saved:
+        return {};
+    case SaveOutcome::NoPath:
+        return load(IDS_NO_CONFIG_FILE);
+    case SaveOutcome::PathIsDirectory:
+        return Reason(result, load);
+    case SaveOutcome::CreateFailed:
+        if (OldContentIsInPlace(result.oldContent))
+            return {};
+        break;
+    default:
+        break;
+    }
+    return Reason(result, load) + u"\n\n" + OldContentText(result, load);
+}
+
+Text NoBackupText(TextView systemText, const StringLoader& load)
+{
+    Text message = load(IDS_CANNOT_RENAME_BACKUP);
+    if (!systemText.empty())
+        message.append(u"\n").append(systemText);
+    return message;
+}
+
+} // namespace ov
