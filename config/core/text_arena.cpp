@@ -5,7 +5,7 @@ namespace ov
 
 char16_t* TextArena::Allocate(std::size_t length)
 {
-    constexpr std::size_t blockLength = 32 * 1024;
+    constexpr std::size_t blockLength = std::size_t{32} * 1024;
     if (length > free_length_) {
         // A long text gets a block of its own, so that the rest of the present one stays of use.
         const bool alone = length > blockLength / 4;

@@ -46,7 +46,7 @@ void LineSplitter::Finish(const LineFunction& line)
 
 FileResult ReadBlocks(FilePort& files, const Text& path, const std::function<void(std::string_view)>& block)
 {
-    constexpr std::size_t blockSize = 256 * 1024;
+    constexpr std::size_t blockSize = std::size_t{256} * 1024;
     FileHandle file{};
     FileResult result = files.OpenForReading(path, file);
     if (!result)

@@ -275,8 +275,9 @@ TEST_F(ConfigReader, ConcatenatedValuesAreClassifiedAsAWhole)
     for (const Text& first : parts) {
         for (const Text& second : parts) {
             for (const Text& third : parts) {
-                std::string bytes = "A = " + Utf8FromText(first) + "\nA + " + Utf8FromText(second) +
-                                    "\nA + " + Utf8FromText(third) + "\n";
+                std::string bytes = "A = ";
+                bytes.append(Utf8FromText(first)).append("\nA + ").append(Utf8FromText(second));
+                bytes.append("\nA + ").append(Utf8FromText(third));
                 ReadCurrent(bytes);
                 EXPECT_EQ(Value(u"A"), first + second + third);
                 EXPECT_EQ(Kind(u"A"), ClassifyValue(first + second + third)) << bytes;
@@ -293,7 +294,7 @@ TEST_F(ConfigReader, ListOfNumbersIsText)
 
 TEST_F(ConfigReader, NulBytesAreKept)
 {
-    ReadCurrent(std::string_view("A = x\0y\nB\0 = 1\n", 16));
+    ReadCurrent(std::string_view("A = x\0y\nB\0 = 1\n", 15));
     EXPECT_EQ(Value(u"A"), Text(u"x\0y", 3));
     EXPECT_EQ(Value(Text(u"B\0", 2)), u"1");
 }

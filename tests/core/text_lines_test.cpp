@@ -23,14 +23,9 @@ std::vector<std::string> Split(std::string_view bytes, std::size_t blockSize)
 
 TEST(LineSplitter, BothLineEndsAreLeftOutHoweverTheBlocksFall)
 {
-    const std::vector<std::string> expected{"a", "", "b\rc", "d\r",
-                                            "\x1A"
-                                            "e"};
+    const std::vector<std::string> expected{"a", "", "b\rc", "d\r", "\x1Ax"};
     for (std::size_t blockSize = 1; blockSize < 20; ++blockSize)
-        EXPECT_EQ(Split("a\n\r\nb\rc\r\nd\r\r\n\x1A"
-                        "e",
-                        blockSize),
-                  expected);
+        EXPECT_EQ(Split("a\n\r\nb\rc\r\nd\r\r\n\x1Ax", blockSize), expected);
 }
 
 TEST(LineSplitter, FinalLineEndOpensNoFurtherLine)
