@@ -2,6 +2,14 @@
 
 IMPLEMENT_DYNAMIC(CPrefListCtrl, CListCtrl)
 
+namespace
+{
+int CALLBACK ComparePlaces(LPARAM first, LPARAM second, LPARAM)
+{
+    return first < second ? -1 : 1;
+}
+} // namespace
+
 int CPrefListCtrl::InsertCaptionedColumn(int column, UINT captionId, int width)
 {
     return InsertColumn(column, AfxLoadString(captionId), LVCFMT_LEFT, width);
@@ -10,4 +18,30 @@ int CPrefListCtrl::InsertCaptionedColumn(int column, UINT captionId, int width)
 int CPrefListCtrl::AppendRow(const ov::Text& text)
 {
     return InsertItem(GetItemCount(), text);
+}
+
+int CPrefListCtrl::InsertRow(int row, std::span<const ov::Text> texts)
+{
+    const int inserted = InsertItem(row, texts.front());
+    for (std::size_t column = 1; inserted >= 0 && column < texts.size(); ++column)
+        SetItemText(inserted, static_cast<int>(column), texts[column]);
+    return inserted;
+}
+
+bool CPrefListCtrl::DeleteRow(int row)
+{
+    return row >= 0 && row < GetItemCount() && DeleteItem(row);
+}
+
+bool CPrefListCtrl::ToggleSortDirection()
+{
+    m_sortAscending = !m_sortAscending;
+    return m_sortAscending;
+}
+
+void CPrefListCtrl::ArrangeRows(std::span<const std::size_t> places)
+{
+    for (std::size_t row = 0; row < places.size(); ++row)
+        SetItemData(static_cast<int>(row), places[row]);
+    SortItems(&ComparePlaces, 0);
 }

@@ -1,5 +1,9 @@
 #pragma once
 
+#include <cstddef>
+#include <span>
+#include <vector>
+
 #include "base/text.h"
 #include "framework/afxwin.h"
 
@@ -16,9 +20,21 @@ class CPrefListCtrl : public CListCtrl
     /// Adds a row at the end; its index, -1 when it could not be added.
     int AppendRow(const ov::Text& text);
 
-    /// The direction that the rows are sorted in.
-    bool IsSortDescending() const { return m_sortDescending; }
+    /// Inserts a row that shows one text a column; its index, -1 when it could
+    /// not be inserted.
+    int InsertRow(int row, std::span<const ov::Text> texts);
+
+    /// Deletes a row; false when there is none of that index.
+    bool DeleteRow(int row);
+
+    /// Turns the sort direction round; true when rows are to ascend now, as
+    /// after the first call.
+    bool ToggleSortDirection();
+
+    /// Puts each row into the place that is given for it. Selections stay with
+    /// their rows. The rows' data is used for it.
+    void ArrangeRows(std::span<const std::size_t> places);
 
   private:
-    bool m_sortDescending = false;
+    bool m_sortAscending = false;
 };

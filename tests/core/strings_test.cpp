@@ -63,6 +63,17 @@ TEST(Strings, HelpOfTheDialogStandsWordForWord)
     EXPECT_EQ(String(7004), "<H>Cancel<D>Closes the dialog without applying changes.");
 }
 
+TEST(Strings, TextsOfTheListEditorStandWordForWord)
+{
+    EXPECT_EQ(String(5019), "This will delete %d items from the list.\nDo you want to continue?");
+    EXPECT_EQ(String(7005), "<H>Setting Values<D>This list contains all values of the setting.");
+    EXPECT_EQ(String(7006), "<H>Value<D>Define a value for the setting.");
+    EXPECT_EQ(String(7007), "<H>Insert<D>Inserts the value into list.");
+    EXPECT_EQ(String(7008), "<H>Delete<D>Deletes the selected row(s) from defined values list.");
+    EXPECT_EQ(String(7009), "<H>OK<D>Saves the changes and closes the dialog.");
+    EXPECT_EQ(String(7010), "<H>Browse<D>Opens a file requestor dialog to browse for the required file.");
+}
+
 TEST(Strings, EveryPageHasATitle)
 {
     for (const ov::PageInfo& page : ov::PageCatalogue())
@@ -121,7 +132,7 @@ TEST(Strings, HelpTextsAreVariableHeadingDescriptionInThisOrder)
         EXPECT_FALSE(ov::ExtractSection(text, ov::TooltipSection::Heading, position).empty()) << row.id;
         EXPECT_FALSE(ov::Description(text).empty()) << row.id;
     }
-    EXPECT_EQ(helpTexts, 5 + 15 + 6);
+    EXPECT_EQ(helpTexts, 5 + 6 + 15 + 6);
 }
 
 TEST(Strings, SectionsHaveNoBlanksAtTheirEnds)

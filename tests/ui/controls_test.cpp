@@ -465,7 +465,8 @@ TEST(PrefListControl, ColumnsAndRowsStandInTheirOrder)
     list.SetItemData(1, 3);
     EXPECT_EQ(list.GetItemText(1, 0), u"Cell Handling");
     EXPECT_EQ(list.GetItemData(1), 3u);
-    EXPECT_FALSE(list.IsSortDescending());
+    EXPECT_TRUE(list.ToggleSortDirection());
+    EXPECT_FALSE(list.ToggleSortDirection());
 }
 
 } // namespace

@@ -1,0 +1,71 @@
+#pragma once
+
+#include <optional>
+
+#include "base/text.h"
+#include "controls/core/list_text.h"
+#include "controls/pref_list_ctrl.h"
+#include "controls/resizable_dlg.h"
+
+/// The "Multi-Entry Values" dialog: edits the text of a variable that holds
+/// several values, one entry a row. What the rows hold is ov::ListRows'
+/// business; the dialog shows it and says what the person did.
+class CConfigSettingDlg : public CResizableDlg
+{
+    DECLARE_DYNAMIC(CConfigSettingDlg)
+
+  public:
+    /// A nonzero `browsing` offers a file chooser. `fieldSeparator` is 0 for
+    /// entries of one field.
+    CConfigSettingDlg(CWnd* parent, ov::Text listText, UINT browsing, char16_t separator, char16_t qualifier,
+                      char16_t fieldSeparator, size_t fieldCount);
+
+    BOOL OnInitDialog() override;
+
+    /// The list text that was given; once the dialog ended with OK, the edited one.
+    const ov::Text& GetListText() const { return m_listText; }
+
+  protected:
+    void DoDataExchange(CDataExchange* exchange) override;
+    void InitControlLayout() override;
+    void OnOK() override;
+
+    void OnGetMinMaxInfo(MINMAXINFO* info);
+    void OnValueChanged();
+    void OnInsert();
+    void OnDelete();
+    void OnMoveUp();
+    void OnMoveDown();
+    void OnBrowse();
+    void OnRowChanged(NMHDR* header, LRESULT* result);
+    void OnColumnClick(NMHDR* header, LRESULT* result);
+    DECLARE_MESSAGE_MAP()
+
+  private:
+    void CreateColumns();
+    void FillList();
+    void RegisterTooltips();
+    void SetMoveIcon(CButton& button, UINT iconId);
+    void ShowValue(ov::Text text);
+    void UpdateButtons();
+    void EnableButton(CButton& button, bool enable, CWnd& next);
+    void MoveSelectedRow(int step);
+    void SelectRow(int row);
+    void RemoveShownRow(int row);
+    bool ShowInsertedRow(const std::optional<ov::ListRows::Inserted>& inserted);
+    bool ConfirmDeletion(UINT rowCount);
+
+    CPrefListCtrl m_list;
+    CEdit m_valueEdit;
+    CButton m_moveUpButton;
+    CButton m_moveDownButton;
+    CButton m_deleteButton;
+    CButton m_insertButton;
+    CButton m_browseButton;
+    ov::Text m_valueText;
+    ov::Text m_listText;
+    size_t m_fieldCount;
+    bool m_browsing;
+    bool m_removingRow = false;
+    ov::ListRows m_rows;
+};
