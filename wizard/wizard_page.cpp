@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "controls/config_setting_dlg.h"
 #include "resources/ids.h"
 #include "wizard/core/wizard_state.h"
 #include "wizard/messages.h"
@@ -168,9 +169,13 @@ bool CWizardPage::EditValueList(ov::Text& text, UINT browsing, char16_t separato
                           MB_OK | MB_ICONERROR | MB_SETFOREGROUND | MB_TOPMOST);
         return false;
     }
-    // The editor itself follows.
-    static_cast<void>(browsing), static_cast<void>(separator), static_cast<void>(fieldSeparator),
-        static_cast<void>(fieldCount);
+    CConfigSettingDlg editor(GetParentWizard(), text, browsing, separator, qualifier, fieldSeparator,
+                             fieldCount);
+    if (editor.DoModal() == IDOK) {
+        text = editor.GetListText();
+        SetModified(true);
+        UpdateData(FALSE);
+    }
     return true;
 }
 
