@@ -1,0 +1,147 @@
+#include "tests/framework/recording_hook.h"
+#include "tests/framework/script_dialog.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+class CRefusingDialog : public CScriptDialog
+{
+  public:
+    using CScriptDialog::CScriptDialog;
+    bool m_refuse = false;
+    int m_exchanges = 0;
+
+  protected:
+    void DoDataExchange(CDataExchange* exchange) override
+    {
+        ++m_exchanges;
+        if (m_refuse)
+            exchange->Fail();
+    }
+};
+
+void PressButton(CDialog& dialog, int id)
+{
+    dialog.PostMessage(WM_COMMAND, MAKEWPARAM(id, BN_CLICKED),
+                       reinterpret_cast<LPARAM>(::GetDlgItem(dialog, id)));
+}
+} // namespace
+
+TEST(Dialog, ButtonsEndItWithTheirIds)
+{
+    CRefusingDialog dialog(IDD_SMALL);
+    dialog.Then([&] { PressButton(dialog, IDOK); });
+    EXPECT_EQ(IDOK, dialog.DoModal());
+    EXPECT_EQ(2, dialog.m_exchanges) << "once to show, once to save";
+    EXPECT_EQ(nullptr, dialog.m_hWnd);
+
+    CRefusingDialog cancelled(IDD_SMALL);
+    cancelled.Then([&] { PressButton(cancelled, IDCANCEL); });
+    EXPECT_EQ(IDCANCEL, cancelled.DoModal());
+    EXPECT_EQ(1, cancelled.m_exchanges) << "nothing is saved";
+}
+
+TEST(Dialog, RefusedValueKeepsItOpen)
+{
+    CRefusingDialog dialog(IDD_SMALL);
+    dialog.Then([&] {
+        dialog.m_refuse = true;
+        PressButton(dialog, IDOK);
+    });
+    dialog.Then([&] { EXPECT_TRUE(dialog.IsWindowVisible()); });
+    EXPECT_EQ(scriptEnded, dialog.DoModal());
+}
+
+TEST(Dialog, RefusedInitialValueEndsItWithMinusOne)
+{
+    CRefusingDialog dialog(IDD_SMALL);
+    dialog.m_refuse = true;
+    EXPECT_EQ(-1, dialog.DoModal());
+    EXPECT_EQ(nullptr, dialog.m_hWnd);
+}
+
+TEST(Dialog, MissingTemplateIsMinusOne)
+{
+    CDialog dialog(IDD_MISSING);
+    EXPECT_EQ(-1, dialog.DoModal());
+    CDialog modeless;
+    EXPECT_FALSE(modeless.Create(IDD_MISSING));
+    EXPECT_EQ(nullptr, modeless.m_hWnd);
+}
+
+TEST(Dialog, MayEndInItsInitialisation)
+{
+    CScriptDialog dialog(IDD_SMALL);
+    bool looped = false;
+    dialog.m_onInit = [&] { dialog.EndDialog(12); };
+    dialog.Then([&] { looped = true; });
+    EXPECT_EQ(12, dialog.DoModal());
+    EXPECT_FALSE(looped);
+    EXPECT_EQ(nullptr, dialog.m_hWnd);
+
+    CScriptDialog modeless(0);
+    modeless.m_onInit = [&] { modeless.EndDialog(12); };
+    EXPECT_FALSE(modeless.Create(IDD_SMALL));
+    EXPECT_EQ(nullptr, modeless.m_hWnd);
+}
+
+TEST(Dialog, MayBeRunAgain)
+{
+    CScriptDialog dialog(IDD_SMALL);
+    dialog.Then([&] { dialog.EndDialog(1); });
+    EXPECT_EQ(1, dialog.DoModal());
+    dialog.Then([&] { dialog.EndDialog(2); });
+    EXPECT_EQ(2, dialog.DoModal());
+}
+
+TEST(Dialog, InitialFocusFollowsTheAnswer)
+{
+    CScriptDialog first(IDD_FIELDS);
+    first.NoteFocus();
+    first.DoModal();
+    EXPECT_EQ((std::vector<int>{IDC_FIELDS_EDIT}), first.m_focusIds) << "TRUE: the first control";
+
+    CScriptDialog own(IDD_FIELDS);
+    own.m_initResult = [&]() -> BOOL {
+        own.GetDlgItem(IDC_FIELDS_CHECK)->SetFocus();
+        return FALSE;
+    };
+    own.NoteFocus();
+    own.DoModal();
+    EXPECT_EQ((std::vector<int>{IDC_FIELDS_CHECK}), own.m_focusIds) << "FALSE: left as set";
+}
+
+TEST(Dialog, WithoutAPlaceItIsCentredOverItsOwner)
+{
+    CHostWindow host;
+    CRect owner;
+    host.GetWindowRect(&owner);
+    CRect place;
+    CScriptDialog dialog(IDD_SMALL, &host);
+    dialog.Then([&] { dialog.GetWindowRect(&place); });
+    dialog.DoModal();
+    EXPECT_NEAR(owner.CenterPoint().x, place.CenterPoint().x, 1);
+    EXPECT_NEAR(owner.CenterPoint().y, place.CenterPoint().y, 1);
+}
+
+TEST(Dialog, ModelessEndIsHidden)
+{
+    CDialog dialog;
+    ASSERT_TRUE(dialog.Create(IDD_SMALL));
+    dialog.ShowWindow(SW_SHOW);
+    dialog.SendMessage(WM_COMMAND, IDCANCEL);
+    EXPECT_NE(nullptr, dialog.m_hWnd);
+    EXPECT_FALSE(dialog.IsWindowVisible());
+}
+
+TEST(Dialog, DeletingTheObjectDestroysTheWindow)
+{
+    HWND window = nullptr;
+    {
+        CDialog dialog;
+        ASSERT_TRUE(dialog.Create(IDD_SMALL));
+        window = dialog.m_hWnd;
+    }
+    EXPECT_FALSE(::IsWindow(window));
+}

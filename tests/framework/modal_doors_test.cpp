@@ -1,0 +1,131 @@
+#include "tests/framework/recording_hook.h"
+#include "tests/framework/script_dialog.h"
+
+#include <gtest/gtest.h>
+
+TEST(ModalDoors, MessageBoxGoesThroughTheHook)
+{
+    CRecordingHook hook;
+    hook.m_buttons = {IDYES};
+    CHostWindow host;
+    EXPECT_EQ(IDYES, AfxShowMessageBox(host, u"text", u"caption", MB_YESNO | MB_TOPMOST));
+    ASSERT_EQ(1u, hook.m_boxes.size());
+    EXPECT_EQ(host.m_hWnd, hook.m_boxes[0].owner);
+    EXPECT_EQ(u"text", hook.m_boxes[0].text);
+    EXPECT_EQ(u"caption", hook.m_boxes[0].caption);
+    EXPECT_EQ(static_cast<UINT>(MB_YESNO | MB_TOPMOST), hook.m_boxes[0].type);
+}
+
+TEST(ModalDoors, AllMessageBoxesShareTheDoor)
+{
+    CRecordingHook hook;
+    CHostWindow host;
+    const CMainWindowScope scope(&host);
+    AfxMessageBox(u"plain");
+    AfxMessageBox(IDS_GREETING, MB_ICONWARNING);
+    host.MessageBox(u"own", u"mine");
+    ASSERT_EQ(3u, hook.m_boxes.size());
+    EXPECT_EQ(u"Framework Tests", hook.m_boxes[0].caption);
+    EXPECT_EQ(host.m_hWnd, hook.m_boxes[0].owner);
+    EXPECT_EQ(u"Good morning", hook.m_boxes[1].text);
+    EXPECT_EQ(static_cast<UINT>(MB_ICONWARNING), hook.m_boxes[1].type);
+    EXPECT_EQ(u"mine", hook.m_boxes[2].caption);
+}
+
+TEST(ModalDoors, FileChooserAsksAndTakesTheAnswer)
+{
+    CRecordingHook hook;
+    hook.m_path = u"C:\\folder\\chosen.cfg";
+    CHostWindow host;
+    CFileDialog dialog(TRUE, L"cfg", L"first.cfg", OFN_HIDEREADONLY | OFN_ENABLESIZING,
+                       L"Config (*.cfg)|*.cfg||", &host);
+    dialog.m_ofn.lpstrTitle = L"Open it";
+    EXPECT_EQ(IDOK, dialog.DoModal());
+    EXPECT_EQ(hook.m_path, dialog.GetPathName());
+    ASSERT_EQ(1u, hook.m_files.size());
+    const CFileDialogRequest& request = hook.m_files[0];
+    EXPECT_TRUE(request.open);
+    EXPECT_EQ(u"cfg", request.defaultExtension);
+    EXPECT_EQ(u"first.cfg", request.fileName);
+    EXPECT_EQ(static_cast<DWORD>(OFN_HIDEREADONLY | OFN_ENABLESIZING | OFN_EXPLORER), request.flags);
+    EXPECT_EQ(u"Config (*.cfg)|*.cfg||", request.filter);
+    EXPECT_EQ(u"Open it", request.title);
+    EXPECT_EQ(host.m_hWnd, request.owner);
+}
+
+TEST(ModalDoors, CancelledFileChooserHasNoPath)
+{
+    CRecordingHook hook;
+    CFileDialog dialog(FALSE);
+    EXPECT_EQ(IDCANCEL, dialog.DoModal());
+    EXPECT_EQ(u"", dialog.GetPathName());
+    EXPECT_FALSE(hook.m_files.at(0).open);
+}
+
+TEST(ModalDoors, FolderBrowserAsksAndTakesTheAnswer)
+{
+    CRecordingHook hook;
+    CHostWindow host;
+    CFolderBrowser cancelled(u"Choose", &host);
+    EXPECT_EQ(IDCANCEL, cancelled.DoModal());
+    hook.m_path = u"C:\\folder";
+    CFolderBrowser browser(u"Choose", &host);
+    EXPECT_EQ(IDOK, browser.DoModal());
+    EXPECT_EQ(u"C:\\folder", browser.GetPathName());
+    ASSERT_EQ(2u, hook.m_folders.size());
+    EXPECT_EQ(u"Choose", hook.m_folders[1].title);
+    EXPECT_EQ(0u, hook.m_folders[1].flags);
+    EXPECT_EQ(host.m_hWnd, hook.m_folders[1].owner);
+}
+
+TEST(ModalDoors, SubDialogIsAnsweredOrOpens)
+{
+    CRecordingHook hook;
+    hook.m_dialogAnswer = 77;
+    CScriptDialog dialog(IDD_SMALL);
+    bool opened = false;
+    dialog.m_onInit = [&] { opened = true; };
+    EXPECT_EQ(77, dialog.DoModal());
+    EXPECT_FALSE(opened);
+    hook.m_dialogAnswer.reset();
+    EXPECT_EQ(scriptEnded, dialog.DoModal());
+    EXPECT_TRUE(opened);
+    EXPECT_EQ((std::vector<CDialog*>{&dialog, &dialog}), hook.m_dialogs);
+}
+
+TEST(ModalDoors, WithoutAnAnswerTheRealBoxOpens)
+{
+    constexpr UINT pressNo = WM_APP + 1;
+    /// Lets the box open, with a message waiting that its loop will fetch.
+    class CPressingHook : public CModalHook
+    {
+      public:
+        CPressingHook() : m_previous(AfxSetModalHook(this)) {}
+        ~CPressingHook() override { AfxSetModalHook(m_previous); }
+        int m_asked = 0;
+        std::optional<int> OnMessageBox(HWND owner, const ov::Text&, const ov::Text&, UINT) override
+        {
+            ++m_asked;
+            ::PostMessageW(owner, pressNo, 0, 0);
+            return std::nullopt;
+        }
+
+      private:
+        CModalHook* m_previous;
+    };
+    /// Presses the button of the box that is open over it by then.
+    class CAnsweringOwner : public CHostWindow
+    {
+      protected:
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            if (message == pressNo)
+                ::PostMessageW(::GetLastActivePopup(m_hWnd), WM_COMMAND, IDNO, 0);
+            return CHostWindow::WindowProc(message, wParam, lParam);
+        }
+    };
+    CPressingHook hook;
+    CAnsweringOwner owner;
+    EXPECT_EQ(IDNO, AfxShowMessageBox(owner, u"Really?", u"Question", MB_YESNO));
+    EXPECT_EQ(1, hook.m_asked);
+}

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "framework/afxwin.h"
+
+/// The tests' application object; it counts how it is called.
+class CTestApp : public CWinApp
+{
+  public:
+    using CWinApp::CWinApp;
+    BOOL InitInstance() override;
+    int ExitInstance() override;
+
+    int m_initialised = 0;
+    int m_ended = 0;
+};
+
+extern CTestApp theTestApp;
+
+/// Makes a window the application's main window for a scope.
+class CMainWindowScope
+{
+  public:
+    explicit CMainWindowScope(CWnd* window) : m_previous(theTestApp.m_pMainWnd)
+    {
+        theTestApp.m_pMainWnd = window;
+    }
+    ~CMainWindowScope() { theTestApp.m_pMainWnd = m_previous; }
+    CMainWindowScope(const CMainWindowScope&) = delete;
+    CMainWindowScope& operator=(const CMainWindowScope&) = delete;
+
+  private:
+    CWnd* m_previous;
+};
+
+/// A visible top-level window that stands for the host's.
+class CHostWindow : public CWnd
+{
+  public:
+    CHostWindow();
+};

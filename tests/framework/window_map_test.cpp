@@ -1,0 +1,166 @@
+#include "tests/framework/script_dialog.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+class WindowMap : public testing::Test
+{
+  protected:
+    WindowMap() { m_window.CreateEx(0, nullptr, L"", WS_POPUP, CRect(0, 0, 100, 100), nullptr, 0); }
+    ~WindowMap() override { AfxDeleteTempMap(); }
+    CWnd m_window;
+};
+
+/// Notes whether and with which message its end is told.
+class CWatched : public CWnd
+{
+  public:
+    explicit CWatched(EventLog& log) : m_log(log) {}
+
+  protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message == WM_DESTROY)
+            m_log.push_back("WM_DESTROY");
+        if (message == WM_NCDESTROY)
+            m_log.push_back("WM_NCDESTROY");
+        return CWnd::WindowProc(message, wParam, lParam);
+    }
+    void PostNcDestroy() override
+    {
+        m_log.push_back(m_hWnd == nullptr ? "PostNcDestroy without a window" : "PostNcDestroy too early");
+    }
+
+  private:
+    EventLog& m_log;
+};
+} // namespace
+
+TEST_F(WindowMap, PermanentObjectIsFound)
+{
+    EXPECT_EQ(&m_window, CWnd::FromHandle(m_window.m_hWnd));
+    EXPECT_EQ(&m_window, CWnd::FromHandlePermanent(m_window.m_hWnd));
+    EXPECT_EQ(nullptr, CWnd::FromHandle(nullptr));
+}
+
+TEST_F(WindowMap, ForeignWindowGetsOneTemporaryObject)
+{
+    const HWND foreign = ::GetDesktopWindow();
+    CWnd* const temporary = CWnd::FromHandle(foreign);
+    ASSERT_NE(nullptr, temporary);
+    EXPECT_EQ(foreign, temporary->m_hWnd);
+    EXPECT_EQ(temporary, CWnd::FromHandle(foreign));
+    EXPECT_EQ(nullptr, CWnd::FromHandlePermanent(foreign));
+}
+
+TEST_F(WindowMap, DeletingTemporariesLeavesTheirWindows)
+{
+    const HWND plain =
+        ::CreateWindowExW(0, L"STATIC", L"", WS_CHILD, 0, 0, 10, 10, m_window, nullptr, nullptr, nullptr);
+    ASSERT_NE(nullptr, CWnd::FromHandle(plain));
+    AfxDeleteTempMap();
+    EXPECT_TRUE(::IsWindow(plain));
+    EXPECT_EQ(plain, CWnd::FromHandle(plain)->m_hWnd);
+}
+
+TEST_F(WindowMap, AttachAndDetachDoNotTouchTheWindow)
+{
+    const HWND plain =
+        ::CreateWindowExW(0, L"STATIC", L"", WS_CHILD, 0, 0, 10, 10, m_window, nullptr, nullptr, nullptr);
+    const LONG_PTR procedure = ::GetWindowLongPtrW(plain, GWLP_WNDPROC);
+    CWnd object;
+    EXPECT_FALSE(object.Attach(nullptr));
+    ASSERT_TRUE(object.Attach(plain));
+    EXPECT_EQ(&object, CWnd::FromHandlePermanent(plain));
+    EXPECT_EQ(procedure, ::GetWindowLongPtrW(plain, GWLP_WNDPROC));
+    CWnd second;
+    EXPECT_FALSE(second.Attach(plain)) << "a window has one object";
+    EXPECT_EQ(plain, object.Detach());
+    EXPECT_EQ(nullptr, CWnd::FromHandlePermanent(plain));
+    EXPECT_TRUE(::IsWindow(plain));
+}
+
+TEST_F(WindowMap, DeletingTheObjectDestroysItsWindow)
+{
+    HWND handle = nullptr;
+    {
+        CWnd window;
+        window.CreateEx(0, nullptr, L"", WS_POPUP, CRect(0, 0, 10, 10), nullptr, 0);
+        handle = window.m_hWnd;
+        ASSERT_TRUE(::IsWindow(handle));
+    }
+    EXPECT_FALSE(::IsWindow(handle));
+    {
+        CWnd attached;
+        handle =
+            ::CreateWindowExW(0, L"STATIC", L"", WS_CHILD, 0, 0, 10, 10, m_window, nullptr, nullptr, nullptr);
+        attached.Attach(handle);
+    }
+    EXPECT_FALSE(::IsWindow(handle));
+    EXPECT_EQ(nullptr, CWnd::FromHandlePermanent(handle));
+}
+
+TEST_F(WindowMap, SubclassingTakesMessagesOverAndGivesThemBack)
+{
+    const HWND plain =
+        ::CreateWindowExW(0, L"EDIT", L"text", WS_CHILD, 0, 0, 10, 10, m_window, nullptr, nullptr, nullptr);
+    const LONG_PTR procedure = ::GetWindowLongPtrW(plain, GWLP_WNDPROC);
+    CEdit edit;
+    ASSERT_TRUE(edit.SubclassWindow(plain));
+    EXPECT_NE(procedure, ::GetWindowLongPtrW(plain, GWLP_WNDPROC));
+    EXPECT_EQ(u"text", edit.GetWindowText()) << "the control still answers";
+    EXPECT_FALSE(edit.SubclassWindow(plain));
+    EXPECT_EQ(plain, edit.UnsubclassWindow());
+    EXPECT_EQ(procedure, ::GetWindowLongPtrW(plain, GWLP_WNDPROC));
+    EXPECT_EQ(nullptr, CWnd::FromHandlePermanent(plain));
+}
+
+TEST_F(WindowMap, EndIsToldInOrderHoweverItComes)
+{
+    const EventLog expected = {"WM_DESTROY", "WM_NCDESTROY", "PostNcDestroy without a window"};
+    EventLog log;
+    CWatched byItself(log);
+    byItself.CreateEx(0, nullptr, L"", WS_POPUP, CRect(0, 0, 10, 10), nullptr, 0);
+    EXPECT_TRUE(byItself.DestroyWindow());
+    EXPECT_EQ(expected, log);
+    EXPECT_FALSE(byItself.DestroyWindow()) << "there is none any more";
+
+    log.clear();
+    CWatched withItsParent(log);
+    withItsParent.Create(nullptr, L"", 0, CRect(0, 0, 10, 10), &m_window, 1);
+    m_window.DestroyWindow();
+    EXPECT_EQ(expected, log);
+    EXPECT_EQ(nullptr, withItsParent.m_hWnd);
+}
+
+TEST_F(WindowMap, IdleLoopKeepsTheObjectsOfWaitingHandlers)
+{
+    const HWND early =
+        ::CreateWindowExW(0, L"STATIC", L"early", WS_CHILD, 0, 0, 9, 9, m_window, nullptr, nullptr, nullptr);
+    const CWnd* const held = CWnd::FromHandle(early);
+    CScriptDialog dialog(IDD_SMALL);
+    dialog.Then([] {}).Then([] {});
+    EXPECT_EQ(scriptEnded, dialog.DoModal());
+    EXPECT_EQ(held, CWnd::FromHandle(early));
+    EXPECT_EQ(u"early", held->GetWindowText());
+}
+
+TEST_F(WindowMap, IdleLoopDeletesItsOwnTemporaries)
+{
+    CScriptDialog dialog(IDD_SMALL);
+    CFont* first = nullptr;
+    LOGFONTW description{};
+    dialog.Then([&] {
+        first = dialog.GetDlgItem(IDOK)->GetFont();
+        ASSERT_NE(nullptr, first);
+        EXPECT_TRUE(first->GetLogFont(&description));
+    });
+    dialog.Then([&] {
+        // The control's font itself has outlived the object that stood for it.
+        LOGFONTW again{};
+        EXPECT_TRUE(dialog.GetDlgItem(IDOK)->GetFont()->GetLogFont(&again));
+        EXPECT_STREQ(description.lfFaceName, again.lfFaceName);
+    });
+    EXPECT_EQ(scriptEnded, dialog.DoModal());
+}
