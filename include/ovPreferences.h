@@ -86,10 +86,12 @@ OV_PREFERENCES_API unsigned int ovPreferences_showDialogEx(CWnd* parent, const w
                                                            const wchar_t* currentPath,
                                                            const wchar_t* userName);
 
+// NOLINTBEGIN(modernize-use-using): C has no other way.
 /// Types of the two functions, for GetProcAddress.
 typedef unsigned int (*ovPreferences_showDialog_t)(void);
 typedef unsigned int (*ovPreferences_showDialogEx_t)(CWnd* parent, const wchar_t* defaultPath,
                                                      const wchar_t* currentPath, const wchar_t* userName);
+// NOLINTEND(modernize-use-using)
 
 #ifdef __cplusplus
 }
