@@ -70,6 +70,12 @@ int CPreferencesApp::ExitInstance()
     return CWinApp::ExitInstance();
 }
 
+int CPreferencesApp::DoMessageBox(const ov::Text& text, UINT type)
+{
+    return AfxShowMessageBox(AfxGetModalOwner(nullptr), text, AfxLoadString(IDS_APP_CAPTION),
+                             type | MB_SETFOREGROUND | MB_TOPMOST);
+}
+
 CFont* CPreferencesApp::GetDialogFont()
 {
     if (m_dialogFont.GetSafeHandle() != nullptr)

@@ -11,6 +11,7 @@ class CPreferencesApp : public CWinApp
   public:
     BOOL InitInstance() override;
     int ExitInstance() override;
+    int DoMessageBox(const ov::Text& text, UINT type) override;
 
     /// The font of every dialog: a copy of the main window's font, or Tahoma 14
     /// when it has none. Made on first request; none without a main window.

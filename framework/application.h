@@ -37,6 +37,10 @@ class CWinApp : public CCmdTarget
     /// The same for a given command line, whose first part is the program's name.
     static void ParseCommandLine(CCommandLineInfo& info, LPCWSTR commandLine);
 
+    /// What AfxMessageBox does, and so how an exception is told. A program
+    /// overrides it to give its boxes a caption of its own.
+    virtual int DoMessageBox(const ov::Text& text, UINT type);
+
     /// An icon of the module; null when there is none. It needs no destroying.
     HICON LoadIcon(UINT id) const;
     /// Names the company under whose registry key the program keeps its settings.

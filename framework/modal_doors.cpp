@@ -72,8 +72,15 @@ int AfxShowMessageBox(HWND owner, const ov::Text& text, const ov::Text& caption,
     return ::MessageBoxW(owner, Wide(text), Wide(caption), type);
 }
 
+int CWinApp::DoMessageBox(const ov::Text& text, UINT type)
+{
+    return AfxShowMessageBox(AfxGetModalOwner(nullptr), text, ApplicationName(), type);
+}
+
 int AfxMessageBox(const ov::Text& text, UINT type)
 {
+    if (CWinApp* const application = AfxGetApp())
+        return application->DoMessageBox(text, type);
     return AfxShowMessageBox(AfxGetModalOwner(nullptr), text, ApplicationName(), type);
 }
 

@@ -1,3 +1,5 @@
+#include <stdexcept>
+
 #include "app/host_size.h"
 #include "controls/application.h"
 #include "include/ovPreferences.h"
@@ -91,6 +93,20 @@ TEST_F(ProgramTest, AnEmptyUserNameIsAskedForOnceAndKept)
 TEST_F(ProgramTest, InitialisationNamesTheRegistryKey)
 {
     EXPECT_EQ(theApp.GetRegistryKey(), u"Orthoval Preferences");
+}
+
+TEST_F(ProgramTest, AnExceptionIsToldUnderTheProgramsCaption)
+{
+    doors.AnswerMessage(IDOK);
+    try {
+        throw std::invalid_argument("The clock stands still.");
+    } catch (...) {
+        AfxReportCurrentException();
+    }
+    ASSERT_EQ(doors.messages.size(), 1u);
+    EXPECT_EQ(doors.messages[0].text, L"The clock stands still.");
+    EXPECT_EQ(doors.messages[0].caption, L"Orthoval for MicroStation Preferences");
+    EXPECT_EQ(doors.messages[0].type, UINT{MB_OK | MB_ICONSTOP | MB_SETFOREGROUND | MB_TOPMOST});
 }
 
 TEST_F(ProgramTest, TheSharedFontIsACopyOfTheMainWindowsFont)
