@@ -7,7 +7,6 @@
 
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <set>
 #include <sstream>
 #include <string>
@@ -22,7 +21,9 @@ std::string ReadSample(const char* name)
     const auto path = std::filesystem::path(GOLDEN_DIRECTORY) / ".." / ".." / "samples" / name;
     std::ifstream file(path, std::ios::binary);
     EXPECT_TRUE(file.is_open()) << path;
-    return {std::istreambuf_iterator<char>(file), {}};
+    std::ostringstream bytes;
+    bytes << file.rdbuf();
+    return bytes.str();
 }
 
 class Samples : public testing::Test
