@@ -81,6 +81,7 @@ BOOL CConfigSettingDlg::OnInitDialog()
         SetWindowPos(nullptr, 0, 0, rectangle.Width() + browsingExtraWidth, rectangle.Height(),
                      SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     }
+    m_browseButton.ShowWindow(m_browsing ? SW_SHOW : SW_HIDE);
     UpdateButtons();
     return TRUE;
 }
@@ -150,11 +151,13 @@ void CConfigSettingDlg::UpdateButtons()
     EnableButton(m_deleteButton, first >= 0, m_list);
     EnableButton(m_moveUpButton, rows > 1 && first > 0, m_list);
     EnableButton(m_moveDownButton, rows > 1 && first >= 0 && first < rows - 1, m_list);
-    m_browseButton.ShowWindow(m_browsing ? SW_SHOW : SW_HIDE);
 }
 
 void CConfigSettingDlg::EnableButton(CButton& button, bool enable, CWnd& next)
 {
+    // Selecting thousands of rows asks for as many updates, most of them the same.
+    if (enable == (button.IsWindowEnabled() != FALSE))
+        return;
     // A disabled button that keeps the focus would swallow the keyboard.
     if (!enable && ::GetFocus() == button.m_hWnd)
         SendMessage(WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(next.m_hWnd), TRUE);
