@@ -9,7 +9,7 @@ BSize& BSize::operator=(const BSize& other)
     return *this;
 }
 
-BSize& BSize::operator=(BSize&& other)
+BSize& BSize::operator=(BSize&& other) noexcept
 {
     cx = other.cx;
     cy = other.cy;

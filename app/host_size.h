@@ -13,7 +13,7 @@ class BSize
     BSize(std::int32_t width, std::int32_t height) : cx(width), cy(height) {}
     BSize(const BSize&) = default;
     BSize& operator=(const BSize& other);
-    BSize& operator=(BSize&& other);
+    BSize& operator=(BSize&& other) noexcept;
 
     std::int32_t cx = 0;
     std::int32_t cy = 0;
