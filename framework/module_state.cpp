@@ -7,7 +7,7 @@
 #include <utility>
 
 // Provided by the linker: the start of the module that this code lies in.
-extern "C" IMAGE_DOS_HEADER __ImageBase;
+extern "C" IMAGE_DOS_HEADER __ImageBase; // NOLINT(bugprone-reserved-identifier): the linker's name
 
 namespace
 {

@@ -91,11 +91,11 @@ class Save
         created_ = true;
         const bool written = Check(files_.Write(file, bytes), SaveOutcome::WriteFailed) &&
                              Check(files_.Flush(file), SaveOutcome::FlushFailed);
-        FileResult closing = files_.Close(file);
-        return written && Check(std::move(closing), SaveOutcome::CloseFailed);
+        const FileResult closing = files_.Close(file);
+        return written && Check(closing, SaveOutcome::CloseFailed);
     }
 
-    bool Check(FileResult step, SaveOutcome failure)
+    bool Check(const FileResult& step, SaveOutcome failure)
     {
         if (step)
             return true;
