@@ -162,15 +162,15 @@ EncodeResult EncodeIdentity(TextView text, std::string& bytes)
 
 } // namespace
 
-LocaleDecoder::LocaleDecoder() : coding_(CurrentCoding())
+LocaleDecoder::LocaleDecoder() : m_coding(CurrentCoding())
 {
-    if (coding_ == LocaleCoding::SingleByte)
-        table_ = SingleByteTable();
+    if (m_coding == LocaleCoding::SingleByte)
+        m_table = SingleByteTable();
 }
 
 void LocaleDecoder::Append(std::string_view bytes, Text& text) const
 {
-    switch (coding_) {
+    switch (m_coding) {
     case LocaleCoding::Utf8:
         DecodeUtf8(bytes, text);
         return;
@@ -184,35 +184,35 @@ void LocaleDecoder::Append(std::string_view bytes, Text& text) const
     const std::size_t start = text.size();
     text.resize(start + bytes.size());
     char16_t* out = text.data() + start;
-    if (coding_ == LocaleCoding::Identity)
+    if (m_coding == LocaleCoding::Identity)
         std::transform(bytes.begin(), bytes.end(), out, [](char c) { return static_cast<unsigned char>(c); });
     else
         std::transform(bytes.begin(), bytes.end(), out,
-                       [this](char c) { return table_[static_cast<unsigned char>(c)]; });
+                       [this](char c) { return m_table[static_cast<unsigned char>(c)]; });
 }
 
-LocaleEncoder::LocaleEncoder() : coding_(CurrentCoding())
+LocaleEncoder::LocaleEncoder() : m_coding(CurrentCoding())
 {
-    if (coding_ != LocaleCoding::SingleByte)
+    if (m_coding != LocaleCoding::SingleByte)
         return;
     // Built from the decoding table, so that exactly what was read can be written.
-    low_.fill(kNoByte);
+    m_low.fill(kNoByte);
     const ByteTable table = SingleByteTable();
     for (unsigned value = 0; value < table.size(); ++value) {
         const char16_t unit = table[value];
-        if (unit < low_.size())
-            low_[unit] = static_cast<char16_t>(value);
+        if (unit < m_low.size())
+            m_low[unit] = static_cast<char16_t>(value);
         else
-            others_.emplace_back(unit, static_cast<unsigned char>(value));
+            m_others.emplace_back(unit, static_cast<unsigned char>(value));
     }
-    std::sort(others_.begin(), others_.end());
+    std::sort(m_others.begin(), m_others.end());
 }
 
 EncodeResult LocaleEncoder::Append(TextView text, std::string& bytes) const
 {
     const std::size_t start = bytes.size();
     EncodeResult result{true, text.size()};
-    switch (coding_) {
+    switch (m_coding) {
     case LocaleCoding::Identity:
         result = EncodeIdentity(text, bytes);
         break;
@@ -225,12 +225,12 @@ EncodeResult LocaleEncoder::Append(TextView text, std::string& bytes) const
     case LocaleCoding::SingleByte:
         for (std::size_t i = 0; i < text.size() && result.ok; ++i) {
             char16_t byte = kNoByte;
-            if (text[i] < low_.size()) {
-                byte = low_[text[i]];
+            if (text[i] < m_low.size()) {
+                byte = m_low[text[i]];
             } else {
-                const auto found = std::lower_bound(others_.begin(), others_.end(),
+                const auto found = std::lower_bound(m_others.begin(), m_others.end(),
                                                     std::pair<char16_t, unsigned char>(text[i], 0));
-                if (found != others_.end() && found->first == text[i])
+                if (found != m_others.end() && found->first == text[i])
                     byte = found->second;
             }
             if (byte == kNoByte)

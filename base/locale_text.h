@@ -38,8 +38,8 @@ class LocaleDecoder
     void Append(std::string_view bytes, Text& text) const;
 
   private:
-    LocaleCoding coding_;
-    ByteTable table_{};
+    LocaleCoding m_coding;
+    ByteTable m_table{};
 };
 
 /// What came of an encoding.
@@ -62,9 +62,9 @@ class LocaleEncoder
     EncodeResult Append(TextView text, std::string& bytes) const;
 
   private:
-    LocaleCoding coding_;
-    std::array<char16_t, 256> low_{};                        ///< Byte of each unit below 256, or kNoByte.
-    std::vector<std::pair<char16_t, unsigned char>> others_; ///< Bytes of all other units, in unit order.
+    LocaleCoding m_coding;
+    std::array<char16_t, 256> m_low{};                        ///< Byte of each unit below 256, or kNoByte.
+    std::vector<std::pair<char16_t, unsigned char>> m_others; ///< Bytes of all other units, in unit order.
 };
 
 /// The text of the bytes in the process's C locale; see LocaleDecoder.

@@ -42,10 +42,10 @@ class Generator
         }
     }
 
-    std::size_t Below(std::size_t limit) { return engine_() % limit; }
+    std::size_t Below(std::size_t limit) { return m_engine() % limit; }
 
   private:
-    std::mt19937 engine_{20261120}; // A fixed seed: every run measures the same bytes.
+    std::mt19937 m_engine{20261120}; // A fixed seed: every run measures the same bytes.
 };
 
 } // namespace

@@ -61,31 +61,31 @@ SettingKind ClassifyExtended(SettingKind kind, TextView after)
 class ConfigReader
 {
   public:
-    ConfigReader(const SettingStore& store, int table) : store_(store), for_current_(table == kCurrentTable)
+    ConfigReader(const SettingStore& store, int table) : m_store(store), m_forCurrent(table == kCurrentTable)
     {
     }
 
     void AddLine(std::string_view bytes)
     {
-        any_line_ = true;
-        line_.clear();
-        decoder_.Append(bytes, line_);
-        const TextView line = Trim(line_);
+        m_anyLine = true;
+        m_line.clear();
+        m_decoder.Append(bytes, m_line);
+        const TextView line = Trim(m_line);
         if (line.empty() || line.front() == u'#') {
             // What stands above the first empty line is the header that the writer makes anew.
-            if (in_header_ && line.empty()) {
-                comment_.clear();
-                in_header_ = false;
+            if (m_inHeader && line.empty()) {
+                m_comment.clear();
+                m_inHeader = false;
             }
-            comment_.append(line).push_back(u'\n');
+            m_comment.append(line).push_back(u'\n');
         } else if (line.front() != u'%') {
-            in_header_ = false;
+            m_inHeader = false;
             Assign(SplitAssignment(line));
         }
     }
 
-    bool AnyLine() const { return any_line_; }
-    SettingTable& Records() { return records_; }
+    bool AnyLine() const { return m_anyLine; }
+    SettingTable& Records() { return m_records; }
 
   private:
     void Assign(const Assignment& parts)
@@ -96,11 +96,11 @@ class ConfigReader
         const TextView value = Unquote(parts.value);
         if (operation == u'=')
             Store(parts.name, value, ClassifyValue(value));
-        else if (for_current_)
+        else if (m_forCurrent)
             CombineWithin(parts.name, operation, value);
         else
             CombineWithCurrent(parts.name, operation, value);
-        comment_.clear();
+        m_comment.clear();
     }
 
     // A quoted value loses its quotes and what follows a "#"; any other is taken as it stands.
@@ -108,10 +108,10 @@ class ConfigReader
     {
         if (value.empty() || value.front() != u'"' || value.back() != u'"')
             return value;
-        unquoted_.clear();
-        std::copy_if(value.begin(), value.end(), std::back_inserter(unquoted_),
+        m_unquoted.clear();
+        std::copy_if(value.begin(), value.end(), std::back_inserter(m_unquoted),
                      [](char16_t c) { return c != u'"'; });
-        TextView result = unquoted_;
+        TextView result = m_unquoted;
         const std::size_t hash = result.find(u'#');
         if (hash != TextView::npos && hash > 0)
             result = result.substr(0, hash);
@@ -121,23 +121,24 @@ class ConfigReader
     // While the current file is read, its earlier lines are the current values.
     void CombineWithin(TextView name, char16_t operation, TextView value)
     {
-        const SettingTable::Index index = records_.Find(name);
+        const SettingTable::Index index = m_records.Find(name);
         if (index == SettingTable::kNone) {
-            records_.Insert(name, value, ClassifyValue(value), comment_);
+            m_records.Insert(name, value, ClassifyValue(value), m_comment);
             return;
         }
-        const SettingRecord record = records_.At(index);
+        const SettingRecord record = m_records.At(index);
         const auto kind = static_cast<SettingKind>(record.kind);
         switch (operation) {
         case u'>':
-            records_.ExtendValue(index, {}, Joined(u";", value), SettingKindText);
+            m_records.ExtendValue(index, {}, Joined(u";", value), SettingKindText);
             break;
         case u'<':
-            records_.ExtendValue(index, Joined(value, u";"), {}, SettingKindText);
+            m_records.ExtendValue(index, Joined(value, u";"), {}, SettingKindText);
             break;
         case u'+':
-            records_.ExtendValue(index, {}, value,
-                                 record.value.empty() ? ClassifyValue(value) : ClassifyExtended(kind, value));
+            m_records.ExtendValue(index, {}, value,
+                                  record.value.empty() ? ClassifyValue(value)
+                                                       : ClassifyExtended(kind, value));
             break;
         default: // ":" leaves a value that is there alone.
             break;
@@ -148,7 +149,7 @@ class ConfigReader
     // person's file says at that time decides.
     void CombineWithCurrent(TextView name, char16_t operation, TextView value)
     {
-        const auto record = store_.FindSetting(name, kCurrentTable);
+        const auto record = m_store.FindSetting(name, kCurrentTable);
         if (record) {
             switch (operation) {
             case u'>':
@@ -170,52 +171,52 @@ class ConfigReader
 
     void Store(TextView name, TextView value, SettingKind kind)
     {
-        const SettingTable::Index index = records_.Find(name);
+        const SettingTable::Index index = m_records.Find(name);
         if (index == SettingTable::kNone)
-            records_.Insert(name, value, kind, comment_);
+            m_records.Insert(name, value, kind, m_comment);
         else
-            records_.SetValue(index, value, kind);
+            m_records.SetValue(index, value, kind);
     }
 
     TextView Joined(TextView first, TextView second, TextView third = {})
     {
-        joined_.assign(first).append(second).append(third);
-        return joined_;
+        m_joined.assign(first).append(second).append(third);
+        return m_joined;
     }
 
-    const SettingStore& store_;
-    const bool for_current_;
-    const LocaleDecoder decoder_;
-    SettingTable records_;
-    Text comment_;
-    bool in_header_ = true;
-    bool any_line_ = false;
-    Text line_;
-    Text unquoted_;
-    Text joined_;
+    const SettingStore& m_store;
+    const bool m_forCurrent;
+    const LocaleDecoder m_decoder;
+    SettingTable m_records;
+    Text m_comment;
+    bool m_inHeader = true;
+    bool m_anyLine = false;
+    Text m_line;
+    Text m_unquoted;
+    Text m_joined;
 };
 
 // Feeds a reader through a splitter and puts its table into the store.
 class ReadRun
 {
   public:
-    ReadRun(SettingStore& store, int table) : store_(store), table_(table), reader_(store, table) {}
+    ReadRun(SettingStore& store, int table) : m_store(store), m_table(table), m_reader(store, table) {}
 
-    void Feed(std::string_view block) { splitter_.Feed(block, add_line_); }
+    void Feed(std::string_view block) { m_splitter.Feed(block, m_addLine); }
 
     void Finish()
     {
-        splitter_.Finish(add_line_);
-        if (reader_.AnyLine())
-            store_.Replace(table_, std::move(reader_.Records()));
+        m_splitter.Finish(m_addLine);
+        if (m_reader.AnyLine())
+            m_store.Replace(m_table, std::move(m_reader.Records()));
     }
 
   private:
-    SettingStore& store_;
-    const int table_;
-    ConfigReader reader_;
-    LineSplitter splitter_;
-    const LineSplitter::LineFunction add_line_ = [this](std::string_view line) { reader_.AddLine(line); };
+    SettingStore& m_store;
+    const int m_table;
+    ConfigReader m_reader;
+    LineSplitter m_splitter;
+    const LineSplitter::LineFunction m_addLine = [this](std::string_view line) { m_reader.AddLine(line); };
 };
 
 } // namespace

@@ -78,20 +78,20 @@ void AppendSetting(Text& lines, const SettingRecord& record, TextView comment)
 class FileBytes
 {
   public:
-    explicit FileBytes(std::string& bytes) : bytes_(bytes) { bytes_.clear(); }
+    explicit FileBytes(std::string& bytes) : m_bytes(bytes) { m_bytes.clear(); }
 
     EncodeResult Append(TextView lines)
     {
-        encoded_.clear();
-        const EncodeResult result = encoder_.Append(lines, encoded_);
-        AppendWithLineEnds(encoded_, bytes_);
+        m_encoded.clear();
+        const EncodeResult result = m_encoder.Append(lines, m_encoded);
+        AppendWithLineEnds(m_encoded, m_bytes);
         return result;
     }
 
   private:
-    const LocaleEncoder encoder_;
-    std::string& bytes_;
-    std::string encoded_;
+    const LocaleEncoder m_encoder;
+    std::string& m_bytes;
+    std::string m_encoded;
 };
 
 // The whole character at an index, both units of a surrogate pair.

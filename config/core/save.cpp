@@ -34,7 +34,7 @@ class Save
 {
   public:
     Save(const Text& path, FilePort& files, const SaveNotice& notice)
-        : path_(path), files_(files), notice_(notice)
+        : m_path(path), m_files(files), m_notice(notice)
     {
     }
 
@@ -43,55 +43,55 @@ class Save
         if (exists)
             SecureOldContent();
         // A file that was not there is never emptied, should it have come up meanwhile.
-        const CreateMode mode = exists && !renamed_ ? CreateMode::Truncate : CreateMode::New;
+        const CreateMode mode = exists && !m_renamed ? CreateMode::Truncate : CreateMode::New;
         if (!Write(bytes, mode)) {
             RestoreOldContent(exists);
-            return std::move(result_);
+            return std::move(m_result);
         }
-        if (renamed_ || stale_backup_)
-            files_.Remove(result_.backupPath);
-        return std::move(result_);
+        if (m_renamed || m_staleBackup)
+            m_files.Remove(m_result.backupPath);
+        return std::move(m_result);
     }
 
   private:
     void SecureOldContent()
     {
-        const Text backup = BackupPath(path_);
-        if (EndsInBackupExtension(path_) || files_.IsSameFile(path_, backup)) {
+        const Text backup = BackupPath(m_path);
+        if (EndsInBackupExtension(m_path) || m_files.IsSameFile(m_path, backup)) {
             KeepOldContentInMemory();
             return;
         }
-        result_.backupPath = backup;
-        FileResult renaming = files_.Rename(path_, backup);
+        m_result.backupPath = backup;
+        FileResult renaming = m_files.Rename(m_path, backup);
         if (renaming) {
-            renamed_ = true;
+            m_renamed = true;
             return;
         }
-        stale_backup_ = true;
+        m_staleBackup = true;
         KeepOldContentInMemory();
-        notice_(renaming.systemText.substr(0, kLongestSystemText));
+        m_notice(renaming.systemText.substr(0, kLongestSystemText));
     }
 
     // A file that cannot be read is overwritten all the same: a save is not given up for want of
     // a backup. Reading is tried twice, since the memory is the only backup there will be.
     void KeepOldContentInMemory()
     {
-        for (int attempt = 0; attempt < 2 && !old_content_; ++attempt) {
+        for (int attempt = 0; attempt < 2 && !m_oldContent; ++attempt) {
             std::string content;
-            if (ReadBlocks(files_, path_, [&content](std::string_view block) { content += block; }))
-                old_content_ = std::move(content);
+            if (ReadBlocks(m_files, m_path, [&content](std::string_view block) { content += block; }))
+                m_oldContent = std::move(content);
         }
     }
 
     bool Write(const std::string& bytes, CreateMode mode)
     {
         FileHandle file{};
-        if (!Check(files_.Create(path_, mode, file), SaveOutcome::CreateFailed))
+        if (!Check(m_files.Create(m_path, mode, file), SaveOutcome::CreateFailed))
             return false;
-        created_ = true;
-        const bool written = Check(files_.Write(file, bytes), SaveOutcome::WriteFailed) &&
-                             Check(files_.Flush(file), SaveOutcome::FlushFailed);
-        const FileResult closing = files_.Close(file);
+        m_created = true;
+        const bool written = Check(m_files.Write(file, bytes), SaveOutcome::WriteFailed) &&
+                             Check(m_files.Flush(file), SaveOutcome::FlushFailed);
+        const FileResult closing = m_files.Close(file);
         return written && Check(closing, SaveOutcome::CloseFailed);
     }
 
@@ -99,47 +99,47 @@ class Save
     {
         if (step)
             return true;
-        result_.outcome = failure;
-        result_.systemText = step.systemText.substr(0, kLongestSystemText);
+        m_result.outcome = failure;
+        m_result.systemText = step.systemText.substr(0, kLongestSystemText);
         return false;
     }
 
     void RestoreOldContent(bool exists)
     {
-        result_.oldContent = exists ? OldContent::Stands : OldContent::NoneBefore;
-        if (renamed_) {
-            if (created_)
-                files_.Remove(path_);
-            if (!files_.Rename(result_.backupPath, path_))
-                result_.oldContent = OldContent::UnderBackupName;
-        } else if (created_ && old_content_) {
+        m_result.oldContent = exists ? OldContent::Stands : OldContent::NoneBefore;
+        if (m_renamed) {
+            if (m_created)
+                m_files.Remove(m_path);
+            if (!m_files.Rename(m_result.backupPath, m_path))
+                m_result.oldContent = OldContent::UnderBackupName;
+        } else if (m_created && m_oldContent) {
             // A second try, since nothing but this memory holds the content any more.
             if (!PutBack() && !PutBack())
-                result_.oldContent = OldContent::Lost;
-        } else if (created_) {
-            files_.Remove(path_);
+                m_result.oldContent = OldContent::Lost;
+        } else if (m_created) {
+            m_files.Remove(m_path);
             if (exists)
-                result_.oldContent = OldContent::Lost;
+                m_result.oldContent = OldContent::Lost;
         }
     }
 
     bool PutBack()
     {
         FileHandle file{};
-        if (!files_.Create(path_, CreateMode::Truncate, file))
+        if (!m_files.Create(m_path, CreateMode::Truncate, file))
             return false;
-        const bool written = files_.Write(file, *old_content_) && files_.Flush(file);
-        return files_.Close(file) && written;
+        const bool written = m_files.Write(file, *m_oldContent) && m_files.Flush(file);
+        return m_files.Close(file) && written;
     }
 
-    const Text& path_;
-    FilePort& files_;
-    const SaveNotice& notice_;
-    SaveResult result_;
-    bool renamed_ = false;
-    bool stale_backup_ = false; ///< The backup's name could not be taken.
-    bool created_ = false;
-    std::optional<std::string> old_content_;
+    const Text& m_path;
+    FilePort& m_files;
+    const SaveNotice& m_notice;
+    SaveResult m_result;
+    bool m_renamed = false;
+    bool m_staleBackup = false; ///< The backup's name could not be taken.
+    bool m_created = false;
+    std::optional<std::string> m_oldContent;
 };
 
 } // namespace

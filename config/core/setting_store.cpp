@@ -28,7 +28,7 @@ void SettingStore::SetSetting(TextView name, TextView value, std::int32_t kind, 
     const SettingTable::Index index = records.Find(name);
     const bool changed = index == SettingTable::kNone || records.At(index).value != value;
     if (table == kCurrentTable && changed)
-        modified_ = true;
+        m_modified = true;
     if (index == SettingTable::kNone)
         records.Insert(name, value, kind, comment);
     else
@@ -42,7 +42,7 @@ void SettingStore::ExtendSetting(TextView name, TextView before, TextView after,
     if (index == SettingTable::kNone)
         return;
     if (table == kCurrentTable && !(before.empty() && after.empty()))
-        modified_ = true;
+        m_modified = true;
     records.ExtendValue(index, before, after, kind);
 }
 
@@ -65,7 +65,7 @@ void SettingStore::Replace(int table, SettingTable&& records)
     SettingTable& target = Table(table);
     target = std::move(records);
     if (table == kCurrentTable)
-        modified_ = target.Count() > 0;
+        m_modified = target.Count() > 0;
 }
 
 void SettingStore::VisitInOrder(int table, const std::function<bool(const SettingRecord&)>& visit) const

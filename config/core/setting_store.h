@@ -58,18 +58,18 @@ class SettingStore
     void VisitInOrder(int table, const std::function<bool(const SettingRecord&)>& visit) const;
 
     /// The selected table, for reading.
-    const SettingTable& Table(int table) const { return table == kCurrentTable ? current_ : default_; }
+    const SettingTable& Table(int table) const { return table == kCurrentTable ? m_current : m_default; }
 
     /// True when the current table was changed since the mark was last cleared.
-    bool IsModified() const { return modified_; }
-    void SetModified(bool modified) { modified_ = modified; }
+    bool IsModified() const { return m_modified; }
+    void SetModified(bool modified) { m_modified = modified; }
 
   private:
-    SettingTable& Table(int table) { return table == kCurrentTable ? current_ : default_; }
+    SettingTable& Table(int table) { return table == kCurrentTable ? m_current : m_default; }
 
-    SettingTable current_;
-    SettingTable default_;
-    bool modified_ = false;
+    SettingTable m_current;
+    SettingTable m_default;
+    bool m_modified = false;
 };
 
 } // namespace ov

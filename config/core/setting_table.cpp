@@ -29,22 +29,22 @@ std::uint32_t Length32(std::size_t length)
 
 SettingTable::Index SettingTable::Find(TextView name) const
 {
-    if (slots_.empty())
+    if (m_slots.empty())
         return kNone;
     const std::uint32_t hash = HashOf(name);
-    const std::size_t mask = slots_.size() - 1;
+    const std::size_t mask = m_slots.size() - 1;
     for (std::size_t place = hash & mask;; place = (place + 1) & mask) {
-        const Slot& slot = slots_[place];
+        const Slot& slot = m_slots[place];
         if (slot.index == kNone)
             return kNone;
-        if (slot.hash == hash && NameOf(entries_[slot.index]) == name)
+        if (slot.hash == hash && NameOf(m_entries[slot.index]) == name)
             return slot.index;
     }
 }
 
 SettingRecord SettingTable::At(Index index) const
 {
-    const Entry& entry = entries_[index];
+    const Entry& entry = m_entries[index];
     return {NameOf(entry),
             {entry.block + entry.valueOffset, entry.valueLength},
             {entry.comment, entry.commentLength},
@@ -53,10 +53,10 @@ SettingRecord SettingTable::At(Index index) const
 
 SettingTable::Index SettingTable::Insert(TextView name, TextView value, std::int32_t kind, TextView comment)
 {
-    if ((entries_.size() + 1) * 4 > slots_.size() * 3)
+    if ((m_entries.size() + 1) * 4 > m_slots.size() * 3)
         GrowSlots();
-    if (!entries_.empty() && name < NameOf(entries_.back()))
-        inserted_in_order_ = false;
+    if (!m_entries.empty() && name < NameOf(m_entries.back()))
+        m_insertedInOrder = false;
 
     Entry entry{};
     entry.nameLength = Length32(name.size());
@@ -66,26 +66,26 @@ SettingTable::Index SettingTable::Insert(TextView name, TextView value, std::int
     entry.kind = kind;
     entry.name = Keep(name);
     entry.comment = Keep(comment);
-    entry.block = arena_.Allocate(value.size());
+    entry.block = m_arena.Allocate(value.size());
     Traits::copy(entry.block, value.data(), value.size());
 
-    const auto index = static_cast<Index>(entries_.size());
-    entries_.push_back(entry);
+    const auto index = static_cast<Index>(m_entries.size());
+    m_entries.push_back(entry);
     const std::uint32_t hash = HashOf(name);
-    const std::size_t mask = slots_.size() - 1;
+    const std::size_t mask = m_slots.size() - 1;
     std::size_t place = hash & mask;
-    while (slots_[place].index != kNone)
+    while (m_slots[place].index != kNone)
         place = (place + 1) & mask;
-    slots_[place] = {hash, index};
+    m_slots[place] = {hash, index};
     return index;
 }
 
 void SettingTable::SetValue(Index index, TextView value, std::int32_t kind)
 {
-    Entry& entry = entries_[index];
+    Entry& entry = m_entries[index];
     const std::uint32_t length = Length32(value.size());
     if (length > entry.blockLength) {
-        char16_t* block = arena_.Allocate(length);
+        char16_t* block = m_arena.Allocate(length);
         Traits::copy(block, value.data(), length);
         entry.block = block;
         entry.blockLength = length;
@@ -99,7 +99,7 @@ void SettingTable::SetValue(Index index, TextView value, std::int32_t kind)
 
 void SettingTable::ExtendValue(Index index, TextView before, TextView after, std::int32_t kind)
 {
-    Entry& entry = entries_[index];
+    Entry& entry = m_entries[index];
     const std::size_t length = before.size() + entry.valueLength + after.size();
     const std::size_t roomBefore = entry.valueOffset;
     const std::size_t roomAfter = entry.blockLength - entry.valueOffset - entry.valueLength;
@@ -109,7 +109,7 @@ void SettingTable::ExtendValue(Index index, TextView before, TextView after, std
         const std::size_t newBefore = before.size() > roomBefore ? length : std::min(roomBefore, length);
         const std::size_t newAfter = after.size() > roomAfter ? length : std::min(roomAfter, length);
         const std::uint32_t blockLength = Length32(newBefore + length + newAfter);
-        char16_t* block = arena_.Allocate(blockLength);
+        char16_t* block = m_arena.Allocate(blockLength);
         const std::size_t offset = newBefore + before.size();
         Traits::copy(block + offset, entry.block + entry.valueOffset, entry.valueLength);
         entry.block = block;
@@ -125,11 +125,11 @@ void SettingTable::ExtendValue(Index index, TextView before, TextView after, std
 
 void SettingTable::VisitInOrder(const std::function<bool(const SettingRecord&)>& visit) const
 {
-    std::vector<Index> order(entries_.size());
+    std::vector<Index> order(m_entries.size());
     std::iota(order.begin(), order.end(), Index{0});
-    if (!inserted_in_order_) {
+    if (!m_insertedInOrder) {
         std::sort(order.begin(), order.end(),
-                  [this](Index a, Index b) { return NameOf(entries_[a]) < NameOf(entries_[b]); });
+                  [this](Index a, Index b) { return NameOf(m_entries[a]) < NameOf(m_entries[b]); });
     }
     for (const Index index : order) {
         if (!visit(At(index)))
@@ -139,16 +139,16 @@ void SettingTable::VisitInOrder(const std::function<bool(const SettingRecord&)>&
 
 const char16_t* SettingTable::Keep(TextView text)
 {
-    char16_t* room = arena_.Allocate(text.size());
+    char16_t* room = m_arena.Allocate(text.size());
     Traits::copy(room, text.data(), text.size());
     return room;
 }
 
 void SettingTable::GrowSlots()
 {
-    std::vector<Slot> grown(std::max<std::size_t>(16, slots_.size() * 2), Slot{0, kNone});
+    std::vector<Slot> grown(std::max<std::size_t>(16, m_slots.size() * 2), Slot{0, kNone});
     const std::size_t mask = grown.size() - 1;
-    for (const Slot& slot : slots_) {
+    for (const Slot& slot : m_slots) {
         if (slot.index == kNone)
             continue;
         std::size_t place = slot.hash & mask;
@@ -156,7 +156,7 @@ void SettingTable::GrowSlots()
             place = (place + 1) & mask;
         grown[place] = slot;
     }
-    slots_ = std::move(grown);
+    m_slots = std::move(grown);
 }
 
 } // namespace ov

@@ -59,7 +59,7 @@ class SettingTable
     void ExtendValue(Index index, TextView before, TextView after, std::int32_t kind);
 
     /// The number of variables.
-    std::size_t Count() const { return entries_.size(); }
+    std::size_t Count() const { return m_entries.size(); }
 
     /// Calls the function with every record in ordinal order of the names, until it returns false.
     void VisitInOrder(const std::function<bool(const SettingRecord&)>& visit) const;
@@ -86,10 +86,10 @@ class SettingTable
     const char16_t* Keep(TextView text);
     void GrowSlots();
 
-    TextArena arena_;
-    std::deque<Entry> entries_;
-    std::vector<Slot> slots_; ///< A power of two of places, at most three quarters of them taken.
-    bool inserted_in_order_ = true;
+    TextArena m_arena;
+    std::deque<Entry> m_entries;
+    std::vector<Slot> m_slots; ///< A power of two of places, at most three quarters of them taken.
+    bool m_insertedInOrder = true;
 };
 
 } // namespace ov

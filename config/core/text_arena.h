@@ -16,10 +16,10 @@ class TextArena
     TextArena(TextArena&& other) noexcept { *this = std::move(other); }
     TextArena& operator=(TextArena&& other) noexcept
     {
-        blocks_ = std::move(other.blocks_);
-        other.blocks_.clear();
-        free_ = std::exchange(other.free_, nullptr);
-        free_length_ = std::exchange(other.free_length_, 0);
+        m_blocks = std::move(other.m_blocks);
+        other.m_blocks.clear();
+        m_free = std::exchange(other.m_free, nullptr);
+        m_freeLength = std::exchange(other.m_freeLength, 0);
         return *this;
     }
 
@@ -27,9 +27,9 @@ class TextArena
     char16_t* Allocate(std::size_t length);
 
   private:
-    std::vector<std::unique_ptr<char16_t[]>> blocks_;
-    char16_t* free_ = nullptr;
-    std::size_t free_length_ = 0;
+    std::vector<std::unique_ptr<char16_t[]>> m_blocks;
+    char16_t* m_free = nullptr;
+    std::size_t m_freeLength = 0;
 };
 
 } // namespace ov

@@ -23,15 +23,15 @@ void LineSplitter::Feed(std::string_view block, const LineFunction& line)
     while (!block.empty()) {
         const std::size_t length = block.find('\n');
         if (length == std::string_view::npos) {
-            rest_.append(block);
+            m_rest.append(block);
             return;
         }
-        if (rest_.empty()) {
+        if (m_rest.empty()) {
             line(WithoutCarriageReturn(block.substr(0, length)));
         } else {
-            rest_.append(block, 0, length);
-            line(WithoutCarriageReturn(rest_));
-            rest_.clear();
+            m_rest.append(block, 0, length);
+            line(WithoutCarriageReturn(m_rest));
+            m_rest.clear();
         }
         block.remove_prefix(length + 1);
     }
@@ -39,9 +39,9 @@ void LineSplitter::Feed(std::string_view block, const LineFunction& line)
 
 void LineSplitter::Finish(const LineFunction& line)
 {
-    if (!rest_.empty())
-        line(rest_);
-    rest_.clear();
+    if (!m_rest.empty())
+        line(m_rest);
+    m_rest.clear();
 }
 
 FileResult ReadBlocks(FilePort& files, const Text& path, const std::function<void(std::string_view)>& block)

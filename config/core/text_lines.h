@@ -31,7 +31,7 @@ class LineSplitter
     void Finish(const LineFunction& line);
 
   private:
-    std::string rest_; ///< The beginning of a line whose end has not come yet.
+    std::string m_rest; ///< The beginning of a line whose end has not come yet.
 };
 
 /// Reads a file from beginning to end and gives its bytes in blocks.

@@ -27,23 +27,23 @@ Text Folded(TextView text)
 class ForwardFinder
 {
   public:
-    ForwardFinder(TextView text, char16_t wanted) : text_(text), wanted_(wanted) {}
+    ForwardFinder(TextView text, char16_t wanted) : m_text(text), m_wanted(wanted) {}
 
     // The text's length when there is none.
     std::size_t At(std::size_t from)
     {
-        if (!searched_ || found_ < from) {
-            found_ = std::min(text_.find(wanted_, from), text_.size());
-            searched_ = true;
+        if (!m_searched || m_found < from) {
+            m_found = std::min(m_text.find(m_wanted, from), m_text.size());
+            m_searched = true;
         }
-        return found_;
+        return m_found;
     }
 
   private:
-    TextView text_;
-    char16_t wanted_;
-    std::size_t found_ = 0;
-    bool searched_ = false;
+    TextView m_text;
+    char16_t m_wanted;
+    std::size_t m_found = 0;
+    bool m_searched = false;
 };
 
 // One field after the other from the front of an entry.
@@ -51,7 +51,7 @@ class FieldReader
 {
   public:
     FieldReader(TextView entry, const ListFormat& format)
-        : rest_(entry), stops_{format.fieldSeparator, u'\0'}, qualifier_(format.qualifier)
+        : m_rest(entry), m_stops{format.fieldSeparator, u'\0'}, m_qualifier(format.qualifier)
     {
     }
 
@@ -59,16 +59,16 @@ class FieldReader
     {
         Text field;
         const std::size_t consumed =
-            ExtractTokenString(field, rest_, u" ", u" ", nullptr, stops_, nullptr,
-                               qualifier_ != u'\0' ? &qualifier_ : nullptr, longestField);
-        rest_.remove_prefix(std::min(consumed, rest_.size()));
+            ExtractTokenString(field, m_rest, u" ", u" ", nullptr, m_stops, nullptr,
+                               m_qualifier != u'\0' ? &m_qualifier : nullptr, longestField);
+        m_rest.remove_prefix(std::min(consumed, m_rest.size()));
         return field;
     }
 
   private:
-    TextView rest_;
-    char16_t stops_[2];
-    char16_t qualifier_;
+    TextView m_rest;
+    char16_t m_stops[2];
+    char16_t m_qualifier;
 };
 
 ListRows::Row ReadFields(TextView entry, const ListFormat& format)
@@ -86,15 +86,15 @@ class RowIndex
   public:
     std::optional<std::size_t> Take(const Text& folded)
     {
-        const auto found = rows_.find(folded);
-        if (found == rows_.end() || found->second.empty())
+        const auto found = m_rows.find(folded);
+        if (found == m_rows.end() || found->second.empty())
             return std::nullopt;
         return found->second.extract(found->second.begin()).value();
     }
-    void Add(Text folded, std::size_t row) { rows_[std::move(folded)].insert(row); }
+    void Add(Text folded, std::size_t row) { m_rows[std::move(folded)].insert(row); }
 
   private:
-    std::unordered_map<Text, std::set<std::size_t>> rows_;
+    std::unordered_map<Text, std::set<std::size_t>> m_rows;
 };
 
 } // namespace
@@ -140,17 +140,17 @@ Text ReadField(TextView entry, std::size_t field, const ListFormat& format)
 
 void ListRows::Fill(TextView listText)
 {
-    rows_.clear();
+    m_rows.clear();
     RowIndex index;
-    for (const TextView entry : SplitEntries(listText, format_)) {
+    for (const TextView entry : SplitEntries(listText, m_format)) {
         if (entry.empty())
             continue;
-        std::size_t row = rows_.size();
+        std::size_t row = m_rows.size();
         if (const auto equal = index.Take(Folded(entry))) {
             row = *equal;
-            rows_[row] = ReadFields(entry, format_);
+            m_rows[row] = ReadFields(entry, m_format);
         } else {
-            rows_.push_back(ReadFields(entry, format_));
+            m_rows.push_back(ReadFields(entry, m_format));
         }
         index.Add(Folded(EntryText(row)), row);
     }
@@ -160,23 +160,23 @@ std::optional<std::size_t> ListRows::FindEqual(TextView entry) const
 {
     const auto equal = [](char16_t a, char16_t b) { return ToUpperAscii(a) == ToUpperAscii(b); };
     const auto found = std::ranges::find_if(
-        rows_, [&](const Row& row) { return std::ranges::equal(JoinFields(row), entry, equal); });
-    if (found == rows_.end())
+        m_rows, [&](const Row& row) { return std::ranges::equal(JoinFields(row), entry, equal); });
+    if (found == m_rows.end())
         return std::nullopt;
-    return static_cast<std::size_t>(found - rows_.begin());
+    return static_cast<std::size_t>(found - m_rows.begin());
 }
 
 std::optional<ListRows::Inserted> ListRows::Insert(std::size_t index, TextView entry)
 {
     if (entry.empty())
         return std::nullopt;
-    Row fields = ReadFields(entry, format_);
+    Row fields = ReadFields(entry, m_format);
     if (const auto equal = FindEqual(entry)) {
-        rows_[*equal] = std::move(fields);
+        m_rows[*equal] = std::move(fields);
         return Inserted{*equal, true};
     }
-    index = std::min(index, rows_.size());
-    rows_.insert(rows_.begin() + static_cast<std::ptrdiff_t>(index), std::move(fields));
+    index = std::min(index, m_rows.size());
+    m_rows.insert(m_rows.begin() + static_cast<std::ptrdiff_t>(index), std::move(fields));
     return Inserted{index, false};
 }
 
@@ -189,67 +189,67 @@ std::optional<ListRows::Inserted> ListRows::Move(std::size_t from, std::size_t t
 
 void ListRows::Delete(std::size_t row)
 {
-    if (row < rows_.size())
-        rows_.erase(rows_.begin() + static_cast<std::ptrdiff_t>(row));
+    if (row < m_rows.size())
+        m_rows.erase(m_rows.begin() + static_cast<std::ptrdiff_t>(row));
 }
 
 std::vector<std::size_t> ListRows::Sort(bool ascending)
 {
-    std::vector<std::size_t> former(rows_.size());
+    std::vector<std::size_t> former(m_rows.size());
     std::iota(former.begin(), former.end(), std::size_t{0});
     std::ranges::stable_sort(former, [&](std::size_t a, std::size_t b) {
-        return ascending ? rows_[a] < rows_[b] : rows_[b] < rows_[a];
+        return ascending ? m_rows[a] < m_rows[b] : m_rows[b] < m_rows[a];
     });
     std::vector<Row> sorted;
-    sorted.reserve(rows_.size());
-    std::vector<std::size_t> places(rows_.size());
+    sorted.reserve(m_rows.size());
+    std::vector<std::size_t> places(m_rows.size());
     for (const std::size_t row : former) {
         places[row] = sorted.size();
-        sorted.push_back(std::move(rows_[row]));
+        sorted.push_back(std::move(m_rows[row]));
     }
-    rows_ = std::move(sorted);
+    m_rows = std::move(sorted);
     return places;
 }
 
 Text ListRows::JoinFields(const Row& row) const
 {
-    const bool hasSeparator = format_.fieldSeparator != u'\0';
+    const bool hasSeparator = m_format.fieldSeparator != u'\0';
     Text entry;
     for (std::size_t i = 0; i < row.size(); ++i) {
         if (i > 0 && hasSeparator)
-            entry.push_back(format_.fieldSeparator);
+            entry.push_back(m_format.fieldSeparator);
         const bool qualified =
-            hasSeparator && format_.qualifier != u'\0' && row[i].find(format_.fieldSeparator) != Text::npos;
+            hasSeparator && m_format.qualifier != u'\0' && row[i].find(m_format.fieldSeparator) != Text::npos;
         if (qualified)
-            entry.push_back(format_.qualifier);
+            entry.push_back(m_format.qualifier);
         entry += row[i];
         if (qualified)
-            entry.push_back(format_.qualifier);
+            entry.push_back(m_format.qualifier);
     }
     return entry;
 }
 
 Text ListRows::EntryText(std::size_t row) const
 {
-    return JoinFields(rows_[row]);
+    return JoinFields(m_rows[row]);
 }
 
 Text ListRows::ListText() const
 {
     Text text;
-    for (const Row& row : rows_) {
+    for (const Row& row : m_rows) {
         const Text joined = JoinFields(row);
         const TextView entry = Trim(joined);
         if (entry.empty())
             continue;
         text += entry;
-        text.push_back(format_.separator);
+        text.push_back(m_format.separator);
     }
     // Entries may begin or end in separators of their own.
-    const std::size_t first = text.find_first_not_of(format_.separator);
+    const std::size_t first = text.find_first_not_of(m_format.separator);
     if (first == Text::npos)
         return {};
-    const std::size_t last = text.find_last_not_of(format_.separator);
+    const std::size_t last = text.find_last_not_of(m_format.separator);
     return text.substr(first, last - first + 1);
 }
 

@@ -39,11 +39,11 @@ class ListRows
         bool operator==(const Inserted&) const = default;
     };
 
-    explicit ListRows(const ListFormat& format) : format_(format) {}
+    explicit ListRows(const ListFormat& format) : m_format(format) {}
 
-    std::size_t Count() const { return rows_.size(); }
+    std::size_t Count() const { return m_rows.size(); }
     /// The fields of a row; `row` must be below Count().
-    const Row& operator[](std::size_t row) const { return rows_[row]; }
+    const Row& operator[](std::size_t row) const { return m_rows[row]; }
 
     /// Replaces all rows by the entries of a list text, as inserting one after the other at the
     /// end would.
@@ -76,8 +76,8 @@ class ListRows
     std::optional<std::size_t> FindEqual(TextView entry) const;
     Text JoinFields(const Row& row) const;
 
-    ListFormat format_;
-    std::vector<Row> rows_;
+    ListFormat m_format;
+    std::vector<Row> m_rows;
 };
 
 } // namespace ov

@@ -49,23 +49,23 @@ class TokenReader
     TokenReader(TextView source, const char16_t* leadingSkip, const char16_t* trailingTrim,
                 const char16_t* remove, const char16_t* consumedStops, const char16_t* keptStops,
                 const char16_t* qualifier)
-        : source_(source), trailing_trim_(trailingTrim), remove_(remove), consumed_stops_(consumedStops),
-          kept_stops_(keptStops), has_qualifier_(qualifier != nullptr),
-          qualifier_(qualifier != nullptr ? *qualifier : u'\0')
+        : m_source(source), m_trailingTrim(trailingTrim), m_remove(remove), m_consumedStops(consumedStops),
+          m_keptStops(keptStops), m_hasQualifier(qualifier != nullptr),
+          m_qualifier(qualifier != nullptr ? *qualifier : u'\0')
     {
-        while (start_ < source_.size() && Contains(leadingSkip, source_[start_]))
-            ++start_;
-        end_ = source_.size();
-        while (end_ > start_ + 1 && Contains(trailingTrim, source_[end_ - 1]))
-            --end_;
+        while (m_start < m_source.size() && Contains(leadingSkip, m_source[m_start]))
+            ++m_start;
+        m_end = m_source.size();
+        while (m_end > m_start + 1 && Contains(trailingTrim, m_source[m_end - 1]))
+            --m_end;
     }
 
     // Sets the token and gives the number of characters consumed.
     std::size_t Read(Text& token) const
     {
-        if (start_ == source_.size())
-            return start_;
-        if (IsQualifier(start_)) {
+        if (m_start == m_source.size())
+            return m_start;
+        if (IsQualifier(m_start)) {
             std::size_t consumed = 0;
             if (ReadEmptyQualified(consumed) || ReadQualified(token, consumed))
                 return consumed;
@@ -74,71 +74,71 @@ class TokenReader
     }
 
   private:
-    bool IsQualifier(std::size_t index) const { return has_qualifier_ && source_[index] == qualifier_; }
+    bool IsQualifier(std::size_t index) const { return m_hasQualifier && m_source[index] == m_qualifier; }
     bool IsStop(std::size_t index) const
     {
-        return Contains(consumed_stops_, source_[index]) || Contains(kept_stops_, source_[index]);
+        return Contains(m_consumedStops, m_source[index]) || Contains(m_keptStops, m_source[index]);
     }
 
     // Two qualifiers and then a stop, or nothing but two qualifiers, are an empty token.
     bool ReadEmptyQualified(std::size_t& consumed) const
     {
-        if (start_ + 1 >= source_.size() || !IsQualifier(start_ + 1))
+        if (m_start + 1 >= m_source.size() || !IsQualifier(m_start + 1))
             return false;
-        const std::size_t after = start_ + 2;
-        if (source_.size() == 2) {
+        const std::size_t after = m_start + 2;
+        if (m_source.size() == 2) {
             consumed = 2;
             return true;
         }
-        if (after >= source_.size() || !IsStop(after))
+        if (after >= m_source.size() || !IsStop(after))
             return false;
-        consumed = Contains(consumed_stops_, source_[after]) ? after + 1 : after;
+        consumed = Contains(m_consumedStops, m_source[after]) ? after + 1 : after;
         return true;
     }
 
     // A token that is one quoted text from its first to its last character takes the whole source.
     bool ReadQualified(Text& token, std::size_t& consumed) const
     {
-        std::size_t run = start_;
-        while (run < end_ && IsQualifier(run))
+        std::size_t run = m_start;
+        while (run < m_end && IsQualifier(run))
             ++run;
-        if (run == end_ || (run - start_) % 2 == 0)
+        if (run == m_end || (run - m_start) % 2 == 0)
             return false;
-        std::size_t closing = start_ + 1;
-        while (closing < end_) {
+        std::size_t closing = m_start + 1;
+        while (closing < m_end) {
             if (!IsQualifier(closing)) {
                 ++closing;
-            } else if (closing + 1 < source_.size() && IsQualifier(closing + 1)) {
+            } else if (closing + 1 < m_source.size() && IsQualifier(closing + 1)) {
                 closing += 2;
             } else {
                 break;
             }
         }
-        if (closing >= end_)
+        if (closing >= m_end)
             return false;
-        const bool last = closing + 1 == end_ || OnlyBlanksFrom(closing + 1);
-        const bool oneStop = closing + 2 == end_ && IsStop(closing + 1);
+        const bool last = closing + 1 == m_end || OnlyBlanksFrom(closing + 1);
+        const bool oneStop = closing + 2 == m_end && IsStop(closing + 1);
         if (!last && !oneStop)
             return false;
-        AppendUndoubled(token, source_.substr(start_ + 1, closing - start_ - 1), qualifier_);
-        consumed = source_.size();
+        AppendUndoubled(token, m_source.substr(m_start + 1, closing - m_start - 1), m_qualifier);
+        consumed = m_source.size();
         return true;
     }
 
     bool OnlyBlanksFrom(std::size_t index) const
     {
-        return source_.substr(index).find_first_not_of(u' ') == TextView::npos;
+        return m_source.substr(index).find_first_not_of(u' ') == TextView::npos;
     }
 
     std::size_t Scan(Text& token) const
     {
         bool inside = false;
         std::size_t kept = 0; // What stands before the last closing qualifier is not trimmed.
-        std::size_t next = source_.size();
-        for (std::size_t i = start_; i < end_; ++i) {
-            const char16_t c = source_[i];
+        std::size_t next = m_source.size();
+        for (std::size_t i = m_start; i < m_end; ++i) {
+            const char16_t c = m_source[i];
             if (IsQualifier(i)) {
-                if (i + 1 < end_ && IsQualifier(i + 1)) {
+                if (i + 1 < m_end && IsQualifier(i + 1)) {
                     token.push_back(c);
                     ++i;
                     continue;
@@ -149,33 +149,33 @@ class TokenReader
                 continue;
             }
             if (!inside) {
-                if (Contains(remove_, c))
+                if (Contains(m_remove, c))
                     continue;
-                if (Contains(consumed_stops_, c)) {
+                if (Contains(m_consumedStops, c)) {
                     next = i + 1;
                     break;
                 }
-                if (Contains(kept_stops_, c)) {
+                if (Contains(m_keptStops, c)) {
                     next = i;
                     break;
                 }
             }
             token.push_back(c);
         }
-        while (token.size() > kept && Contains(trailing_trim_, token.back()))
+        while (token.size() > kept && Contains(m_trailingTrim, token.back()))
             token.pop_back();
         return next;
     }
 
-    TextView source_;
-    const char16_t* trailing_trim_;
-    const char16_t* remove_;
-    const char16_t* consumed_stops_;
-    const char16_t* kept_stops_;
-    bool has_qualifier_;
-    char16_t qualifier_;
-    std::size_t start_ = 0;
-    std::size_t end_ = 0; // One past the last character that is not trimmed.
+    TextView m_source;
+    const char16_t* m_trailingTrim;
+    const char16_t* m_remove;
+    const char16_t* m_consumedStops;
+    const char16_t* m_keptStops;
+    bool m_hasQualifier;
+    char16_t m_qualifier;
+    std::size_t m_start = 0;
+    std::size_t m_end = 0; // One past the last character that is not trimmed.
 };
 
 void CopyOut(char16_t* destination, TextView text, std::size_t capacity)

@@ -14,32 +14,35 @@ namespace
 class ConfigReader : public testing::Test
 {
   protected:
-    void ReadCurrent(std::string_view bytes) { ReadConfig(store_, kCurrentTable, bytes); }
-    void ReadDefault(std::string_view bytes) { ReadConfig(store_, kDefaultTable, bytes); }
-    Text Value(TextView name, int table = kCurrentTable) const { return store_.GetSettingValue(name, table); }
-    Text Comment(TextView name) const { return Text(store_.FindSetting(name, kCurrentTable)->comment); }
+    void ReadCurrent(std::string_view bytes) { ReadConfig(m_store, kCurrentTable, bytes); }
+    void ReadDefault(std::string_view bytes) { ReadConfig(m_store, kDefaultTable, bytes); }
+    Text Value(TextView name, int table = kCurrentTable) const
+    {
+        return m_store.GetSettingValue(name, table);
+    }
+    Text Comment(TextView name) const { return Text(m_store.FindSetting(name, kCurrentTable)->comment); }
     std::int32_t Kind(TextView name, int table = kCurrentTable) const
     {
-        return store_.FindSetting(name, table)->kind;
+        return m_store.FindSetting(name, table)->kind;
     }
-    std::size_t Count() const { return store_.Count(kCurrentTable); }
+    std::size_t Count() const { return m_store.Count(kCurrentTable); }
 
-    const test::ScopedLocale locale_{"C"};
-    SettingStore store_;
-    test::MemoryFilePort files_;
+    const test::ScopedLocale m_locale{"C"};
+    SettingStore m_store;
+    test::MemoryFilePort m_files;
 };
 
 TEST_F(ConfigReader, LineWithoutBlanksIsSkipped)
 {
     ReadCurrent("NAME=value\nOTHER = 1\n");
     EXPECT_EQ(Count(), 1u);
-    EXPECT_TRUE(store_.HasSetting(u"OTHER", kCurrentTable));
+    EXPECT_TRUE(m_store.HasSetting(u"OTHER", kCurrentTable));
 }
 
 TEST_F(ConfigReader, BlankOnlyBeforeTheOperatorGivesAnEmptyValue)
 {
     ReadCurrent("NAME =value\n");
-    ASSERT_TRUE(store_.HasSetting(u"NAME", kCurrentTable));
+    ASSERT_TRUE(m_store.HasSetting(u"NAME", kCurrentTable));
     EXPECT_EQ(Value(u"NAME"), u"");
     EXPECT_EQ(Kind(u"NAME"), SettingKindText);
 }
@@ -53,7 +56,7 @@ TEST_F(ConfigReader, BlankOnlyBehindTheOperatorSkipsTheLine)
 TEST_F(ConfigReader, BlankOnlyBehindTheOperatorIsReadWhenTheValueHoldsAnOperator)
 {
     ReadCurrent("NAME= a=b\n");
-    EXPECT_TRUE(store_.HasSetting(u"NAME=", kCurrentTable));
+    EXPECT_TRUE(m_store.HasSetting(u"NAME=", kCurrentTable));
     EXPECT_EQ(Value(u"NAME="), u"");
 }
 
@@ -88,7 +91,7 @@ TEST_F(ConfigReader, TwoQuotesOrOneAreAnEmptyText)
 {
     ReadCurrent("A = \"\"\nB = \"\n");
     for (const char16_t* name : {u"A", u"B"}) {
-        ASSERT_TRUE(store_.HasSetting(name, kCurrentTable));
+        ASSERT_TRUE(m_store.HasSetting(name, kCurrentTable));
         EXPECT_EQ(Value(name), u"");
         EXPECT_EQ(Kind(name), SettingKindText);
     }
@@ -134,19 +137,19 @@ TEST_F(ConfigReader, EveryOperatorOfTheDefaultFileLooksAtTheCurrentTable)
 TEST_F(ConfigReader, ReadingTheDefaultFileLeavesTheCurrentTableAlone)
 {
     ReadCurrent("A = 1\n");
-    store_.SetModified(false);
+    m_store.SetModified(false);
     ReadDefault("A > 2\nB = 3\n");
     EXPECT_EQ(Count(), 1u);
     EXPECT_EQ(Value(u"A"), u"1");
-    EXPECT_FALSE(store_.IsModified());
+    EXPECT_FALSE(m_store.IsModified());
 }
 
 TEST_F(ConfigReader, ReadingTheCurrentFileClearsTheMarkBeforeItsInsertionsSetIt)
 {
     ReadCurrent("A = 1\n");
-    EXPECT_TRUE(store_.IsModified());
+    EXPECT_TRUE(m_store.IsModified());
     ReadCurrent("# nothing but a comment\n");
-    EXPECT_FALSE(store_.IsModified());
+    EXPECT_FALSE(m_store.IsModified());
 }
 
 TEST_F(ConfigReader, FileOfCommentsOnlyEmptiesTheTable)
@@ -159,10 +162,10 @@ TEST_F(ConfigReader, FileOfCommentsOnlyEmptiesTheTable)
 TEST_F(ConfigReader, EmptyFileLeavesTheTableAsItWas)
 {
     ReadCurrent("A = 1\n");
-    store_.SetModified(false);
+    m_store.SetModified(false);
     ReadCurrent("");
     EXPECT_EQ(Value(u"A"), u"1");
-    EXPECT_FALSE(store_.IsModified());
+    EXPECT_FALSE(m_store.IsModified());
 }
 
 TEST_F(ConfigReader, PrependLineJoinsBeforeTheEarlierValue)
@@ -344,9 +347,9 @@ TEST_F(ConfigReader, FileIsReadInAnyBlocks)
 {
     const std::string bytes = "# header\r\n\r\n# about A\r\nA = \"x\"\r\nA > y\r\nB = 2";
     for (std::size_t block = 1; block <= bytes.size(); ++block) {
-        files_.contents[u"a.cfg"] = bytes;
-        files_.blockSize = block;
-        ASSERT_TRUE(ReadConfigFile(store_, kCurrentTable, u"a.cfg", files_).read);
+        m_files.contents[u"a.cfg"] = bytes;
+        m_files.blockSize = block;
+        ASSERT_TRUE(ReadConfigFile(m_store, kCurrentTable, u"a.cfg", m_files).read);
         EXPECT_EQ(Value(u"A"), u"x;y");
         EXPECT_EQ(Comment(u"A"), u"\n# about A\n");
         EXPECT_EQ(Value(u"B"), u"2");
@@ -357,7 +360,7 @@ TEST_F(ConfigReader, EmptyPathAndMissingFileAreNotReadWithoutAWord)
 {
     ReadCurrent("A = 1\n");
     for (const char16_t* path : {u"", u"missing.cfg"}) {
-        const ReadResult result = ReadConfigFile(store_, kCurrentTable, path, files_);
+        const ReadResult result = ReadConfigFile(m_store, kCurrentTable, path, m_files);
         EXPECT_FALSE(result.read);
         EXPECT_EQ(result.systemText, u"");
     }
@@ -367,34 +370,34 @@ TEST_F(ConfigReader, EmptyPathAndMissingFileAreNotReadWithoutAWord)
 TEST_F(ConfigReader, FileThatCannotBeOpenedIsToldAndLeavesTheStore)
 {
     ReadCurrent("A = 1\n");
-    files_.contents[u"a.cfg"] = "B = 1\n";
-    files_.failing = {2}; // after the question whether it exists
-    const ReadResult result = ReadConfigFile(store_, kCurrentTable, u"a.cfg", files_);
+    m_files.contents[u"a.cfg"] = "B = 1\n";
+    m_files.failing = {2}; // after the question whether it exists
+    const ReadResult result = ReadConfigFile(m_store, kCurrentTable, u"a.cfg", m_files);
     EXPECT_FALSE(result.read);
     EXPECT_EQ(result.systemText, test::kFaultText);
     EXPECT_EQ(Value(u"A"), u"1");
-    EXPECT_FALSE(store_.HasSetting(u"B", kCurrentTable));
+    EXPECT_FALSE(m_store.HasSetting(u"B", kCurrentTable));
 }
 
 TEST_F(ConfigReader, FileThatBreaksOffWhileReadingLeavesTheStore)
 {
     ReadCurrent("A = 1\n");
-    files_.contents[u"a.cfg"] = "B = 1\nC = 1\n";
-    files_.blockSize = 6;
-    files_.failing = {4}; // the second block
-    const ReadResult result = ReadConfigFile(store_, kCurrentTable, u"a.cfg", files_);
+    m_files.contents[u"a.cfg"] = "B = 1\nC = 1\n";
+    m_files.blockSize = 6;
+    m_files.failing = {4}; // the second block
+    const ReadResult result = ReadConfigFile(m_store, kCurrentTable, u"a.cfg", m_files);
     EXPECT_FALSE(result.read);
     EXPECT_EQ(result.systemText, test::kFaultText);
     EXPECT_EQ(Value(u"A"), u"1");
-    EXPECT_FALSE(store_.HasSetting(u"B", kCurrentTable));
-    EXPECT_EQ(files_.openFiles, 0);
+    EXPECT_FALSE(m_store.HasSetting(u"B", kCurrentTable));
+    EXPECT_EQ(m_files.openFiles, 0);
 }
 
 TEST_F(ConfigReader, EmptyFileCountsAsRead)
 {
     ReadCurrent("A = 1\n");
-    files_.contents[u"a.cfg"] = "";
-    EXPECT_TRUE(ReadConfigFile(store_, kCurrentTable, u"a.cfg", files_).read);
+    m_files.contents[u"a.cfg"] = "";
+    EXPECT_TRUE(ReadConfigFile(m_store, kCurrentTable, u"a.cfg", m_files).read);
     EXPECT_EQ(Value(u"A"), u"1");
 }
 

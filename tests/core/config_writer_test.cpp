@@ -18,20 +18,20 @@ class ConfigWriter : public testing::Test
   protected:
     void Set(TextView name, TextView value, SettingKind kind = SettingKindText, TextView comment = {})
     {
-        store_.SetSetting(name, value, kind, comment, kCurrentTable);
+        m_store.SetSetting(name, value, kind, comment, kCurrentTable);
     }
 
     // What is written below a header of one line "#".
     std::string Body() const
     {
         std::string bytes;
-        EXPECT_TRUE(WriteConfig(store_, u"#", bytes));
+        EXPECT_TRUE(WriteConfig(m_store, u"#", bytes));
         EXPECT_EQ(bytes.substr(0, 3), "#\r\n");
         return bytes.substr(3);
     }
 
-    const test::ScopedLocale locale_{"C"};
-    SettingStore store_;
+    const test::ScopedLocale m_locale{"C"};
+    SettingStore m_store;
 };
 
 TEST_F(ConfigWriter, ListIsWrittenAsAnAssignmentAndAppendLines)
@@ -60,7 +60,7 @@ TEST_F(ConfigWriter, OnlyTextIsWrittenInQuotes)
 
 TEST_F(ConfigWriter, PathThatNoPageTouchesIsWrittenBackInQuotes)
 {
-    ReadConfig(store_, kCurrentTable, "PATH = C:\\orthoval\\\n");
+    ReadConfig(m_store, kCurrentTable, "PATH = C:\\orthoval\\\n");
     EXPECT_EQ(Body(), "PATH = \"C:\\orthoval\\\"\r\n");
 }
 
@@ -82,13 +82,13 @@ TEST_F(ConfigWriter, EmptyCommentIsTakenFromTheDefaultTable)
     Set(u"A", u"1", SettingKindInteger);
     Set(u"B", u"1", SettingKindInteger, u"# own\n");
     for (const char16_t* name : {u"A", u"B", u"C"})
-        store_.SetSetting(name, u"9", SettingKindInteger, u"# default\n", kDefaultTable);
+        m_store.SetSetting(name, u"9", SettingKindInteger, u"# default\n", kDefaultTable);
     EXPECT_EQ(Body(), "# default\r\nA = 1\r\n# own\r\nB = 1\r\n");
 }
 
 TEST_F(ConfigWriter, VariablesAreInOrdinalNameOrder)
 {
-    ReadConfig(store_, kCurrentTable, "b = 1\n_A = 2\nB = 3\nA = 4\n1 = 5\n");
+    ReadConfig(m_store, kCurrentTable, "b = 1\n_A = 2\nB = 3\nA = 4\n1 = 5\n");
     EXPECT_EQ(Body(), "1 = 5\r\nA = 4\r\nB = 3\r\n_A = 2\r\nb = 1\r\n");
 }
 
@@ -110,7 +110,7 @@ TEST_F(ConfigWriter, HeaderBecomesTheFirstVariablesCommentWhenNothingSeparatesTh
 {
     Set(u"A", u"1", SettingKindInteger);
     std::string first;
-    ASSERT_TRUE(WriteConfig(store_, u"#\n# one\n#", first));
+    ASSERT_TRUE(WriteConfig(m_store, u"#\n# one\n#", first));
     EXPECT_EQ(first, "#\r\n# one\r\n#\r\nA = 1\r\n");
 
     SettingStore again;
@@ -125,7 +125,7 @@ TEST_F(ConfigWriter, CommentBlockSurvivesReadingAndWriting)
 {
     Set(u"A", u"1", SettingKindFlag, MakeCommentBlock(u"One line."));
     std::string bytes;
-    ASSERT_TRUE(WriteConfig(store_, u"# header\n#", bytes));
+    ASSERT_TRUE(WriteConfig(m_store, u"# header\n#", bytes));
     SettingStore again;
     ReadConfig(again, kCurrentTable, bytes);
     EXPECT_EQ(again.FindSetting(u"A", kCurrentTable)->comment, u"\n#\n# One line.\n#\n");
@@ -172,7 +172,7 @@ TEST_F(ConfigWriter, NulInAListIsKept)
 
 TEST_F(ConfigWriter, DefaultTableIsNotWritten)
 {
-    store_.SetSetting(u"A", u"1", SettingKindText, u"", kDefaultTable);
+    m_store.SetSetting(u"A", u"1", SettingKindText, u"", kDefaultTable);
     EXPECT_EQ(Body(), "");
 }
 
@@ -207,7 +207,7 @@ TEST_F(ConfigWriter, RefusedCharacterNamesItsVariable)
     Set(u"B", u"in \u20AC");
     Set(u"C", u"\u4E00");
     std::string bytes;
-    const WriteResult result = WriteConfig(store_, u"#", bytes);
+    const WriteResult result = WriteConfig(m_store, u"#", bytes);
     EXPECT_FALSE(result);
     EXPECT_FALSE(result.inHeader);
     EXPECT_EQ(result.variable, u"B");
@@ -218,7 +218,7 @@ TEST_F(ConfigWriter, RefusedCharacterMayStandInACommentOrBeAPair)
 {
     Set(u"A", u"1", SettingKindText, u"# \U0001F600\n");
     std::string bytes;
-    const WriteResult result = WriteConfig(store_, u"#", bytes);
+    const WriteResult result = WriteConfig(m_store, u"#", bytes);
     EXPECT_EQ(result.variable, u"A");
     EXPECT_EQ(result.character, u"\U0001F600");
 }
@@ -226,7 +226,7 @@ TEST_F(ConfigWriter, RefusedCharacterMayStandInACommentOrBeAPair)
 TEST_F(ConfigWriter, RefusedCharacterInTheHeaderIsTold)
 {
     std::string bytes;
-    const WriteResult result = WriteConfig(store_, u"# \u4E00", bytes);
+    const WriteResult result = WriteConfig(m_store, u"# \u4E00", bytes);
     EXPECT_FALSE(result);
     EXPECT_TRUE(result.inHeader);
     EXPECT_EQ(result.character, u"\u4E00");
@@ -239,7 +239,7 @@ TEST_F(ConfigWriter, EveryByteOfTheLocaleSurvivesReadingAndWriting)
         if (byte != '\n' && byte != '\r' && byte != ';' && byte != '"')
             value.push_back(static_cast<char>(byte));
     }
-    ReadConfig(store_, kCurrentTable, "A = x" + value + "x\n");
+    ReadConfig(m_store, kCurrentTable, "A = x" + value + "x\n");
     EXPECT_EQ(Body(), "A = \"x" + value + "x\"\r\n");
 }
 

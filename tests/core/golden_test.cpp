@@ -106,7 +106,7 @@ class Golden : public testing::TestWithParam<std::string>
         return ReadBytes(fs::path(GOLDEN_DIRECTORY) / GetParam() / name);
     }
 
-    const test::ScopedLocale locale_{"C"};
+    const test::ScopedLocale m_locale{"C"};
 };
 
 TEST_P(Golden, ReadsAndWritesAsTheFolderSays)

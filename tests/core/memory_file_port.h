@@ -63,7 +63,7 @@ class MemoryFilePort final : public FilePort
         const Call call(*this);
         if (call.Fails())
             return Fault();
-        OpenFile& open = open_[file];
+        OpenFile& open = m_open[file];
         const std::string& content = contents[open.path];
         count = std::min({buffer.size(), blockSize, content.size() - open.position});
         std::copy_n(content.data() + open.position, count, buffer.data());
@@ -86,7 +86,7 @@ class MemoryFilePort final : public FilePort
     {
         const Call call(*this, true);
         const bool whole = !call.Fails() && calls != crashing;
-        contents[open_[file].path].append(bytes, 0, whole ? bytes.size() : bytes.size() / 2);
+        contents[m_open[file].path].append(bytes, 0, whole ? bytes.size() : bytes.size() / 2);
         unflushed = true;
         call.EndHere();
         return call.Fails() ? Fault() : FileResult{};
@@ -104,7 +104,7 @@ class MemoryFilePort final : public FilePort
     FileResult Close(FileHandle file) override
     {
         const Call call(*this);
-        open_.erase(file);
+        m_open.erase(file);
         --openFiles;
         return call.Fails() ? Fault() : FileResult{};
     }
@@ -137,21 +137,21 @@ class MemoryFilePort final : public FilePort
     class Call
     {
       public:
-        explicit Call(MemoryFilePort& port, bool halfDone = false) : port_(port), number_(++port.calls)
+        explicit Call(MemoryFilePort& port, bool halfDone = false) : m_port(port), m_number(++port.calls)
         {
-            if (number_ == port.crashing && !halfDone)
+            if (m_number == port.crashing && !halfDone)
                 throw Crash();
         }
         void EndHere() const
         {
-            if (number_ == port_.crashing)
+            if (m_number == m_port.crashing)
                 throw Crash();
         }
-        bool Fails() const { return port_.failing.contains(number_); }
+        bool Fails() const { return m_port.failing.contains(m_number); }
 
       private:
-        MemoryFilePort& port_;
-        int number_;
+        MemoryFilePort& m_port;
+        int m_number;
     };
 
     static FileResult Fault() { return {false, Text(kFaultText)}; }
@@ -159,12 +159,12 @@ class MemoryFilePort final : public FilePort
     FileHandle Open(const Text& path)
     {
         ++openFiles;
-        open_[++last_handle_] = {path, 0};
-        return last_handle_;
+        m_open[++m_lastHandle] = {path, 0};
+        return m_lastHandle;
     }
 
-    std::map<FileHandle, OpenFile> open_;
-    FileHandle last_handle_ = 0;
+    std::map<FileHandle, OpenFile> m_open;
+    FileHandle m_lastHandle = 0;
 };
 
 } // namespace ov::test

@@ -28,58 +28,58 @@ class PosixFiles : public testing::Test
         std::string pattern = (fs::temp_directory_path() / "ov-files-XXXXXX").string();
         if (mkdtemp(pattern.data()) == nullptr)
             throw std::runtime_error("No temporary directory");
-        directory_ = pattern;
+        m_directory = pattern;
     }
-    ~PosixFiles() override { fs::remove_all(directory_); }
+    ~PosixFiles() override { fs::remove_all(m_directory); }
 
-    Text Path(const char* name) const { return TextFromUtf8((directory_ / name).string()); }
+    Text Path(const char* name) const { return TextFromUtf8((m_directory / name).string()); }
     void Put(const char* name, const std::string& bytes) const
     {
-        std::ofstream(directory_ / name, std::ios::binary) << bytes;
+        std::ofstream(m_directory / name, std::ios::binary) << bytes;
     }
     std::string Get(const char* name) const
     {
-        std::ifstream file(directory_ / name, std::ios::binary);
+        std::ifstream file(m_directory / name, std::ios::binary);
         std::ostringstream bytes;
         bytes << file.rdbuf();
         return bytes.str();
     }
 
-    fs::path directory_;
-    PosixFilePort files_;
+    fs::path m_directory;
+    PosixFilePort m_files;
 };
 
 TEST_F(PosixFiles, KindTellsFileDirectoryAndAbsence)
 {
     Put("a", "x");
-    EXPECT_EQ(files_.Kind(Path("a")), FileKind::File);
-    EXPECT_EQ(files_.Kind(Path(".")), FileKind::Directory);
-    EXPECT_EQ(files_.Kind(Path("b")), FileKind::Absent);
-    EXPECT_EQ(files_.Kind(Path("a/b")), FileKind::Absent);
+    EXPECT_EQ(m_files.Kind(Path("a")), FileKind::File);
+    EXPECT_EQ(m_files.Kind(Path(".")), FileKind::Directory);
+    EXPECT_EQ(m_files.Kind(Path("b")), FileKind::Absent);
+    EXPECT_EQ(m_files.Kind(Path("a/b")), FileKind::Absent);
 }
 
 TEST_F(PosixFiles, WrittenBytesAreReadBack)
 {
     FileHandle file{};
-    ASSERT_TRUE(files_.Create(Path("a"), CreateMode::New, file));
-    EXPECT_TRUE(files_.Write(file, "some bytes"));
-    EXPECT_TRUE(files_.Flush(file));
-    EXPECT_TRUE(files_.Close(file));
-    ASSERT_TRUE(files_.OpenForReading(Path("a"), file));
+    ASSERT_TRUE(m_files.Create(Path("a"), CreateMode::New, file));
+    EXPECT_TRUE(m_files.Write(file, "some bytes"));
+    EXPECT_TRUE(m_files.Flush(file));
+    EXPECT_TRUE(m_files.Close(file));
+    ASSERT_TRUE(m_files.OpenForReading(Path("a"), file));
     char buffer[64];
     std::size_t count = 0;
-    EXPECT_TRUE(files_.Read(file, buffer, count));
+    EXPECT_TRUE(m_files.Read(file, buffer, count));
     EXPECT_EQ(std::string(buffer, count), "some bytes");
-    EXPECT_TRUE(files_.Read(file, buffer, count));
+    EXPECT_TRUE(m_files.Read(file, buffer, count));
     EXPECT_EQ(count, 0u);
-    EXPECT_TRUE(files_.Close(file));
+    EXPECT_TRUE(m_files.Close(file));
 }
 
 TEST_F(PosixFiles, CreateNewLeavesAnExistingFile)
 {
     Put("a", "old");
     FileHandle file{};
-    const FileResult result = files_.Create(Path("a"), CreateMode::New, file);
+    const FileResult result = m_files.Create(Path("a"), CreateMode::New, file);
     EXPECT_FALSE(result);
     EXPECT_NE(result.systemText, u"");
     EXPECT_EQ(Get("a"), "old");
@@ -88,11 +88,11 @@ TEST_F(PosixFiles, CreateNewLeavesAnExistingFile)
 TEST_F(PosixFiles, SecondWriterIsShutOutAndEmptiesNothing)
 {
     FileHandle first{};
-    ASSERT_TRUE(files_.Create(Path("a"), CreateMode::Truncate, first));
-    ASSERT_TRUE(files_.Write(first, "first"));
+    ASSERT_TRUE(m_files.Create(Path("a"), CreateMode::Truncate, first));
+    ASSERT_TRUE(m_files.Write(first, "first"));
     FileHandle second{};
-    EXPECT_FALSE(files_.Create(Path("a"), CreateMode::Truncate, second));
-    EXPECT_TRUE(files_.Close(first));
+    EXPECT_FALSE(m_files.Create(Path("a"), CreateMode::Truncate, second));
+    EXPECT_TRUE(m_files.Close(first));
     EXPECT_EQ(Get("a"), "first");
 }
 
@@ -100,47 +100,47 @@ TEST_F(PosixFiles, RenameNeverReplaces)
 {
     Put("a", "a");
     Put("b", "b");
-    EXPECT_FALSE(files_.Rename(Path("a"), Path("b")));
+    EXPECT_FALSE(m_files.Rename(Path("a"), Path("b")));
     EXPECT_EQ(Get("a"), "a");
     EXPECT_EQ(Get("b"), "b");
-    EXPECT_TRUE(files_.Remove(Path("b")));
-    EXPECT_TRUE(files_.Rename(Path("a"), Path("b")));
+    EXPECT_TRUE(m_files.Remove(Path("b")));
+    EXPECT_TRUE(m_files.Rename(Path("a"), Path("b")));
     EXPECT_EQ(Get("b"), "a");
-    EXPECT_EQ(files_.Kind(Path("a")), FileKind::Absent);
+    EXPECT_EQ(m_files.Kind(Path("a")), FileKind::Absent);
 }
 
 TEST_F(PosixFiles, MissingFileCannotBeOpenedRenamedOrRemoved)
 {
     FileHandle file{};
-    EXPECT_FALSE(files_.OpenForReading(Path("a"), file));
-    EXPECT_FALSE(files_.Rename(Path("a"), Path("b")));
-    EXPECT_FALSE(files_.Remove(Path("a")));
+    EXPECT_FALSE(m_files.OpenForReading(Path("a"), file));
+    EXPECT_FALSE(m_files.Rename(Path("a"), Path("b")));
+    EXPECT_FALSE(m_files.Remove(Path("a")));
 }
 
 TEST_F(PosixFiles, LinkIsTheSameFile)
 {
     Put("a", "a");
     Put("b", "a");
-    fs::create_symlink("a", directory_ / "link");
-    EXPECT_TRUE(files_.IsSameFile(Path("a"), Path("link")));
-    EXPECT_FALSE(files_.IsSameFile(Path("a"), Path("b")));
-    EXPECT_FALSE(files_.IsSameFile(Path("a"), Path("missing")));
+    fs::create_symlink("a", m_directory / "link");
+    EXPECT_TRUE(m_files.IsSameFile(Path("a"), Path("link")));
+    EXPECT_FALSE(m_files.IsSameFile(Path("a"), Path("b")));
+    EXPECT_FALSE(m_files.IsSameFile(Path("a"), Path("missing")));
 }
 
 class PosixSave : public PosixFiles
 {
   protected:
-    PosixSave() { store_.SetSetting(u"A", u"1", SettingKindInteger, u"", kCurrentTable); }
+    PosixSave() { m_store.SetSetting(u"A", u"1", SettingKindInteger, u"", kCurrentTable); }
 
     SaveResult Save(const Text& path)
     {
         test::TestSurroundings surroundings;
-        return SaveConfigFile(store_, path, files_, surroundings, [this](const Text&) { ++notices_; });
+        return SaveConfigFile(m_store, path, m_files, surroundings, [this](const Text&) { ++m_notices; });
     }
 
-    const test::ScopedLocale locale_{"C"};
-    SettingStore store_;
-    int notices_ = 0;
+    const test::ScopedLocale m_locale{"C"};
+    SettingStore m_store;
+    int m_notices = 0;
 };
 
 TEST_F(PosixSave, FileIsReplacedAndNoBackupStays)
@@ -148,17 +148,17 @@ TEST_F(PosixSave, FileIsReplacedAndNoBackupStays)
     Put("a.cfg", "old");
     EXPECT_TRUE(Save(Path("a.cfg")).Saved());
     EXPECT_TRUE(Get("a.cfg").ends_with("#\r\nA = 1\r\n"));
-    EXPECT_FALSE(fs::exists(directory_ / "a.bak"));
-    EXPECT_EQ(notices_, 0);
+    EXPECT_FALSE(fs::exists(m_directory / "a.bak"));
+    EXPECT_EQ(m_notices, 0);
 }
 
 TEST_F(PosixSave, FileThatIsALinkToItsBackupIsNotDeleted)
 {
     Put("a.bak", "old");
-    fs::create_symlink("a.bak", directory_ / "a.cfg");
+    fs::create_symlink("a.bak", m_directory / "a.cfg");
     EXPECT_TRUE(Save(Path("a.cfg")).Saved());
     EXPECT_TRUE(Get("a.cfg").ends_with("A = 1\r\n"));
-    EXPECT_EQ(notices_, 0);
+    EXPECT_EQ(m_notices, 0);
 }
 
 TEST_F(PosixSave, FullDiskFailsTheSaveAndTheOldFileComesBack)
@@ -176,7 +176,7 @@ TEST_F(PosixSave, FullDiskFailsTheSaveAndTheOldFileComesBack)
     EXPECT_EQ(result.outcome, SaveOutcome::WriteFailed);
     EXPECT_EQ(result.oldContent, OldContent::Stands);
     EXPECT_EQ(Get("a.cfg"), "old");
-    EXPECT_FALSE(fs::exists(directory_ / "a.bak"));
+    EXPECT_FALSE(fs::exists(m_directory / "a.bak"));
 }
 
 TEST_F(PosixSave, MissingFolderFailsSilently)
@@ -187,9 +187,9 @@ TEST_F(PosixSave, MissingFolderFailsSilently)
 
 TEST_F(PosixSave, DirectoryIsRefused)
 {
-    fs::create_directory(directory_ / "a.cfg");
+    fs::create_directory(m_directory / "a.cfg");
     EXPECT_EQ(Save(Path("a.cfg")).outcome, SaveOutcome::PathIsDirectory);
-    EXPECT_TRUE(fs::is_directory(directory_ / "a.cfg"));
+    EXPECT_TRUE(fs::is_directory(m_directory / "a.cfg"));
 }
 
 } // namespace

@@ -29,8 +29,8 @@ class SaveFault : public testing::TestWithParam<Before>
   protected:
     SaveFault()
     {
-        store_.SetSetting(u"A", u"1", SettingKindInteger, u"", kCurrentTable);
-        EXPECT_TRUE(WriteConfig(store_, test::TestSurroundings::Header(), new_));
+        m_store.SetSetting(u"A", u"1", SettingKindInteger, u"", kCurrentTable);
+        EXPECT_TRUE(WriteConfig(m_store, test::TestSurroundings::Header(), m_new));
     }
 
     const Text& Path() const { return GetParam() == Before::FileNamedAsBackup ? kBackup : kPath; }
@@ -48,7 +48,7 @@ class SaveFault : public testing::TestWithParam<Before>
     SaveResult Save(test::MemoryFilePort& files)
     {
         test::TestSurroundings surroundings;
-        return SaveConfigFile(store_, Path(), files, surroundings, [](const Text&) {});
+        return SaveConfigFile(m_store, Path(), files, surroundings, [](const Text&) {});
     }
 
     static std::optional<std::string> Content(const test::MemoryFilePort& files, const Text& path)
@@ -63,7 +63,7 @@ class SaveFault : public testing::TestWithParam<Before>
         const auto file = Content(files, Path());
         EXPECT_EQ(files.openFiles, 0);
         if (result.Saved()) {
-            EXPECT_EQ(file, new_);
+            EXPECT_EQ(file, m_new);
             return;
         }
         switch (result.oldContent) {
@@ -83,9 +83,9 @@ class SaveFault : public testing::TestWithParam<Before>
         }
     }
 
-    const test::ScopedLocale locale_{"C"};
-    SettingStore store_;
-    std::string new_;
+    const test::ScopedLocale m_locale{"C"};
+    SettingStore m_store;
+    std::string m_new;
 };
 
 TEST_P(SaveFault, EachOperationMayFail)
@@ -138,12 +138,12 @@ TEST_P(SaveFault, ProcessMayEndInEachOperation)
         const auto file = Content(files, Path());
         const auto backup = Content(files, kBackup);
         if (GetParam() == Before::File) {
-            EXPECT_TRUE(file == kOld || file == new_ || backup == kOld);
+            EXPECT_TRUE(file == kOld || file == m_new || backup == kOld);
         }
-        if (inPlace && file != kOld && file != new_) {
-            EXPECT_TRUE(new_.starts_with(*file));
+        if (inPlace && file != kOld && file != m_new) {
+            EXPECT_TRUE(m_new.starts_with(*file));
         }
-        if (GetParam() == Before::FileAndStaleBackup && file != new_) {
+        if (GetParam() == Before::FileAndStaleBackup && file != m_new) {
             EXPECT_EQ(backup, kStale);
         }
     }

@@ -22,66 +22,66 @@ const std::string kOld = "OLD = content\r\n";
 class SaveConfig : public testing::Test
 {
   protected:
-    SaveConfig() { store_.SetSetting(u"A", u"1", SettingKindInteger, u"", kCurrentTable); }
+    SaveConfig() { m_store.SetSetting(u"A", u"1", SettingKindInteger, u"", kCurrentTable); }
 
     SaveResult Save(const Text& path = kPath)
     {
-        return SaveConfigFile(store_, path, files_, surroundings_,
-                              [this](const Text& message) { notices_.push_back(message); });
+        return SaveConfigFile(m_store, path, m_files, m_surroundings,
+                              [this](const Text& message) { m_notices.push_back(message); });
     }
 
     // What a successful save writes.
     std::string NewContent() const
     {
         std::string bytes;
-        EXPECT_TRUE(WriteConfig(store_, test::TestSurroundings::Header(), bytes));
+        EXPECT_TRUE(WriteConfig(m_store, test::TestSurroundings::Header(), bytes));
         return bytes;
     }
 
-    const test::ScopedLocale locale_{"C"};
-    SettingStore store_;
-    test::MemoryFilePort files_;
-    test::TestSurroundings surroundings_;
-    std::vector<Text> notices_;
+    const test::ScopedLocale m_locale{"C"};
+    SettingStore m_store;
+    test::MemoryFilePort m_files;
+    test::TestSurroundings m_surroundings;
+    std::vector<Text> m_notices;
 };
 
 TEST_F(SaveConfig, ExistingFileLeavesNoBackupBehind)
 {
-    files_.contents[kPath] = kOld;
+    m_files.contents[kPath] = kOld;
     const SaveResult result = Save();
     EXPECT_TRUE(result.Saved());
     EXPECT_EQ(result.header, test::TestSurroundings::Header());
-    EXPECT_EQ(files_.contents, (std::map<Text, std::string>{{kPath, NewContent()}}));
-    EXPECT_TRUE(notices_.empty());
-    EXPECT_EQ(files_.openFiles, 0);
-    EXPECT_FALSE(files_.unflushed);
+    EXPECT_EQ(m_files.contents, (std::map<Text, std::string>{{kPath, NewContent()}}));
+    EXPECT_TRUE(m_notices.empty());
+    EXPECT_EQ(m_files.openFiles, 0);
+    EXPECT_FALSE(m_files.unflushed);
 }
 
 TEST_F(SaveConfig, NewFileInvolvesNoBackup)
 {
-    files_.contents[kBackup] = "someone else's";
+    m_files.contents[kBackup] = "someone else's";
     EXPECT_TRUE(Save().Saved());
-    EXPECT_EQ(files_.contents[kPath], NewContent());
-    EXPECT_EQ(files_.contents[kBackup], "someone else's");
-    EXPECT_TRUE(notices_.empty());
+    EXPECT_EQ(m_files.contents[kPath], NewContent());
+    EXPECT_EQ(m_files.contents[kBackup], "someone else's");
+    EXPECT_TRUE(m_notices.empty());
 }
 
 TEST_F(SaveConfig, StaleBackupIsToldAndDeletedAfterTheWrite)
 {
-    files_.contents[kPath] = kOld;
-    files_.contents[kBackup] = "stale";
+    m_files.contents[kPath] = kOld;
+    m_files.contents[kBackup] = "stale";
     EXPECT_TRUE(Save().Saved());
-    EXPECT_EQ(notices_, std::vector<Text>{Text(test::kFaultText)});
-    EXPECT_EQ(files_.contents, (std::map<Text, std::string>{{kPath, NewContent()}}));
+    EXPECT_EQ(m_notices, std::vector<Text>{Text(test::kFaultText)});
+    EXPECT_EQ(m_files.contents, (std::map<Text, std::string>{{kPath, NewContent()}}));
 }
 
 TEST_F(SaveConfig, StaleBackupIsToldBeforeTheFileIsTouched)
 {
-    files_.contents[kPath] = kOld;
-    files_.contents[kBackup] = "stale";
+    m_files.contents[kPath] = kOld;
+    m_files.contents[kBackup] = "stale";
     std::string atNotice;
-    SaveConfigFile(store_, kPath, files_, surroundings_,
-                   [&](const Text&) { atNotice = files_.contents[kPath]; });
+    SaveConfigFile(m_store, kPath, m_files, m_surroundings,
+                   [&](const Text&) { atNotice = m_files.contents[kPath]; });
     EXPECT_EQ(atNotice, kOld);
 }
 
@@ -89,26 +89,26 @@ TEST_F(SaveConfig, EmptyPathIsRefused)
 {
     const SaveResult result = Save(u"");
     EXPECT_EQ(result.outcome, SaveOutcome::NoPath);
-    EXPECT_EQ(files_.calls, 0);
+    EXPECT_EQ(m_files.calls, 0);
 }
 
 TEST_F(SaveConfig, DirectoryIsRefusedBeforeAnythingIsRenamed)
 {
-    files_.directories.insert(kPath);
+    m_files.directories.insert(kPath);
     const SaveResult result = Save();
     EXPECT_EQ(result.outcome, SaveOutcome::PathIsDirectory);
-    EXPECT_EQ(files_.calls, 1);
+    EXPECT_EQ(m_files.calls, 1);
 }
 
 TEST_F(SaveConfig, FileThatCannotBeCreatedFailsSilentlyAndTheOldOneComesBack)
 {
-    files_.contents[kPath] = kOld;
-    files_.failing = {4}; // kind, same file, rename, create
+    m_files.contents[kPath] = kOld;
+    m_files.failing = {4}; // kind, same file, rename, create
     const SaveResult result = Save();
     EXPECT_EQ(result.outcome, SaveOutcome::CreateFailed);
     EXPECT_EQ(result.systemText, test::kFaultText);
-    EXPECT_EQ(files_.contents, (std::map<Text, std::string>{{kPath, kOld}}));
-    EXPECT_TRUE(notices_.empty());
+    EXPECT_EQ(m_files.contents, (std::map<Text, std::string>{{kPath, kOld}}));
+    EXPECT_TRUE(m_notices.empty());
 }
 
 TEST_F(SaveConfig, FailedWriteFlushAndCloseAreToldAndTheOldFileComesBack)
@@ -117,80 +117,80 @@ TEST_F(SaveConfig, FailedWriteFlushAndCloseAreToldAndTheOldFileComesBack)
                                     SaveOutcome::CloseFailed};
     int call = 5;
     for (const SaveOutcome outcome : outcomes) {
-        files_ = {};
-        files_.contents[kPath] = kOld;
-        files_.failing = {call++};
+        m_files = {};
+        m_files.contents[kPath] = kOld;
+        m_files.failing = {call++};
         const SaveResult result = Save();
         EXPECT_EQ(result.outcome, outcome);
         EXPECT_EQ(result.oldContent, OldContent::Stands);
-        EXPECT_EQ(files_.contents, (std::map<Text, std::string>{{kPath, kOld}}));
-        EXPECT_EQ(files_.openFiles, 0);
+        EXPECT_EQ(m_files.contents, (std::map<Text, std::string>{{kPath, kOld}}));
+        EXPECT_EQ(m_files.openFiles, 0);
         EXPECT_EQ(result.systemText, test::kFaultText);
     }
 }
 
 TEST_F(SaveConfig, FailedWriteOfANewFileLeavesNoFile)
 {
-    files_.failing = {3}; // kind, create, write
+    m_files.failing = {3}; // kind, create, write
     const SaveResult result = Save();
     EXPECT_EQ(result.outcome, SaveOutcome::WriteFailed);
     EXPECT_EQ(result.oldContent, OldContent::NoneBefore);
-    EXPECT_TRUE(files_.contents.empty());
+    EXPECT_TRUE(m_files.contents.empty());
 }
 
 TEST_F(SaveConfig, WithoutABackupTheOldContentIsPutBack)
 {
-    files_.contents[kPath] = kOld;
-    files_.contents[kBackup] = "stale";
-    files_.failing = {9}; // kind, same file, rename, open, read, read, close, create, write
+    m_files.contents[kPath] = kOld;
+    m_files.contents[kBackup] = "stale";
+    m_files.failing = {9}; // kind, same file, rename, open, read, read, close, create, write
     const SaveResult result = Save();
     EXPECT_EQ(result.outcome, SaveOutcome::WriteFailed);
     EXPECT_EQ(result.oldContent, OldContent::Stands);
-    EXPECT_EQ(files_.contents[kPath], kOld);
-    EXPECT_EQ(files_.contents[kBackup], "stale");
-    EXPECT_FALSE(files_.unflushed);
+    EXPECT_EQ(m_files.contents[kPath], kOld);
+    EXPECT_EQ(m_files.contents[kBackup], "stale");
+    EXPECT_FALSE(m_files.unflushed);
 }
 
 TEST_F(SaveConfig, CharacterThatTheLocaleCannotWriteTouchesNothing)
 {
-    files_.contents[kPath] = kOld;
-    store_.SetSetting(u"B", u"\u20AC", SettingKindText, u"", kCurrentTable);
+    m_files.contents[kPath] = kOld;
+    m_store.SetSetting(u"B", u"\u20AC", SettingKindText, u"", kCurrentTable);
     const SaveResult result = Save();
     EXPECT_EQ(result.outcome, SaveOutcome::CharacterRefused);
     EXPECT_EQ(result.variable, u"B");
     EXPECT_EQ(result.character, u"\u20AC");
-    EXPECT_EQ(files_.calls, 1);
-    EXPECT_EQ(files_.contents[kPath], kOld);
+    EXPECT_EQ(m_files.calls, 1);
+    EXPECT_EQ(m_files.contents[kPath], kOld);
     EXPECT_EQ(result.oldContent, OldContent::Stands);
 }
 
 TEST_F(SaveConfig, FailingClockComesOutBeforeAnythingIsTouched)
 {
-    files_.contents[kPath] = kOld;
-    surroundings_.clockFails = true;
+    m_files.contents[kPath] = kOld;
+    m_surroundings.clockFails = true;
     EXPECT_THROW(Save(), std::invalid_argument);
-    EXPECT_EQ(files_.calls, 1);
-    EXPECT_EQ(files_.contents, (std::map<Text, std::string>{{kPath, kOld}}));
+    EXPECT_EQ(m_files.calls, 1);
+    EXPECT_EQ(m_files.contents, (std::map<Text, std::string>{{kPath, kOld}}));
 }
 
 TEST_F(SaveConfig, FileNamedLikeABackupIsWrittenWithoutOneAndKept)
 {
     for (const char16_t* name :
          {u"office.bak", u"office.BAK", u"office.Bak", u".bak", u"office.bak.", u"office.bak "}) {
-        files_ = {};
-        files_.contents[name] = kOld;
+        m_files = {};
+        m_files.contents[name] = kOld;
         EXPECT_TRUE(Save(name).Saved());
-        EXPECT_EQ(files_.contents, (std::map<Text, std::string>{{name, NewContent()}}));
-        EXPECT_TRUE(notices_.empty());
+        EXPECT_EQ(m_files.contents, (std::map<Text, std::string>{{name, NewContent()}}));
+        EXPECT_TRUE(m_notices.empty());
     }
 }
 
 TEST_F(SaveConfig, FileNamedLikeABackupIsPutBackWhenTheWriteFails)
 {
-    files_.contents[u"office.bak"] = kOld;
-    files_.failing = {7}; // kind, open, read, read, close, create, write
+    m_files.contents[u"office.bak"] = kOld;
+    m_files.failing = {7}; // kind, open, read, read, close, create, write
     EXPECT_EQ(Save(u"office.bak").outcome, SaveOutcome::WriteFailed);
-    EXPECT_EQ(files_.contents, (std::map<Text, std::string>{{u"office.bak", kOld}}));
+    EXPECT_EQ(m_files.contents, (std::map<Text, std::string>{{u"office.bak", kOld}}));
 }
 
 TEST_F(SaveConfig, BackupPathReplacesWhatFollowsTheLastDot)
@@ -207,45 +207,45 @@ TEST_F(SaveConfig, SystemTextInTheNoticeIsAtMost255Characters)
     class WordyPort final : public FilePort
     {
       public:
-        explicit WordyPort(FilePort& files) : files_(files) {}
-        FileKind Kind(const Text& path) override { return files_.Kind(path); }
-        bool IsSameFile(const Text& a, const Text& b) override { return files_.IsSameFile(a, b); }
+        explicit WordyPort(FilePort& files) : m_files(files) {}
+        FileKind Kind(const Text& path) override { return m_files.Kind(path); }
+        bool IsSameFile(const Text& a, const Text& b) override { return m_files.IsSameFile(a, b); }
         FileResult OpenForReading(const Text& p, FileHandle& f) override
         {
-            return files_.OpenForReading(p, f);
+            return m_files.OpenForReading(p, f);
         }
         FileResult Read(FileHandle f, std::span<char> b, std::size_t& n) override
         {
-            return files_.Read(f, b, n);
+            return m_files.Read(f, b, n);
         }
         FileResult Create(const Text& p, CreateMode m, FileHandle& f) override
         {
-            return files_.Create(p, m, f);
+            return m_files.Create(p, m, f);
         }
-        FileResult Write(FileHandle f, std::string_view b) override { return files_.Write(f, b); }
-        FileResult Flush(FileHandle f) override { return files_.Flush(f); }
-        FileResult Close(FileHandle f) override { return files_.Close(f); }
+        FileResult Write(FileHandle f, std::string_view b) override { return m_files.Write(f, b); }
+        FileResult Flush(FileHandle f) override { return m_files.Flush(f); }
+        FileResult Close(FileHandle f) override { return m_files.Close(f); }
         FileResult Rename(const Text&, const Text&) override { return {false, Text(300, u'x')}; }
-        FileResult Remove(const Text& p) override { return files_.Remove(p); }
+        FileResult Remove(const Text& p) override { return m_files.Remove(p); }
 
       private:
-        FilePort& files_;
+        FilePort& m_files;
     };
-    files_.contents[kPath] = kOld;
-    WordyPort wordy(files_);
+    m_files.contents[kPath] = kOld;
+    WordyPort wordy(m_files);
     Text told;
     EXPECT_TRUE(
-        SaveConfigFile(store_, kPath, wordy, surroundings_, [&told](const Text& m) { told = m; }).Saved());
+        SaveConfigFile(m_store, kPath, wordy, m_surroundings, [&told](const Text& m) { told = m; }).Saved());
     EXPECT_EQ(told, Text(255, u'x'));
 }
 
 TEST_F(SaveConfig, SavedFileReadsBackToTheSameTable)
 {
-    store_.SetSetting(u"LIST", u"a;b;c", SettingKindText, u"\n#\n# A list.\n#\n", kCurrentTable);
-    store_.SetSetting(u"TEXT", u"some text", SettingKindText, u"", kCurrentTable);
+    m_store.SetSetting(u"LIST", u"a;b;c", SettingKindText, u"\n#\n# A list.\n#\n", kCurrentTable);
+    m_store.SetSetting(u"TEXT", u"some text", SettingKindText, u"", kCurrentTable);
     ASSERT_TRUE(Save().Saved());
     SettingStore readBack;
-    ASSERT_TRUE(ReadConfigFile(readBack, kCurrentTable, kPath, files_).read);
+    ASSERT_TRUE(ReadConfigFile(readBack, kCurrentTable, kPath, m_files).read);
     EXPECT_EQ(readBack.Count(kCurrentTable), 3u);
     EXPECT_EQ(readBack.GetSettingValue(u"A", kCurrentTable), u"1");
     EXPECT_EQ(readBack.GetSettingValue(u"LIST", kCurrentTable), u"a;b;c");

@@ -11,19 +11,19 @@ class ScopedLocale
 {
   public:
     explicit ScopedLocale(const char* name)
-        : before_(std::setlocale(LC_ALL, nullptr)), set_(std::setlocale(LC_ALL, name) != nullptr)
+        : m_before(std::setlocale(LC_ALL, nullptr)), m_set(std::setlocale(LC_ALL, name) != nullptr)
     {
     }
-    ~ScopedLocale() { std::setlocale(LC_ALL, before_.c_str()); }
+    ~ScopedLocale() { std::setlocale(LC_ALL, m_before.c_str()); }
     ScopedLocale(const ScopedLocale&) = delete;
     ScopedLocale& operator=(const ScopedLocale&) = delete;
 
     /// False when the system does not know the locale.
-    bool IsSet() const { return set_; }
+    bool IsSet() const { return m_set; }
 
   private:
-    std::string before_;
-    bool set_;
+    std::string m_before;
+    bool m_set;
 };
 
 } // namespace ov::test
