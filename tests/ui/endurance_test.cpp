@@ -1,0 +1,61 @@
+// Opening and closing again and again.
+#include "tests/support/process.h"
+#include "tests/ui/dialog_session.h"
+
+using namespace uidriver;
+
+namespace
+{
+
+class EnduranceTest : public DialogSession
+{
+  protected:
+    void OpenAndClose(int rounds)
+    {
+        for (int round = 0; round < rounds && !HasFailure(); ++round) {
+            ASSERT_TRUE(Open());
+            ASSERT_TRUE(ShowPage(L"Conforming"));
+            m_labels = CountLabels(Dialog());
+            Cancel();
+        }
+    }
+
+    static std::size_t CountLabels(HWND window)
+    {
+        std::size_t count = 0;
+        for (HWND child : Children(window))
+            count += (ClassOf(child) == L"Static" ? 1 : 0) + CountLabels(child);
+        return count;
+    }
+
+    std::size_t m_labels = 0;
+};
+
+TEST_F(EnduranceTest, TwoHundredRoundsDoNotGrow)
+{
+    constexpr int warmUp = 20;
+    constexpr int rounds = 200;
+    // Anything that a round leaves behind adds up to 200 handles or blocks.
+    // The tolerances are for what the system keeps in reserve.
+    constexpr unsigned handleTolerance = 5;
+    constexpr std::size_t heapTolerance = 4 * 1024;
+    constexpr std::size_t privateTolerance = 1024 * 1024;
+    // In Wine a version 6 label that has been given a font keeps this much when
+    // it is destroyed, in any program.
+    constexpr std::size_t bytesOfALabel = 24;
+    UseDefaults("_ORTHOVAL_CHECK_CELLS = 1\r\n");
+    UseCurrent("_ORTHOVAL_CHECK_TEXT = 1\r\n_ORTHOVAL_BRANDING_RENAME_TABLES = a:b\r\n");
+    OpenAndClose(warmUp);
+    const Resources before = MeasureResources();
+    OpenAndClose(rounds);
+    const Resources after = MeasureResources();
+    SCOPED_TRACE("before: " + Describe(before) + "\nafter: " + Describe(after));
+    const std::size_t labels = rounds * m_labels * bytesOfALabel;
+    EXPECT_GT(before.userObjects, 0U);
+    EXPECT_LE(after.gdiObjects, before.gdiObjects + handleTolerance);
+    EXPECT_LE(after.userObjects, before.userObjects + handleTolerance);
+    EXPECT_LE(after.heapBytes, before.heapBytes + labels + heapTolerance);
+    EXPECT_LE(after.privateBytes, before.privateBytes + labels + privateTolerance);
+}
+
+} // namespace

@@ -1,0 +1,208 @@
+#include "tests/ui/expected_file.h"
+
+#include "resources/ids.h"
+
+#include <windows.h>
+
+#include <regex>
+#include <sstream>
+
+namespace
+{
+
+struct HelpText {
+    unsigned id;
+    const char* text;
+};
+
+#define OV_STRING(id, text) {id, text},
+constexpr HelpText helpTexts[] = {
+#include "resources/strings_branding.inc"
+#include "resources/strings_conforming.inc"
+#include "resources/strings_dialog.inc"
+};
+#undef OV_STRING
+
+constexpr const char* headerBegin =
+    "#\n"
+    "# Orthoval Administration Configuration File.\n"
+    "#\n"
+    "# NOTE: This is a standard MicroStation configuration file read in at the\n"
+    "#       application level. Variables can be copied from here into the User\n"
+    "#       or Project configuration file to override them at various workspace\n"
+    "#       levels. See the Orthoval Administrator's Guide for more\n"
+    "#       information. Note also that commenting out a variable by preceding\n"
+    "#       it with a '#' symbol will require a restart of MicroStation to\n"
+    "#       purge it from memory.\n"
+    "#\n";
+
+std::string ComputerName()
+{
+    wchar_t name[256] = {};
+    DWORD size = 256;
+    GetComputerNameW(name, &size);
+    std::string bytes;
+    for (const wchar_t* character = name; *character; ++character)
+        bytes += static_cast<char>(*character);
+    return bytes;
+}
+
+std::string WithCrLf(const std::string& text)
+{
+    return std::regex_replace(text, std::regex("\n"), "\r\n");
+}
+
+// A line of more than 100 characters is broken at its last blank so far, the
+// one behind the hundredth included; a word that is longer stays whole.
+std::string Wrap(std::string text)
+{
+    constexpr std::size_t width = 100;
+    std::size_t column = 0;
+    std::size_t blank = 0; // 0: none; a blank at the very front is never used
+    for (std::size_t index = 0; index < text.size(); ++index) {
+        if (text[index] == '\n') {
+            column = 0;
+            continue;
+        }
+        if (text[index] == ' ')
+            blank = index;
+        if (column >= width && blank > 0) {
+            text[blank] = '\n';
+            column = index - blank;
+            blank = 0;
+        } else {
+            ++column;
+        }
+    }
+    return text;
+}
+
+} // namespace
+
+const std::vector<PageSetting>& BrandingSettings()
+{
+    using enum PageSetting::Kind;
+    static const std::vector<PageSetting> settings = {
+        {"_ORTHOVAL_BRANDING_AUTO", 9512, 2059, Flag},
+        {"_ORTHOVAL_BRANDING_OVERRIDE", 9513, 2060, Flag},
+        {"_ORTHOVAL_BRANDING_CERTIFY", 9514, 2061, Flag},
+        {"_ORTHOVAL_BRANDING_DISABLE_AUTOLOAD", 9515, 2062, Flag},
+        {"_ORTHOVAL_BRANDING_RENAME_TABLES", 11001, 2063, Text},
+    };
+    return settings;
+}
+
+const std::vector<PageSetting>& ConformingSettings()
+{
+    using enum PageSetting::Kind;
+    static const std::vector<PageSetting> settings = {
+        {"_ORTHOVAL_CHECK_CELLS", 2000, 8000, Flag},
+        {"_ORTHOVAL_CHECK_TEXT", 2001, 8001, Flag},
+        {"_ORTHOVAL_CHECK_TAGS", 2002, 8002, Flag},
+        {"_ORTHOVAL_CHECK_RGB_COLOUR_MATCH", 11072, 2069, Flag},
+        {"_ORTHOVAL_CHECK_COMPLEXCOMPONENTS", 2013, 8008, Flag},
+        {"_ORTHOVAL_CHECK_3D_OBJECTS", 2014, 8020, Flag},
+        {"_ORTHOVAL_CHECK_MULTILINE_DIMS", 2017, 8010, Flag},
+        {"_ORTHOVAL_CHECK_PATTERNS", 2015, 8004, Flag},
+        {"_ORTHOVAL_CHECK_HIDDEN_CELLS", 2016, 2011, Flag},
+        {"_ORTHOVAL_ALLOW_NEGATIVE_TEXTSIZE", 2018, 8023, Flag},
+        {"_ORTHOVAL_CHECK_CONTINUOUSISZERO", 2023, 8028, Flag},
+        {"_ORTHOVAL_MAX_ERROR_UORS", 2019, 8012, Number},
+        {"_ORTHOVAL_MIN_MU_ERRORSCALE", 2020, 2017, Number},
+        {"_ORTHOVAL_CHECK_IGNORED_LEVELS", 11015, 8021, Text},
+    };
+    return settings;
+}
+
+std::string HelpSection(unsigned help, const std::string& tag)
+{
+    for (const HelpText& entry : helpTexts) {
+        if (entry.id != help)
+            continue;
+        const std::string text = entry.text;
+        const auto found = text.find(tag);
+        if (found == std::string::npos)
+            return {};
+        const auto start = found + tag.size();
+        std::size_t end = text.size();
+        for (const char* next : {"<T>", "<H>", "<D>", "<S>"})
+            end = std::min(end, text.find(next, start));
+        return text.substr(start, end - start);
+    }
+    return {};
+}
+
+std::string CommentBlock(const std::string& description)
+{
+    std::string text = Wrap(description);
+    std::erase(text, '\r');
+    text = std::regex_replace(text, std::regex("\n"), "\n# ");
+    return "\n#\n# " + text + "\n#\n";
+}
+
+void ExpectedFile::Add(const std::string& variable, const std::string& comment,
+                       const std::vector<std::string>& lines)
+{
+    std::string element = comment;
+    for (const auto& line : lines)
+        element += line + "\n";
+    m_elements.emplace(variable, element);
+}
+
+void ExpectedFile::AddMissingSettings()
+{
+    for (const auto* settings : {&BrandingSettings(), &ConformingSettings()}) {
+        for (const PageSetting& setting : *settings) {
+            const char* value = setting.kind == PageSetting::Flag   ? "0"
+                                : setting.kind == PageSetting::Text ? "\"\""
+                                                                    : "";
+            Add(setting.variable, CommentBlock(HelpSection(setting.help, "<D>")),
+                {setting.variable + " = " + value});
+        }
+    }
+}
+
+std::string ExpectedFile::Bytes(const std::string& user) const
+{
+    std::string text = headerBegin;
+    text +=
+        "# This file was last saved on %DATE% by user " + user + " on machine '" + ComputerName() + "'\n#\n";
+    for (const auto& [variable, element] : m_elements)
+        text += element;
+    return WithCrLf(text);
+}
+
+std::string TakeDate(std::string& bytes)
+{
+    static const std::regex line("# This file was last saved on "
+                                 "([A-Z][a-z]+day \\d\\d [A-Z][a-z]+ \\d{4}, \\d\\d:\\d\\d:\\d\\d) by user ");
+    std::smatch match;
+    if (!std::regex_search(bytes, match, line))
+        return {};
+    const std::string date = match[1];
+    bytes.replace(static_cast<std::size_t>(match.position(1)), date.size(), "%DATE%");
+    return date;
+}
+
+std::vector<std::string> AssignmentsOf(const std::string& bytes)
+{
+    std::vector<std::string> assignments;
+    std::istringstream stream(bytes);
+    for (std::string line; std::getline(stream, line);) {
+        if (!line.empty() && line.back() == '\r')
+            line.pop_back();
+        if (!line.empty() && line.front() != '#')
+            assignments.push_back(line);
+    }
+    return assignments;
+}
+
+std::string AssignmentOf(const std::string& bytes, const std::string& variable)
+{
+    std::string found;
+    for (const auto& line : AssignmentsOf(bytes)) {
+        if (line.starts_with(variable + " "))
+            found += (found.empty() ? "" : "|") + line;
+    }
+    return found;
+}

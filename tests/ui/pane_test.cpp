@@ -1,0 +1,161 @@
+// The category pane.
+#include "tests/ui/dialog_session.h"
+
+#include <commctrl.h>
+
+using namespace uidriver;
+
+namespace
+{
+
+class PaneTest : public DialogSession
+{
+  protected:
+    bool ShowsBranding() { return PageControl(IDC_BRANDING_RENAME) != nullptr; }
+    bool ShowsConforming() { return PageControl(IDC_CONFORMING_MAX_ERROR) != nullptr; }
+
+    int ColumnWidth() { return static_cast<int>(Send(List(), LVM_GETCOLUMNWIDTH, 0)); }
+
+    /// Clicks into a row as a person does.
+    void ClickRow(int row)
+    {
+        RECT rect = {LVIR_LABEL, 0, 0, 0};
+        ASSERT_TRUE(
+            SendMessageW(List(), LVM_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&rect)));
+        ClickAt(List(), {rect.left + 4, (rect.top + rect.bottom) / 2});
+    }
+};
+
+TEST_F(PaneTest, RowsAreTheBuiltPagesInPaneOrder)
+{
+    ASSERT_TRUE(Open());
+    EXPECT_EQ((std::vector<std::wstring>{L"Branding", L"Conforming"}), ListViewTexts(List()));
+    EXPECT_EQ(2, ListViewData(List(), 0));
+    EXPECT_EQ(6, ListViewData(List(), 1));
+    Cancel();
+}
+
+TEST_F(PaneTest, FirstRowIsSelectedButNotFocusedAtStart)
+{
+    ASSERT_TRUE(Open());
+    EXPECT_EQ(0, ListViewSelection(List()));
+    EXPECT_EQ(LVIS_SELECTED,
+              static_cast<int>(Send(List(), LVM_GETITEMSTATE, 0, LVIS_SELECTED | LVIS_FOCUSED)));
+    EXPECT_TRUE(ShowsBranding());
+    Cancel();
+}
+
+TEST_F(PaneTest, ListHasTheStylesOfAPlainColumn)
+{
+    ASSERT_TRUE(Open());
+    constexpr LONG_PTR styles =
+        LVS_REPORT | LVS_SINGLESEL | LVS_SHOWSELALWAYS | LVS_NOCOLUMNHEADER | LVS_NOSORTHEADER;
+    EXPECT_EQ(styles, GetWindowLongPtrW(List(), GWL_STYLE) & styles);
+    const auto extended = Send(List(), LVM_GETEXTENDEDLISTVIEWSTYLE);
+    EXPECT_TRUE(extended & LVS_EX_FULLROWSELECT);
+    EXPECT_TRUE(extended & LVS_EX_INFOTIP);
+    Cancel();
+}
+
+TEST_F(PaneTest, ArrowKeysSwitchPages)
+{
+    ASSERT_TRUE(Open());
+    ClickRow(1);
+    ASSERT_EQ(List(), FocusIn(Dialog()));
+    PostKey(Dialog(), VK_UP);
+    EXPECT_EQ(0, ListViewSelection(List()));
+    EXPECT_TRUE(ShowsBranding());
+    EXPECT_EQ(List(), FocusIn(Dialog()));
+    PostKey(Dialog(), VK_DOWN);
+    EXPECT_EQ(1, ListViewSelection(List()));
+    EXPECT_TRUE(ShowsConforming());
+    PostKey(Dialog(), VK_DOWN); // there is no further row
+    EXPECT_TRUE(ShowsConforming());
+    Cancel();
+}
+
+TEST_F(PaneTest, ClickSwitchesPagesAndShowsOneAtATime)
+{
+    ASSERT_TRUE(Open());
+    HWND branding = Page();
+    ClickRow(1);
+    EXPECT_TRUE(ShowsConforming());
+    EXPECT_FALSE(IsWindowVisible(branding));
+    ClickRow(0);
+    EXPECT_EQ(branding, Page());
+    Cancel();
+}
+
+TEST_F(PaneTest, SecondClickOnACategoryReloadsNothing)
+{
+    UseCurrent("_ORTHOVAL_BRANDING_RENAME_TABLES = a:b\r\n");
+    ASSERT_TRUE(Open());
+    TypeOnPage(IDC_BRANDING_RENAME, L"c:d");
+    ClickRow(0);
+    ClickRow(0);
+    EXPECT_EQ(L"c:d", PageText(IDC_BRANDING_RENAME));
+    EXPECT_TRUE(CanSave());
+    Abandon();
+}
+
+TEST_F(PaneTest, SwitchingPagesKeepsEditsAndMarksNothing)
+{
+    UseCurrent("_ORTHOVAL_CHECK_CELLS = 1\r\n");
+    ASSERT_TRUE(Open());
+    ASSERT_TRUE(ShowPage(L"Conforming"));
+    ASSERT_TRUE(ShowPage(L"Branding"));
+    EXPECT_FALSE(CanSave());
+    ClickOnPage(IDC_BRANDING_OVERRIDE);
+    TypeOnPage(IDC_BRANDING_RENAME, L"c:d");
+    ASSERT_TRUE(ShowPage(L"Conforming"));
+    TypeOnPage(IDC_CONFORMING_MAX_ERROR, L"3");
+    ASSERT_TRUE(ShowPage(L"Branding"));
+    EXPECT_TRUE(IsPageChecked(IDC_BRANDING_OVERRIDE));
+    EXPECT_EQ(L"c:d", PageText(IDC_BRANDING_RENAME));
+    ASSERT_TRUE(ShowPage(L"Conforming"));
+    EXPECT_EQ(L"3", PageText(IDC_CONFORMING_MAX_ERROR));
+    EXPECT_TRUE(CanSave());
+    Abandon();
+}
+
+TEST_F(PaneTest, ColumnKeepsItsWidthWhenThePaneIsStretched)
+{
+    ASSERT_TRUE(Open());
+    RECT window = {};
+    GetWindowRect(List(), &window);
+    const int width = ColumnWidth();
+    EXPECT_EQ(window.right - window.left - 5, width);
+    GetWindowRect(Dialog(), &window);
+    Resize(Dialog(), window.right - window.left + 150, window.bottom - window.top + 150);
+    EXPECT_EQ(width, ColumnWidth());
+    Resize(Dialog(), 580, 400);
+    EXPECT_EQ(width, ColumnWidth());
+    Cancel();
+}
+
+TEST_F(PaneTest, PaneFillsItsPlaceholderAndTheListItsHeight)
+{
+    ASSERT_TRUE(Open());
+    HWND pane = GetParent(List());
+    const auto expectPlaced = [&] {
+        const RECT place = RectIn(Control(IDC_PREFERENCES_PANE_AREA), Dialog());
+        const RECT taken = RectIn(pane, Dialog());
+        EXPECT_TRUE(EqualRect(&place, &taken));
+    };
+    expectPlaced();
+    const RECT paneBefore = RectIn(pane, Dialog());
+    const RECT listBefore = RectIn(List(), pane);
+    RECT window = {};
+    GetWindowRect(Dialog(), &window);
+    Resize(Dialog(), window.right - window.left + 60, window.bottom - window.top + 77);
+    expectPlaced();
+    const RECT paneAfter = RectIn(pane, Dialog());
+    const RECT listAfter = RectIn(List(), pane);
+    EXPECT_EQ(paneBefore.bottom + 77, paneAfter.bottom);
+    EXPECT_EQ(paneBefore.right, paneAfter.right);
+    EXPECT_EQ(listBefore.bottom + 77, listAfter.bottom);
+    EXPECT_EQ(listBefore.right, listAfter.right);
+    Cancel();
+}
+
+} // namespace
