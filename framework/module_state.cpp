@@ -6,13 +6,20 @@
 
 #include <utility>
 
-// Provided by the linker: the start of the module that this code lies in.
-extern "C" IMAGE_DOS_HEADER __ImageBase; // NOLINT(bugprone-reserved-identifier): the linker's name
-
 namespace
 {
 // Where a library keeps its manifest; an executable's is number 1.
 constexpr WORD libraryManifestId = 2;
+
+/// The program file that this code has been linked into.
+HINSTANCE OwnModule()
+{
+    HMODULE module = nullptr;
+    ::GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS |
+                             GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+                         reinterpret_cast<LPCWSTR>(&libraryManifestId), &module);
+    return module;
+}
 
 void CreateContext(AFX_MODULE_STATE& state)
 {
@@ -41,8 +48,7 @@ void InitialiseOnce(AFX_MODULE_STATE& state)
 
 AFX_MODULE_STATE* AfxGetStaticModuleState()
 {
-    static const auto self = reinterpret_cast<HINSTANCE>(&__ImageBase);
-    static AFX_MODULE_STATE state{self, self};
+    static AFX_MODULE_STATE state{OwnModule(), OwnModule()};
     return &state;
 }
 

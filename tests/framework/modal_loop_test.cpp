@@ -69,6 +69,22 @@ TEST(ModalLoop, OwnerThatWasDisabledStaysSo)
     EXPECT_FALSE(host.IsWindowEnabled());
 }
 
+TEST(ModalLoop, OwnersOwnerIsDisabledToo)
+{
+    CHostWindow host;
+    CWnd popup;
+    popup.CreateEx(0, nullptr, L"Popup", WS_POPUP | WS_VISIBLE, CRect(50, 50, 200, 200), &host, 0);
+    CScriptDialog dialog(IDD_SMALL, &popup);
+    dialog.Then([&] {
+        EXPECT_EQ(popup.m_hWnd, ::GetWindow(dialog, GW_OWNER));
+        EXPECT_FALSE(popup.IsWindowEnabled());
+        EXPECT_FALSE(host.IsWindowEnabled());
+    });
+    EXPECT_EQ(scriptEnded, dialog.DoModal());
+    EXPECT_TRUE(popup.IsWindowEnabled());
+    EXPECT_TRUE(host.IsWindowEnabled());
+}
+
 TEST(ModalLoop, ChildWindowStandsForItsTopLevelWindow)
 {
     CWatchedHost host;
@@ -208,8 +224,20 @@ TEST(ModalLoop, PreTranslationGoesFromTheInnermostOutwards)
         EventLog& m_log;
         std::string m_name;
     };
+    /// The owner lies outside the dialog: it is not asked.
+    class CNotingHost : public CHostWindow
+    {
+      public:
+        EventLog m_log;
+        BOOL PreTranslateMessage(MSG* message) override
+        {
+            if (message->message == probe)
+                m_log.push_back("host");
+            return CHostWindow::PreTranslateMessage(message);
+        }
+    };
     EventLog log;
-    CHostWindow host;
+    CNotingHost host;
     CNoting outer(IDD_OUTER, &host, log, "outer");
     CNoting page(0, nullptr, log, "page");
     outer.m_onInit = [&] { page.Create(IDD_INNER, &outer); };
@@ -224,4 +252,5 @@ TEST(ModalLoop, PreTranslationGoesFromTheInnermostOutwards)
     });
     EXPECT_EQ(scriptEnded, outer.DoModal());
     EXPECT_EQ((EventLog{"page", "outer", "page dispatched", "page", "outer", "page"}), log);
+    EXPECT_EQ(EventLog{}, host.m_log);
 }

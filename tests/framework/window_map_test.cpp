@@ -1,3 +1,4 @@
+#include "framework/thread_state.h"
 #include "tests/framework/script_dialog.h"
 
 #include <gtest/gtest.h>
@@ -134,33 +135,27 @@ TEST_F(WindowMap, EndIsToldInOrderHoweverItComes)
     EXPECT_EQ(nullptr, withItsParent.m_hWnd);
 }
 
-TEST_F(WindowMap, IdleLoopKeepsTheObjectsOfWaitingHandlers)
+TEST_F(WindowMap, IdleLoopDeletesItsOwnTemporariesOnly)
 {
+    AfxDeleteTempMap();
     const HWND early =
         ::CreateWindowExW(0, L"STATIC", L"early", WS_CHILD, 0, 0, 9, 9, m_window, nullptr, nullptr, nullptr);
     const CWnd* const held = CWnd::FromHandle(early);
+    const AFX_TEMP_MAPS& maps = AfxGetThreadState().temporary;
+    ASSERT_EQ(1u, maps.windows.Count());
     CScriptDialog dialog(IDD_SMALL);
-    dialog.Then([] {}).Then([] {});
+    HFONT font = nullptr;
+    dialog.Then([&] {
+        font = *dialog.GetDlgItem(IDOK)->GetFont();
+        EXPECT_LT(1u, maps.windows.Count());
+        EXPECT_EQ(1u, maps.fonts.Count());
+    });
+    dialog.Then([&] {
+        EXPECT_EQ(1u, maps.windows.Count()) << "the waiting handler's";
+        EXPECT_EQ(0u, maps.fonts.Count());
+        EXPECT_EQ(static_cast<DWORD>(OBJ_FONT), ::GetObjectType(font)) << "the font itself stays";
+    });
     EXPECT_EQ(scriptEnded, dialog.DoModal());
     EXPECT_EQ(held, CWnd::FromHandle(early));
     EXPECT_EQ(u"early", held->GetWindowText());
-}
-
-TEST_F(WindowMap, IdleLoopDeletesItsOwnTemporaries)
-{
-    CScriptDialog dialog(IDD_SMALL);
-    CFont* first = nullptr;
-    LOGFONTW description{};
-    dialog.Then([&] {
-        first = dialog.GetDlgItem(IDOK)->GetFont();
-        ASSERT_NE(nullptr, first);
-        EXPECT_TRUE(first->GetLogFont(&description));
-    });
-    dialog.Then([&] {
-        // The control's font itself has outlived the object that stood for it.
-        LOGFONTW again{};
-        EXPECT_TRUE(dialog.GetDlgItem(IDOK)->GetFont()->GetLogFont(&again));
-        EXPECT_STREQ(description.lfFaceName, again.lfFaceName);
-    });
-    EXPECT_EQ(scriptEnded, dialog.DoModal());
 }
