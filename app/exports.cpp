@@ -1,40 +1,57 @@
 #include "include/ovPreferences.h"
 
+#include <optional>
+
 #include "app/preferences_app.h"
 
 namespace
 {
-void Store(ov::Text& target, const wchar_t* text)
+// An argument: nothing for null.
+using Argument = std::optional<ov::Text>;
+
+Argument TextOf(const wchar_t* text)
 {
-    if (text != nullptr)
-        target = FromWide(text);
+    return text != nullptr ? Argument(FromWide(text)) : std::nullopt;
 }
 
-unsigned int Show(CWnd* parent)
+/// Does an export's work. A C++ exception must not unwind into a host that may
+/// be built by another compiler, so everything that can throw happens here.
+template <class Work>
+unsigned int Guarded(Work work)
 {
-    // A C++ exception must not unwind into a host that may be built by another
-    // compiler.
     try {
-        return theApp.ShowPreferences(parent);
+        AFX_MANAGE_STATE(AfxGetStaticModuleState());
+        try {
+            return work();
+        } catch (...) {
+            AfxReportCurrentException();
+        }
     } catch (...) {
-        AfxReportCurrentException();
-        return 1;
+        // Not even the module's state could be set up: there is nothing to tell
+        // it with.
     }
+    return OV_PREFERENCES_NOT_SHOWN;
 }
 } // namespace
 
 extern "C" unsigned int ovPreferences_showDialog(void)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    return Show(nullptr);
+    return Guarded([] { return theApp.ShowPreferences(nullptr); });
 }
 
 extern "C" unsigned int ovPreferences_showDialogEx(CWnd* parent, const wchar_t* defaultPath,
                                                    const wchar_t* currentPath, const wchar_t* userName)
 {
-    AFX_MANAGE_STATE(AfxGetStaticModuleState());
-    Store(theCommandLine.m_defaultPath, defaultPath);
-    Store(theCommandLine.m_currentPath, currentPath);
-    Store(theCommandLine.m_userName, userName);
-    return Show(parent);
+    return Guarded([=] {
+        if (theApp.ActivateOpenDialog())
+            return OV_PREFERENCES_NOT_SHOWN;
+        Argument texts[] = {TextOf(defaultPath), TextOf(currentPath), TextOf(userName)};
+        ov::Text* const targets[] = {&theCommandLine.m_defaultPath, &theCommandLine.m_currentPath,
+                                     &theCommandLine.m_userName};
+        for (size_t i = 0; i < std::size(texts); ++i) {
+            if (texts[i])
+                targets[i]->swap(*texts[i]);
+        }
+        return theApp.ShowPreferences(parent);
+    });
 }

@@ -93,8 +93,22 @@ CFont* CPreferencesApp::GetDialogFont()
     return m_dialogFont.CreateFontIndirect(&description) ? &m_dialogFont : nullptr;
 }
 
+bool CPreferencesApp::ActivateOpenDialog()
+{
+    // Only one of the host's windows is disabled while the dialog is open, and
+    // timers go on: a second call can come, and must not take the texts and the
+    // tooltip window away from the dialog that uses them.
+    if (m_pMainWnd == nullptr)
+        return false;
+    if (m_pMainWnd->GetSafeHwnd() != nullptr)
+        ::SetForegroundWindow(::GetLastActivePopup(m_pMainWnd->m_hWnd));
+    return true;
+}
+
 unsigned int CPreferencesApp::ShowPreferences(CWnd* parent)
 {
+    if (ActivateOpenDialog())
+        return 1;
     if (dialogIcon == nullptr)
         dialogIcon = LoadIcon(IDI_TOOLTIP);
     CPreferencesWizard dialog(parent);

@@ -18,8 +18,11 @@ class CPreferencesApp : public CWinApp
     CFont* GetDialogFont();
 
     /// Shows the dialog modally. 0 when it was shown, 1 when it could not be
-    /// set up.
+    /// set up or is open already.
     unsigned int ShowPreferences(CWnd* parent);
+
+    /// Brings the dialog forward when one is open; false when none is.
+    bool ActivateOpenDialog();
 
     /// The name for the saved file's header: as given, else the logged-on
     /// user's, asked for once.

@@ -11,8 +11,6 @@
 namespace
 {
 // Reference size for proportional placement and the smallest size, in pixels.
-constexpr UINT designWidth = 580;
-constexpr UINT designHeight = 400;
 // File names are long: the dialog is so many pixels wider for them.
 constexpr int browsingExtraWidth = 200;
 constexpr int columnMargin = 5;
@@ -35,7 +33,7 @@ END_MESSAGE_MAP()
 
 CConfigSettingDlg::CConfigSettingDlg(CWnd* parent, ov::Text listText, UINT browsing, char16_t separator,
                                      char16_t qualifier, char16_t fieldSeparator, size_t fieldCount)
-    : CResizableDlg(IDD_CONFIG_SETTING, parent, true, designWidth, designHeight),
+    : CResizableDlg(IDD_CONFIG_SETTING, parent, true, ov::DesignWidth, ov::DesignHeight),
       m_listText(std::move(listText)), m_fieldCount(std::max<size_t>(fieldCount, 1)),
       m_browsing(browsing != 0), m_rows({separator, qualifier, fieldSeparator, m_fieldCount})
 {

@@ -25,9 +25,13 @@
 ///
 /// Where the thread has no active window either, the dialog has no owner.
 ///
-/// Files. The file's bytes are converted by the process's C locale
-/// (`setlocale`). A host that never calls setlocale runs in the "C" locale, in
-/// which every byte is one character of the same number.
+/// One dialog at a time. A call while the dialog is open, from a timer say,
+/// brings that dialog forward, changes none of its texts and returns 1.
+///
+/// Files. The file's bytes are converted by the locale (`setlocale`) of the C
+/// runtime that this library uses, msvcrt.dll. It is the "C" locale unless
+/// somebody in the process sets it in that runtime: every byte is then one
+/// character of the same number.
 #ifndef OV_PREFERENCES_H
 #define OV_PREFERENCES_H
 
@@ -62,8 +66,8 @@ typedef struct CWnd CWnd;
 
 /// Shows the dialog, with no parent and with the texts that an earlier
 /// ovPreferences_showDialogEx has set in this process (all empty at first).
-/// With neither a defaults file nor a current file the dialog opens with the
-/// built-in values, and the person names the file to be written.
+/// With neither a defaults file nor a current file the dialog opens with
+/// everything off and empty, and the person names the file to be written.
 /// @return OV_PREFERENCES_SHOWN or OV_PREFERENCES_NOT_SHOWN.
 OV_PREFERENCES_API unsigned int ovPreferences_showDialog(void);
 

@@ -1,5 +1,7 @@
 #include "pages/settings_page.h"
 
+#include <stdexcept>
+
 #include "controls/application.h"
 #include "controls/tool_tip_control.h"
 #include "wizard/preferences_wizard.h"
@@ -140,5 +142,8 @@ bool CSettingsPage::ReportsChange(int id, int code) const
 
 ov::Text& CSettingsPage::TextOf(ov::TextView variable)
 {
-    return m_values.String(m_values.FindRow(variable));
+    const size_t row = m_values.FindRow(variable);
+    if (row == m_rows.settings.size())
+        throw std::logic_error("The page has no such setting.");
+    return m_values.String(row);
 }

@@ -28,10 +28,8 @@ class CSettingsPage : public CWizardPage
     /// row, by which that kind of control reports a change.
     BOOL OnCmdMsg(UINT id, int code, NMHDR* notify, LRESULT* result) override;
 
-    /// The text of the row that edits `variable`.
+    /// The text of the row that edits `variable`, which must be one of the page's.
     ov::Text& TextOf(ov::TextView variable);
-
-    ov::PageValues& Values() { return m_values; }
 
   private:
     bool ReportsChange(int id, int code) const;

@@ -21,7 +21,7 @@ BEGIN_MESSAGE_MAP(CLeftPane, CWizardPage)
 END_MESSAGE_MAP()
 
 CLeftPane::CLeftPane(CPreferencesWizard* wizard, CSize scrollSize)
-    : CWizardPage(wizard, leftPaneId, scrollSize, IDD_LEFT_PANE), m_wizard(wizard)
+    : CWizardPage(wizard, leftPaneId, scrollSize, IDD_LEFT_PANE)
 {
     CLeftPane::InitControlLayout();
 }
@@ -61,7 +61,7 @@ void CLeftPane::FillList()
 {
     for (const ov::PageInfo* page : ov::PaneRows()) {
         // A category without a page would be a row that does nothing.
-        if (!m_wizard->HasPage(static_cast<UINT>(page->pageId)))
+        if (!Owner()->HasPage(static_cast<UINT>(page->pageId)))
             continue;
         const int row = m_list.AppendRow(AfxLoadString(page->titleId));
         m_list.SetItemData(row, static_cast<DWORD_PTR>(page->pageId));
@@ -90,5 +90,5 @@ void CLeftPane::OnItemChanged(NMHDR* header, LRESULT* result)
         return;
     const int row = m_list.GetNextItem(-1, LVNI_SELECTED);
     if (row >= 0)
-        m_wizard->SelectPage(static_cast<UINT>(m_list.GetItemData(row)));
+        Owner()->SelectPage(static_cast<UINT>(m_list.GetItemData(row)));
 }

@@ -29,6 +29,5 @@ class CLeftPane : public CWizardPage
   private:
     void FillList();
 
-    CPreferencesWizard* m_wizard;
     CPrefListCtrl m_list;
 };

@@ -89,6 +89,7 @@ bool CPreferencesWizard::SaveConfigFile()
         m_configFile->SaveSettings(m_store, m_currentPath, surroundings, [this](const ov::Text& systemText) {
             ShowMessage(ov::NoBackupText(systemText, &AfxLoadString), warningStyle);
         });
+    m_savedHeader = result.header;
     const ov::Text message = ov::SaveFailureText(result, &AfxLoadString);
     if (!message.empty())
         ShowMessage(message, warningStyle);

@@ -14,9 +14,6 @@
 
 namespace
 {
-// Reference size for proportional placement and the smallest size, in pixels.
-constexpr UINT designWidth = 580;
-constexpr UINT designHeight = 400;
 constexpr CSize leftPaneScrollSize{100, 300};
 constexpr UINT lastPageId = 29;
 constexpr UINT firstShownPageId = 2;
@@ -38,7 +35,7 @@ BEGIN_MESSAGE_MAP(CPreferencesWizard, CResizableDlg)
 END_MESSAGE_MAP()
 
 CPreferencesWizard::CPreferencesWizard(CWnd* parent)
-    : CResizableDlg(IDD_PREFERENCES, parent, true, designWidth, designHeight),
+    : CResizableDlg(IDD_PREFERENCES, parent, true, ov::DesignWidth, ov::DesignHeight),
       m_icon(AfxGetApp()->LoadIcon(IDI_PREFERENCES))
 {
     CPreferencesWizard::InitControlLayout();
@@ -140,7 +137,26 @@ BOOL CPreferencesWizard::OnInitDialog()
     if (haveDefaults && m_currentPath.empty())
         m_store.SetModified(false);
     UpdateButtons();
+    FitIntoWorkArea();
     return TRUE;
+}
+
+void CPreferencesWizard::FitIntoWorkArea()
+{
+    // On a small screen the buttons at the bottom would lie under the task bar.
+    MONITORINFO monitor{};
+    monitor.cbSize = sizeof monitor;
+    if (!::GetMonitorInfoW(::MonitorFromWindow(m_hWnd, MONITOR_DEFAULTTONEAREST), &monitor))
+        return;
+    const CRect work(monitor.rcWork);
+    CRect window;
+    GetWindowRect(&window);
+    const int width = std::min(window.Width(), work.Width());
+    const int height = std::min(window.Height(), work.Height());
+    const int x = std::clamp<int>(window.left, work.left, work.right - width);
+    const int y = std::clamp<int>(window.top, work.top, work.bottom - height);
+    if (CRect(CPoint(x, y), CSize(width, height)) != window)
+        MoveWindow(x, y, width, height);
 }
 
 CRect CPreferencesWizard::PlaceholderRect(UINT id) const

@@ -78,6 +78,7 @@ class CPreferencesWizard : public CResizableDlg
     CTextFileEx& ConfigFile();
     void UpdateButtons();
     void UpdateFocusItems();
+    void FitIntoWorkArea();
     CRect PlaceholderRect(UINT id) const;
     void PlaceAfter(CWnd& child, UINT placeholderId);
     int ShowMessage(const ov::Text& text, UINT type);
@@ -96,4 +97,5 @@ class CPreferencesWizard : public CResizableDlg
     HICON m_icon;
     std::unique_ptr<CTextFileEx> m_configFile;
     CEdit m_focusVariableEdit;
+    ov::Text m_savedHeader; ///< what the last save wrote above the variables
 };

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "controls/config_setting_dlg.h"
+#include "controls/core/layout.h"
 #include "resources/ids.h"
 #include "wizard/core/wizard_state.h"
 #include "wizard/messages.h"
@@ -12,10 +13,6 @@
 
 namespace
 {
-// The reference size for proportional placement, shared by every dialog.
-constexpr UINT designWidth = 580;
-constexpr UINT designHeight = 400;
-
 constexpr int pageColour = COLOR_MENU;
 
 ov::KeyTarget TargetOf(const CWnd* window)
@@ -38,13 +35,15 @@ BEGIN_MESSAGE_MAP(CWizardPage, CResizableDlg)
     ON_WM_PAINT()
     ON_WM_ERASEBKGND()
     ON_MESSAGE(WM_CTLCOLORSTATIC, &CWizardPage::OnCtlColorStatic)
+    ON_MESSAGE(WM_CTLCOLORBTN, &CWizardPage::OnCtlColorStatic)
+    ON_MESSAGE(WM_PRINTCLIENT, &CWizardPage::OnPrintClient)
     ON_WM_HSCROLL()
     ON_WM_VSCROLL()
     ON_WM_MOUSEWHEEL()
 END_MESSAGE_MAP()
 
 CWizardPage::CWizardPage(CPreferencesWizard* owner, UINT pageId, CSize scrollSize, UINT templateId)
-    : CResizableDlg(templateId, nullptr, false, designWidth, designHeight), m_templateId(templateId),
+    : CResizableDlg(templateId, nullptr, false, ov::DesignWidth, ov::DesignHeight), m_templateId(templateId),
       m_pageId(pageId), m_owner(owner), m_scroller(*this, scrollSize)
 {
 }
@@ -143,10 +142,8 @@ void CWizardPage::BrowseFolder(ov::Text& text)
 void CWizardPage::BrowseFileOrList(ov::Text& text, bool list)
 {
     if (list) {
-        if (EditValueList(text, 1, u';', u'"', 0, 1)) {
-            SetModified(true);
-            UpdateData(FALSE);
-        }
+        // The editor's OK has marked the page and refreshed it already.
+        EditValueList(text, 1, u';', u'"', 0, 1);
         return;
     }
     CFileDialog chooser(TRUE, nullptr, nullptr, OFN_HIDEREADONLY | OFN_EXPLORER | OFN_ENABLESIZING, nullptr,
@@ -199,6 +196,16 @@ BOOL CWizardPage::OnEraseBkgnd(CDC*)
 {
     // OnPaint covers every pixel; erasing first would flicker.
     return TRUE;
+}
+
+LRESULT CWizardPage::OnPrintClient(WPARAM context, LPARAM)
+{
+    // Themed controls fetch what lies behind them this way, since erasing paints
+    // nothing.
+    CRect client;
+    GetClientRect(&client);
+    ::FillRect(reinterpret_cast<HDC>(context), &client, ::GetSysColorBrush(pageColour));
+    return 0;
 }
 
 LRESULT CWizardPage::OnCtlColorStatic(WPARAM context, LPARAM control)

@@ -72,6 +72,7 @@ class CWizardPage : public CResizableDlg
     /// an unscrolled page.
     void LayoutPass() override;
 
+    CPreferencesWizard* Owner() const { return m_owner; }
     int TakePendingSelector();
     void OnSettingChanged();
 
@@ -79,6 +80,7 @@ class CWizardPage : public CResizableDlg
     void OnPaint();
     BOOL OnEraseBkgnd(CDC* dc);
     LRESULT OnCtlColorStatic(WPARAM context, LPARAM control);
+    LRESULT OnPrintClient(WPARAM context, LPARAM);
     void OnHScroll(UINT code, UINT position, CWnd* sender);
     void OnVScroll(UINT code, UINT position, CWnd* sender);
     BOOL OnMouseWheel(UINT flags, short delta, CPoint point);

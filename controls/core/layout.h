@@ -77,6 +77,10 @@ Rect GripRect(std::int32_t clientWidth, std::int32_t clientHeight);
 /// design width is 0.
 std::optional<Size> MinimumTrackSize(std::uint32_t designWidth, std::uint32_t designHeight);
 
+/// The design size of every dialog of the program, in pixels.
+inline constexpr std::uint32_t DesignWidth = 580;
+inline constexpr std::uint32_t DesignHeight = 400;
+
 /// What the layout needs of a dialog's controls.
 class LayoutControls
 {

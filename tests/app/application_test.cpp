@@ -49,12 +49,8 @@ TEST(HostSize, CopyAndMoveAssignTheEightBytesAndReturnTheObject)
 TEST_F(ProgramTest, NullTextsLeaveTheStoredOnes)
 {
     // The dialog itself is turned away: only the arguments count here.
-    class TurnAway : public CModalHook
-    {
-      public:
-        std::optional<INT_PTR> OnModalDialog(CDialog&) override { return IDCANCEL; }
-    } turnAway;
-    CModalHook* const previous = AfxSetModalHook(&turnAway);
+    for (int call = 0; call < 3; ++call)
+        doors.AnswerDialog(IDCANCEL);
     EXPECT_EQ(ovPreferences_showDialogEx(nullptr, L"d.cfg", L"c.cfg", L"Jane"), 0u);
     EXPECT_EQ(ovPreferences_showDialogEx(nullptr, nullptr, nullptr, nullptr), 0u);
     EXPECT_EQ(GetDefaultConfigPath(), u"d.cfg");
@@ -63,19 +59,12 @@ TEST_F(ProgramTest, NullTextsLeaveTheStoredOnes)
     EXPECT_EQ(ovPreferences_showDialogEx(nullptr, nullptr, L"", nullptr), 0u);
     EXPECT_EQ(GetDefaultConfigPath(), u"d.cfg");
     EXPECT_EQ(GetCurrentConfigPath(), u"");
-    AfxSetModalHook(previous);
 }
 
 TEST_F(ProgramTest, ADialogThatCannotBeMadeGivesOne)
 {
-    class Fail : public CModalHook
-    {
-      public:
-        std::optional<INT_PTR> OnModalDialog(CDialog&) override { return -1; }
-    } fail;
-    CModalHook* const previous = AfxSetModalHook(&fail);
+    doors.AnswerDialog(-1);
     EXPECT_EQ(ovPreferences_showDialog(), 1u);
-    AfxSetModalHook(previous);
     EXPECT_EQ(theApp.m_pMainWnd, nullptr);
     EXPECT_EQ(theToolTip.GetSafeHwnd(), nullptr);
 }

@@ -1,3 +1,4 @@
+#include "include/ovPreferences.h"
 #include "resources/ids.h"
 #include "tests/app/program.h"
 
@@ -234,4 +235,50 @@ TEST_F(Doors, ARefusedRenameListGivesTheFocusBackToItsField)
     doors.AnswerMessage(IDOK);
     Click(IDC_BRANDING_RENAME_BROWSE);
     EXPECT_EQ(::GetFocus(), Control(IDC_BRANDING_RENAME));
+}
+
+TEST_F(Doors, ACancelledListEditorChangesNothing)
+{
+    Open(L"", MakeFile(L"office.cfg", simpleFile));
+    ov::Text text = u"a;b";
+    doors.AnswerDialog(IDCANCEL);
+    Page().BrowseFileOrList(text, true);
+    EXPECT_EQ(text, u"a;b");
+    EXPECT_FALSE(IsEnabled(IDC_PREFERENCES_SAVE));
+}
+
+TEST_F(Doors, AListEditorsOkMarksTheDialogModified)
+{
+    Open(L"", MakeFile(L"office.cfg", simpleFile));
+    ov::Text text = u"a;b";
+    doors.AnswerDialog(IDOK);
+    Page().BrowseFileOrList(text, true);
+    EXPECT_TRUE(IsEnabled(IDC_PREFERENCES_SAVE));
+}
+
+TEST_F(Doors, ASecondCallWhileTheDialogIsOpenLeavesItAlone)
+{
+    const std::wstring path = MakeFile(L"office.cfg", simpleFile);
+    Open(L"", path);
+    const HWND toolTip = theToolTip.GetSafeHwnd();
+    EXPECT_EQ(ovPreferences_showDialogEx(nullptr, L"other.cfg", L"other.cfg", L"Other"), 1u);
+    EXPECT_EQ(ovPreferences_showDialog(), 1u);
+    EXPECT_EQ(theCommandLine.m_currentPath, FromWide(path));
+    EXPECT_EQ(theCommandLine.m_userName, u"Tester");
+    EXPECT_EQ(theToolTip.GetSafeHwnd(), toolTip);
+    EXPECT_TRUE(::IsWindow(toolTip));
+    EXPECT_EQ(theApp.m_pMainWnd, dialog.get());
+}
+
+TEST_F(Doors, TheDialogLiesWithinTheWorkArea)
+{
+    Open(L"", L"");
+    RECT work{};
+    ASSERT_TRUE(::SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0));
+    CRect window;
+    dialog->GetWindowRect(&window);
+    EXPECT_GE(window.left, work.left);
+    EXPECT_GE(window.top, work.top);
+    EXPECT_LE(window.right, work.right);
+    EXPECT_LE(window.bottom, work.bottom);
 }

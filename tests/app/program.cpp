@@ -20,7 +20,8 @@ std::optional<Answer> Next(std::deque<Answer>& answers, const char* door)
 
 DoorKeeper::~DoorKeeper()
 {
-    EXPECT_TRUE(m_buttons.empty() && m_files.empty() && m_folders.empty()) << "a modal door did not come";
+    EXPECT_TRUE(m_buttons.empty() && m_files.empty() && m_folders.empty() && m_dialogs.empty())
+        << "a modal door did not come";
     AfxSetModalHook(m_previous);
 }
 
@@ -37,6 +38,11 @@ std::optional<CPathAnswer> DoorKeeper::OnFileDialog(const CFileDialogRequest& re
 {
     fileRequests.push_back(request);
     return Next(m_files, "file chooser").value_or(CPathAnswer{});
+}
+
+std::optional<INT_PTR> DoorKeeper::OnModalDialog(CDialog&)
+{
+    return m_dialogs.empty() ? std::nullopt : Next(m_dialogs, "dialog");
 }
 
 std::optional<CPathAnswer> DoorKeeper::OnFolderBrowser(const CFolderBrowserRequest& request)

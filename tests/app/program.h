@@ -32,6 +32,8 @@ class DoorKeeper : public CModalHook
 
     void AnswerMessage(int button) { m_buttons.push_back(button); }
     void AnswerFile(const std::wstring& path) { m_files.push_back({FromWide(path)}); }
+    /// Answers the next dialog without opening it.
+    void AnswerDialog(INT_PTR result) { m_dialogs.push_back(result); }
     void AnswerFolder(const std::wstring& path) { m_folders.push_back({FromWide(path)}); }
 
     /// Called while a message box would be open.
@@ -44,11 +46,14 @@ class DoorKeeper : public CModalHook
     std::optional<int> OnMessageBox(HWND owner, const ov::Text& text, const ov::Text& caption,
                                     UINT type) override;
     std::optional<CPathAnswer> OnFileDialog(const CFileDialogRequest& request) override;
+    /// A dialog that no answer is laid out for opens.
+    std::optional<INT_PTR> OnModalDialog(CDialog& dialog) override;
     std::optional<CPathAnswer> OnFolderBrowser(const CFolderBrowserRequest& request) override;
 
   private:
     CModalHook* m_previous;
     std::deque<int> m_buttons;
+    std::deque<INT_PTR> m_dialogs;
     std::deque<CPathAnswer> m_files;
     std::deque<CPathAnswer> m_folders;
 };

@@ -79,6 +79,9 @@ TEST_F(TextFile, AnEmptyPathAsksForAFileToSave)
     EXPECT_EQ(uidriver::ReadBytes(folder / L"out.cfg"), "x\r\n");
     ASSERT_EQ(doors.fileRequests.size(), 1u);
     EXPECT_FALSE(doors.fileRequests[0].open);
+    EXPECT_EQ(doors.fileRequests[0].defaultExtension, u"cfg");
+    EXPECT_EQ(doors.fileRequests[0].filter, u"Config File (*.cfg)|*.cfg||");
+    EXPECT_EQ(doors.fileRequests[0].flags & chooserFlags, chooserFlags);
 }
 
 TEST_F(TextFile, AFileThatCannotBeCreatedFailsSilently)
@@ -86,4 +89,34 @@ TEST_F(TextFile, AFileThatCannotBeCreatedFailsSilently)
     EXPECT_FALSE(file.WriteLines(FromWide(folder / L"no folder\\out.cfg"), std::vector<ov::Text>{u"x"}));
     EXPECT_NE(file.GetLastError(), u"");
     EXPECT_TRUE(doors.messages.empty());
+}
+
+TEST_F(TextFile, SettingsOfAFileThatCannotBeReadAreToldAndOfAMissingOneNot)
+{
+    ov::SettingStore store;
+    EXPECT_FALSE(file.ReadSettings(store, ov::kCurrentTable, FromWide(folder / L"missing.cfg")));
+    EXPECT_FALSE(file.ReadSettings(store, ov::kCurrentTable, {}));
+    EXPECT_TRUE(doors.messages.empty());
+    doors.AnswerMessage(IDOK);
+    EXPECT_FALSE(file.ReadSettings(store, ov::kCurrentTable, FromWide(folder / L".")));
+    ASSERT_EQ(doors.messages.size(), 1u);
+    EXPECT_EQ(doors.messages[0].type, warning);
+    EXPECT_EQ(Wide(file.GetLastError()), doors.messages[0].text);
+}
+
+TEST_F(TextFile, AnErrorWithoutWordsIsToldByItsNumber)
+{
+    EXPECT_EQ(SystemErrorText(0x20001234), u"Error 536875572.");
+    EXPECT_EQ(SystemErrorText(0xE0001234), u"Error 3758101044.");
+}
+
+TEST_F(TextFile, SystemWordsAreWithoutALineEndAndAtMost256Characters)
+{
+    for (const unsigned long error : {2ul, 5ul, 32ul, 112ul}) {
+        const ov::Text words = SystemErrorText(error);
+        EXPECT_FALSE(words.empty());
+        EXPECT_FALSE(words.starts_with(u"Error ")) << error;
+        EXPECT_EQ(words.find_first_of(u"\r\n"), ov::Text::npos);
+        EXPECT_LE(words.size(), 256u);
+    }
 }
