@@ -22,14 +22,16 @@ constexpr HelpRow extraHelp[] = {
 };
 
 constexpr LayoutRow layout[] = {
-    // Its caption is too long for a narrow page, where it wraps.
-    {IDC_BRANDING_AUTO, kStretched},         {IDC_BRANDING_OVERRIDE, kFixed},
+    // Their captions are too long for a narrow page, where they wrap.
+    {IDC_BRANDING_AUTO, kStretched},         {IDC_BRANDING_OVERRIDE, kStretched},
     {IDC_BRANDING_CERTIFY, kFixed},          {IDC_BRANDING_DISABLE_AUTOLOAD, kFixed},
     {IDC_BRANDING_RENAME_LABEL, kFixed},     {IDC_BRANDING_RENAME, kStretched},
     {IDC_BRANDING_RENAME_BROWSE, kTopRight},
 };
 
-constexpr PageRows rows = {2, settings, extraHelp, layout};
+constexpr int catalogueId = 2;
+
+constexpr PageRows rows = {catalogueId, settings, extraHelp, layout};
 } // namespace
 
 const PageRows& BrandingRows()

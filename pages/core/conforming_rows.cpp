@@ -60,7 +60,9 @@ constexpr LayoutRow layout[] = {
     {IDC_CONFORMING_IGNORED_LEVELS_BROWSE, kTopRight},
 };
 
-constexpr PageRows rows = {6, settings, extraHelp, layout};
+constexpr int catalogueId = 6;
+
+constexpr PageRows rows = {catalogueId, settings, extraHelp, layout};
 } // namespace
 
 const PageRows& ConformingRows()

@@ -96,6 +96,12 @@ TEST(ConformingRows, EqualTheTable)
     ExpectRows(ov::ConformingRows(), conforming);
 }
 
+TEST(ConformingRows, BelongToTheirPage)
+{
+    ASSERT_NE(ov::FindPage(ov::ConformingRows().pageId), nullptr);
+    EXPECT_EQ(ov::FindPage(ov::ConformingRows().pageId)->templateId, 101u);
+}
+
 TEST(ConformingRows, BrowseButtonHasItsOwnHelp)
 {
     ASSERT_EQ(ov::ConformingRows().extraHelp.size(), 1u);
@@ -107,6 +113,21 @@ TEST(BrandingRows, EqualTheTable)
 {
     EXPECT_EQ(ov::BrandingRows().pageId, 2);
     ExpectRows(ov::BrandingRows(), branding);
+}
+
+TEST(BrandingRows, LongCaptionsStretchWithThePage)
+{
+    std::map<int, std::uint32_t> flags;
+    for (const ov::LayoutRow& row : ov::BrandingRows().layout)
+        flags[row.controlId] = row.layoutFlags;
+    EXPECT_EQ(flags[9512], 258u);
+    EXPECT_EQ(flags[9513], 258u);
+}
+
+TEST(BrandingRows, BelongToTheirPage)
+{
+    ASSERT_NE(ov::FindPage(ov::BrandingRows().pageId), nullptr);
+    EXPECT_EQ(ov::FindPage(ov::BrandingRows().pageId)->templateId, 9364u);
 }
 
 TEST(BrandingRows, BrowseButtonHasItsOwnHelp)
@@ -197,6 +218,18 @@ TEST(AllRows, HelpTextsNameTheRowsVariable)
         ASSERT_FALSE(help.empty());
         EXPECT_EQ(ov::VariableName(help) != row.variable, row.helpNamesAnotherVariable);
         EXPECT_FALSE(ov::Description(help).empty());
+    });
+}
+
+// An absent flag reads as off, whatever the page shows before it loads.
+TEST(AllRows, HelpOfTheFlagsSaysWhatAMissingVariableMeans)
+{
+    ForEachSetting([](const ov::PageRows&, const SettingRow& row) {
+        if (row.encoding != Encoding::Flag)
+            return;
+        const ov::Text description = ov::Description(ov::FindString(row.helpId));
+        EXPECT_NE(description.find(u"If this variable is missing, the option is OFF."), ov::Text::npos);
+        EXPECT_EQ(description.find(u"default"), ov::Text::npos);
     });
 }
 
