@@ -162,6 +162,7 @@
 // The launcher
 #define IDS_HOST_LIBRARY_MISSING 5200
 #define IDS_HOST_EXPORT_MISSING 5201
+#define IDS_HOST_LIBRARY_DAMAGED 5202
 
 // Help texts: Preferences dialog and category pane
 #define IDS_HELP_LEFT_PANE_LIST 7000
