@@ -22,7 +22,9 @@ CRect CGrippie::CornerRect() const
 
 BOOL CGrippie::Create()
 {
-    return CScrollBar::Create(WS_CHILD | WS_VISIBLE | SBS_SIZEGRIP, CornerRect(), &m_dialog, gripId);
+    // A group of its own: arrow keys on the dialog's buttons must not reach it.
+    return CScrollBar::Create(WS_CHILD | WS_VISIBLE | WS_GROUP | SBS_SIZEGRIP, CornerRect(), &m_dialog,
+                              gripId);
 }
 
 void CGrippie::MoveToCorner()
