@@ -1,6 +1,7 @@
 #include "match/core/tokens.h"
 
 #include <algorithm>
+#include <new>
 
 namespace ov
 {
@@ -80,14 +81,15 @@ class TokenReader
         return Contains(m_consumedStops, m_source[index]) || Contains(m_keptStops, m_source[index]);
     }
 
-    // Two qualifiers and then a stop, or nothing but two qualifiers, are an empty token.
+    // Two qualifiers and then a stop at once, or two qualifiers and nothing but trimmed characters,
+    // are an empty token.
     bool ReadEmptyQualified(std::size_t& consumed) const
     {
         if (m_start + 1 >= m_source.size() || !IsQualifier(m_start + 1))
             return false;
         const std::size_t after = m_start + 2;
-        if (m_source.size() == 2) {
-            consumed = 2;
+        if (after == m_end) {
+            consumed = m_source.size();
             return true;
         }
         if (after >= m_source.size() || !IsStop(after))
@@ -185,6 +187,23 @@ void CopyOut(char16_t* destination, TextView text, std::size_t capacity)
     destination[length] = u'\0';
 }
 
+// Appends the source with every occurrence replaced. True when there was one.
+bool Replace(TextView source, TextView find, TextView replacement, bool exact, Text& result)
+{
+    std::size_t done = 0;
+    bool replaced = false;
+    for (;;) {
+        const std::size_t at = exact ? source.find(find, done) : PositionNoCase(source, find, done);
+        if (at == TextView::npos)
+            break;
+        result.append(source, done, at - done).append(replacement);
+        done = at + find.size();
+        replaced = true;
+    }
+    result.append(source, done);
+    return replaced;
+}
+
 } // namespace
 
 const char16_t* FindNoCase(const char16_t* haystack, const char16_t* needle, std::size_t limit)
@@ -211,20 +230,14 @@ std::uint32_t ReplaceAll(char16_t* destination, const char16_t* source, const ch
             CopyOut(destination, from, capacity);
         return kMatchFailed;
     }
-    Text result;
-    std::size_t done = 0;
-    std::uint32_t status = kMatchFailed;
-    for (;;) {
-        const std::size_t at = caseFlag != 0 ? from.find(wanted, done) : PositionNoCase(from, wanted, done);
-        if (at == TextView::npos)
-            break;
-        result.append(from, done, at - done).append(replacement);
-        done = at + wanted.size();
-        status = kMatchDone;
+    try {
+        Text result;
+        const bool replaced = Replace(from, wanted, replacement, caseFlag != 0, result);
+        CopyOut(destination, result, capacity);
+        return replaced ? kMatchDone : kMatchFailed;
+    } catch (const std::bad_alloc&) {
+        return kMatchFailed;
     }
-    result.append(from, done);
-    CopyOut(destination, result, capacity);
-    return status;
 }
 
 std::size_t ExtractTokenString(Text& token, TextView source, const char16_t* leadingSkip,
@@ -232,11 +245,11 @@ std::size_t ExtractTokenString(Text& token, TextView source, const char16_t* lea
                                const char16_t* consumedStops, const char16_t* keptStops,
                                const char16_t* qualifier, std::size_t capacity)
 {
-    constexpr std::size_t usualCapacity = 512;
+    constexpr std::size_t kUsualCapacity = 512;
     token.clear();
     const TokenReader reader(source, leadingSkip, trailingTrim, remove, consumedStops, keptStops, qualifier);
     const std::size_t consumed = reader.Read(token);
-    token.resize(std::min(token.size(), capacity == 0 ? usualCapacity : capacity));
+    token.resize(std::min(token.size(), capacity == 0 ? kUsualCapacity : capacity));
     return consumed;
 }
 
@@ -249,11 +262,16 @@ std::size_t ExtractToken(char16_t* destination, const char16_t* source, const ch
     *destination = u'\0';
     if (source == nullptr)
         return 0;
-    Text token;
-    const TokenReader reader(source, leadingSkip, trailingTrim, remove, consumedStops, keptStops, qualifier);
-    const std::size_t consumed = reader.Read(token);
-    CopyOut(destination, token, capacity);
-    return consumed;
+    try {
+        Text token;
+        const TokenReader reader(source, leadingSkip, trailingTrim, remove, consumedStops, keptStops,
+                                 qualifier);
+        const std::size_t consumed = reader.Read(token);
+        CopyOut(destination, token, capacity);
+        return consumed;
+    } catch (const std::bad_alloc&) {
+        return 0;
+    }
 }
 
 } // namespace ov

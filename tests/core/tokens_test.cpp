@@ -1,8 +1,11 @@
 #include "match/core/tokens.h"
 
+#include "tests/core/no_memory.h"
+
 #include <algorithm>
 #include <array>
 #include <gtest/gtest.h>
+#include <new>
 #include <vector>
 
 namespace ov
@@ -92,6 +95,46 @@ TEST(ExtractToken, TwoQualifiersBeforeAStopAreAnEmptyToken)
 TEST(ExtractToken, NothingButTwoQualifiersIsAnEmptyToken)
 {
     EXPECT_EQ(Extract(u"\"\""), (Token{u"", 2}));
+    EXPECT_EQ(Extract(u"\"\" "), (Token{u"", 3}));
+    EXPECT_EQ(Extract(u"  \"\"   "), (Token{u"", 7}));
+}
+
+TEST(ExtractToken, TwoQualifiersBeforeABlankAndAStopAreOneQualifier)
+{
+    // The stop does not follow at once, so the doubled qualifier stands for one, and the blank is trimmed.
+    EXPECT_EQ(Extract(u"\"\" ;b"), (Token{u"\"", 4}));
+}
+
+TEST(ExtractToken, WithoutMemoryTheTokenIsEmptyAndNothingIsConsumed)
+{
+    const Text source(2000, u'a');
+    std::vector<char16_t> buffer(2001, u'!');
+    std::size_t consumed = 1;
+    {
+        const test::NoMemory noMemory;
+        consumed =
+            ExtractToken(buffer.data(), source.c_str(), u" ", u" ", nullptr, u";", nullptr, &kQuote, 2000);
+    }
+    EXPECT_EQ(consumed, 0u);
+    EXPECT_EQ(buffer[0], u'\0');
+    EXPECT_EQ(ExtractToken(buffer.data(), source.c_str(), u" ", u" ", nullptr, u";", nullptr, &kQuote, 2000),
+              2000u);
+}
+
+TEST(ExtractTokenString, RunningOutOfMemoryComesOut)
+{
+    const Text source(2000, u'a');
+    bool thrown = false;
+    {
+        Text token;
+        const test::NoMemory noMemory;
+        try {
+            ExtractTokenString(token, source, u" ", u" ", nullptr, u";", nullptr, &kQuote, 2000);
+        } catch (const std::bad_alloc&) {
+            thrown = true;
+        }
+    }
+    EXPECT_TRUE(thrown);
 }
 
 TEST(ExtractToken, QualifiedTokenBeforeOneLastStopTakesTheWholeSource)
@@ -245,6 +288,19 @@ TEST(ReplaceAll, DestinationAndSourceMayBeOneBuffer)
 TEST(ReplaceAll, AtMostCapacityCharactersAreWritten)
 {
     EXPECT_EQ(Replace(u"a-b", u"-", u"+++", 3), (Replaced{u"a++", kMatchDone}));
+}
+
+TEST(ReplaceAll, WithoutMemoryNothingIsReplaced)
+{
+    const Text source = u"-" + Text(2000, u'a');
+    std::vector<char16_t> buffer(source.size() + 1, u'!');
+    std::uint32_t status = kMatchDone;
+    {
+        const test::NoMemory noMemory;
+        status = ReplaceAll(buffer.data(), source.c_str(), u"-", u"+", source.size(), 0);
+    }
+    EXPECT_EQ(status, kMatchFailed);
+    EXPECT_EQ(ReplaceAll(buffer.data(), source.c_str(), u"-", u"+", source.size(), 0), kMatchDone);
 }
 
 TEST(ReplaceAll, NullArgumentsFail)
