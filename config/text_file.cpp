@@ -52,14 +52,15 @@ bool CTextFileEx::ReadSettings(ov::SettingStore& store, int table, const ov::Tex
 {
     m_lastError.clear();
     const ov::ReadResult result = ov::ReadConfigFile(store, table, path, m_files);
-    if (result.read || result.systemText.empty())
-        return result.read;
-    return Tell(result.systemText);
+    if (result.outcome == ov::ReadOutcome::Failed)
+        return Tell(result.systemText);
+    return result.outcome == ov::ReadOutcome::Read;
 }
 
 ov::SaveResult CTextFileEx::SaveSettings(const ov::SettingStore& store, const ov::Text& path,
                                          ov::SaveSurroundings& surroundings, const ov::SaveNotice& notice)
 {
+    m_lastError.clear();
     ov::SaveResult result = ov::SaveConfigFile(store, path, m_files, surroundings, notice);
     m_lastError = result.systemText;
     return result;

@@ -2,21 +2,20 @@
 
 #include <algorithm>
 #include <limits>
+#include <memory>
+#include <string>
+#include <string_view>
 
 #include "framework/afxwin.h"
 
 namespace
 {
 // How much of the system's text a message shows, in characters.
-constexpr DWORD systemTextCapacity = 256;
+constexpr std::size_t systemTextCapacity = 256;
 
 ov::FileResult Failed(DWORD error)
 {
-    wchar_t buffer[systemTextCapacity];
-    const DWORD length = ::FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr,
-                                          error, 0, buffer, systemTextCapacity, nullptr);
-    const ov::Text text = FromWide(std::wstring_view(buffer, length));
-    return {false, ov::Text(ov::Trim(text))};
+    return {false, SystemErrorText(error)};
 }
 
 ov::FileResult Result(BOOL succeeded)
@@ -34,6 +33,19 @@ DWORD PieceOf(std::size_t size)
     return static_cast<DWORD>(std::min<std::size_t>(size, std::numeric_limits<DWORD>::max()));
 }
 
+/// A full path without the prefix that the system puts before it, which other
+/// programs and the person do not know.
+ov::Text WithoutPrefix(ov::Text path)
+{
+    constexpr ov::TextView network = u"\\\\?\\UNC\\";
+    constexpr ov::TextView local = u"\\\\?\\";
+    if (path.starts_with(network))
+        path.replace(0, network.size(), u"\\\\");
+    else if (path.starts_with(local))
+        path.erase(0, local.size());
+    return path;
+}
+
 /// What tells one file from another, whatever path leads to it.
 bool IdentityOf(const ov::Text& path, BY_HANDLE_FILE_INFORMATION& identity)
 {
@@ -41,11 +53,24 @@ bool IdentityOf(const ov::Text& path, BY_HANDLE_FILE_INFORMATION& identity)
                                       nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
     if (file == INVALID_HANDLE_VALUE)
         return false;
-    const bool known = ::GetFileInformationByHandle(file, &identity) != FALSE;
+    const bool asked = ::GetFileInformationByHandle(file, &identity) != FALSE;
     ::CloseHandle(file);
-    return known;
+    // A file system without such numbers gives 0 for every file.
+    return asked && (identity.nFileIndexHigh != 0 || identity.nFileIndexLow != 0);
 }
 } // namespace
+
+ov::Text SystemErrorText(unsigned long error)
+{
+    wchar_t* buffer = nullptr;
+    const DWORD length = ::FormatMessageW(FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM |
+                                              FORMAT_MESSAGE_IGNORE_INSERTS,
+                                          nullptr, error, 0, reinterpret_cast<LPWSTR>(&buffer), 0, nullptr);
+    const std::unique_ptr<wchar_t, decltype(&::LocalFree)> owner(buffer, &::LocalFree);
+    const ov::Text text = length != 0 ? FromWide(std::wstring_view(buffer, length)) : ov::Text();
+    const ov::TextView words = ov::Trim(text).substr(0, systemTextCapacity);
+    return words.empty() ? u"Error " + FromWide(std::to_wstring(error)) + u"." : ov::Text(words);
+}
 
 ov::FileKind CWin32FilePort::Kind(const ov::Text& path)
 {
@@ -58,10 +83,32 @@ ov::FileKind CWin32FilePort::Kind(const ov::Text& path)
     case ERROR_INVALID_NAME:
     case ERROR_BAD_PATHNAME:
     case ERROR_INVALID_DRIVE:
+    case ERROR_BAD_UNIT:
+    case ERROR_NOT_READY:
+    case ERROR_BAD_NETPATH:
+    case ERROR_BAD_NET_NAME:
         return ov::FileKind::Absent;
     default:
         return ov::FileKind::Unknown;
     }
+}
+
+ov::Text CWin32FilePort::LinkTarget(const ov::Text& path)
+{
+    const DWORD attributes = ::GetFileAttributesW(Wide(path));
+    if (attributes == INVALID_FILE_ATTRIBUTES || (attributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0)
+        return {};
+    const HANDLE file = ::CreateFileW(Wide(path), 0, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                                      nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+    if (file == INVALID_HANDLE_VALUE)
+        return {};
+    std::wstring target(::GetFinalPathNameByHandleW(file, nullptr, 0, VOLUME_NAME_DOS), L'\0');
+    const DWORD length =
+        ::GetFinalPathNameByHandleW(file, target.data(), static_cast<DWORD>(target.size()), VOLUME_NAME_DOS);
+    ::CloseHandle(file);
+    if (length == 0 || length >= target.size())
+        return {};
+    return WithoutPrefix(FromWide(std::wstring_view(target).substr(0, length)));
 }
 
 bool CWin32FilePort::IsSameFile(const ov::Text& first, const ov::Text& second)
@@ -100,7 +147,8 @@ ov::FileResult CWin32FilePort::Create(const ov::Text& path, ov::CreateMode mode,
                                          FILE_ATTRIBUTE_NORMAL, nullptr);
     if (created == INVALID_HANDLE_VALUE)
         return Failed(::GetLastError());
-    if (mode == ov::CreateMode::Truncate && !::SetEndOfFile(created)) {
+    const bool existed = ::GetLastError() == ERROR_ALREADY_EXISTS;
+    if (existed && !::SetEndOfFile(created)) {
         const DWORD error = ::GetLastError();
         ::CloseHandle(created);
         return Failed(error);
@@ -140,7 +188,15 @@ ov::FileResult CWin32FilePort::Rename(const ov::Text& from, const ov::Text& to)
 ov::FileResult CWin32FilePort::Remove(const ov::Text& path)
 {
     const DWORD attributes = ::GetFileAttributesW(Wide(path));
-    if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0)
+    const bool isReadOnlyFile = attributes != INVALID_FILE_ATTRIBUTES &&
+                                (attributes & FILE_ATTRIBUTE_READONLY) != 0 &&
+                                (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
+    if (isReadOnlyFile)
         ::SetFileAttributesW(Wide(path), attributes & ~DWORD{FILE_ATTRIBUTE_READONLY});
-    return Result(::DeleteFileW(Wide(path)));
+    if (::DeleteFileW(Wide(path)))
+        return {};
+    const DWORD error = ::GetLastError();
+    if (isReadOnlyFile)
+        ::SetFileAttributesW(Wide(path), attributes);
+    return Failed(error);
 }

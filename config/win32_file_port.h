@@ -2,11 +2,16 @@
 
 #include "config/core/file_port.h"
 
+/// The system's words for one of its error codes, at most 256 characters; "Error N." where it has
+/// none.
+ov::Text SystemErrorText(unsigned long error);
+
 /// The file port over Windows calls.
 class CWin32FilePort final : public ov::FilePort
 {
   public:
     ov::FileKind Kind(const ov::Text& path) override;
+    ov::Text LinkTarget(const ov::Text& path) override;
     bool IsSameFile(const ov::Text& first, const ov::Text& second) override;
     ov::FileResult OpenForReading(const ov::Text& path, ov::FileHandle& file) override;
     ov::FileResult Read(ov::FileHandle file, std::span<char> buffer, std::size_t& count) override;

@@ -4,6 +4,7 @@
 #include "config/core/text_lines.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace ov
@@ -201,6 +202,9 @@ class ReadRun
 {
   public:
     ReadRun(SettingStore& store, int table) : m_store(store), m_table(table), m_reader(store, table) {}
+    // The line function holds the address of this object.
+    ReadRun(const ReadRun&) = delete;
+    ReadRun& operator=(const ReadRun&) = delete;
 
     void Feed(std::string_view block) { m_splitter.Feed(block, m_addLine); }
 
@@ -245,13 +249,13 @@ void ReadConfig(SettingStore& store, int table, std::string_view bytes)
 ReadResult ReadConfigFile(SettingStore& store, int table, const Text& path, FilePort& files)
 {
     if (path.empty() || files.Kind(path) == FileKind::Absent)
-        return {false, Text()};
+        return {ReadOutcome::NothingToRead};
     ReadRun run(store, table);
     FileResult result = ReadBlocks(files, path, [&run](std::string_view block) { run.Feed(block); });
     if (!result)
-        return {false, std::move(result.systemText)};
+        return {ReadOutcome::Failed, std::move(result.systemText)};
     run.Finish();
-    return {true, Text()};
+    return {ReadOutcome::Read};
 }
 
 } // namespace ov

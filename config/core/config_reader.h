@@ -17,14 +17,21 @@ SettingKind ClassifyValue(TextView value);
 /// The table is replaced; no bytes at all leave it as it was.
 void ReadConfig(SettingStore& store, int table, std::string_view bytes);
 
+/// How the reading of a configuration file ended.
+enum class ReadOutcome {
+    Read,          ///< To the file's end; an empty file counts and leaves the table as it was.
+    NothingToRead, ///< No file is named, or there is none.
+    Failed,        ///< There is a file, but it could not be read.
+};
+
 /// What came of reading a configuration file.
 struct ReadResult {
-    bool read;       ///< The file was read; an empty file counts and leaves the table as it was.
-    Text systemText; ///< Why a file that exists could not be read; empty when there is nothing to tell.
+    ReadOutcome outcome;
+    Text systemText{}; ///< Failed: the system's words for it; may be empty.
 };
 
 /// Reads a configuration file into a table of the store. An empty path and a file that does not
-/// exist are not read, without a word. The store is unchanged unless the whole file was read.
+/// exist are nothing to read. The store is unchanged unless the whole file was read.
 ReadResult ReadConfigFile(SettingStore& store, int table, const Text& path, FilePort& files);
 
 } // namespace ov

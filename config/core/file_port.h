@@ -45,6 +45,10 @@ class FilePort
     /// What stands under the path.
     virtual FileKind Kind(const Text& path) = 0;
 
+    /// The full path of what a symbolic link leads to; empty when the path is no link or the link
+    /// cannot be followed.
+    virtual Text LinkTarget(const Text& path) = 0;
+
     /// True when both paths are known to lead to one and the same file.
     virtual bool IsSameFile(const Text& first, const Text& second) = 0;
 

@@ -2,7 +2,9 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <cstdlib>
 #include <fcntl.h>
+#include <memory>
 #include <string>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -29,6 +31,20 @@ int DescriptorOf(FileHandle file)
     return static_cast<int>(file);
 }
 
+// Opens a file for writing and tells whether it was not there before.
+int OpenForWriting(const char* name, CreateMode mode, bool& created)
+{
+    created = false;
+    if (mode == CreateMode::Truncate) {
+        const int descriptor = open(name, O_WRONLY | O_CLOEXEC);
+        if (descriptor >= 0 || errno != ENOENT)
+            return descriptor;
+    }
+    const int descriptor = open(name, O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+    created = descriptor >= 0;
+    return descriptor;
+}
+
 } // namespace
 
 FileKind PosixFilePort::Kind(const Text& path)
@@ -38,6 +54,17 @@ FileKind PosixFilePort::Kind(const Text& path)
     if (stat(Utf8FromText(path).c_str(), &status) != 0)
         return errno == ENOENT || errno == ENOTDIR ? FileKind::Absent : FileKind::Unknown;
     return S_ISDIR(status.st_mode) ? FileKind::Directory : FileKind::File;
+}
+
+Text PosixFilePort::LinkTarget(const Text& path)
+{
+    const std::string name = Utf8FromText(path);
+    struct stat status {
+    };
+    if (lstat(name.c_str(), &status) != 0 || !S_ISLNK(status.st_mode))
+        return {};
+    const std::unique_ptr<char, decltype(&std::free)> target(realpath(name.c_str(), nullptr), &std::free);
+    return target ? TextFromUtf8(target.get()) : Text();
 }
 
 bool PosixFilePort::IsSameFile(const Text& first, const Text& second)
@@ -73,13 +100,16 @@ FileResult PosixFilePort::Read(FileHandle file, std::span<char> buffer, std::siz
 
 FileResult PosixFilePort::Create(const Text& path, CreateMode mode, FileHandle& file)
 {
-    // Emptied only once the lock is held: a second writer's file is left alone.
-    const int exclusive = mode == CreateMode::New ? O_EXCL : 0;
-    const int descriptor = open(Utf8FromText(path).c_str(), O_WRONLY | O_CREAT | O_CLOEXEC | exclusive, 0666);
+    const std::string name = Utf8FromText(path);
+    bool created = false;
+    const int descriptor = OpenForWriting(name.c_str(), mode, created);
     if (descriptor < 0)
         return Failure(errno);
+    // Emptied only once the lock is held: a second writer's file is left alone.
     if (flock(descriptor, LOCK_EX | LOCK_NB) != 0 || ftruncate(descriptor, 0) != 0) {
         const int error = errno;
+        if (created)
+            unlink(name.c_str());
         close(descriptor);
         return Failure(error);
     }
@@ -93,8 +123,8 @@ FileResult PosixFilePort::Write(FileHandle file, std::string_view bytes)
         const ssize_t written = write(DescriptorOf(file), bytes.data(), bytes.size());
         if (written < 0 && errno == EINTR)
             continue;
-        if (written < 0)
-            return Failure(errno);
+        if (written <= 0)
+            return Failure(written < 0 ? errno : EIO);
         bytes.remove_prefix(static_cast<std::size_t>(written));
     }
     return {};

@@ -11,6 +11,7 @@ class PosixFilePort final : public FilePort
 {
   public:
     FileKind Kind(const Text& path) override;
+    Text LinkTarget(const Text& path) override;
     bool IsSameFile(const Text& first, const Text& second) override;
     FileResult OpenForReading(const Text& path, FileHandle& file) override;
     FileResult Read(FileHandle file, std::span<char> buffer, std::size_t& count) override;

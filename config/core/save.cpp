@@ -18,34 +18,71 @@ constexpr std::size_t kLongestSystemText = 255;
 // end do not tell names apart on Windows.
 bool EndsInBackupExtension(TextView path)
 {
-    constexpr TextView extension = u".BAK";
+    constexpr TextView kExtension = u".BAK";
     while (!path.empty() && (path.back() == u' ' || path.back() == u'.'))
         path.remove_suffix(1);
-    if (path.size() < extension.size())
+    if (path.size() < kExtension.size())
         return false;
-    Text end(path.substr(path.size() - extension.size()));
+    Text end(path.substr(path.size() - kExtension.size()));
     for (char16_t& c : end)
         c = ToUpperAscii(c);
-    return end == extension;
+    return end == kExtension;
 }
+
+// An open file, closed once: by Close or, when something is thrown, by the destructor.
+class OpenedFile
+{
+  public:
+    OpenedFile(FilePort& files, FileHandle file) : m_files(files), m_file(file) {}
+    ~OpenedFile()
+    {
+        if (!m_open)
+            return;
+        try {
+            m_files.Close(m_file);
+        } catch (...) {
+            // What ended the writing is on its way already.
+        }
+    }
+    OpenedFile(const OpenedFile&) = delete;
+    OpenedFile& operator=(const OpenedFile&) = delete;
+
+    FileResult Write(std::string_view bytes) { return m_files.Write(m_file, bytes); }
+    FileResult Flush() { return m_files.Flush(m_file); }
+    FileResult Close()
+    {
+        m_open = false;
+        return m_files.Close(m_file);
+    }
+
+  private:
+    FilePort& m_files;
+    FileHandle m_file;
+    bool m_open = true;
+};
 
 // One save: where the old content is, and the way back.
 class Save
 {
   public:
-    Save(const Text& path, FilePort& files, const SaveNotice& notice)
-        : m_path(path), m_files(files), m_notice(notice)
+    Save(const Text& path, FileKind kind, FilePort& files, const SaveNotice& notice)
+        : m_path(path), m_kind(kind), m_files(files), m_notice(notice)
     {
     }
 
-    SaveResult Run(const std::string& bytes, bool exists)
+    SaveResult Run(const std::string& bytes)
     {
-        if (exists)
+        if (m_kind != FileKind::Absent)
             SecureOldContent();
-        // A file that was not there is never emptied, should it have come up meanwhile.
-        const CreateMode mode = exists && !m_renamed ? CreateMode::Truncate : CreateMode::New;
-        if (!Write(bytes, mode)) {
-            RestoreOldContent(exists);
+        bool written = false;
+        try {
+            written = Write(bytes);
+        } catch (...) {
+            RestoreAfterException();
+            throw;
+        }
+        if (!written) {
+            RestoreOldContent();
             return std::move(m_result);
         }
         if (m_renamed || m_staleBackup)
@@ -68,8 +105,10 @@ class Save
             return;
         }
         m_staleBackup = true;
-        KeepOldContentInMemory();
+        // The content is read after the notice: until the person has answered, another program may
+        // change it.
         m_notice(renaming.systemText.substr(0, kLongestSystemText));
+        KeepOldContentInMemory();
     }
 
     // A file that cannot be read is overwritten all the same: a save is not given up for want of
@@ -83,16 +122,34 @@ class Save
         }
     }
 
-    bool Write(const std::string& bytes, CreateMode mode)
+    bool Write(const std::string& bytes)
     {
-        FileHandle file{};
-        if (!Check(m_files.Create(m_path, mode, file), SaveOutcome::CreateFailed))
+        FileHandle handle{};
+        if (!Check(Create(handle), SaveOutcome::CreateFailed))
             return false;
         m_created = true;
-        const bool written = Check(m_files.Write(file, bytes), SaveOutcome::WriteFailed) &&
-                             Check(m_files.Flush(file), SaveOutcome::FlushFailed);
-        const FileResult closing = m_files.Close(file);
+        OpenedFile file(m_files, handle);
+        const bool written = Check(file.Write(bytes), SaveOutcome::WriteFailed) &&
+                             Check(file.Flush(), SaveOutcome::FlushFailed);
+        const FileResult closing = file.Close();
         return written && Check(closing, SaveOutcome::CloseFailed);
+    }
+
+    // A file that was not there is never emptied, should it have come up meanwhile.
+    FileResult Create(FileHandle& file)
+    {
+        if (m_renamed || m_kind == FileKind::Absent)
+            return m_files.Create(m_path, CreateMode::New, file);
+        if (m_kind == FileKind::Unknown && !m_oldContent) {
+            // Whether there was one shows now at the latest.
+            FileResult creation = m_files.Create(m_path, CreateMode::New, file);
+            if (creation) {
+                m_kind = FileKind::Absent;
+                m_staleBackup = false;
+                return creation;
+            }
+        }
+        return m_files.Create(m_path, CreateMode::Truncate, file);
     }
 
     bool Check(const FileResult& step, SaveOutcome failure)
@@ -104,8 +161,18 @@ class Save
         return false;
     }
 
-    void RestoreOldContent(bool exists)
+    void RestoreAfterException()
     {
+        try {
+            RestoreOldContent();
+        } catch (...) {
+            // What ended the writing is on its way already.
+        }
+    }
+
+    void RestoreOldContent()
+    {
+        const bool exists = m_kind != FileKind::Absent;
         m_result.oldContent = exists ? OldContent::Stands : OldContent::NoneBefore;
         if (m_renamed) {
             if (m_created)
@@ -125,14 +192,16 @@ class Save
 
     bool PutBack()
     {
-        FileHandle file{};
-        if (!m_files.Create(m_path, CreateMode::Truncate, file))
+        FileHandle handle{};
+        if (!m_files.Create(m_path, CreateMode::Truncate, handle))
             return false;
-        const bool written = m_files.Write(file, *m_oldContent) && m_files.Flush(file);
-        return m_files.Close(file) && written;
+        OpenedFile file(m_files, handle);
+        const bool written = file.Write(*m_oldContent) && file.Flush();
+        return file.Close() && written;
     }
 
     const Text& m_path;
+    FileKind m_kind; ///< Of what stands under the path before the save.
     FilePort& m_files;
     const SaveNotice& m_notice;
     SaveResult m_result;
@@ -158,9 +227,12 @@ SaveResult SaveConfigFile(const SettingStore& store, const Text& path, FilePort&
         refused.outcome = SaveOutcome::NoPath;
         return refused;
     }
-    const FileKind kind = files.Kind(path);
-    const bool exists = kind == FileKind::File;
-    if (exists)
+    // A link is written through, not replaced by a file of its own.
+    const Text target = files.LinkTarget(path);
+    const Text& file = target.empty() ? path : target;
+    const FileKind kind = files.Kind(file);
+    // Where the system does not say what is there, renaming it will show.
+    if (kind == FileKind::File || kind == FileKind::Unknown)
         refused.oldContent = OldContent::Stands;
     if (kind == FileKind::Directory) {
         refused.outcome = SaveOutcome::PathIsDirectory;
@@ -179,7 +251,7 @@ SaveResult SaveConfigFile(const SettingStore& store, const Text& path, FilePort&
         return refused;
     }
 
-    SaveResult result = Save(path, files, notice).Run(bytes, exists);
+    SaveResult result = Save(file, kind, files, notice).Run(bytes);
     result.header = header;
     return result;
 }

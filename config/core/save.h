@@ -74,8 +74,10 @@ Text BackupPath(TextView path);
 /// backup's name is told through `notice` and then overwritten in place, its content held in
 /// memory. Any failure after that takes the unfinished file away and brings the old one back.
 /// On success the backup, also one left by an earlier run, is deleted. A file that is its own
-/// backup by name or by identity is written without one and not deleted. What the clock throws
-/// comes out before anything is touched. The store's modified mark is left to the caller.
+/// backup by name or by identity is written without one and not deleted. A symbolic link stays: the
+/// file that it leads to is written, its backup beside it. What the clock or the notice throws comes
+/// out before anything is touched, and what is thrown later after the old file is back. The store's modified
+/// mark is left to the caller.
 SaveResult SaveConfigFile(const SettingStore& store, const Text& path, FilePort& files,
                           SaveSurroundings& surroundings, const SaveNotice& notice);
 

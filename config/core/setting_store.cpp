@@ -35,17 +35,6 @@ void SettingStore::SetSetting(TextView name, TextView value, std::int32_t kind, 
         records.SetValue(index, value, kind);
 }
 
-void SettingStore::ExtendSetting(TextView name, TextView before, TextView after, std::int32_t kind, int table)
-{
-    SettingTable& records = Table(table);
-    const SettingTable::Index index = records.Find(name);
-    if (index == SettingTable::kNone)
-        return;
-    if (table == kCurrentTable && !(before.empty() && after.empty()))
-        m_modified = true;
-    records.ExtendValue(index, before, after, kind);
-}
-
 std::optional<SettingRecord> SettingStore::FindSetting(TextView name, int table) const
 {
     const SettingTable& records = Table(table);
@@ -53,11 +42,6 @@ std::optional<SettingRecord> SettingStore::FindSetting(TextView name, int table)
     if (index == SettingTable::kNone)
         return std::nullopt;
     return records.At(index);
-}
-
-void SettingStore::Clear(int table)
-{
-    Replace(table, SettingTable());
 }
 
 void SettingStore::Replace(int table, SettingTable&& records)

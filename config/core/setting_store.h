@@ -36,18 +36,11 @@ class SettingStore
     /// value set the modified mark; a changed kind alone does not.
     void SetSetting(TextView name, TextView value, std::int32_t kind, TextView comment, int table);
 
-    /// Puts text before and after the value of a variable that is present in the table, and sets
-    /// its kind; as SetSetting with the joined value, but in time proportional to the added text.
-    void ExtendSetting(TextView name, TextView before, TextView after, std::int32_t kind, int table);
-
     /// The variable's record, nothing when it is absent. Its texts stand until the next change.
     std::optional<SettingRecord> FindSetting(TextView name, int table) const;
 
-    /// Removes all variables of the table; for the current table also clears the modified mark.
-    void Clear(int table);
-
-    /// Puts a whole new table in the place of the selected one. As clearing the table and
-    /// inserting every variable: the current table's modified mark then tells whether there is one.
+    /// Puts a whole new table in the place of the selected one. As emptying the table, which
+    /// clears the current table's modified mark, and inserting every variable, which sets it.
     void Replace(int table, SettingTable&& records);
 
     /// The number of variables in the table.
@@ -57,14 +50,12 @@ class SettingStore
     /// returns false.
     void VisitInOrder(int table, const std::function<bool(const SettingRecord&)>& visit) const;
 
-    /// The selected table, for reading.
-    const SettingTable& Table(int table) const { return table == kCurrentTable ? m_current : m_default; }
-
     /// True when the current table was changed since the mark was last cleared.
     bool IsModified() const { return m_modified; }
     void SetModified(bool modified) { m_modified = modified; }
 
   private:
+    const SettingTable& Table(int table) const { return table == kCurrentTable ? m_current : m_default; }
     SettingTable& Table(int table) { return table == kCurrentTable ? m_current : m_default; }
 
     SettingTable m_current;

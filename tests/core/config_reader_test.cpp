@@ -349,7 +349,7 @@ TEST_F(ConfigReader, FileIsReadInAnyBlocks)
     for (std::size_t block = 1; block <= bytes.size(); ++block) {
         m_files.contents[u"a.cfg"] = bytes;
         m_files.blockSize = block;
-        ASSERT_TRUE(ReadConfigFile(m_store, kCurrentTable, u"a.cfg", m_files).read);
+        ASSERT_EQ(ReadConfigFile(m_store, kCurrentTable, u"a.cfg", m_files).outcome, ReadOutcome::Read);
         EXPECT_EQ(Value(u"A"), u"x;y");
         EXPECT_EQ(Comment(u"A"), u"\n# about A\n");
         EXPECT_EQ(Value(u"B"), u"2");
@@ -361,7 +361,7 @@ TEST_F(ConfigReader, EmptyPathAndMissingFileAreNotReadWithoutAWord)
     ReadCurrent("A = 1\n");
     for (const char16_t* path : {u"", u"missing.cfg"}) {
         const ReadResult result = ReadConfigFile(m_store, kCurrentTable, path, m_files);
-        EXPECT_FALSE(result.read);
+        EXPECT_EQ(result.outcome, ReadOutcome::NothingToRead);
         EXPECT_EQ(result.systemText, u"");
     }
     EXPECT_EQ(Value(u"A"), u"1");
@@ -373,7 +373,7 @@ TEST_F(ConfigReader, FileThatCannotBeOpenedIsToldAndLeavesTheStore)
     m_files.contents[u"a.cfg"] = "B = 1\n";
     m_files.failing = {2}; // after the question whether it exists
     const ReadResult result = ReadConfigFile(m_store, kCurrentTable, u"a.cfg", m_files);
-    EXPECT_FALSE(result.read);
+    EXPECT_EQ(result.outcome, ReadOutcome::Failed);
     EXPECT_EQ(result.systemText, test::kFaultText);
     EXPECT_EQ(Value(u"A"), u"1");
     EXPECT_FALSE(m_store.HasSetting(u"B", kCurrentTable));
@@ -386,7 +386,7 @@ TEST_F(ConfigReader, FileThatBreaksOffWhileReadingLeavesTheStore)
     m_files.blockSize = 6;
     m_files.failing = {4}; // the second block
     const ReadResult result = ReadConfigFile(m_store, kCurrentTable, u"a.cfg", m_files);
-    EXPECT_FALSE(result.read);
+    EXPECT_EQ(result.outcome, ReadOutcome::Failed);
     EXPECT_EQ(result.systemText, test::kFaultText);
     EXPECT_EQ(Value(u"A"), u"1");
     EXPECT_FALSE(m_store.HasSetting(u"B", kCurrentTable));
@@ -397,7 +397,7 @@ TEST_F(ConfigReader, EmptyFileCountsAsRead)
 {
     ReadCurrent("A = 1\n");
     m_files.contents[u"a.cfg"] = "";
-    EXPECT_TRUE(ReadConfigFile(m_store, kCurrentTable, u"a.cfg", m_files).read);
+    EXPECT_EQ(ReadConfigFile(m_store, kCurrentTable, u"a.cfg", m_files).outcome, ReadOutcome::Read);
     EXPECT_EQ(Value(u"A"), u"1");
 }
 

@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <limits>
 #include <map>
+#include <new>
 #include <set>
 #include <string>
 
@@ -26,9 +27,11 @@ class MemoryFilePort final : public FilePort
   public:
     std::map<Text, std::string> contents;
     std::set<Text> directories;
+    std::map<Text, Text> links;                                      ///< Which path a symbolic link leads to.
     std::size_t blockSize = std::numeric_limits<std::size_t>::max(); ///< At most so many bytes a read.
     std::set<int> failing;                                           ///< Numbers of the calls that fail.
     int crashing = 0; ///< Number of the call in which the process ends; 0 is none.
+    int throwing = 0; ///< Number of the call that runs out of memory; 0 is none.
     int calls = 0;
     int openFiles = 0;
     bool unflushed = false; ///< Bytes were written since the last flush.
@@ -41,6 +44,13 @@ class MemoryFilePort final : public FilePort
         if (directories.contains(path))
             return FileKind::Directory;
         return contents.contains(path) ? FileKind::File : FileKind::Absent;
+    }
+
+    Text LinkTarget(const Text& path) override
+    {
+        const Call call(*this);
+        const auto link = links.find(path);
+        return call.Fails() || link == links.end() ? Text() : link->second;
     }
 
     bool IsSameFile(const Text& first, const Text& second) override
@@ -103,9 +113,9 @@ class MemoryFilePort final : public FilePort
 
     FileResult Close(FileHandle file) override
     {
-        const Call call(*this);
         m_open.erase(file);
         --openFiles;
+        const Call call(*this);
         return call.Fails() ? Fault() : FileResult{};
     }
 
@@ -139,8 +149,12 @@ class MemoryFilePort final : public FilePort
       public:
         explicit Call(MemoryFilePort& port, bool halfDone = false) : m_port(port), m_number(++port.calls)
         {
-            if (m_number == port.crashing && !halfDone)
+            // What has ended makes no more calls.
+            const bool ended = port.crashing != 0 && m_number > port.crashing;
+            if (ended || (m_number == port.crashing && !halfDone))
                 throw Crash();
+            if (m_number == port.throwing)
+                throw std::bad_alloc();
         }
         void EndHere() const
         {

@@ -127,6 +127,47 @@ TEST_F(PosixFiles, LinkIsTheSameFile)
     EXPECT_FALSE(m_files.IsSameFile(Path("a"), Path("missing")));
 }
 
+TEST_F(PosixFiles, LinkTargetIsTheFullPathOfWhatALinkLeadsTo)
+{
+    fs::create_directory(m_directory / "share");
+    Put("share/a", "a");
+    fs::create_symlink("share/a", m_directory / "link");
+    fs::create_symlink("link", m_directory / "second");
+    fs::create_symlink("missing", m_directory / "dangling");
+    const Text target = TextFromUtf8(fs::canonical(m_directory / "share" / "a").string());
+    EXPECT_EQ(m_files.LinkTarget(Path("link")), target);
+    EXPECT_EQ(m_files.LinkTarget(Path("second")), target);
+    EXPECT_EQ(m_files.LinkTarget(Path("share/a")), u"");
+    EXPECT_EQ(m_files.LinkTarget(Path("share")), u"");
+    EXPECT_EQ(m_files.LinkTarget(Path("dangling")), u"");
+    EXPECT_EQ(m_files.LinkTarget(Path("missing")), u"");
+}
+
+// The limit on a file's size stands for a full disk; its signal would end the process.
+class FileSizeLimit
+{
+  public:
+    explicit FileSizeLimit(rlim_t bytes)
+    {
+        if (getrlimit(RLIMIT_FSIZE, &m_before) != 0)
+            throw std::runtime_error("No file size limit");
+        m_signal = std::signal(SIGXFSZ, SIG_IGN);
+        const rlimit small{bytes, m_before.rlim_max};
+        EXPECT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
+    }
+    ~FileSizeLimit()
+    {
+        EXPECT_EQ(setrlimit(RLIMIT_FSIZE, &m_before), 0);
+        std::signal(SIGXFSZ, m_signal);
+    }
+    FileSizeLimit(const FileSizeLimit&) = delete;
+    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+
+  private:
+    rlimit m_before{};
+    void (*m_signal)(int) = SIG_DFL;
+};
+
 class PosixSave : public PosixFiles
 {
   protected:
@@ -164,15 +205,11 @@ TEST_F(PosixSave, FileThatIsALinkToItsBackupIsNotDeleted)
 TEST_F(PosixSave, FullDiskFailsTheSaveAndTheOldFileComesBack)
 {
     Put("a.cfg", "old");
-    // The limit on a file's size stands for a full disk; its signal would end the process.
-    const auto ignored = std::signal(SIGXFSZ, SIG_IGN);
-    rlimit before{};
-    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &before), 0);
-    const rlimit small{100, before.rlim_max};
-    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
-    const SaveResult result = Save(Path("a.cfg"));
-    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &before), 0);
-    std::signal(SIGXFSZ, ignored);
+    SaveResult result;
+    {
+        const FileSizeLimit limit(100);
+        result = Save(Path("a.cfg"));
+    }
     EXPECT_EQ(result.outcome, SaveOutcome::WriteFailed);
     EXPECT_EQ(result.oldContent, OldContent::Stands);
     EXPECT_EQ(Get("a.cfg"), "old");
@@ -183,6 +220,31 @@ TEST_F(PosixSave, MissingFolderFailsSilently)
 {
     const SaveResult result = Save(Path("missing/a.cfg"));
     EXPECT_EQ(result.outcome, SaveOutcome::CreateFailed);
+    EXPECT_EQ(m_notices, 0);
+    EXPECT_TRUE(fs::is_empty(m_directory));
+}
+
+TEST_F(PosixSave, LinkStaysAndItsTargetIsReplaced)
+{
+    fs::create_directory(m_directory / "share");
+    Put("share/common.cfg", "old");
+    Put("a.bak", "someone else's");
+    fs::create_symlink("share/common.cfg", m_directory / "a.cfg");
+    EXPECT_TRUE(Save(Path("a.cfg")).Saved());
+    EXPECT_TRUE(fs::is_symlink(m_directory / "a.cfg"));
+    EXPECT_FALSE(fs::is_symlink(m_directory / "share" / "common.cfg"));
+    EXPECT_TRUE(Get("share/common.cfg").ends_with("A = 1\r\n"));
+    EXPECT_FALSE(fs::exists(m_directory / "share" / "common.bak"));
+    EXPECT_EQ(Get("a.bak"), "someone else's");
+    EXPECT_EQ(m_notices, 0);
+}
+
+TEST_F(PosixSave, LinkToADirectoryIsRefused)
+{
+    fs::create_directory(m_directory / "share");
+    fs::create_symlink("share", m_directory / "a.cfg");
+    EXPECT_EQ(Save(Path("a.cfg")).outcome, SaveOutcome::PathIsDirectory);
+    EXPECT_TRUE(fs::is_symlink(m_directory / "a.cfg"));
 }
 
 TEST_F(PosixSave, DirectoryIsRefused)

@@ -80,7 +80,8 @@ TEST_F(Samples, LinesEndAsOnWindows)
     for (const char* name : {"defaults.cfg", "office.cfg"}) {
         const std::string bytes = ReadSample(name);
         ASSERT_TRUE(bytes.ends_with("\r\n")) << name;
-        for (std::size_t i = 0; i < bytes.size(); ++i) {
+        ASSERT_NE(bytes.front(), '\n') << name;
+        for (std::size_t i = 1; i < bytes.size(); ++i) {
             if (bytes[i] == '\n') {
                 EXPECT_EQ(bytes[i - 1], '\r') << name << " at " << i;
             }
@@ -138,7 +139,9 @@ TEST_F(Samples, CommentedOutVariableIsPartOfTheNextComment)
 
 TEST_F(Samples, OfficeFileNamesEverySettingOfTheFinishedPages)
 {
+    ASSERT_FALSE(ov::AllPageRows().empty());
     for (const ov::PageRows* page : ov::AllPageRows()) {
+        EXPECT_FALSE(page->settings.empty());
         for (const ov::SettingRow& row : page->settings)
             EXPECT_TRUE(store.HasSetting(row.variable, kCurrentTable)) << ov::Utf8FromText(row.variable);
     }
@@ -146,6 +149,7 @@ TEST_F(Samples, OfficeFileNamesEverySettingOfTheFinishedPages)
 
 TEST_F(Samples, SavingUntouchedPagesChangesNoValue)
 {
+    ASSERT_FALSE(ov::AllPageRows().empty());
     store.SetModified(false);
     for (const ov::PageRows* page : ov::AllPageRows()) {
         ov::PageValues values(page->settings);

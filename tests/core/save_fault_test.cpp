@@ -9,6 +9,7 @@
 #include "tests/core/test_surroundings.h"
 
 #include <gtest/gtest.h>
+#include <new>
 #include <optional>
 #include <vector>
 
@@ -69,7 +70,8 @@ class SaveFault : public testing::TestWithParam<Before>
         switch (result.oldContent) {
         case OldContent::NoneBefore:
             // A removal that failed too may leave the beginning of the file.
-            EXPECT_TRUE(GetParam() == Before::NoFile || file == kOld);
+            EXPECT_EQ(GetParam(), Before::NoFile);
+            EXPECT_TRUE(!file || m_new.starts_with(*file));
             break;
         case OldContent::Stands:
             EXPECT_EQ(file, kOld);
@@ -119,6 +121,26 @@ TEST_P(SaveFault, EachPairOfOperationsMayFail)
         }
         if (!firstFired)
             break;
+    }
+}
+
+TEST_P(SaveFault, MemoryMayRunOutInEachOperation)
+{
+    for (int k = 1;; ++k) {
+        SCOPED_TRACE(k);
+        test::MemoryFilePort files = Files();
+        files.throwing = k;
+        try {
+            EXPECT_TRUE(Save(files).Saved());
+            break;
+        } catch (const std::bad_alloc&) {
+        }
+        const auto file = Content(files, Path());
+        EXPECT_EQ(files.openFiles, 0);
+        EXPECT_TRUE(file == Content(Files(), Path()) || file == m_new) << file.value_or("no file");
+        if (GetParam() == Before::File && file == kOld) {
+            EXPECT_EQ(Content(files, kBackup), std::nullopt);
+        }
     }
 }
 

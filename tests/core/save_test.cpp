@@ -85,6 +85,66 @@ TEST_F(SaveConfig, StaleBackupIsToldBeforeTheFileIsTouched)
     EXPECT_EQ(atNotice, kOld);
 }
 
+TEST_F(SaveConfig, OldContentIsReadOnlyOnceTheNoticeHasBeenAnswered)
+{
+    m_files.contents[kPath] = kOld;
+    m_files.contents[kBackup] = "stale";
+    m_files.failing = {10}; // link, kind, same file, rename, open, read, read, close, create, write
+    const SaveResult result = SaveConfigFile(m_store, kPath, m_files, m_surroundings, [&](const Text&) {
+        m_files.contents[kPath] = "changed meanwhile";
+    });
+    EXPECT_EQ(result.outcome, SaveOutcome::WriteFailed);
+    EXPECT_EQ(m_files.contents[kPath], "changed meanwhile");
+}
+
+TEST_F(SaveConfig, FailingNoticeComesOutBeforeAnythingIsTouched)
+{
+    m_files.contents[kPath] = kOld;
+    m_files.contents[kBackup] = "stale";
+    EXPECT_THROW(SaveConfigFile(m_store, kPath, m_files, m_surroundings,
+                                [](const Text&) { throw std::runtime_error("No box"); }),
+                 std::runtime_error);
+    EXPECT_EQ(m_files.contents, (std::map<Text, std::string>{{kPath, kOld}, {kBackup, "stale"}}));
+}
+
+TEST_F(SaveConfig, FileOfUnknownKindIsSavedBehindABackup)
+{
+    m_files.contents[kPath] = kOld;
+    m_files.failing = {2, 7}; // link, kind, same file, rename, create, write, flush
+    EXPECT_EQ(Save().outcome, SaveOutcome::FlushFailed);
+    EXPECT_EQ(m_files.contents, (std::map<Text, std::string>{{kPath, kOld}}));
+    m_files.calls = 0;
+    m_files.failing = {2};
+    EXPECT_TRUE(Save().Saved());
+    EXPECT_EQ(m_files.contents, (std::map<Text, std::string>{{kPath, NewContent()}}));
+    EXPECT_TRUE(m_notices.empty());
+}
+
+TEST_F(SaveConfig, AbsentFileOfUnknownKindIsCreatedAndNoOtherBackupDeleted)
+{
+    m_files.contents[kBackup] = "someone else's";
+    m_files.failing = {2};
+    EXPECT_TRUE(Save().Saved());
+    EXPECT_EQ(m_files.contents,
+              (std::map<Text, std::string>{{kPath, NewContent()}, {kBackup, "someone else's"}}));
+}
+
+TEST_F(SaveConfig, LinkIsWrittenThroughBehindABackupBesideItsTarget)
+{
+    m_files.links[kPath] = u"share/common.cfg";
+    m_files.contents[u"share/common.cfg"] = kOld;
+    m_files.failing = {6, 8, 9}; // link, kind, same file, rename, create, write, close, remove, rename
+    const SaveResult result = Save();
+    EXPECT_EQ(result.oldContent, OldContent::UnderBackupName);
+    EXPECT_EQ(result.backupPath, u"share/common.bak");
+    EXPECT_EQ(m_files.contents[u"share/common.bak"], kOld);
+    m_files = {};
+    m_files.links[kPath] = u"share/common.cfg";
+    m_files.contents[u"share/common.cfg"] = kOld;
+    EXPECT_TRUE(Save().Saved());
+    EXPECT_EQ(m_files.contents, (std::map<Text, std::string>{{u"share/common.cfg", NewContent()}}));
+}
+
 TEST_F(SaveConfig, EmptyPathIsRefused)
 {
     const SaveResult result = Save(u"");
@@ -97,13 +157,13 @@ TEST_F(SaveConfig, DirectoryIsRefusedBeforeAnythingIsRenamed)
     m_files.directories.insert(kPath);
     const SaveResult result = Save();
     EXPECT_EQ(result.outcome, SaveOutcome::PathIsDirectory);
-    EXPECT_EQ(m_files.calls, 1);
+    EXPECT_EQ(m_files.calls, 2);
 }
 
 TEST_F(SaveConfig, FileThatCannotBeCreatedFailsSilentlyAndTheOldOneComesBack)
 {
     m_files.contents[kPath] = kOld;
-    m_files.failing = {4}; // kind, same file, rename, create
+    m_files.failing = {5}; // link, kind, same file, rename, create
     const SaveResult result = Save();
     EXPECT_EQ(result.outcome, SaveOutcome::CreateFailed);
     EXPECT_EQ(result.systemText, test::kFaultText);
@@ -115,7 +175,7 @@ TEST_F(SaveConfig, FailedWriteFlushAndCloseAreToldAndTheOldFileComesBack)
 {
     const SaveOutcome outcomes[] = {SaveOutcome::WriteFailed, SaveOutcome::FlushFailed,
                                     SaveOutcome::CloseFailed};
-    int call = 5;
+    int call = 6;
     for (const SaveOutcome outcome : outcomes) {
         m_files = {};
         m_files.contents[kPath] = kOld;
@@ -131,7 +191,7 @@ TEST_F(SaveConfig, FailedWriteFlushAndCloseAreToldAndTheOldFileComesBack)
 
 TEST_F(SaveConfig, FailedWriteOfANewFileLeavesNoFile)
 {
-    m_files.failing = {3}; // kind, create, write
+    m_files.failing = {4}; // link, kind, create, write
     const SaveResult result = Save();
     EXPECT_EQ(result.outcome, SaveOutcome::WriteFailed);
     EXPECT_EQ(result.oldContent, OldContent::NoneBefore);
@@ -142,7 +202,7 @@ TEST_F(SaveConfig, WithoutABackupTheOldContentIsPutBack)
 {
     m_files.contents[kPath] = kOld;
     m_files.contents[kBackup] = "stale";
-    m_files.failing = {9}; // kind, same file, rename, open, read, read, close, create, write
+    m_files.failing = {10}; // link, kind, same file, rename, open, read, read, close, create, write
     const SaveResult result = Save();
     EXPECT_EQ(result.outcome, SaveOutcome::WriteFailed);
     EXPECT_EQ(result.oldContent, OldContent::Stands);
@@ -159,7 +219,7 @@ TEST_F(SaveConfig, CharacterThatTheLocaleCannotWriteTouchesNothing)
     EXPECT_EQ(result.outcome, SaveOutcome::CharacterRefused);
     EXPECT_EQ(result.variable, u"B");
     EXPECT_EQ(result.character, u"\u20AC");
-    EXPECT_EQ(m_files.calls, 1);
+    EXPECT_EQ(m_files.calls, 2);
     EXPECT_EQ(m_files.contents[kPath], kOld);
     EXPECT_EQ(result.oldContent, OldContent::Stands);
 }
@@ -169,7 +229,7 @@ TEST_F(SaveConfig, FailingClockComesOutBeforeAnythingIsTouched)
     m_files.contents[kPath] = kOld;
     m_surroundings.clockFails = true;
     EXPECT_THROW(Save(), std::invalid_argument);
-    EXPECT_EQ(m_files.calls, 1);
+    EXPECT_EQ(m_files.calls, 2);
     EXPECT_EQ(m_files.contents, (std::map<Text, std::string>{{kPath, kOld}}));
 }
 
@@ -188,7 +248,7 @@ TEST_F(SaveConfig, FileNamedLikeABackupIsWrittenWithoutOneAndKept)
 TEST_F(SaveConfig, FileNamedLikeABackupIsPutBackWhenTheWriteFails)
 {
     m_files.contents[u"office.bak"] = kOld;
-    m_files.failing = {7}; // kind, open, read, read, close, create, write
+    m_files.failing = {8}; // link, kind, open, read, read, close, create, write
     EXPECT_EQ(Save(u"office.bak").outcome, SaveOutcome::WriteFailed);
     EXPECT_EQ(m_files.contents, (std::map<Text, std::string>{{u"office.bak", kOld}}));
 }
@@ -209,6 +269,7 @@ TEST_F(SaveConfig, SystemTextInTheNoticeIsAtMost255Characters)
       public:
         explicit WordyPort(FilePort& files) : m_files(files) {}
         FileKind Kind(const Text& path) override { return m_files.Kind(path); }
+        Text LinkTarget(const Text& path) override { return m_files.LinkTarget(path); }
         bool IsSameFile(const Text& a, const Text& b) override { return m_files.IsSameFile(a, b); }
         FileResult OpenForReading(const Text& p, FileHandle& f) override
         {
@@ -245,7 +306,7 @@ TEST_F(SaveConfig, SavedFileReadsBackToTheSameTable)
     m_store.SetSetting(u"TEXT", u"some text", SettingKindText, u"", kCurrentTable);
     ASSERT_TRUE(Save().Saved());
     SettingStore readBack;
-    ASSERT_TRUE(ReadConfigFile(readBack, kCurrentTable, kPath, m_files).read);
+    ASSERT_EQ(ReadConfigFile(readBack, kCurrentTable, kPath, m_files).outcome, ReadOutcome::Read);
     EXPECT_EQ(readBack.Count(kCurrentTable), 3u);
     EXPECT_EQ(readBack.GetSettingValue(u"A", kCurrentTable), u"1");
     EXPECT_EQ(readBack.GetSettingValue(u"LIST", kCurrentTable), u"a;b;c");

@@ -114,9 +114,8 @@ TEST(SettingStore, DefaultTableNeverSetsTheModifiedMark)
     SettingStore store;
     store.SetSetting(u"A", u"1", SettingKindText, u"", kDefaultTable);
     store.SetSetting(u"A", u"2", SettingKindText, u"", kDefaultTable);
-    store.ExtendSetting(u"A", u"", u";3", SettingKindText, kDefaultTable);
     EXPECT_FALSE(store.IsModified());
-    EXPECT_EQ(store.GetSettingValue(u"A", kDefaultTable), u"2;3");
+    EXPECT_EQ(store.GetSettingValue(u"A", kDefaultTable), u"2");
 }
 
 TEST(SettingStore, NamesDifferingOnlyInCaseAreTwoRecords)
@@ -157,55 +156,47 @@ TEST(SettingStore, VisitStopsWhenTold)
     EXPECT_EQ(visits, 2);
 }
 
-TEST(SettingStore, ClearingEmptiesOneTableAndTheMarkOnlyForTheCurrentOne)
+TEST(SettingStore, EmptyTableInItsPlaceClearsTheMarkOnlyForTheCurrentOne)
 {
     SettingStore store;
     store.SetSetting(u"A", u"1", SettingKindText, u"", kCurrentTable);
     store.SetSetting(u"B", u"1", SettingKindText, u"", kDefaultTable);
-    store.Clear(kDefaultTable);
+    store.Replace(kDefaultTable, SettingTable());
     EXPECT_TRUE(store.IsModified());
     EXPECT_EQ(store.Count(kDefaultTable), 0u);
     EXPECT_EQ(store.Count(kCurrentTable), 1u);
-    store.Clear(kCurrentTable);
+    store.Replace(kCurrentTable, SettingTable());
     EXPECT_FALSE(store.IsModified());
     EXPECT_EQ(store.Count(kCurrentTable), 0u);
 }
 
-TEST(SettingStore, ClearedTableTakesANewComment)
+TEST(SettingStore, EmptiedTableTakesANewComment)
 {
     SettingStore store;
     store.SetSetting(u"A", u"1", SettingKindText, u"# old\n", kCurrentTable);
-    store.Clear(kCurrentTable);
+    store.Replace(kCurrentTable, SettingTable());
     store.SetSetting(u"A", u"1", SettingKindText, u"# new\n", kCurrentTable);
     EXPECT_EQ(store.FindSetting(u"A", kCurrentTable)->comment, u"# new\n");
 }
 
-TEST(SettingStore, ExtendSettingJoinsAtBothEnds)
+TEST(SettingTable, ValueGrowsAtBothEnds)
 {
-    SettingStore store;
-    store.SetSetting(u"A", u"m", SettingKindText, u"# c\n", kCurrentTable);
+    SettingTable table;
+    const SettingTable::Index index = table.Insert(u"A", u"m", SettingKindInteger, u"# c\n");
     Text expected = u"m";
     for (int i = 0; i < 500; ++i) {
         const Text item = FormatInteger(i);
         if (i % 3 == 0) {
-            store.ExtendSetting(u"A", item + u";", u"", SettingKindText, kCurrentTable);
+            table.ExtendValue(index, item + u";", u"", SettingKindText);
             expected.insert(0, item + u";");
         } else {
-            store.ExtendSetting(u"A", u"", u";" + item, SettingKindText, kCurrentTable);
+            table.ExtendValue(index, u"", u";" + item, SettingKindText);
             expected += u";" + item;
         }
-        ASSERT_EQ(store.GetSettingValue(u"A", kCurrentTable), expected);
+        ASSERT_EQ(table.At(index).value, expected);
     }
-    EXPECT_EQ(store.FindSetting(u"A", kCurrentTable)->comment, u"# c\n");
-    EXPECT_TRUE(store.IsModified());
-}
-
-TEST(SettingStore, ExtendSettingOfAnAbsentVariableDoesNothing)
-{
-    SettingStore store;
-    store.ExtendSetting(u"A", u"x", u"y", SettingKindText, kCurrentTable);
-    EXPECT_FALSE(store.HasSetting(u"A", kCurrentTable));
-    EXPECT_FALSE(store.IsModified());
+    EXPECT_EQ(table.At(index).comment, u"# c\n");
+    EXPECT_EQ(table.At(index).kind, SettingKindText);
 }
 
 TEST(SettingStore, ValuesOfAnyLengthReplaceOneAnother)
