@@ -26,8 +26,8 @@ int ToInteger(TextView text)
         negative = text.front() == u'-';
         text.remove_prefix(1);
     }
-    constexpr std::int64_t highest = std::numeric_limits<std::int32_t>::max();
-    const std::int64_t limit = negative ? highest + 1 : highest;
+    constexpr std::int64_t kHighest = std::numeric_limits<std::int32_t>::max();
+    const std::int64_t limit = negative ? kHighest + 1 : kHighest;
     std::int64_t value = 0;
     for (const char16_t c : text) {
         if (!IsDigit(c))

@@ -9,7 +9,7 @@ namespace
 // a blank at the very front is never used.
 Text WrapAtBlanks(TextView description)
 {
-    constexpr std::size_t columns = 100;
+    constexpr std::size_t kColumns = 100;
     Text text(description);
     std::size_t blank = 0; // The last blank that may be used; 0 is none.
     std::size_t column = 0;
@@ -20,7 +20,7 @@ Text WrapAtBlanks(TextView description)
         }
         if (text[i] == u' ')
             blank = i;
-        if (column >= columns && blank >= 1) {
+        if (column >= kColumns && blank >= 1) {
             text[blank] = u'\n';
             column = i - blank;
             blank = 0;

@@ -5,11 +5,11 @@ namespace ov
 
 char16_t* TextArena::Allocate(std::size_t length)
 {
-    constexpr std::size_t blockLength = std::size_t{32} * 1024;
+    constexpr std::size_t kBlockLength = std::size_t{32} * 1024;
     if (length > m_freeLength) {
         // A long text gets a block of its own, so that the rest of the present one stays of use.
-        const bool alone = length > blockLength / 4;
-        const std::size_t size = alone ? length : blockLength;
+        const bool alone = length > kBlockLength / 4;
+        const std::size_t size = alone ? length : kBlockLength;
         m_blocks.push_back(std::make_unique_for_overwrite<char16_t[]>(size));
         if (alone)
             return m_blocks.back().get();

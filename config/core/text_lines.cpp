@@ -46,13 +46,13 @@ void LineSplitter::Finish(const LineFunction& line)
 
 FileResult ReadBlocks(FilePort& files, const Text& path, const std::function<void(std::string_view)>& block)
 {
-    constexpr std::size_t blockSize = std::size_t{256} * 1024;
+    constexpr std::size_t kBlockSize = std::size_t{256} * 1024;
     FileHandle file{};
     FileResult result = files.OpenForReading(path, file);
     if (!result)
         return result;
     try {
-        std::string buffer(blockSize, '\0');
+        std::string buffer(kBlockSize, '\0');
         for (;;) {
             std::size_t count = 0;
             result = files.Read(file, buffer, count);

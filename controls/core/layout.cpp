@@ -8,7 +8,7 @@ namespace
 {
 
 // Room for a list's borders, so that the columns need no horizontal bar.
-constexpr std::int32_t listBorders = 4;
+constexpr std::int32_t kListBorders = 4;
 
 // Single precision and truncation decide pixels at the edges; both are meant.
 std::int32_t Scale(std::int32_t initial, std::uint32_t design, std::int32_t current)
@@ -96,7 +96,7 @@ Rect PlaceControl(const CDlgControlInfo& info, std::uint32_t designWidth, std::u
 std::int32_t ColumnWidth(std::int32_t listWidth, std::int32_t columns)
 {
     // A list view takes negative widths as commands to size to the content.
-    return columns > 0 ? std::max(0, (listWidth - listBorders) / columns) : 0;
+    return columns > 0 ? std::max(0, (listWidth - kListBorders) / columns) : 0;
 }
 
 Rect GripRect(std::int32_t clientWidth, std::int32_t clientHeight)

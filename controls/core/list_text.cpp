@@ -13,7 +13,7 @@ namespace ov
 namespace
 {
 
-constexpr std::size_t longestField = 1024;
+constexpr std::size_t kLongestField = 1024;
 
 Text Folded(TextView text)
 {
@@ -60,7 +60,7 @@ class FieldReader
         Text field;
         const std::size_t consumed =
             ExtractTokenString(field, m_rest, u" ", u" ", nullptr, m_stops, nullptr,
-                               m_qualifier != u'\0' ? &m_qualifier : nullptr, longestField);
+                               m_qualifier != u'\0' ? &m_qualifier : nullptr, kLongestField);
         m_rest.remove_prefix(std::min(consumed, m_rest.size()));
         return field;
     }

@@ -9,11 +9,11 @@ namespace ov
 namespace
 {
 
-constexpr std::int32_t wheelNotch = 120;
+constexpr std::int32_t kWheelNotch = 120;
 // A line step is worth three of the system's lines, so that the usual setting
 // of three lines moves one step a notch.
-constexpr std::uint64_t linesPerStep = 3;
-constexpr std::uint64_t fewestLinesForSteps = 6;
+constexpr std::uint64_t kLinesPerStep = 3;
+constexpr std::uint64_t kFewestLinesForSteps = 6;
 
 std::int32_t RequestedStep(const ScrollAxis& axis, ScrollRequest request, std::int32_t trackPosition)
 {
@@ -79,9 +79,9 @@ WheelSteps StepsOfWheel(std::int32_t delta, std::uint32_t linesPerNotch)
     const bool forward = delta <= 0;
     if (linesPerNotch == WheelScrollsPage)
         return {forward ? ScrollRequest::PageForward : ScrollRequest::PageBack, 1};
-    const auto notches = static_cast<std::uint64_t>(std::abs(std::int64_t{delta}) / wheelNotch);
+    const auto notches = static_cast<std::uint64_t>(std::abs(std::int64_t{delta}) / kWheelNotch);
     const std::uint64_t lines = notches * linesPerNotch;
-    const std::uint64_t count = lines < fewestLinesForSteps ? 1 : lines / linesPerStep;
+    const std::uint64_t count = lines < kFewestLinesForSteps ? 1 : lines / kLinesPerStep;
     return {forward ? ScrollRequest::LineForward : ScrollRequest::LineBack, count};
 }
 
