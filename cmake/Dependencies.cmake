@@ -24,6 +24,10 @@ set(OV_PCRE2_LIBRARY "${OV_PCRE2_PREFIX}/lib/libpcre2-8.a")
 if(NOT EXISTS "${OV_PCRE2_LIBRARY}")
   message(STATUS "Building ${OV_PCRE2_NAME} for ${CMAKE_SYSTEM_NAME}")
   set(OV_PCRE2_BUILD "${CMAKE_BINARY_DIR}/pcre2")
+  # Installed beside its place and renamed when complete: what an interruption
+  # leaves is never taken for a library.
+  string(RANDOM LENGTH 8 OV_PCRE2_SUFFIX)
+  set(OV_PCRE2_PARTIAL "${OV_PCRE2_PREFIX}.${OV_PCRE2_SUFFIX}")
   set(OV_PCRE2_TOOLCHAIN "")
   if(CMAKE_TOOLCHAIN_FILE)
     set(OV_PCRE2_TOOLCHAIN "-DCMAKE_TOOLCHAIN_FILE=${CMAKE_TOOLCHAIN_FILE}")
@@ -32,12 +36,21 @@ if(NOT EXISTS "${OV_PCRE2_LIBRARY}")
   execute_process(
     COMMAND
       ${CMAKE_COMMAND} -S "${OV_PCRE2_SOURCE}" -B "${OV_PCRE2_BUILD}" -G Ninja ${OV_PCRE2_TOOLCHAIN}
-      -DCMAKE_BUILD_TYPE=Release "-DCMAKE_INSTALL_PREFIX=${OV_PCRE2_PREFIX}" -DBUILD_SHARED_LIBS=OFF
+      -DCMAKE_BUILD_TYPE=Release "-DCMAKE_INSTALL_PREFIX=${OV_PCRE2_PARTIAL}" -DBUILD_SHARED_LIBS=OFF
       -DPCRE2_BUILD_PCRE2GREP=OFF -DPCRE2_BUILD_TESTS=OFF -DPCRE2_SUPPORT_LIBREADLINE=OFF
       "-DCMAKE_C_FLAGS=-ffile-prefix-map=${OV_PCRE2_SOURCE}=pcre2" COMMAND_ERROR_IS_FATAL ANY
     OUTPUT_QUIET)
   execute_process(COMMAND ${CMAKE_COMMAND} --build "${OV_PCRE2_BUILD}" --target install
                           COMMAND_ERROR_IS_FATAL ANY OUTPUT_QUIET)
+  file(RENAME "${OV_PCRE2_PARTIAL}" "${OV_PCRE2_PREFIX}" RESULT OV_PCRE2_RENAMED)
+  if(NOT EXISTS "${OV_PCRE2_LIBRARY}")
+    # What stands in the way has no library: it is what was left by an interruption.
+    file(REMOVE_RECURSE "${OV_PCRE2_PREFIX}")
+    file(RENAME "${OV_PCRE2_PARTIAL}" "${OV_PCRE2_PREFIX}")
+  elseif(OV_PCRE2_RENAMED)
+    # Another build was faster.
+    file(REMOVE_RECURSE "${OV_PCRE2_PARTIAL}")
+  endif()
 endif()
 
 add_library(pcre2-8 STATIC IMPORTED GLOBAL)
@@ -45,5 +58,7 @@ set_target_properties(
   pcre2-8 PROPERTIES IMPORTED_LOCATION "${OV_PCRE2_LIBRARY}" INTERFACE_INCLUDE_DIRECTORIES
                      "${OV_PCRE2_PREFIX}/include" INTERFACE_COMPILE_DEFINITIONS PCRE2_STATIC)
 
-set(INSTALL_GTEST OFF)
-add_subdirectory(/usr/src/googletest "${CMAKE_BINARY_DIR}/googletest" EXCLUDE_FROM_ALL)
+if(BUILD_TESTING)
+  set(INSTALL_GTEST OFF)
+  add_subdirectory(/usr/src/googletest "${CMAKE_BINARY_DIR}/googletest" EXCLUDE_FROM_ALL)
+endif()

@@ -1,5 +1,6 @@
 # ov_layer(NAME SOURCES ... [DEPENDS ...]): one library per folder. DEPENDS is
-# the architecture diagram: a folder may include what it links and no more.
+# the architecture diagram. Who may include whom follows from it and is checked
+# by scripts/check-style: one search path serves all folders.
 add_library(ov_options INTERFACE)
 target_link_libraries(ov_options INTERFACE ov_warnings)
 target_include_directories(ov_options INTERFACE "${CMAKE_SOURCE_DIR}")
@@ -26,10 +27,6 @@ endif()
 
 function(ov_layer NAME)
   cmake_parse_arguments(LAYER "" "" "SOURCES;DEPENDS" ${ARGN})
-  if(NOT LAYER_SOURCES)
-    add_library(${NAME} INTERFACE)
-    return()
-  endif()
   add_library(${NAME} STATIC ${LAYER_SOURCES})
   target_link_libraries(${NAME} PUBLIC ov_options ${LAYER_DEPENDS})
 endfunction()

@@ -10,5 +10,5 @@ set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
-# GoogleTest's discovery and CTest start the Windows programs through Wine.
+# CTest starts the Windows programs through Wine.
 set(CMAKE_CROSSCOMPILING_EMULATOR wine)
