@@ -10,7 +10,8 @@ build_preset() {
     shift
     [ "$#" -eq 0 ] || target=(--target "$@")
     mkdir -p "$root/build"
-    if (cd "$root" && { [ -e "build/$preset/build.ninja" ] || cmake --preset "$preset"; } &&
+    # In one language, since the output is searched.
+    if (export LC_ALL=C.UTF-8 && cd "$root" && { [ -e "build/$preset/build.ninja" ] || cmake --preset "$preset"; } &&
         cmake --build --preset "$preset" "${target[@]}" -- -k 0) >"$log" 2>&1; then
         return 0
     fi
