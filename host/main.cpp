@@ -58,13 +58,31 @@ std::wstring SystemText(DWORD error)
     return result;
 }
 
-// Hands the parameters on as the framework does: a leading "-" or "/" makes a
-// switch and is taken off.
+// A leading "-" or "/" makes a switch.
+bool IsSwitch(const wchar_t* text)
+{
+    return *text == L'-' || *text == L'/';
+}
+
+// Whether the command-line texts take the switch: with a keyword behind it, one
+// of them changes.
+bool IsKnownSwitch(const wchar_t* text)
+{
+    if (std::wcsncmp(text, L"--", 2) == 0)
+        return false;
+    const ov::Text before(1, u'\0'); // which no parameter can hold
+    CCmdLineInfo info;
+    info.m_defaultPath = info.m_currentPath = info.m_userName = before;
+    info.ParseParam(text + 1, TRUE, FALSE);
+    return info.m_defaultPath != before || info.m_currentPath != before || info.m_userName != before;
+}
+
+// Hands the parameters on, the switches without their first character.
 void Parse(CCmdLineInfo& info, int count, wchar_t** texts)
 {
     for (int index = 1; index < count; ++index) {
         const wchar_t* text = texts[index];
-        const bool isFlag = *text == L'-' || *text == L'/';
+        const bool isFlag = IsSwitch(text);
         info.ParseParam(isFlag ? text + 1 : text, isFlag, index + 1 == count);
     }
 }
@@ -95,7 +113,9 @@ int ShowDialog(const CCmdLineInfo& info)
     HMODULE library = LoadLibraryExW(path.c_str(), nullptr, LOAD_WITH_ALTERED_SEARCH_PATH);
     if (!library) {
         const DWORD error = GetLastError();
-        ShowError(Message(IDS_HOST_LIBRARY_MISSING, path, SystemText(error)));
+        const bool isMissing = error == ERROR_MOD_NOT_FOUND || error == ERROR_FILE_NOT_FOUND;
+        ShowError(Message(isMissing ? IDS_HOST_LIBRARY_MISSING : IDS_HOST_LIBRARY_DAMAGED, path,
+                          SystemText(error)));
         return ExitNotStarted;
     }
     const auto showDialog = reinterpret_cast<ovPreferences_showDialogEx_t>(
@@ -126,12 +146,15 @@ int wmain(int count, wchar_t** texts)
             ShowText(L"ovPreferencesHost " OV_VERSION_TEXT);
             return 0;
         }
-        if (std::wcsncmp(text, L"--", 2) == 0) {
+        if (IsSwitch(text) && !IsKnownSwitch(text)) {
             ShowError(std::wstring(L"Unknown option: ") + text + L"\n\n" + Usage);
             return ExitNotStarted;
         }
     }
-    // The C locale decides how the file's bytes are read: the system's code page.
+    // The library reads and writes the file's bytes by the process's C locale,
+    // which is its host's to choose. Here that is this program: left alone, the
+    // locale "C" would take each byte for the character of that number, whatever
+    // the system's code page is.
     std::setlocale(LC_CTYPE, "");
     CCmdLineInfo info;
     Parse(info, count, texts);
