@@ -1,5 +1,6 @@
 #include "framework/folder_browser.h"
 
+#include "framework/com_apartment.h"
 #include "framework/modal_doors.h"
 
 #include <objbase.h>
@@ -30,6 +31,8 @@ INT_PTR CFolderBrowser::DoModal()
             return m_path.empty() ? IDCANCEL : IDOK;
         }
     }
+    // Before the item, so that it is freed while COM still is there.
+    const CComApartment apartment;
     wchar_t path[pathCapacity] = L"";
     BROWSEINFOW description{};
     description.hwndOwner = owner;

@@ -1,0 +1,59 @@
+#include "framework/com_apartment.h"
+
+#include "framework/windows_api.h"
+
+#include <gtest/gtest.h>
+#include <objbase.h>
+
+#include <functional>
+#include <optional>
+#include <thread>
+
+namespace
+{
+/// How the calling thread is set up for COM; nothing when it is not.
+std::optional<APTTYPE> Apartment()
+{
+    APTTYPE type = APTTYPE_NA;
+    APTTYPEQUALIFIER qualifier = APTTYPEQUALIFIER_NONE;
+    if (FAILED(::CoGetApartmentType(&type, &qualifier)))
+        return std::nullopt;
+    // A process's first single-threaded apartment is its main one.
+    return type == APTTYPE_MAINSTA ? APTTYPE_STA : type;
+}
+
+// Each in a thread of its own, which starts without COM.
+void InAThread(const std::function<void()>& test)
+{
+    std::thread(test).join();
+}
+} // namespace
+
+TEST(ComApartment, LastsForItsScope)
+{
+    InAThread([] {
+        ASSERT_EQ(std::nullopt, Apartment());
+        {
+            const CComApartment apartment;
+            EXPECT_EQ(APTTYPE_STA, Apartment());
+        }
+        EXPECT_EQ(std::nullopt, Apartment());
+    });
+}
+
+TEST(ComApartment, HostsOwnStays)
+{
+    for (const DWORD kind : {COINIT_APARTMENTTHREADED, COINIT_MULTITHREADED}) {
+        InAThread([kind] {
+            ASSERT_EQ(S_OK, ::CoInitializeEx(nullptr, kind));
+            const auto own = Apartment();
+            {
+                const CComApartment apartment;
+                EXPECT_EQ(own, Apartment());
+            }
+            EXPECT_EQ(own, Apartment());
+            ::CoUninitialize();
+            EXPECT_EQ(std::nullopt, Apartment());
+        });
+    }
+}
