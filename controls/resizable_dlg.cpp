@@ -1,16 +1,7 @@
 #include "controls/resizable_dlg.h"
 
-#include <iterator>
-
 namespace
 {
-
-bool IsListControl(HWND control)
-{
-    wchar_t name[32];
-    return ::GetClassNameW(control, name, static_cast<int>(std::size(name))) != 0 &&
-           ::lstrcmpiW(name, WC_LISTVIEWW) == 0;
-}
 
 // The controls of a dialog, as the layout arithmetic sees them.
 class DialogControls : public ov::LayoutControls
@@ -32,7 +23,7 @@ class DialogControls : public ov::LayoutControls
     std::int32_t ListColumns(std::uint16_t controlId) override
     {
         const HWND control = ::GetDlgItem(m_dialog, controlId);
-        if (!IsListControl(control))
+        if (!AfxIsOfClass(control, WC_LISTVIEWW))
             return 0;
         const HWND header = ListView_GetHeader(control);
         return header != nullptr ? Header_GetItemCount(header) : 0;

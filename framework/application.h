@@ -11,11 +11,8 @@ class CCommandLineInfo : public CObject
 {
   public:
     /// Takes one parameter. `isFlag`: it began with "-" or "/", which has been
-    /// removed; `isLast`: none follows. Here the first parameter that is no flag
-    /// becomes the file name.
-    virtual void ParseParam(LPCWSTR parameter, BOOL isFlag, BOOL isLast);
-
-    ov::Text m_strFileName;
+    /// removed; `isLast`: none follows.
+    virtual void ParseParam(LPCWSTR parameter, BOOL isFlag, BOOL isLast) = 0;
 };
 
 /// The application object: there is one in a module, constructed when the
@@ -23,7 +20,7 @@ class CCommandLineInfo : public CObject
 class CWinApp : public CCmdTarget
 {
     DECLARE_DYNAMIC(CWinApp)
-    explicit CWinApp(LPCWSTR applicationName = nullptr);
+    CWinApp();
     ~CWinApp() override;
 
     /// Called once before the module's first export does its work; FALSE means
@@ -31,11 +28,6 @@ class CWinApp : public CCmdTarget
     virtual BOOL InitInstance() { return TRUE; }
     /// Called when the module is unloaded, if InitInstance succeeded.
     virtual int ExitInstance() { return 0; }
-
-    /// Hands the process's parameters to the parser, without the program's name.
-    void ParseCommandLine(CCommandLineInfo& info);
-    /// The same for a given command line, whose first part is the program's name.
-    static void ParseCommandLine(CCommandLineInfo& info, LPCWSTR commandLine);
 
     /// What AfxMessageBox does, and so how an exception is told. A program
     /// overrides it to give its boxes a caption of its own.
@@ -48,7 +40,6 @@ class CWinApp : public CCmdTarget
     const ov::Text& GetRegistryKey() const { return m_registryKey; }
 
     CWnd* m_pMainWnd = nullptr; ///< cleared when its window is destroyed
-    LPCWSTR m_pszAppName;       ///< may be null
 
   private:
     ov::Text m_registryKey;

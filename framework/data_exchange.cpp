@@ -143,17 +143,3 @@ void DDX_CBIndex(CDataExchange* exchange, int id, int& index)
     const int selected = index >= 0 && index < count ? index : -1;
     ::SendMessageW(control, CB_SETCURSEL, static_cast<WPARAM>(selected), 0);
 }
-
-void DDX_CBString(CDataExchange* exchange, int id, ov::Text& text)
-{
-    const HWND control = exchange->PrepareCtrl(id);
-    if (exchange->m_bSaveAndValidate) {
-        text = TextOf(control);
-        return;
-    }
-    const LRESULT found = ::SendMessageW(control, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
-                                         reinterpret_cast<LPARAM>(Wide(text)));
-    ::SendMessageW(control, CB_SETCURSEL, static_cast<WPARAM>(found), 0);
-    if (found == CB_ERR)
-        SetTextOf(control, text);
-}

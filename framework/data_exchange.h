@@ -37,5 +37,3 @@ void DDX_Radio(CDataExchange* exchange, int id, int& value);
 /// The index of the selected entry of a combo box; -1 for none, and for an index
 /// that the box does not have.
 void DDX_CBIndex(CDataExchange* exchange, int id, int& index);
-/// The text of a combo box; toward the control it selects the equal entry if any.
-void DDX_CBString(CDataExchange* exchange, int id, ov::Text& text);

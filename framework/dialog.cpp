@@ -2,6 +2,7 @@
 
 #include "framework/application.h"
 #include "framework/dialog_template.h"
+#include "framework/exceptions.h"
 #include "framework/modal_doors.h"
 #include "framework/modal_owner.h"
 #include "framework/thread_state.h"
@@ -25,9 +26,7 @@ INT_PTR CALLBACK AfxDlgProc(HWND, UINT message, WPARAM, LPARAM)
 
 bool IsMultiLineEdit(HWND window)
 {
-    wchar_t name[8] = L"";
-    ::GetClassNameW(window, name, 8);
-    return ::lstrcmpiW(name, L"edit") == 0 && (::GetWindowLongPtrW(window, GWL_STYLE) & ES_MULTILINE) != 0;
+    return AfxIsOfClass(window, WC_EDITW) && (::GetWindowLongPtrW(window, GWL_STYLE) & ES_MULTILINE) != 0;
 }
 } // namespace
 
@@ -48,8 +47,9 @@ bool CDialog::CreateWindowFromTemplate(UINT templateId, HWND parent)
     bool bound = false;
     {
         const CCreationHook hook(this);
-        ::CreateDialogParamW(AfxGetResourceHandle(), MAKEINTRESOURCEW(templateId), parent, &AfxDlgProc, 0);
-        bound = hook.IsBound();
+        const HWND created = ::CreateDialogParamW(AfxGetResourceHandle(), MAKEINTRESOURCEW(templateId),
+                                                  parent, &AfxDlgProc, 0);
+        bound = hook.Finish(created);
     }
     if (!bound)
         PostNcDestroy();
@@ -99,6 +99,20 @@ LRESULT CDialog::HandleInitDialog(WPARAM, LPARAM)
 {
     // Not through the system's dialog procedure, whose frames an exception of
     // OnInitDialog must not pass.
+    try {
+        return Initialise();
+    } catch (...) {
+        // Half prepared it must not be worked with: saving, say, what it has not
+        // read would destroy the file.
+        AfxReportCurrentException();
+        if (m_hWnd != nullptr)
+            EndDialog(-1);
+        return FALSE;
+    }
+}
+
+BOOL CDialog::Initialise()
+{
     CRect before;
     GetWindowRect(before);
     const BOOL setFocus = OnInitDialog();

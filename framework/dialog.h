@@ -18,11 +18,11 @@ class CDialog : public CWnd
     ~CDialog() override;
 
     /// Makes the dialog's window without a loop. Without a parent it belongs to
-    /// the application's main window. FALSE when it could not be made or ended
-    /// itself in OnInitDialog.
+    /// the application's main window. FALSE when it could not be made, ended
+    /// itself in OnInitDialog or failed there.
     virtual BOOL Create(UINT templateId, CWnd* parent = nullptr);
     /// Runs the dialog and returns what EndDialog was given; -1 when the dialog
-    /// could not be made, IDCANCEL when WM_QUIT ended it.
+    /// could not be made or initialised, IDCANCEL when WM_QUIT ended it.
     virtual INT_PTR DoModal();
     /// Ends a modal dialog, hides a modeless one.
     void EndDialog(int result);
@@ -35,7 +35,8 @@ class CDialog : public CWnd
     DECLARE_MESSAGE_MAP()
 
     /// Prepares the dialog before it is seen: moves the members into the
-    /// controls. FALSE when it has set the focus itself.
+    /// controls. FALSE when it has set the focus itself. An exception is reported
+    /// and ends the dialog with -1.
     virtual BOOL OnInitDialog();
     /// Moves the controls into the members and ends with IDOK, unless a value
     /// was refused.
@@ -47,6 +48,7 @@ class CDialog : public CWnd
 
   private:
     LRESULT HandleInitDialog(WPARAM wParam, LPARAM lParam);
+    BOOL Initialise();
     bool CreateWindowFromTemplate(UINT templateId, HWND parent);
     bool IsChildPage() const;
 

@@ -8,6 +8,26 @@ namespace
 {
 // The longest path that Windows knows, in characters.
 constexpr std::size_t longestPath = 32768;
+
+/// Puts the process's current directory back when the scope ends.
+class CKeepDirectory
+{
+  public:
+    CKeepDirectory() : m_directory(::GetCurrentDirectoryW(0, nullptr))
+    {
+        ::GetCurrentDirectoryW(static_cast<DWORD>(m_directory.size()), m_directory.data());
+    }
+    ~CKeepDirectory()
+    {
+        if (!m_directory.empty())
+            ::SetCurrentDirectoryW(m_directory.data());
+    }
+    CKeepDirectory(const CKeepDirectory&) = delete;
+    CKeepDirectory& operator=(const CKeepDirectory&) = delete;
+
+  private:
+    std::vector<wchar_t> m_directory;
+};
 } // namespace
 
 CFileDialog::CFileDialog(BOOL openFileDialog, LPCWSTR defaultExtension, LPCWSTR fileName, DWORD flags,
@@ -41,6 +61,9 @@ INT_PTR CFileDialog::DoModal()
     m_ofn.lpstrDefExt = m_defaultExtension.empty() ? nullptr : Wide(m_defaultExtension);
     m_ofn.lpstrFile = path.data();
     m_ofn.nMaxFile = static_cast<DWORD>(path.size());
+    // The chooser makes the chosen file's folder the current directory, which
+    // belongs to the host and not to a dialog in it.
+    const CKeepDirectory directory;
     const BOOL chosen = m_open ? ::GetOpenFileNameW(&m_ofn) : ::GetSaveFileNameW(&m_ofn);
     m_ofn.lpstrFilter = nullptr;
     m_ofn.lpstrFile = nullptr;

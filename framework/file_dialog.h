@@ -5,7 +5,7 @@
 
 #include <vector>
 
-/// The system's file chooser.
+/// The system's file chooser. The current directory stays as it is.
 class CFileDialog
 {
   public:

@@ -24,11 +24,6 @@ class CPoint : public POINT
         : POINT{static_cast<short>(LOWORD(packed)), static_cast<short>(HIWORD(packed))}
     {
     }
-    constexpr void Offset(int dx, int dy)
-    {
-        x += dx;
-        y += dy;
-    }
     constexpr bool operator==(const CPoint& other) const { return x == other.x && y == other.y; }
 };
 
@@ -50,24 +45,8 @@ class CRect : public RECT
 
     constexpr int Width() const { return right - left; }
     constexpr int Height() const { return bottom - top; }
-    constexpr CSize Size() const { return {Width(), Height()}; }
     constexpr CPoint TopLeft() const { return {left, top}; }
-    constexpr CPoint BottomRight() const { return {right, bottom}; }
-    constexpr CPoint CenterPoint() const { return {(left + right) / 2, (top + bottom) / 2}; }
-    constexpr BOOL IsRectEmpty() const { return left >= right || top >= bottom; }
-    constexpr BOOL PtInRect(POINT point) const
-    {
-        return point.x >= left && point.x < right && point.y >= top && point.y < bottom;
-    }
-    constexpr void SetRect(int l, int t, int r, int b) { *this = CRect(l, t, r, b); }
-    constexpr void SetRectEmpty() { *this = CRect(); }
     constexpr void OffsetRect(int dx, int dy) { *this = CRect(left + dx, top + dy, right + dx, bottom + dy); }
-    constexpr void MoveToXY(int x, int y) { OffsetRect(x - left, y - top); }
-    constexpr void InflateRect(int dx, int dy)
-    {
-        *this = CRect(left - dx, top - dy, right + dx, bottom + dy);
-    }
-    constexpr void DeflateRect(int dx, int dy) { InflateRect(-dx, -dy); }
     constexpr bool operator==(const CRect& other) const
     {
         return left == other.left && top == other.top && right == other.right && bottom == other.bottom;

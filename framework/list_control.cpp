@@ -21,11 +21,6 @@ WPARAM Index(int index)
 }
 } // namespace
 
-BOOL CListCtrl::Create(DWORD style, const RECT& rectangle, CWnd* parent, UINT id)
-{
-    return CWnd::Create(WC_LISTVIEWW, nullptr, style, rectangle, parent, id);
-}
-
 int CListCtrl::InsertColumn(int column, const ov::Text& heading, int format, int width)
 {
     LVCOLUMNW description{};
@@ -40,25 +35,15 @@ int CListCtrl::InsertColumn(int column, const ov::Text& heading, int format, int
     return static_cast<int>(SendMessage(LVM_INSERTCOLUMNW, Index(column), Param(&description)));
 }
 
-BOOL CListCtrl::SetColumnWidth(int column, int width)
-{
-    return SendMessage(LVM_SETCOLUMNWIDTH, Index(column), MAKELPARAM(width, 0)) != 0;
-}
-
 int CListCtrl::GetColumnWidth(int column) const
 {
     return static_cast<int>(SendMessage(LVM_GETCOLUMNWIDTH, Index(column)));
 }
 
-CWnd* CListCtrl::GetHeaderCtrl() const
-{
-    return AfxWindowFromParam(SendMessage(LVM_GETHEADER));
-}
-
 int CListCtrl::GetColumnCount() const
 {
-    const CWnd* const header = GetHeaderCtrl();
-    return header != nullptr ? static_cast<int>(header->SendMessage(HDM_GETITEMCOUNT)) : 0;
+    const auto header = reinterpret_cast<HWND>(SendMessage(LVM_GETHEADER));
+    return header != nullptr ? static_cast<int>(::SendMessageW(header, HDM_GETITEMCOUNT, 0, 0)) : 0;
 }
 
 int CListCtrl::InsertItem(int row, const ov::Text& text)
@@ -139,11 +124,6 @@ BOOL CListCtrl::EnsureVisible(int row, BOOL partialOk)
 BOOL CListCtrl::SortItems(PFNLVCOMPARE compare, LPARAM context)
 {
     return SendMessage(LVM_SORTITEMS, static_cast<WPARAM>(context), reinterpret_cast<LPARAM>(compare)) != 0;
-}
-
-BOOL CListCtrl::SortItemsEx(PFNLVCOMPARE compare, LPARAM context)
-{
-    return SendMessage(LVM_SORTITEMSEX, static_cast<WPARAM>(context), reinterpret_cast<LPARAM>(compare)) != 0;
 }
 
 DWORD CListCtrl::SetExtendedStyle(DWORD style)

@@ -7,16 +7,11 @@
 class CListCtrl : public CWnd
 {
     DECLARE_DYNAMIC(CListCtrl)
-    BOOL Create(DWORD style, const RECT& rectangle, CWnd* parent, UINT id);
-
     /// The new column's index; -1 on failure. A width of -1 is left to the list.
     int InsertColumn(int column, const ov::Text& heading, int format = LVCFMT_LEFT, int width = -1);
-    BOOL SetColumnWidth(int column, int width);
     int GetColumnWidth(int column) const;
     /// The number of columns, as the header knows it.
     int GetColumnCount() const;
-    /// The header as a temporary object; null when there is none.
-    CWnd* GetHeaderCtrl() const;
 
     int GetItemCount() const { return static_cast<int>(SendMessage(LVM_GETITEMCOUNT)); }
     /// The new row's index, which in a sorted list is not the one asked for.
@@ -36,8 +31,6 @@ class CListCtrl : public CWnd
     BOOL EnsureVisible(int row, BOOL partialOk);
     /// Sorts by a comparison that is given the data of two rows.
     BOOL SortItems(PFNLVCOMPARE compare, LPARAM context);
-    /// The same with the rows' indices in place of their data.
-    BOOL SortItemsEx(PFNLVCOMPARE compare, LPARAM context);
     /// Sets the LVS_EX_* styles; the previous ones.
     DWORD SetExtendedStyle(DWORD style);
     DWORD GetExtendedStyle() const;

@@ -51,13 +51,6 @@ void AfxThunkCommand(CCmdTarget& target, AFX_HANDLER_CALL&)
 }
 
 template <auto Handler>
-void AfxThunkRange(CCmdTarget& target, AFX_HANDLER_CALL& call)
-{
-    static_assert(AfxFits<Handler, void(UINT)>, "ranges: void OnX(UINT id)");
-    (AfxTarget<Handler>(target).*Handler)(call.id);
-}
-
-template <auto Handler>
 void AfxThunkNotify(CCmdTarget& target, AFX_HANDLER_CALL& call)
 {
     static_assert(AfxFits<Handler, void(NMHDR*, LRESULT*)>, "ON_NOTIFY: void OnX(NMHDR*, LRESULT*)");
@@ -109,7 +102,8 @@ void AfxThunkQueryDragIcon(CCmdTarget& target, AFX_HANDLER_CALL& call)
 }
 
 // The sender is a CWnd*, not a CScrollBar*: up-down controls and sliders send
-// these messages too, and IsKindOf tells which it was.
+// these messages too. It is a plain CWnd unless the program made an object for
+// the control, so it is the window's class (AfxIsOfClass) that tells which it was.
 template <auto Handler>
 void AfxThunkScroll(CCmdTarget& target, AFX_HANDLER_CALL& call)
 {
@@ -128,13 +122,6 @@ void AfxThunkMouseWheel(CCmdTarget& target, AFX_HANDLER_CALL& call)
         LOWORD(call.wParam), static_cast<short>(HIWORD(call.wParam)), CPoint(call.lParam));
     // A wheel that nobody here wants goes on to the parent window.
     call.handled = call.result != 0;
-}
-
-template <auto Handler>
-void AfxThunkTimer(CCmdTarget& target, AFX_HANDLER_CALL& call)
-{
-    static_assert(AfxFits<Handler, void(UINT_PTR)>, "ON_WM_TIMER: void OnTimer(UINT_PTR)");
-    (AfxTarget<Handler>(target).*Handler)(call.wParam);
 }
 
 /// In the class: it has a message map. The access that follows is protected.
@@ -168,20 +155,15 @@ void AfxThunkTimer(CCmdTarget& target, AFX_HANDLER_CALL& call)
 // clang-format off
 #define ON_MESSAGE(message, handler) {message, 0, 0, 0, &AfxThunkMessage<handler>},
 #define ON_CONTROL(code, id, handler) {WM_COMMAND, static_cast<UINT>(code), id, id, &AfxThunkCommand<handler>},
-#define ON_CONTROL_RANGE(code, first, last, handler) \
-    {WM_COMMAND, static_cast<UINT>(code), first, last, &AfxThunkRange<handler>},
 #define ON_COMMAND(id, handler) ON_CONTROL(CN_COMMAND, id, handler)
-#define ON_COMMAND_RANGE(first, last, handler) ON_CONTROL_RANGE(CN_COMMAND, first, last, handler)
 #define ON_BN_CLICKED(id, handler) ON_CONTROL(BN_CLICKED, id, handler)
 #define ON_EN_CHANGE(id, handler) ON_CONTROL(EN_CHANGE, id, handler)
-#define ON_CBN_SELCHANGE(id, handler) ON_CONTROL(CBN_SELCHANGE, id, handler)
 #define ON_NOTIFY(code, id, handler) {WM_NOTIFY, static_cast<UINT>(code), id, id, &AfxThunkNotify<handler>},
 
 #define ON_WM_CREATE() {WM_CREATE, 0, 0, 0, &AfxThunkCreate<&ThisClass::OnCreate>},
 #define ON_WM_DESTROY() {WM_DESTROY, 0, 0, 0, &AfxThunkCommand<&ThisClass::OnDestroy>},
 #define ON_WM_SIZE() {WM_SIZE, 0, 0, 0, &AfxThunkSize<&ThisClass::OnSize>},
 #define ON_WM_PAINT() {WM_PAINT, 0, 0, 0, &AfxThunkCommand<&ThisClass::OnPaint>},
-#define ON_WM_CLOSE() {WM_CLOSE, 0, 0, 0, &AfxThunkCommand<&ThisClass::OnClose>},
 #define ON_WM_ERASEBKGND() {WM_ERASEBKGND, 0, 0, 0, &AfxThunkEraseBkgnd<&ThisClass::OnEraseBkgnd>},
 #define ON_WM_SYSCOMMAND() {WM_SYSCOMMAND, 0, 0, 0, &AfxThunkSysCommand<&ThisClass::OnSysCommand>},
 #define ON_WM_GETMINMAXINFO() {WM_GETMINMAXINFO, 0, 0, 0, &AfxThunkGetMinMaxInfo<&ThisClass::OnGetMinMaxInfo>},
@@ -189,5 +171,4 @@ void AfxThunkTimer(CCmdTarget& target, AFX_HANDLER_CALL& call)
 #define ON_WM_HSCROLL() {WM_HSCROLL, 0, 0, 0, &AfxThunkScroll<&ThisClass::OnHScroll>},
 #define ON_WM_VSCROLL() {WM_VSCROLL, 0, 0, 0, &AfxThunkScroll<&ThisClass::OnVScroll>},
 #define ON_WM_MOUSEWHEEL() {WM_MOUSEWHEEL, 0, 0, 0, &AfxThunkMouseWheel<&ThisClass::OnMouseWheel>},
-#define ON_WM_TIMER() {WM_TIMER, 0, 0, 0, &AfxThunkTimer<&ThisClass::OnTimer>},
 // clang-format on

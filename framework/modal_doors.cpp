@@ -10,11 +10,9 @@ namespace
 {
 CModalHook* modalHook = nullptr;
 
-ov::Text ApplicationName()
+/// The name of the module's file.
+ov::Text ModuleName()
 {
-    const CWinApp* const application = AfxGetApp();
-    if (application != nullptr && application->m_pszAppName != nullptr)
-        return FromWide(application->m_pszAppName);
     wchar_t path[MAX_PATH] = L"";
     ::GetModuleFileNameW(AfxGetInstanceHandle(), path, MAX_PATH);
     const ov::Text file = FromWide(path);
@@ -55,9 +53,9 @@ CModalHook* AfxGetModalHook()
 
 HWND AfxGetModalOwner(HWND given)
 {
-    if (given != nullptr)
+    if (::IsWindow(given))
         return ::GetAncestor(given, GA_ROOT);
-    if (const HWND main = AfxSafeHwnd(AfxGetMainWnd()))
+    if (const HWND main = AfxSafeHwnd(AfxGetMainWnd()); ::IsWindow(main))
         return ::GetLastActivePopup(::GetAncestor(main, GA_ROOT));
     const HWND active = ::GetActiveWindow();
     return active != nullptr ? ::GetAncestor(active, GA_ROOT) : nullptr;
@@ -65,6 +63,10 @@ HWND AfxGetModalOwner(HWND given)
 
 int AfxShowMessageBox(HWND owner, const ov::Text& text, const ov::Text& caption, UINT type)
 {
+    // The system disables exactly the window that it is given: over a child
+    // window, a page say, the dialog around it could be worked with meanwhile.
+    if (owner != nullptr)
+        owner = ::GetAncestor(owner, GA_ROOT);
     if (modalHook != nullptr) {
         if (const std::optional<int> answer = modalHook->OnMessageBox(owner, text, caption, type))
             return *answer;
@@ -74,19 +76,14 @@ int AfxShowMessageBox(HWND owner, const ov::Text& text, const ov::Text& caption,
 
 int CWinApp::DoMessageBox(const ov::Text& text, UINT type)
 {
-    return AfxShowMessageBox(AfxGetModalOwner(nullptr), text, ApplicationName(), type);
+    return AfxShowMessageBox(AfxGetModalOwner(nullptr), text, ModuleName(), type);
 }
 
 int AfxMessageBox(const ov::Text& text, UINT type)
 {
     if (CWinApp* const application = AfxGetApp())
         return application->DoMessageBox(text, type);
-    return AfxShowMessageBox(AfxGetModalOwner(nullptr), text, ApplicationName(), type);
-}
-
-int AfxMessageBox(UINT textId, UINT type)
-{
-    return AfxMessageBox(AfxLoadString(textId), type);
+    return AfxShowMessageBox(AfxGetModalOwner(nullptr), text, ModuleName(), type);
 }
 
 namespace

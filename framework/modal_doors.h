@@ -54,12 +54,12 @@ CModalHook* AfxSetModalHook(CModalHook* hook);
 CModalHook* AfxGetModalHook();
 
 /// The window that a modal door opens over: the given window's top-level
-/// ancestor, else the application's main window, else the calling thread's
+/// ancestor if it is a window, else the application's main window, else the calling thread's
 /// active window (so that the door is modal to the host), else null.
 HWND AfxGetModalOwner(HWND given);
 
-/// The one door to message boxes; the button that was pressed.
+/// The one door to message boxes; the button that was pressed. A child window
+/// stands for its top-level window; null opens a box over nothing.
 int AfxShowMessageBox(HWND owner, const ov::Text& text, const ov::Text& caption, UINT type);
-/// A message box with the application's name as its caption.
+/// A message box of the application, see CWinApp::DoMessageBox.
 int AfxMessageBox(const ov::Text& text, UINT type = MB_OK);
-int AfxMessageBox(UINT textId, UINT type = MB_OK);

@@ -13,7 +13,7 @@ BOOL CWnd::PreTranslateInput(MSG* message)
 {
     const bool key = message->message >= WM_KEYFIRST && message->message <= WM_KEYLAST;
     const bool mouse = message->message >= WM_MOUSEFIRST && message->message <= WM_MOUSELAST;
-    return (key || mouse) && IsDialogMessage(message);
+    return (key || mouse) && ::IsDialogMessageW(m_hWnd, message);
 }
 
 BOOL CWnd::WalkPreTranslateTree(HWND stop, MSG* message)
@@ -66,7 +66,7 @@ int CWnd::RunModalLoop()
     m_nModalResult = -1;
     if (!IsWindowVisible())
         ShowWindow(SW_SHOWNORMAL);
-    UpdateWindow();
+    ::UpdateWindow(window);
     bool idle = true;
     LPARAM idleCount = 0;
     while (m_continueModal) {

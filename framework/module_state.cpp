@@ -34,7 +34,7 @@ void CreateContext(AFX_MODULE_STATE& state)
     state.context = ::CreateActCtxW(&description);
 }
 
-void InitialiseOnce(AFX_MODULE_STATE& state)
+void InitialiseOnce(AFX_MODULE_STATE& state) noexcept
 {
     if (state.initialised || state.application == nullptr)
         return;
@@ -54,8 +54,15 @@ AFX_MODULE_STATE* AfxGetStaticModuleState()
 
 AFX_MODULE_STATE* AfxGetModuleState()
 {
-    AFX_MODULE_STATE* const current = AfxGetThreadState().moduleState;
-    return current != nullptr ? current : AfxGetStaticModuleState();
+    const AFX_THREAD_STATE* const thread = AfxPeekThreadState();
+    return thread != nullptr && thread->moduleState != nullptr ? thread->moduleState
+                                                               : AfxGetStaticModuleState();
+}
+
+bool AfxModuleReady()
+{
+    const AFX_MODULE_STATE& state = *AfxGetModuleState();
+    return state.application == nullptr || state.initialised;
 }
 
 AFX_MAINTAIN_STATE2::AFX_MAINTAIN_STATE2(AFX_MODULE_STATE* state)
@@ -64,6 +71,8 @@ AFX_MAINTAIN_STATE2::AFX_MAINTAIN_STATE2(AFX_MODULE_STATE* state)
     CreateContext(*state);
     if (state->context != INVALID_HANDLE_VALUE)
         m_activated = ::ActivateActCtx(state->context, &m_cookie) != FALSE;
+    // Last, and it lets no exception out: a constructor that throws has no
+    // destructor that would take the context back.
     InitialiseOnce(*state);
 }
 
@@ -85,7 +94,7 @@ BOOL AfxInitLibrary(HINSTANCE instance)
     return TRUE;
 }
 
-void AfxTermLibrary()
+void AfxTermLibrary() noexcept
 {
     AFX_MODULE_STATE& state = *AfxGetStaticModuleState();
     if (std::exchange(state.initialised, false) && state.application != nullptr) {

@@ -21,11 +21,16 @@ struct AFX_MODULE_STATE {
 AFX_MODULE_STATE* AfxGetStaticModuleState();
 /// The state that the calling thread works with at present.
 AFX_MODULE_STATE* AfxGetModuleState();
+/// Whether the calling thread's present module can be worked with: false when its
+/// application's InitInstance has not succeeded. To be asked after AFX_MANAGE_STATE,
+/// which has called it and told of an exception; the next AFX_MANAGE_STATE tries again.
+bool AfxModuleReady();
 
 /// Switches the calling thread to a module's state until the scope ends, and
 /// activates the activation context of the module's manifest (resource 2), so
 /// that its windows get version 6 of the common controls whatever the host's
-/// manifest says. The first time it also runs the application's InitInstance.
+/// manifest says. The first time it also runs the application's InitInstance, see
+/// AfxModuleReady.
 class AFX_MAINTAIN_STATE2
 {
   public:
@@ -46,9 +51,10 @@ class AFX_MAINTAIN_STATE2
 /// For DllMain at DLL_PROCESS_ATTACH. It only records the instance: the loader
 /// lock is held, so InitInstance waits for the first AFX_MANAGE_STATE.
 BOOL AfxInitLibrary(HINSTANCE instance);
-/// For DllMain at DLL_PROCESS_DETACH: ExitInstance if InitInstance ran, then
-/// gives back what the framework holds.
-void AfxTermLibrary();
+/// For DllMain at DLL_PROCESS_DETACH, when the library is unloaded and not when
+/// the whole process ends: ExitInstance if InitInstance ran, then gives back what
+/// the framework holds for the module and for the calling thread.
+void AfxTermLibrary() noexcept;
 
 HINSTANCE AfxGetInstanceHandle();
 HINSTANCE AfxGetResourceHandle();

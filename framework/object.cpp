@@ -20,13 +20,3 @@ bool CObject::IsKindOf(const CRuntimeClass* base) const
 {
     return GetRuntimeClass()->IsDerivedFrom(base);
 }
-
-CObject* AfxDynamicDownCast(const CRuntimeClass* base, CObject* object)
-{
-    return object != nullptr && object->IsKindOf(base) ? object : nullptr;
-}
-
-const CObject* AfxDynamicDownCast(const CRuntimeClass* base, const CObject* object)
-{
-    return object != nullptr && object->IsKindOf(base) ? object : nullptr;
-}

@@ -28,22 +28,13 @@ class CObject
 };
 
 /// The object when it is of the class, else null; null for null.
-CObject* AfxDynamicDownCast(const CRuntimeClass* base, CObject* object);
-const CObject* AfxDynamicDownCast(const CRuntimeClass* base, const CObject* object);
-
 template <class Class>
 Class* AfxDynamicDownCast(CObject* object)
 {
-    return static_cast<Class*>(AfxDynamicDownCast(Class::GetThisClass(), object));
+    return object != nullptr && object->IsKindOf(Class::GetThisClass()) ? static_cast<Class*>(object)
+                                                                        : nullptr;
 }
 
-template <class Class>
-const Class* AfxDynamicDownCast(const CObject* object)
-{
-    return static_cast<const Class*>(AfxDynamicDownCast(Class::GetThisClass(), object));
-}
-
-#define RUNTIME_CLASS(class_name) (class_name::GetThisClass())
 #define DYNAMIC_DOWNCAST(class_name, object) (AfxDynamicDownCast<class_name>(object))
 
 /// In the class: makes its objects know their class. The access that follows is

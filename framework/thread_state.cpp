@@ -12,6 +12,11 @@ AFX_THREAD_STATE& AfxGetThreadState()
     return *threadState;
 }
 
+AFX_THREAD_STATE* AfxPeekThreadState()
+{
+    return threadState;
+}
+
 void AfxFreeThreadState()
 {
     const std::unique_ptr<AFX_THREAD_STATE> owner(threadState);
@@ -20,7 +25,7 @@ void AfxFreeThreadState()
 
 AFX_TEMP_MAPS::Mark AFX_TEMP_MAPS::GetMark() const
 {
-    return {windows.Count(), contexts.Count(), fonts.Count(), brushes.Count(), pens.Count(), bitmaps.Count()};
+    return {windows.Count(), contexts.Count(), fonts.Count()};
 }
 
 void AFX_TEMP_MAPS::DeleteFrom(const Mark& mark)
@@ -28,12 +33,10 @@ void AFX_TEMP_MAPS::DeleteFrom(const Mark& mark)
     windows.DeleteFrom(mark.windows);
     contexts.DeleteFrom(mark.contexts);
     fonts.DeleteFrom(mark.fonts);
-    brushes.DeleteFrom(mark.brushes);
-    pens.DeleteFrom(mark.pens);
-    bitmaps.DeleteFrom(mark.bitmaps);
 }
 
 void AfxDeleteTempMap()
 {
-    AfxGetThreadState().temporary.DeleteFrom({});
+    if (AFX_THREAD_STATE* const state = AfxPeekThreadState())
+        state->temporary.DeleteFrom({});
 }

@@ -4,6 +4,7 @@
 #include "framework/window.h"
 
 #include <cstddef>
+#include <exception>
 #include <memory>
 #include <unordered_map>
 #include <vector>
@@ -64,17 +65,16 @@ struct AFX_TEMP_MAPS {
     CTempMap<HWND, CWnd, &CWnd::m_hWnd> windows;
     CTempMap<HDC, CDC, &CDC::m_hDC> contexts;
     CTempMap<HGDIOBJ, CFont, &CFont::m_hObject> fonts;
-    CTempMap<HGDIOBJ, CBrush, &CBrush::m_hObject> brushes;
-    CTempMap<HGDIOBJ, CPen, &CPen::m_hObject> pens;
-    CTempMap<HGDIOBJ, CBitmap, &CBitmap::m_hObject> bitmaps;
 
     struct Mark {
-        std::size_t windows = 0, contexts = 0, fonts = 0, brushes = 0, pens = 0, bitmaps = 0;
+        std::size_t windows = 0, contexts = 0, fonts = 0;
     };
     Mark GetMark() const;
     /// Deletes what was asked for after the mark was taken.
     void DeleteFrom(const Mark& mark);
 };
+
+class CCreationHook;
 
 /// A window whose data exchange runs, as a list from the innermost outwards.
 struct AFX_EXCHANGE_LOCK {
@@ -86,7 +86,7 @@ struct AFX_THREAD_STATE {
     std::unordered_map<HWND, CWnd*> permanentWindows;
     AFX_TEMP_MAPS temporary;
     MSG currentMessage{};
-    CWnd* windowBeingCreated = nullptr;
+    CCreationHook* creation = nullptr; ///< waits for its window
     const AFX_EXCHANGE_LOCK* exchangeLocks = nullptr;
     AFX_MODULE_STATE* moduleState = nullptr;
     bool reportingException = false;
@@ -94,6 +94,8 @@ struct AFX_THREAD_STATE {
 
 /// This thread's state; made when first asked for.
 AFX_THREAD_STATE& AfxGetThreadState();
+/// This thread's state if it has one, else null.
+AFX_THREAD_STATE* AfxPeekThreadState();
 /// Frees this thread's state. It is done by hand: a destructor registered for
 /// the thread would keep a library loaded until the thread ends.
 void AfxFreeThreadState();
@@ -117,7 +119,7 @@ class CRestoreValue
 };
 
 /// Binds the object to the next window that this thread creates, before that
-/// window's first message.
+/// window's first message. When that cannot be done there is to be no window.
 class CCreationHook
 {
   public:
@@ -126,12 +128,21 @@ class CCreationHook
     CCreationHook(const CCreationHook&) = delete;
     CCreationHook& operator=(const CCreationHook&) = delete;
 
-    /// True once the window has been met.
-    bool IsBound() const;
+    /// To be called with what the system's creation gave. False when the object
+    /// was not bound; then it reports why, if there is an exception, and destroys
+    /// a window that was made nevertheless.
+    bool Finish(HWND created) const;
 
   private:
-    CRestoreValue<CWnd*> m_pending;
+    static LRESULT CALLBACK HookProc(int code, WPARAM wParam, LPARAM lParam);
+    /// False when the window must not come to be.
+    bool Meet(HWND window) noexcept;
+
+    CWnd* m_window;
+    CRestoreValue<CCreationHook*> m_pending;
     HHOOK m_hook;
+    bool m_bound = false;
+    std::exception_ptr m_failure;
 };
 
 /// The window procedure of every window that a permanent object stands for.

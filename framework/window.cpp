@@ -1,29 +1,28 @@
 #include "framework/window.h"
 
-#include "framework/modal_doors.h"
 #include "framework/thread_state.h"
 
 #include <algorithm>
+#include <iterator>
 
 IMPLEMENT_DYNAMIC(CWnd, CCmdTarget)
 
-const CWnd CWnd::wndTop(HWND_TOP);
-const CWnd CWnd::wndBottom(HWND_BOTTOM);
-const CWnd CWnd::wndTopMost(HWND_TOPMOST);
-const CWnd CWnd::wndNoTopMost(HWND_NOTOPMOST);
-
 CWnd::~CWnd()
 {
-    // Named places and temporary objects carry a handle that is not theirs.
+    // Temporary objects carry a handle that is not theirs.
     if (m_hWnd != nullptr && FromHandlePermanent(m_hWnd) == this)
         CWnd::DestroyWindow();
 }
 
 CWnd* CWnd::FromHandlePermanent(HWND window)
 {
-    const auto& map = AfxGetThreadState().permanentWindows;
-    const auto found = map.find(window);
-    return found != map.end() ? found->second : nullptr;
+    // Asked by destructors and for messages after the thread's state has been
+    // freed, too, when nobody would free a new one.
+    const AFX_THREAD_STATE* const state = AfxPeekThreadState();
+    if (state == nullptr)
+        return nullptr;
+    const auto found = state->permanentWindows.find(window);
+    return found != state->permanentWindows.end() ? found->second : nullptr;
 }
 
 CWnd* CWnd::FromHandle(HWND window)
@@ -52,32 +51,31 @@ HWND CWnd::Detach()
     return window;
 }
 
-void CWnd::Bind(HWND window)
+bool CWnd::Bind(HWND window)
 {
     if (!Attach(window))
-        return;
-    PreSubclassWindow();
+        return false;
+    try {
+        PreSubclassWindow();
+    } catch (...) {
+        Detach();
+        throw;
+    }
     const LONG_PTR previous =
         ::SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&AfxWndProc));
     m_superWndProc = reinterpret_cast<WNDPROC>(previous);
+    return true;
 }
 
 BOOL CWnd::SubclassWindow(HWND window)
 {
-    if (window == nullptr || m_hWnd != nullptr || FromHandlePermanent(window) != nullptr)
-        return FALSE;
-    Bind(window);
-    return TRUE;
-}
-
-BOOL CWnd::SubclassDlgItem(UINT id, CWnd* parent)
-{
-    return SubclassWindow(::GetDlgItem(AfxSafeHwnd(parent), static_cast<int>(id)));
+    return Bind(window);
 }
 
 HWND CWnd::UnsubclassWindow()
 {
-    if (m_superWndProc != nullptr)
+    if (m_superWndProc != nullptr &&
+        ::GetWindowLongPtrW(m_hWnd, GWLP_WNDPROC) == reinterpret_cast<LONG_PTR>(&AfxWndProc))
         ::SetWindowLongPtrW(m_hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(m_superWndProc));
     return Detach();
 }
@@ -87,14 +85,9 @@ void CWnd::SetWindowText(const ov::Text& text)
     ::SetWindowTextW(m_hWnd, Wide(text));
 }
 
-void CWnd::SetWindowText(LPCWSTR text)
-{
-    ::SetWindowTextW(m_hWnd, text);
-}
-
 ov::Text CWnd::GetWindowText() const
 {
-    ov::Text text(static_cast<std::size_t>(GetWindowTextLength()), u'\0');
+    ov::Text text(static_cast<std::size_t>(::GetWindowTextLengthW(m_hWnd)), u'\0');
     if (!text.empty()) {
         const int copied = ::GetWindowTextW(m_hWnd, reinterpret_cast<wchar_t*>(text.data()),
                                             static_cast<int>(text.size()) + 1);
@@ -102,33 +95,6 @@ ov::Text CWnd::GetWindowText() const
         text.resize(static_cast<std::size_t>(copied));
     }
     return text;
-}
-
-namespace
-{
-BOOL ModifyBits(HWND window, int index, DWORD remove, DWORD add, UINT positionFlags)
-{
-    const auto old = static_cast<DWORD>(::GetWindowLongPtrW(window, index));
-    const DWORD changed = (old & ~remove) | add;
-    if (old == changed)
-        return FALSE;
-    ::SetWindowLongPtrW(window, index, static_cast<LONG_PTR>(changed));
-    if (positionFlags != 0) {
-        ::SetWindowPos(window, nullptr, 0, 0, 0, 0,
-                       SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | positionFlags);
-    }
-    return TRUE;
-}
-} // namespace
-
-BOOL CWnd::ModifyStyle(DWORD remove, DWORD add, UINT positionFlags)
-{
-    return ModifyBits(m_hWnd, GWL_STYLE, remove, add, positionFlags);
-}
-
-BOOL CWnd::ModifyStyleEx(DWORD remove, DWORD add, UINT positionFlags)
-{
-    return ModifyBits(m_hWnd, GWL_EXSTYLE, remove, add, positionFlags);
 }
 
 HICON CWnd::SetIcon(HICON icon, BOOL big)
@@ -141,12 +107,6 @@ HICON CWnd::SetIcon(HICON icon, BOOL big)
 CFont* CWnd::GetFont() const
 {
     return CFont::FromHandle(reinterpret_cast<HFONT>(SendMessage(WM_GETFONT)));
-}
-
-void CWnd::SetFont(CFont* font, BOOL redraw)
-{
-    const HGDIOBJ handle = font != nullptr ? font->GetSafeHandle() : nullptr;
-    SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(handle), redraw);
 }
 
 void CWnd::MoveWindow(int x, int y, int width, int height, BOOL repaint)
@@ -172,11 +132,6 @@ void CWnd::ScreenToClient(LPRECT rectangle) const
     ::MapWindowPoints(nullptr, m_hWnd, reinterpret_cast<POINT*>(rectangle), 2);
 }
 
-void CWnd::ClientToScreen(LPRECT rectangle) const
-{
-    ::MapWindowPoints(m_hWnd, nullptr, reinterpret_cast<POINT*>(rectangle), 2);
-}
-
 void CWnd::CenterWindow()
 {
     HWND over = ::GetWindow(m_hWnd, GW_OWNER);
@@ -198,26 +153,6 @@ void CWnd::CenterWindow()
     x = std::max(std::min(x, static_cast<int>(work.right) - own.Width()), static_cast<int>(work.left));
     y = std::max(std::min(y, static_cast<int>(work.bottom) - own.Height()), static_cast<int>(work.top));
     SetWindowPos(nullptr, x, y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
-}
-
-BOOL CWnd::IsChild(const CWnd* window) const
-{
-    return ::IsChild(m_hWnd, AfxSafeHwnd(window));
-}
-
-CWnd* CWnd::GetNextDlgTabItem(CWnd* from, BOOL previous) const
-{
-    return FromHandle(::GetNextDlgTabItem(m_hWnd, AfxSafeHwnd(from), previous));
-}
-
-BOOL CWnd::RedrawWindow(LPCRECT rectangle, HRGN region, UINT flags)
-{
-    return ::RedrawWindow(m_hWnd, rectangle, region, flags);
-}
-
-int CWnd::MessageBox(const ov::Text& text, const ov::Text& caption, UINT type) const
-{
-    return AfxShowMessageBox(m_hWnd, text, caption, type);
 }
 
 BOOL CWnd::GetScrollInfo(int bar, SCROLLINFO* info, UINT mask) const
@@ -243,6 +178,14 @@ ov::Text CWnd::GetDlgItemText(int id) const
 {
     const CWnd* const control = GetDlgItem(id);
     return control != nullptr ? control->GetWindowText() : ov::Text();
+}
+
+bool AfxIsOfClass(HWND window, LPCWSTR className)
+{
+    // The longest name that a class can have, with its end.
+    wchar_t name[257] = L"";
+    return window != nullptr && ::GetClassNameW(window, name, static_cast<int>(std::size(name))) != 0 &&
+           ::lstrcmpiW(name, className) == 0;
 }
 
 CWnd* AfxWindowFromParam(LPARAM handle)

@@ -33,8 +33,7 @@ class CWnd : public CCmdTarget
     HWND Detach();
     /// Binds the object to a window and takes over its messages.
     BOOL SubclassWindow(HWND window);
-    BOOL SubclassDlgItem(UINT id, CWnd* parent);
-    /// Undoes SubclassWindow.
+    /// Undoes SubclassWindow. A procedure that somebody has put before ours stays.
     HWND UnsubclassWindow();
 
     // --- creation and destruction -----------------------------------------
@@ -50,10 +49,7 @@ class CWnd : public CCmdTarget
 
     // --- text, state, style -------------------------------------------------
     void SetWindowText(const ov::Text& text);
-    void SetWindowText(LPCWSTR text);
     ov::Text GetWindowText() const;
-    void GetWindowText(ov::Text& text) const { text = GetWindowText(); }
-    int GetWindowTextLength() const { return ::GetWindowTextLengthW(m_hWnd); }
     BOOL EnableWindow(BOOL enable = TRUE) { return ::EnableWindow(m_hWnd, enable); }
     BOOL IsWindowEnabled() const { return ::IsWindowEnabled(m_hWnd); }
     BOOL ShowWindow(int command) { return ::ShowWindow(m_hWnd, command); }
@@ -61,13 +57,8 @@ class CWnd : public CCmdTarget
     BOOL IsIconic() const { return ::IsIconic(m_hWnd); }
     DWORD GetStyle() const { return static_cast<DWORD>(::GetWindowLongPtrW(m_hWnd, GWL_STYLE)); }
     DWORD GetExStyle() const { return static_cast<DWORD>(::GetWindowLongPtrW(m_hWnd, GWL_EXSTYLE)); }
-    /// Changes style bits; with `positionFlags` the frame is drawn anew. False
-    /// when the bits were so already.
-    BOOL ModifyStyle(DWORD remove, DWORD add, UINT positionFlags = 0);
-    BOOL ModifyStyleEx(DWORD remove, DWORD add, UINT positionFlags = 0);
     HICON SetIcon(HICON icon, BOOL big);
     CFont* GetFont() const;
-    void SetFont(CFont* font, BOOL redraw = TRUE);
 
     // --- size and place -----------------------------------------------------
     void MoveWindow(int x, int y, int width, int height, BOOL repaint = TRUE);
@@ -76,36 +67,19 @@ class CWnd : public CCmdTarget
     void GetWindowRect(LPRECT rectangle) const { ::GetWindowRect(m_hWnd, rectangle); }
     void GetClientRect(LPRECT rectangle) const { ::GetClientRect(m_hWnd, rectangle); }
     void ScreenToClient(LPRECT rectangle) const;
-    void ScreenToClient(LPPOINT point) const { ::ScreenToClient(m_hWnd, point); }
-    void ClientToScreen(LPRECT rectangle) const;
-    void ClientToScreen(LPPOINT point) const { ::ClientToScreen(m_hWnd, point); }
-    int SetWindowRgn(HRGN region, BOOL redraw) { return ::SetWindowRgn(m_hWnd, region, redraw); }
     /// Centres a top-level window over its owner, else on the screen, within
     /// the work area.
     void CenterWindow();
-    /// The places that SetWindowPos knows by name.
-    static const CWnd wndTop, wndBottom, wndTopMost, wndNoTopMost;
 
     // --- the tree ------------------------------------------------------------
     CWnd* GetParent() const { return FromHandle(::GetParent(m_hWnd)); }
-    CWnd* GetOwner() const { return FromHandle(::GetWindow(m_hWnd, GW_OWNER)); }
-    CWnd* GetTopLevelParent() const { return FromHandle(::GetAncestor(m_hWnd, GA_ROOT)); }
-    CWnd* GetWindow(UINT command) const { return FromHandle(::GetWindow(m_hWnd, command)); }
     CWnd* GetDlgItem(int id) const { return FromHandle(::GetDlgItem(m_hWnd, id)); }
-    int GetDlgCtrlID() const { return ::GetDlgCtrlID(m_hWnd); }
-    BOOL IsChild(const CWnd* window) const;
-    CWnd* GetNextDlgTabItem(CWnd* from, BOOL previous = FALSE) const;
 
     // --- painting --------------------------------------------------------------
     void Invalidate(BOOL erase = TRUE) { ::InvalidateRect(m_hWnd, nullptr, erase); }
-    void InvalidateRect(LPCRECT rectangle, BOOL erase = TRUE) { ::InvalidateRect(m_hWnd, rectangle, erase); }
-    void ValidateRect(LPCRECT rectangle) { ::ValidateRect(m_hWnd, rectangle); }
-    void UpdateWindow() { ::UpdateWindow(m_hWnd); }
-    BOOL RedrawWindow(LPCRECT rectangle = nullptr, HRGN region = nullptr,
-                      UINT flags = RDW_INVALIDATE | RDW_UPDATENOW | RDW_ERASE);
     void SetRedraw(BOOL redraw = TRUE) { SendMessage(WM_SETREDRAW, static_cast<WPARAM>(redraw), 0); }
 
-    // --- messages, focus, timers -------------------------------------------
+    // --- messages, focus ------------------------------------------------------
     LRESULT SendMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const
     {
         return ::SendMessageW(m_hWnd, message, wParam, lParam);
@@ -115,16 +89,6 @@ class CWnd : public CCmdTarget
         return ::PostMessageW(m_hWnd, message, wParam, lParam);
     }
     CWnd* SetFocus() { return FromHandle(::SetFocus(m_hWnd)); }
-    static CWnd* GetFocus() { return FromHandle(::GetFocus()); }
-    static CWnd* GetActiveWindow() { return FromHandle(::GetActiveWindow()); }
-    BOOL SetForegroundWindow() { return ::SetForegroundWindow(m_hWnd); }
-    UINT_PTR SetTimer(UINT_PTR id, UINT milliseconds)
-    {
-        return ::SetTimer(m_hWnd, id, milliseconds, nullptr);
-    }
-    BOOL KillTimer(UINT_PTR id) { return ::KillTimer(m_hWnd, id); }
-    /// A message box owned by this window, through the one door of AfxShowMessageBox.
-    int MessageBox(const ov::Text& text, const ov::Text& caption, UINT type = MB_OK) const;
 
     // --- scrolling -----------------------------------------------------------
     BOOL GetScrollInfo(int bar, SCROLLINFO* info, UINT mask = SIF_ALL) const;
@@ -142,14 +106,7 @@ class CWnd : public CCmdTarget
     }
 
     // --- controls by id --------------------------------------------------------
-    void CheckDlgButton(int id, UINT state) { ::CheckDlgButton(m_hWnd, id, state); }
-    UINT IsDlgButtonChecked(int id) const { return ::IsDlgButtonChecked(m_hWnd, id); }
-    void CheckRadioButton(int first, int last, int checked)
-    {
-        ::CheckRadioButton(m_hWnd, first, last, checked);
-    }
     ov::Text GetDlgItemText(int id) const;
-    void SetDlgItemText(int id, const ov::Text& text) { ::SetDlgItemTextW(m_hWnd, id, Wide(text)); }
 
     // --- data exchange ---------------------------------------------------------
     /// Moves values from the controls into the members (TRUE) or back. While it
@@ -163,7 +120,6 @@ class CWnd : public CCmdTarget
     /// Lets the permanent objects from the message's window up to `stop` look at
     /// the message, innermost first.
     static BOOL WalkPreTranslateTree(HWND stop, MSG* message);
-    BOOL IsDialogMessage(MSG* message) { return ::IsDialogMessageW(m_hWnd, message); }
     /// Dispatches messages until EndModalLoop; returns its result. At WM_QUIT the
     /// loop ends as if cancelled, and the message is posted again for the loop
     /// outside.
@@ -181,8 +137,6 @@ class CWnd : public CCmdTarget
     virtual LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam);
     /// The default handling of the message that is being handled.
     LRESULT Default();
-    /// The message that is being handled.
-    static const MSG* GetCurrentMessage();
 
     virtual void DoDataExchange(CDataExchange*) {}
     /// Called when the object is bound, before the window's messages are taken over.
@@ -197,7 +151,6 @@ class CWnd : public CCmdTarget
     void OnDestroy() { Default(); }
     void OnSize(UINT, int, int) { Default(); }
     void OnPaint() { Default(); }
-    void OnClose() { Default(); }
     BOOL OnEraseBkgnd(CDC*) { return Default() != 0; }
     void OnSysCommand(UINT, LPARAM) { Default(); }
     void OnGetMinMaxInfo(MINMAXINFO*) { Default(); }
@@ -205,7 +158,6 @@ class CWnd : public CCmdTarget
     void OnHScroll(UINT, UINT, CWnd*) { Default(); }
     void OnVScroll(UINT, UINT, CWnd*) { Default(); }
     BOOL OnMouseWheel(UINT, short, CPoint) { return Default() != 0; }
-    void OnTimer(UINT_PTR) { Default(); }
 
     bool m_continueModal = false; ///< a modal loop runs or may begin
     int m_nModalResult = -1;      ///< what EndModalLoop was given, else -1
@@ -213,9 +165,9 @@ class CWnd : public CCmdTarget
   private:
     friend class CCreationHook;
     friend LRESULT CALLBACK AfxWndProc(HWND, UINT, WPARAM, LPARAM);
-    explicit CWnd(HWND place) : m_hWnd(place) {}
-    /// Attach, PreSubclassWindow, then the window procedure.
-    void Bind(HWND window);
+    /// Attach, PreSubclassWindow, then the window procedure. False, and nothing
+    /// bound, when Attach refuses; the same before PreSubclassWindow's exception.
+    bool Bind(HWND window);
     void FinishNcDestroy();
 
     WNDPROC m_superWndProc = nullptr;
@@ -226,6 +178,10 @@ inline HWND AfxSafeHwnd(const CWnd* window)
 {
     return window != nullptr ? window->m_hWnd : nullptr;
 }
+
+/// Whether a window is of the class, whose name is compared without regard to
+/// case; false for null.
+bool AfxIsOfClass(HWND window, LPCWSTR className);
 
 /// Registers a plain window class of the framework's, once for each combination;
 /// its name.

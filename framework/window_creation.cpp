@@ -1,3 +1,4 @@
+#include "framework/exceptions.h"
 #include "framework/module_state.h"
 #include "framework/thread_state.h"
 
@@ -14,9 +15,7 @@ bool IsInputMethodWindow(HWND window)
 {
     if ((::GetClassLongPtrW(window, GCL_STYLE) & CS_IME) != 0)
         return true;
-    wchar_t name[8] = L"";
-    ::GetClassNameW(window, name, 8);
-    return ::lstrcmpiW(name, L"ime") == 0;
+    return AfxIsOfClass(window, L"ime");
 }
 
 std::set<std::wstring>& RegisteredClasses()
@@ -26,27 +25,20 @@ std::set<std::wstring>& RegisteredClasses()
 }
 } // namespace
 
+LRESULT CALLBACK CCreationHook::HookProc(int code, WPARAM wParam, LPARAM lParam)
+{
+    AFX_THREAD_STATE& state = AfxGetThreadState();
+    const auto created = reinterpret_cast<HWND>(wParam);
+    if (code == HCBT_CREATEWND && state.creation != nullptr && !IsInputMethodWindow(created)) {
+        if (!std::exchange(state.creation, nullptr)->Meet(created))
+            return 1;
+    }
+    return ::CallNextHookEx(nullptr, code, wParam, lParam);
+}
+
 CCreationHook::CCreationHook(CWnd* window)
-    : m_pending(AfxGetThreadState().windowBeingCreated, window),
-      m_hook(::SetWindowsHookExW(
-          WH_CBT,
-          [](int code, WPARAM wParam, LPARAM lParam) -> LRESULT {
-              AFX_THREAD_STATE& state = AfxGetThreadState();
-              const auto created = reinterpret_cast<HWND>(wParam);
-              if (code == HCBT_CREATEWND && state.windowBeingCreated != nullptr &&
-                  !IsInputMethodWindow(created)) {
-                  CWnd* const object = std::exchange(state.windowBeingCreated, nullptr);
-                  // Nothing may unwind through the system: a refusal makes the
-                  // creation fail instead.
-                  try {
-                      object->Bind(created);
-                  } catch (...) {
-                      return 1;
-                  }
-              }
-              return ::CallNextHookEx(nullptr, code, wParam, lParam);
-          },
-          nullptr, ::GetCurrentThreadId()))
+    : m_window(window), m_pending(AfxGetThreadState().creation, this),
+      m_hook(::SetWindowsHookExW(WH_CBT, &HookProc, nullptr, ::GetCurrentThreadId()))
 {
 }
 
@@ -56,21 +48,46 @@ CCreationHook::~CCreationHook()
         ::UnhookWindowsHookEx(m_hook);
 }
 
-bool CCreationHook::IsBound() const
+bool CCreationHook::Meet(HWND window) noexcept
 {
-    return AfxGetThreadState().windowBeingCreated == nullptr;
+    // Nothing may unwind through the system: a refusal makes the creation fail
+    // instead.
+    try {
+        m_bound = m_window->Bind(window);
+    } catch (...) {
+        m_failure = std::current_exception();
+    }
+    return m_bound;
+}
+
+bool CCreationHook::Finish(HWND created) const
+{
+    if (m_bound)
+        return true;
+    if (created != nullptr)
+        ::DestroyWindow(created);
+    if (m_failure != nullptr) {
+        try {
+            std::rethrow_exception(m_failure);
+        } catch (...) {
+            AfxReportCurrentException();
+        }
+    }
+    return false;
 }
 
 BOOL CWnd::CreateEx(DWORD exStyle, LPCWSTR className, LPCWSTR text, DWORD style, int x, int y, int width,
                     int height, HWND parent, HMENU menuOrId)
 {
+    if (m_hWnd != nullptr)
+        return FALSE;
     if (className == nullptr)
         className = AfxRegisterWndClass(0, ::LoadCursorW(nullptr, IDC_ARROW));
     {
         const CCreationHook hook(this);
         const HWND created = ::CreateWindowExW(exStyle, className, text, style, x, y, width, height, parent,
                                                menuOrId, AfxGetInstanceHandle(), nullptr);
-        if (hook.IsBound())
+        if (hook.Finish(created))
             return created != nullptr;
     }
     // The window never existed: what follows its end is still owed.

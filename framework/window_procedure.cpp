@@ -23,7 +23,6 @@ LRESULT ResultAfterException(const MSG& message)
         ::ValidateRect(message.hwnd, nullptr);
         return 0;
     case WM_COMMAND:
-    case WM_INITDIALOG:
         return TRUE;
     default:
         return 0;
@@ -145,9 +144,4 @@ LRESULT CWnd::Default()
 {
     const MSG& current = AfxGetThreadState().currentMessage;
     return DefWindowProc(current.message, current.wParam, current.lParam);
-}
-
-const MSG* CWnd::GetCurrentMessage()
-{
-    return &AfxGetThreadState().currentMessage;
 }

@@ -1,21 +1,5 @@
 #include "wizard/page_scroller.h"
 
-#include <iterator>
-
-namespace
-{
-
-// Spin buttons tell their parent about presses by the vertical scroll message.
-bool IsSpinButton(const CWnd* window)
-{
-    wchar_t name[32];
-    return AfxSafeHwnd(window) != nullptr &&
-           ::GetClassNameW(window->m_hWnd, name, static_cast<int>(std::size(name))) != 0 &&
-           ::lstrcmpiW(name, UPDOWN_CLASSW) == 0;
-}
-
-} // namespace
-
 CPageScroller::CPageScroller(CWnd& page, CSize displaySize) : m_page(page)
 {
     m_horizontal.displaySize = displaySize.cx;
@@ -119,7 +103,8 @@ void CPageScroller::OnHScroll(UINT code, const CWnd*)
 
 void CPageScroller::OnVScroll(UINT code, const CWnd* sender)
 {
-    if (!IsSpinButton(sender))
+    // Spin buttons tell their parent about presses by the vertical scroll message.
+    if (!AfxIsOfClass(AfxSafeHwnd(sender), UPDOWN_CLASSW))
         Request(SB_VERT, static_cast<ov::ScrollRequest>(code));
 }
 

@@ -67,10 +67,10 @@ TEST_F(DataExchange, MovesTextsBothWays)
     m_dialog.m_text = u"shown";
     EXPECT_TRUE(m_dialog.UpdateData(FALSE));
     EXPECT_EQ(u"shown", m_dialog.GetDlgItemText(IDC_FIELDS_EDIT));
-    m_dialog.SetDlgItemText(IDC_FIELDS_EDIT, u"  typed ");
+    ::SetDlgItemTextW(m_dialog, IDC_FIELDS_EDIT, L"  typed ");
     EXPECT_TRUE(m_dialog.UpdateData());
     EXPECT_EQ(u"  typed ", m_dialog.m_text);
-    m_dialog.SetDlgItemText(IDC_FIELDS_EDIT, u"");
+    ::SetDlgItemTextW(m_dialog, IDC_FIELDS_EDIT, L"");
     m_dialog.UpdateData();
     EXPECT_EQ(u"", m_dialog.m_text);
 }
@@ -99,13 +99,9 @@ TEST_F(DataExchange, EqualTextIsNotSetAgain)
 {
     m_dialog.m_text = u"caret";
     m_dialog.UpdateData(FALSE);
-    m_dialog.m_edit.SetSel(2, 4);
+    m_dialog.m_edit.SendMessage(EM_SETSEL, 2, 4);
     m_dialog.UpdateData(FALSE);
-    int start = 0;
-    int end = 0;
-    m_dialog.m_edit.GetSel(start, end);
-    EXPECT_EQ(2, start);
-    EXPECT_EQ(4, end);
+    EXPECT_EQ(MAKELRESULT(2, 4), m_dialog.m_edit.SendMessage(EM_GETSEL));
 }
 
 TEST_F(DataExchange, MovesChecks)
@@ -113,7 +109,7 @@ TEST_F(DataExchange, MovesChecks)
     for (const int value : {BST_CHECKED, BST_UNCHECKED}) {
         m_dialog.m_check = value;
         m_dialog.UpdateData(FALSE);
-        EXPECT_EQ(static_cast<UINT>(value), m_dialog.IsDlgButtonChecked(IDC_FIELDS_CHECK));
+        EXPECT_EQ(static_cast<UINT>(value), ::IsDlgButtonChecked(m_dialog, IDC_FIELDS_CHECK));
         m_dialog.m_check = 77;
         m_dialog.UpdateData();
         EXPECT_EQ(value, m_dialog.m_check);
@@ -127,7 +123,7 @@ TEST_F(DataExchange, RadioIsAnIndexWithinItsGroup)
         m_dialog.m_radio = index;
         m_dialog.UpdateData(FALSE);
         for (int button = 0; button < 3; ++button)
-            EXPECT_EQ(button == index ? 1u : 0u, m_dialog.IsDlgButtonChecked(ids[button]));
+            EXPECT_EQ(button == index ? 1u : 0u, ::IsDlgButtonChecked(m_dialog, ids[button]));
         m_dialog.m_radio = 77;
         m_dialog.UpdateData();
         EXPECT_EQ(index, m_dialog.m_radio);
@@ -140,7 +136,7 @@ TEST_F(DataExchange, RadioIsMinusOneWhenNoneIsChecked)
     m_dialog.UpdateData(FALSE);
     m_dialog.m_radio = -1;
     m_dialog.UpdateData(FALSE);
-    EXPECT_EQ(0u, m_dialog.IsDlgButtonChecked(IDC_FIELDS_RADIO_2));
+    EXPECT_EQ(0u, ::IsDlgButtonChecked(m_dialog, IDC_FIELDS_RADIO_2));
     m_dialog.m_radio = 77;
     m_dialog.UpdateData();
     EXPECT_EQ(-1, m_dialog.m_radio);
@@ -158,21 +154,6 @@ TEST_F(DataExchange, ComboIndexPastTheEndSelectsNothing)
     EXPECT_EQ(-1, m_dialog.m_choice);
 }
 
-TEST_F(DataExchange, ComboStringSelectsTheEqualEntry)
-{
-    CDataExchange show(&m_dialog, FALSE);
-    CDataExchange save(&m_dialog, TRUE);
-    ov::Text text = u"beta";
-    DDX_CBString(&show, IDC_FIELDS_COMBO, text);
-    text.clear();
-    DDX_CBString(&save, IDC_FIELDS_COMBO, text);
-    EXPECT_EQ(u"beta", text);
-    text = u"unknown";
-    DDX_CBString(&show, IDC_FIELDS_COMBO, text);
-    DDX_CBString(&save, IDC_FIELDS_COMBO, text);
-    EXPECT_EQ(u"", text);
-}
-
 TEST_F(DataExchange, NotificationsAreLockedOutWhileItRuns)
 {
     m_dialog.m_log.clear();
@@ -180,7 +161,7 @@ TEST_F(DataExchange, NotificationsAreLockedOutWhileItRuns)
     m_dialog.m_text = u"new";
     m_dialog.UpdateData(FALSE);
     EXPECT_EQ(EventLog{}, m_dialog.m_log);
-    m_dialog.SetDlgItemText(IDC_FIELDS_EDIT, u"newer");
+    ::SetDlgItemTextW(m_dialog, IDC_FIELDS_EDIT, L"newer");
     ClickNotification();
     EXPECT_EQ((EventLog{"text changed", "notified"}), m_dialog.m_log);
 }
@@ -190,7 +171,7 @@ TEST_F(DataExchange, OtherWindowsAreNotLockedOut)
     CFields other;
     other.Create(IDD_FIELDS);
     other.m_log.clear();
-    m_dialog.m_during = [&](CDataExchange*) { other.SetDlgItemText(IDC_FIELDS_EDIT, u"x"); };
+    m_dialog.m_during = [&](CDataExchange*) { ::SetDlgItemTextW(other, IDC_FIELDS_EDIT, L"x"); };
     m_dialog.UpdateData(FALSE);
     EXPECT_EQ((EventLog{"text changed"}), other.m_log);
 }
@@ -202,7 +183,7 @@ TEST_F(DataExchange, LockOutlastsAnInnerExchangeOfAnotherWindow)
     m_dialog.m_log.clear();
     m_dialog.m_during = [&](CDataExchange*) {
         other.UpdateData(FALSE);
-        m_dialog.SetDlgItemText(IDC_FIELDS_EDIT, u"x");
+        ::SetDlgItemTextW(m_dialog, IDC_FIELDS_EDIT, L"x");
     };
     m_dialog.UpdateData(FALSE);
     EXPECT_EQ(EventLog{}, m_dialog.m_log);
@@ -213,25 +194,21 @@ TEST_F(DataExchange, LockEndsWithAnException)
     m_dialog.m_during = [](CDataExchange*) { throw std::runtime_error("interrupted"); };
     EXPECT_THROW(m_dialog.UpdateData(FALSE), std::runtime_error);
     m_dialog.m_log.clear();
-    m_dialog.SetDlgItemText(IDC_FIELDS_EDIT, u"x");
+    ::SetDlgItemTextW(m_dialog, IDC_FIELDS_EDIT, L"x");
     EXPECT_EQ((EventLog{"text changed"}), m_dialog.m_log);
 }
 
 TEST_F(DataExchange, RefusedValueMakesItFalse)
 {
     m_dialog.ShowWindow(SW_SHOW);
-    m_dialog.SetDlgItemText(IDC_FIELDS_EDIT, u"wrong");
+    ::SetDlgItemTextW(m_dialog, IDC_FIELDS_EDIT, L"wrong");
     m_dialog.m_during = [](CDataExchange* exchange) {
         exchange->PrepareEditCtrl(IDC_FIELDS_EDIT);
         exchange->Fail();
     };
     EXPECT_FALSE(m_dialog.UpdateData());
     EXPECT_EQ(m_dialog.m_edit.m_hWnd, ::GetFocus());
-    int start = 0;
-    int end = 0;
-    m_dialog.m_edit.GetSel(start, end);
-    EXPECT_EQ(0, start);
-    EXPECT_EQ(5, end);
+    EXPECT_EQ(MAKELRESULT(0, 5), m_dialog.m_edit.SendMessage(EM_GETSEL));
     m_dialog.m_during = nullptr;
     EXPECT_TRUE(m_dialog.UpdateData());
 }

@@ -73,7 +73,7 @@ TEST(Exceptions, HandlerFailureIsToldAndTheLoopGoesOn)
     EXPECT_EQ(scriptEnded, dialog.DoModal());
     ASSERT_EQ(3u, hook.m_boxes.size());
     EXPECT_EQ(u"Gr\u00F6\u00DFe", hook.m_boxes[0].text);
-    EXPECT_EQ(u"Framework Tests", hook.m_boxes[0].caption);
+    EXPECT_EQ(u"framework_tests", hook.m_boxes[0].caption);
     EXPECT_EQ(static_cast<UINT>(MB_OK | MB_ICONSTOP), hook.m_boxes[0].type);
     EXPECT_EQ(u"An unexpected error has occurred.", hook.m_boxes[1].text);
     EXPECT_EQ(u"in the loop", hook.m_boxes[2].text);
@@ -114,7 +114,7 @@ TEST(Exceptions, FailedPaintingIsNotRepeated)
     dialog.Then([&] {
         dialog.m_failPaint = true;
         dialog.m_paints = 0;
-        dialog.RedrawWindow();
+        ::RedrawWindow(dialog, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ERASE);
     });
     dialog.Then([&] {
         EXPECT_FALSE(::GetUpdateRect(dialog, nullptr, FALSE));
@@ -125,17 +125,33 @@ TEST(Exceptions, FailedPaintingIsNotRepeated)
     EXPECT_EQ(1u, hook.m_boxes.size());
 }
 
-TEST(Exceptions, DialogGoesOnAfterAFailedInitialisation)
+TEST(Exceptions, FailedInitialisationEndsTheDialog)
 {
     CRecordingHook hook;
     CFailing dialog;
     dialog.m_onInit = [] { throw std::runtime_error("init"); };
-    bool shown = false;
-    dialog.Then([&] { shown = dialog.IsWindowVisible() != FALSE; });
-    EXPECT_EQ(scriptEnded, dialog.DoModal());
-    EXPECT_TRUE(shown);
+    bool looped = false;
+    dialog.Then([&] { looped = true; });
+    EXPECT_EQ(-1, dialog.DoModal());
+    EXPECT_FALSE(looped);
+    EXPECT_EQ(nullptr, dialog.m_hWnd);
     ASSERT_EQ(1u, hook.m_boxes.size());
     EXPECT_EQ(u"init", hook.m_boxes[0].text);
+    EXPECT_EQ(static_cast<UINT>(MB_OK | MB_ICONSTOP), hook.m_boxes[0].type);
+}
+
+TEST(Exceptions, FailedInitialisationMakesNoModelessDialog)
+{
+    CRecordingHook hook;
+    CHostWindow host;
+    CFailing page;
+    page.m_onInit = [] { throw std::runtime_error("init"); };
+    EXPECT_FALSE(page.Create(IDD_INNER, &host));
+    EXPECT_EQ(nullptr, page.m_hWnd);
+    EXPECT_EQ(nullptr, ::GetWindow(host, GW_CHILD));
+    EXPECT_EQ(1u, hook.m_boxes.size());
+    page.m_onInit = nullptr;
+    EXPECT_TRUE(page.Create(IDD_INNER, &host)) << "the next time it may succeed";
 }
 
 TEST(Exceptions, FailureWhileOneIsToldOpensNoSecondBox)

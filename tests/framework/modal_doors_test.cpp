@@ -3,6 +3,24 @@
 
 #include <gtest/gtest.h>
 
+namespace
+{
+bool folderVisited = false;
+
+/// A chooser's hook: goes to another folder, as the chooser does while it is
+/// open, and cancels it.
+UINT_PTR CALLBACK VisitWindowsFolder(HWND window, UINT message, WPARAM, LPARAM lParam)
+{
+    if (message != WM_NOTIFY || reinterpret_cast<const NMHDR*>(lParam)->code != CDN_INITDONE)
+        return 0;
+    wchar_t folder[MAX_PATH] = L"";
+    ::GetWindowsDirectoryW(folder, MAX_PATH);
+    folderVisited = ::SetCurrentDirectoryW(folder) != FALSE;
+    ::PostMessageW(::GetParent(window), WM_COMMAND, IDCANCEL, 0);
+    return 0;
+}
+} // namespace
+
 TEST(ModalDoors, MessageBoxGoesThroughTheHook)
 {
     CRecordingHook hook;
@@ -22,14 +40,54 @@ TEST(ModalDoors, AllMessageBoxesShareTheDoor)
     CHostWindow host;
     const CMainWindowScope scope(&host);
     AfxMessageBox(u"plain");
-    AfxMessageBox(IDS_GREETING, MB_ICONWARNING);
-    host.MessageBox(u"own", u"mine");
-    ASSERT_EQ(3u, hook.m_boxes.size());
-    EXPECT_EQ(u"Framework Tests", hook.m_boxes[0].caption);
+    theTestApp.DoMessageBox(u"application's", MB_ICONWARNING);
+    ASSERT_EQ(2u, hook.m_boxes.size());
+    EXPECT_EQ(u"framework_tests", hook.m_boxes[0].caption);
     EXPECT_EQ(host.m_hWnd, hook.m_boxes[0].owner);
-    EXPECT_EQ(u"Good morning", hook.m_boxes[1].text);
+    EXPECT_EQ(u"application's", hook.m_boxes[1].text);
     EXPECT_EQ(static_cast<UINT>(MB_ICONWARNING), hook.m_boxes[1].type);
-    EXPECT_EQ(u"mine", hook.m_boxes[2].caption);
+}
+
+TEST(ModalDoors, ChildOwnerStandsForItsTopLevelWindow)
+{
+    CRecordingHook hook;
+    CHostWindow host;
+    CWnd child;
+    ASSERT_TRUE(child.Create(L"EDIT", L"", 0, CRect(0, 0, 50, 20), &host, 1));
+    AfxShowMessageBox(child, u"text", u"caption", MB_OK);
+    AfxShowMessageBox(nullptr, u"text", u"caption", MB_OK);
+    ASSERT_EQ(2u, hook.m_boxes.size());
+    EXPECT_EQ(host.m_hWnd, hook.m_boxes[0].owner);
+    EXPECT_EQ(nullptr, hook.m_boxes[1].owner) << "a box over nothing stays one";
+}
+
+TEST(ModalDoors, OwnerThatIsNoWindowIsPassedOver)
+{
+    CHostWindow host;
+    HWND gone = nullptr;
+    {
+        const CHostWindow other;
+        gone = other.m_hWnd;
+    }
+    ASSERT_FALSE(::IsWindow(gone));
+    const CMainWindowScope scope(&host);
+    EXPECT_EQ(host.m_hWnd, AfxGetModalOwner(gone));
+    EXPECT_EQ(host.m_hWnd, AfxGetModalOwner(nullptr));
+}
+
+TEST(ModalDoors, FileChooserLeavesTheCurrentDirectory)
+{
+    const auto currentDirectory = [] {
+        wchar_t path[MAX_PATH] = L"";
+        ::GetCurrentDirectoryW(MAX_PATH, path);
+        return FromWide(path);
+    };
+    const ov::Text before = currentDirectory();
+    CFileDialog chooser(TRUE, nullptr, nullptr, OFN_ENABLEHOOK);
+    chooser.m_ofn.lpfnHook = &VisitWindowsFolder;
+    EXPECT_EQ(IDCANCEL, chooser.DoModal());
+    EXPECT_TRUE(folderVisited);
+    EXPECT_EQ(before, currentDirectory());
 }
 
 TEST(ModalDoors, FileChooserAsksAndTakesTheAnswer)

@@ -14,7 +14,7 @@ class CWatchedHost : public CWnd
     CWatchedHost()
     {
         CreateEx(0, nullptr, L"Host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, CRect(10, 10, 410, 310), nullptr, 0);
-        m_edit.Create(WS_VISIBLE, CRect(0, 0, 100, 20), this, 5);
+        m_edit.Create(L"EDIT", L"", WS_VISIBLE, CRect(0, 0, 100, 20), this, 5);
     }
     CEdit m_edit;
 

@@ -1,4 +1,5 @@
 #include "framework/thread_state.h"
+#include "tests/framework/recording_hook.h"
 #include "tests/framework/script_dialog.h"
 
 #include <gtest/gtest.h>
@@ -108,7 +109,32 @@ TEST(ModuleState, FailedInitialisationIsTriedAgain)
     for (const int calls : {1, 2, 2}) {
         AFX_MANAGE_STATE(&other);
         EXPECT_EQ(calls, application.m_calls);
+        EXPECT_EQ(calls > 1, AfxModuleReady());
     }
+}
+
+TEST(ModuleState, ExceptionInTheInitialisationIsToldAndSeen)
+{
+    struct ThrowingApp : CWinApp {
+        BOOL InitInstance() override { throw std::runtime_error("not today"); }
+    };
+    AFX_MODULE_STATE other{};
+    other.instance = AfxGetStaticModuleState()->instance;
+    other.resources = other.instance;
+    ThrowingApp application;
+    AfxGetStaticModuleState()->application = &theTestApp;
+    other.application = &application;
+    CRecordingHook hook;
+    const HANDLE before = CurrentContext();
+    {
+        AFX_MANAGE_STATE(&other);
+        EXPECT_FALSE(AfxModuleReady());
+        EXPECT_NE(before, CurrentContext());
+    }
+    EXPECT_EQ(before, CurrentContext());
+    ::ReleaseActCtx(other.context);
+    ASSERT_EQ(1u, hook.m_boxes.size());
+    EXPECT_EQ(u"not today", hook.m_boxes[0].text);
 }
 
 TEST(ModuleState, BelongsToTheThread)

@@ -20,11 +20,11 @@ TEST(Object, KnowsItsClassAndTheClassesAbove)
 {
     const CDerivedThing thing;
     EXPECT_STREQ("CDerivedThing", thing.GetRuntimeClass()->m_lpszClassName);
-    EXPECT_TRUE(thing.IsKindOf(RUNTIME_CLASS(CDerivedThing)));
-    EXPECT_TRUE(thing.IsKindOf(RUNTIME_CLASS(CBaseThing)));
+    EXPECT_TRUE(thing.IsKindOf(CDerivedThing::GetThisClass()));
+    EXPECT_TRUE(thing.IsKindOf(CBaseThing::GetThisClass()));
     EXPECT_TRUE(thing.IsKindOf(&CObject::classCObject));
-    EXPECT_FALSE(CBaseThing().IsKindOf(RUNTIME_CLASS(CDerivedThing)));
-    EXPECT_FALSE(thing.IsKindOf(RUNTIME_CLASS(CWnd)));
+    EXPECT_FALSE(CBaseThing().IsKindOf(CDerivedThing::GetThisClass()));
+    EXPECT_FALSE(thing.IsKindOf(CWnd::GetThisClass()));
 }
 
 TEST(Object, DowncastGivesTheObjectOrNull)
@@ -41,9 +41,9 @@ TEST(Object, DowncastGivesTheObjectOrNull)
 
 TEST(Object, ControlsFormTheExpectedTree)
 {
-    EXPECT_TRUE(CDialog().IsKindOf(RUNTIME_CLASS(CWnd)));
-    EXPECT_TRUE(CListCtrl().IsKindOf(RUNTIME_CLASS(CWnd)));
-    EXPECT_TRUE(CWnd().IsKindOf(RUNTIME_CLASS(CCmdTarget)));
-    EXPECT_FALSE(CEdit().IsKindOf(RUNTIME_CLASS(CButton)));
-    EXPECT_TRUE(CFont().IsKindOf(RUNTIME_CLASS(CGdiObject)));
+    EXPECT_TRUE(CDialog().IsKindOf(CWnd::GetThisClass()));
+    EXPECT_TRUE(CListCtrl().IsKindOf(CWnd::GetThisClass()));
+    EXPECT_TRUE(CWnd().IsKindOf(CCmdTarget::GetThisClass()));
+    EXPECT_FALSE(CEdit().IsKindOf(CButton::GetThisClass()));
+    EXPECT_TRUE(CFont().IsKindOf(CGdiObject::GetThisClass()));
 }

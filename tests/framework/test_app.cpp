@@ -1,6 +1,6 @@
 #include "tests/framework/test_app.h"
 
-CTestApp theTestApp(L"Framework Tests");
+CTestApp theTestApp;
 
 BOOL CTestApp::InitInstance()
 {

@@ -6,7 +6,6 @@
 class CTestApp : public CWinApp
 {
   public:
-    using CWinApp::CWinApp;
     BOOL InitInstance() override;
     int ExitInstance() override;
 

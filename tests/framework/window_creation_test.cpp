@@ -1,8 +1,10 @@
+#include "tests/framework/recording_hook.h"
 #include "tests/framework/script_dialog.h"
 
 #include <gtest/gtest.h>
 
 #include <map>
+#include <stdexcept>
 
 namespace
 {
@@ -73,7 +75,7 @@ TEST_F(WindowCreation, ObjectSeesEveryMessageFromTheFirst)
     EXPECT_EQ(
         (EventLog{"PreSubclassWindow", "WM_NCCREATE", "WM_NCCALCSIZE", "WM_CREATE", "WM_SIZE", "WM_MOVE"}),
         child.m_log);
-    EXPECT_EQ(3, child.GetDlgCtrlID());
+    EXPECT_EQ(3, ::GetDlgCtrlID(child));
     EXPECT_EQ(&m_parent, child.GetParent());
 }
 
@@ -119,6 +121,52 @@ TEST_F(WindowCreation, RefusedCreationLeavesNothing)
     EXPECT_EQ(nullptr, child.m_hWnd);
     EXPECT_EQ("PostNcDestroy", child.m_log.back());
     EXPECT_EQ(nullptr, ::GetWindow(m_parent, GW_CHILD));
+}
+
+TEST_F(WindowCreation, RefusedBindingMakesNoWindow)
+{
+    class CRefusing : public CWnd
+    {
+      public:
+        HWND m_seen = nullptr;
+        int m_ends = 0;
+
+      protected:
+        void PreSubclassWindow() override
+        {
+            m_seen = m_hWnd;
+            throw std::runtime_error("refused");
+        }
+        void PostNcDestroy() override { ++m_ends; }
+    };
+    CRecordingHook hook;
+    CRefusing child;
+    EXPECT_FALSE(child.Create(nullptr, L"", 0, CRect(5, 5, 50, 50), &m_parent, 3));
+    ASSERT_NE(nullptr, child.m_seen);
+    EXPECT_EQ(nullptr, child.m_hWnd);
+    EXPECT_EQ(nullptr, CWnd::FromHandlePermanent(child.m_seen));
+    EXPECT_EQ(nullptr, ::GetWindow(m_parent, GW_CHILD));
+    EXPECT_EQ(1, child.m_ends);
+    ASSERT_EQ(1u, hook.m_boxes.size());
+    EXPECT_EQ(u"refused", hook.m_boxes[0].text);
+
+    const HWND plain =
+        ::CreateWindowExW(0, L"EDIT", L"", WS_CHILD, 0, 0, 9, 9, m_parent, nullptr, nullptr, nullptr);
+    const LONG_PTR procedure = ::GetWindowLongPtrW(plain, GWLP_WNDPROC);
+    EXPECT_THROW(child.SubclassWindow(plain), std::runtime_error);
+    EXPECT_EQ(nullptr, CWnd::FromHandlePermanent(plain));
+    EXPECT_EQ(nullptr, child.m_hWnd);
+    EXPECT_EQ(procedure, ::GetWindowLongPtrW(plain, GWLP_WNDPROC));
+}
+
+TEST_F(WindowCreation, ObjectWithAWindowGetsNoSecondOne)
+{
+    CWnd child;
+    ASSERT_TRUE(child.Create(nullptr, L"", 0, CRect(5, 5, 50, 50), &m_parent, 3));
+    const HWND first = child.m_hWnd;
+    EXPECT_FALSE(child.Create(nullptr, L"", 0, CRect(5, 5, 50, 50), &m_parent, 4));
+    EXPECT_EQ(first, child.m_hWnd);
+    EXPECT_EQ(nullptr, ::GetDlgItem(m_parent, 4));
 }
 
 TEST_F(WindowCreation, UnknownClassIsReported)
@@ -171,15 +219,11 @@ TEST_F(WindowCreation, WrappersDoWhatTheySay)
     EXPECT_EQ(CRect(0, 0, 10, 20), place);
     child.SetWindowText(u"two");
     EXPECT_EQ(u"two", child.GetWindowText());
-    child.SetWindowText(L"");
+    child.SetWindowText({});
     EXPECT_EQ(u"", child.GetWindowText());
-    EXPECT_TRUE(child.ModifyStyle(0, WS_TABSTOP));
-    EXPECT_FALSE(child.ModifyStyle(0, WS_TABSTOP));
-    EXPECT_NE(0u, child.GetStyle() & WS_TABSTOP);
     EXPECT_FALSE(child.EnableWindow(FALSE));
     EXPECT_FALSE(child.IsWindowEnabled());
     EXPECT_EQ(&child, m_parent.GetDlgItem(3));
-    EXPECT_TRUE(m_parent.IsChild(&child));
 
     SCROLLINFO info{};
     info.fMask = SIF_RANGE | SIF_PAGE | SIF_POS;

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <thread>
+
 namespace
 {
 class WindowMap : public testing::Test
@@ -115,6 +117,33 @@ TEST_F(WindowMap, SubclassingTakesMessagesOverAndGivesThemBack)
     EXPECT_EQ(plain, edit.UnsubclassWindow());
     EXPECT_EQ(procedure, ::GetWindowLongPtrW(plain, GWLP_WNDPROC));
     EXPECT_EQ(nullptr, CWnd::FromHandlePermanent(plain));
+}
+
+TEST_F(WindowMap, LaterProcedureOutlivesTheObject)
+{
+    const HWND plain =
+        ::CreateWindowExW(0, L"EDIT", L"text", WS_CHILD, 0, 0, 10, 10, m_window, nullptr, nullptr, nullptr);
+    CEdit edit;
+    ASSERT_TRUE(edit.SubclassWindow(plain));
+    const WNDPROC later = [](HWND window, UINT message, WPARAM wParam, LPARAM lParam) -> LRESULT {
+        return message == WM_APP ? 42 : ::DefWindowProcW(window, message, wParam, lParam);
+    };
+    ::SetWindowLongPtrW(plain, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(later));
+    EXPECT_EQ(plain, edit.UnsubclassWindow());
+    EXPECT_EQ(42, ::SendMessageW(plain, WM_APP, 0, 0));
+    EXPECT_EQ(nullptr, CWnd::FromHandlePermanent(plain));
+}
+
+TEST_F(WindowMap, AskingMakesNoThreadState)
+{
+    bool made = true;
+    std::thread([&made] {
+        EXPECT_EQ(nullptr, CWnd::FromHandlePermanent(::GetDesktopWindow()));
+        AfxDeleteTempMap();
+        EXPECT_EQ(&theTestApp, AfxGetApp());
+        made = AfxPeekThreadState() != nullptr;
+    }).join();
+    EXPECT_FALSE(made);
 }
 
 TEST_F(WindowMap, EndIsToldInOrderHoweverItComes)

@@ -70,7 +70,7 @@ CSize ClientSize(const CWnd& window)
 {
     CRect client;
     window.GetClientRect(&client);
-    return client.Size();
+    return {client.Width(), client.Height()};
 }
 
 void ResizeClient(CWnd& window, int width, int height)
@@ -446,7 +446,7 @@ TEST(PrefListControl, ColumnsAndRowsStandInTheirOrder)
     LayoutDialog dialog;
     ASSERT_TRUE(dialog.Open());
     CPrefListCtrl list;
-    ASSERT_TRUE(list.SubclassDlgItem(stretchedList, &dialog));
+    ASSERT_TRUE(list.SubclassWindow(::GetDlgItem(dialog.m_hWnd, stretchedList)));
     EXPECT_EQ(list.GetColumnCount(), 0);
     EXPECT_EQ(list.InsertCaptionedColumn(0, 5013, 77), 0);
     EXPECT_EQ(list.GetColumnCount(), 1);

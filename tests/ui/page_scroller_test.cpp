@@ -187,11 +187,12 @@ TEST_F(Scroller, HiddenPageReturnsToItsOriginToo)
 
 TEST(MemoryContext, ReachesTheTargetInOneTransferAtTheEnd)
 {
-    CClientDC screen(nullptr);
+    const HDC screen = ::GetDC(nullptr);
     CDC target;
-    ASSERT_TRUE(target.CreateCompatibleDC(&screen));
+    ASSERT_TRUE(target.CreateCompatibleDC(nullptr));
     CBitmap bitmap;
-    ASSERT_TRUE(bitmap.CreateCompatibleBitmap(&screen, 40, 40));
+    ASSERT_TRUE(bitmap.CreateCompatibleBitmap(CDC::FromHandle(screen), 40, 40));
+    ::ReleaseDC(nullptr, screen);
     const HGDIOBJ previous = ::SelectObject(target.m_hDC, bitmap.GetSafeHandle());
     target.FillSolidRect(CRect(0, 0, 40, 40), RGB(255, 255, 255));
     {
