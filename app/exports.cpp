@@ -21,6 +21,8 @@ unsigned int Guarded(Work work)
 {
     try {
         AFX_MANAGE_STATE(AfxGetStaticModuleState());
+        if (!AfxModuleReady())
+            return OV_PREFERENCES_NOT_SHOWN;
         try {
             return work();
         } catch (...) {

@@ -56,8 +56,8 @@ BOOL CPreferencesApp::InitInstance()
 {
     INITCOMMONCONTROLSEX controls{sizeof controls,
                                   ICC_WIN95_CLASSES | ICC_STANDARD_CLASSES | ICC_DATE_CLASSES};
-    ::InitCommonControlsEx(&controls);
-    CWinApp::InitInstance();
+    if (!::InitCommonControlsEx(&controls) || !CWinApp::InitInstance())
+        return FALSE;
     AfxEnableControlContainer();
     SetRegistryKey(L"Orthoval Preferences");
     return TRUE;

@@ -19,9 +19,7 @@ ov::KeyTarget TargetOf(const CWnd* window)
 {
     if (window == nullptr)
         return ov::KeyTarget::None;
-    wchar_t className[16];
-    ::GetClassNameW(window->m_hWnd, className, static_cast<int>(std::size(className)));
-    if (::lstrcmpiW(className, L"Edit") != 0)
+    if (!AfxIsOfClass(window->m_hWnd, WC_EDITW))
         return ov::KeyTarget::Other;
     return (window->GetStyle() & ES_MULTILINE) != 0 ? ov::KeyTarget::MultiLineEdit
                                                     : ov::KeyTarget::SingleLineEdit;
