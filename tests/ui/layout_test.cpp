@@ -28,6 +28,19 @@ class LayoutTest : public DialogSession
         return {rect.right - rect.left, rect.bottom - rect.top};
     }
 
+    /// Resizes the dialog. A window manager's answer to an earlier size may come
+    /// late and undo this one; then it is asked for again.
+    bool ResizeTo(LONG width, LONG height)
+    {
+        return Await([&] {
+            const SIZE size = OuterSize(Dialog());
+            if (size.cx == width && size.cy == height)
+                return true;
+            Resize(Dialog(), width, height);
+            return false;
+        });
+    }
+
     SIZE ClientSize()
     {
         RECT rect = {};
@@ -98,17 +111,28 @@ TEST_F(LayoutTest, ControlsFollowTheEdges)
     ASSERT_TRUE(Open());
     const SIZE outer = OuterSize(Dialog());
     for (const auto& [dx, dy] : {std::pair{83L, 61L}, {-101L, -57L}, {200L, -40L}}) {
-        Resize(Dialog(), outer.cx, outer.cy);
-        std::vector<RECT> before;
-        for (const Rule& rule : rules)
-            before.push_back(RectIn(Control(rule.id), Dialog()));
-        Resize(Dialog(), outer.cx + dx, outer.cy + dy);
+        ASSERT_TRUE(ResizeTo(outer.cx, outer.cy));
+        std::vector<RECT> expected;
+        for (const Rule& rule : rules) {
+            const RECT before = RectIn(Control(rule.id), Dialog());
+            expected.push_back({before.left + rule.left * dx, before.top + rule.top * dy,
+                                before.right + rule.right * dx, before.bottom + rule.bottom * dy});
+        }
+        const auto inPlace = [&](std::size_t index) {
+            return expected[index] == RectIn(Control(rules[index].id), Dialog());
+        };
+        Await([&, dx = dx, dy = dy] {
+            if (!ResizeTo(outer.cx + dx, outer.cy + dy))
+                return true;
+            for (std::size_t index = 0; index < std::size(rules); ++index) {
+                if (!inPlace(index))
+                    return false;
+            }
+            return true;
+        });
         for (std::size_t index = 0; index < std::size(rules); ++index) {
-            const Rule& rule = rules[index];
-            const RECT expected = {before[index].left + rule.left * dx, before[index].top + rule.top * dy,
-                                   before[index].right + rule.right * dx,
-                                   before[index].bottom + rule.bottom * dy};
-            EXPECT_EQ(expected, RectIn(Control(rule.id), Dialog())) << "control " << rule.id;
+            EXPECT_EQ(expected[index], RectIn(Control(rules[index].id), Dialog()))
+                << "control " << rules[index].id;
         }
     }
     Cancel();
@@ -145,15 +169,16 @@ TEST_F(LayoutTest, RepeatedResizingDoesNotDrift)
     ASSERT_TRUE(Open());
     ASSERT_TRUE(ShowPage(L"Conforming"));
     const SIZE outer = OuterSize(Dialog());
-    Resize(Dialog(), outer.cx + 1, outer.cy); // so that the page is where a layout puts it
-    Resize(Dialog(), outer.cx, outer.cy);
+    // So that the page is where a layout puts it.
+    ASSERT_TRUE(ResizeTo(outer.cx + 1, outer.cy));
+    ASSERT_TRUE(ResizeTo(outer.cx, outer.cy));
     const auto before = AllRectangles();
     std::mt19937 random(20040229);
     std::uniform_int_distribution<int> width(580, 1250);
     std::uniform_int_distribution<int> height(400, 980);
     for (int round = 0; round < 50; ++round)
         Resize(Dialog(), width(random), height(random));
-    Resize(Dialog(), outer.cx, outer.cy);
+    Await([&] { return ResizeTo(outer.cx, outer.cy) && before == AllRectangles(); });
     EXPECT_EQ(before, AllRectangles());
     Cancel();
 }
@@ -163,8 +188,8 @@ TEST_F(LayoutTest, OpeningSizeIsAlreadyLaidOut)
     ASSERT_TRUE(Open());
     const auto before = AllRectangles();
     const SIZE outer = OuterSize(Dialog());
-    Resize(Dialog(), outer.cx + 40, outer.cy + 40);
-    Resize(Dialog(), outer.cx, outer.cy);
+    ASSERT_TRUE(ResizeTo(outer.cx + 40, outer.cy + 40));
+    Await([&] { return ResizeTo(outer.cx, outer.cy) && before == AllRectangles(); });
     EXPECT_EQ(before, AllRectangles());
     Cancel();
 }
