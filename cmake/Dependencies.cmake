@@ -61,4 +61,5 @@ set_target_properties(
 if(BUILD_TESTING)
   set(INSTALL_GTEST OFF)
   add_subdirectory(/usr/src/googletest "${CMAKE_BINARY_DIR}/googletest" EXCLUDE_FROM_ALL)
+  target_compile_options(gtest PRIVATE -O0)
 endif()

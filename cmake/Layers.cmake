@@ -30,3 +30,15 @@ function(ov_layer NAME)
   add_library(${NAME} STATIC ${LAYER_SOURCES})
   target_link_libraries(${NAME} PUBLIC ov_options ${LAYER_DEPENDS})
 endfunction()
+
+# ov_test(NAME SOURCES ... DEPENDS ... [PRECOMPILE ...]): one test program.
+# Nobody waits for the tests' own code, only for its compiler: it is not
+# optimised, and the headers that all of a program's files read are read once.
+function(ov_test NAME)
+  cmake_parse_arguments(TEST "" "" "SOURCES;DEPENDS;PRECOMPILE" ${ARGN})
+  add_executable(${NAME} ${TEST_SOURCES})
+  target_link_libraries(${NAME} PRIVATE ov_options ${TEST_DEPENDS} gtest_main)
+  target_compile_options(${NAME} PRIVATE $<$<COMPILE_LANGUAGE:CXX>:-O0>)
+  target_precompile_headers(${NAME} PRIVATE <gtest/gtest.h> ${TEST_PRECOMPILE})
+  add_test(NAME ${NAME} COMMAND ${NAME})
+endfunction()
