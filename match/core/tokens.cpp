@@ -274,4 +274,34 @@ std::size_t ExtractToken(char16_t* destination, const char16_t* source, const ch
     }
 }
 
+std::size_t SplitAlternative(char16_t* destination, const char16_t* source, const char16_t* leadingSkip,
+                             const char16_t* trailingTrim, const char16_t* remove,
+                             const char16_t* consumedStops, const char16_t* keptStops, std::size_t limit)
+{
+    if (destination == nullptr)
+        return 0;
+    *destination = u'\0';
+    if (source == nullptr)
+        return 0;
+    std::size_t at = 0;
+    while (at < limit && source[at] != u'\0' && Contains(leadingSkip, source[at]))
+        ++at;
+    char16_t* end = destination;
+    for (; at < limit && source[at] != u'\0'; ++at) {
+        const char16_t c = source[at];
+        if (Contains(remove, c))
+            continue;
+        const bool consumed = Contains(consumedStops, c);
+        if (consumed || Contains(keptStops, c)) {
+            at += consumed ? 1 : 0;
+            break;
+        }
+        *end++ = c;
+    }
+    while (end > destination && Contains(trailingTrim, end[-1]))
+        --end;
+    *end = u'\0';
+    return at;
+}
+
 } // namespace ov

@@ -1,16 +1,13 @@
 #pragma once
 
 #include "base/text.h"
+#include "match/core/match_status.h"
 
 #include <cstddef>
 #include <cstdint>
 
 namespace ov
 {
-
-/// Status words of the matching functions.
-inline constexpr std::uint32_t kMatchDone = 0;
-inline constexpr std::uint32_t kMatchFailed = 0x8000;
 
 /// The first occurrence of the needle among the haystack's first `limit` characters, compared
 /// without regard to case. Null when there is none, when a text is null, when the limit is 0 and
@@ -44,5 +41,13 @@ std::size_t ExtractTokenString(Text& token, TextView source, const char16_t* lea
                                const char16_t* trailingTrim, const char16_t* remove,
                                const char16_t* consumedStops, const char16_t* keptStops,
                                const char16_t* qualifier, std::size_t capacity);
+
+/// Reads one piece from the front of the source into the destination, without any quoting: at most
+/// `limit` characters of the source are looked at. The sets are ExtractToken's. Gives the index
+/// just past the consumed stop, the index of a kept stop, or the number of characters read when
+/// there was no stop; 0 for an empty or null source.
+std::size_t SplitAlternative(char16_t* destination, const char16_t* source, const char16_t* leadingSkip,
+                             const char16_t* trailingTrim, const char16_t* remove,
+                             const char16_t* consumedStops, const char16_t* keptStops, std::size_t limit);
 
 } // namespace ov

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <cstdint>
+
+namespace ov
+{
+
+/// Status words of the matching functions.
+inline constexpr std::uint32_t kMatchDone = 0;
+inline constexpr std::uint32_t kMatchFailed = 0x8000;
+
+} // namespace ov

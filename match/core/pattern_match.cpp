@@ -1,0 +1,106 @@
+#include "match/core/pattern_match.h"
+
+#include "match/core/wildcard_table.h"
+#include "match/core/wildcard_walk.h"
+
+#include <memory>
+#include <new>
+#include <string>
+
+#define PCRE2_CODE_UNIT_WIDTH 8
+#include <pcre2.h>
+
+namespace ov
+{
+namespace
+{
+
+struct ReleaseCode {
+    void operator()(pcre2_code* code) const { pcre2_code_free(code); }
+};
+
+struct ReleaseMatchData {
+    void operator()(pcre2_match_data* data) const { pcre2_match_data_free(data); }
+};
+
+// True when two texts that end with a NUL are equal under the case rule; looks no further than the
+// first difference.
+bool AreEqual(const char16_t* first, const char16_t* second, bool exact)
+{
+    while (Folded(*first, exact) == Folded(*second, exact)) {
+        if (*first == u'\0')
+            return true;
+        ++first;
+        ++second;
+    }
+    return false;
+}
+
+bool MatchWildcards(const char16_t* pattern, const char16_t* text, WildcardType type, bool exact)
+{
+    if (type < WildcardTypeNone)
+        return *text == u'\0';
+    if (type == WildcardTypeNone)
+        return AreEqual(pattern, text, true);
+    const WildcardRules rules{type >= WildcardTypeRanges, type >= WildcardTypeSubsets, exact};
+    if (!rules.subsets) {
+        if (const auto fits = WalkWildcards(pattern, text, rules))
+            return *fits;
+    }
+    return TabulateWildcards(pattern, text, rules);
+}
+
+// The regular expression may fit anywhere in the text. PCRE2's limits end what would take too long.
+std::uint32_t MatchPerl(std::uint32_t& match, TextView pattern, TextView text, bool exact)
+{
+    match = 0;
+    const std::string expression = Utf8FromText(pattern);
+    const std::string subject = Utf8FromText(text);
+    int error = 0;
+    PCRE2_SIZE offset = 0;
+    const std::unique_ptr<pcre2_code, ReleaseCode> code(
+        pcre2_compile(reinterpret_cast<PCRE2_SPTR>(expression.c_str()), PCRE2_ZERO_TERMINATED,
+                      PCRE2_UTF | (exact ? 0 : PCRE2_CASELESS), &error, &offset, nullptr));
+    if (code == nullptr)
+        return kMatchFailed;
+    const std::unique_ptr<pcre2_match_data, ReleaseMatchData> data(
+        pcre2_match_data_create_from_pattern(code.get(), nullptr));
+    if (data == nullptr)
+        return kMatchFailed;
+    const int found = pcre2_match(code.get(), reinterpret_cast<PCRE2_SPTR>(subject.data()), subject.size(), 0,
+                                  0, data.get(), nullptr);
+    if (found < 0 && found != PCRE2_ERROR_NOMATCH)
+        return kMatchFailed;
+    match = found >= 0 ? 1 : 0;
+    return kMatchDone;
+}
+
+} // namespace
+
+std::uint32_t MatchPattern(std::uint32_t* match, const char16_t* pattern, const char16_t* text,
+                           WildcardType type, int caseFlag)
+{
+    if (match == nullptr || pattern == nullptr || text == nullptr)
+        return kMatchFailed;
+    const bool exact = caseFlag != 0;
+    if (AreEqual(pattern, text, exact)) {
+        *match = 1;
+        return kMatchDone;
+    }
+    try {
+        switch (type) {
+        case WildcardTypePerl:
+            return MatchPerl(*match, pattern, text, exact);
+        case WildcardTypePosix:
+            *match = 0;
+            return kMatchFailed;
+        default:
+            *match = MatchWildcards(pattern, text, type, exact) ? 1 : 0;
+            return kMatchDone;
+        }
+    } catch (const std::bad_alloc&) {
+        return kMatchFailed;
+    }
+}
+
+} // namespace ov
