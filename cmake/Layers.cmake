@@ -24,11 +24,14 @@ if(OV_SANITIZE)
                                               -fno-omit-frame-pointer)
   target_link_options(ov_options INTERFACE -fsanitize=address,undefined)
 endif()
-
 function(ov_layer NAME)
   cmake_parse_arguments(LAYER "" "" "SOURCES;DEPENDS" ${ARGN})
   add_library(${NAME} STATIC ${LAYER_SOURCES})
   target_link_libraries(${NAME} PUBLIC ov_options ${LAYER_DEPENDS})
+  if(OV_FUZZ)
+    # The counters that steer the fuzzer are in the product's code, not in the harnesses'.
+    target_compile_options(${NAME} PRIVATE -fsanitize=fuzzer-no-link)
+  endif()
 endfunction()
 
 # ov_test(NAME SOURCES ... DEPENDS ... [PRECOMPILE ...]): one test program.

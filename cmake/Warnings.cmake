@@ -11,7 +11,7 @@ target_compile_options(
             -Wnon-virtual-dtor
             -Woverloaded-virtual
             -Wnull-dereference
-            -Wduplicated-cond
-            -Wlogical-op
             -Wimplicit-fallthrough
-            -Werror>)
+            -Werror>
+            $<$<COMPILE_LANG_AND_ID:CXX,GNU>:-Wduplicated-cond
+            -Wlogical-op>)
