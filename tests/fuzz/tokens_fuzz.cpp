@@ -71,8 +71,9 @@ struct Token {
     std::size_t consumed;
 };
 
-// What a source without qualifiers gives.
-Token PlainToken(TextView source, const Sets& sets)
+// What a source without qualifiers gives. The token reader looks for no stop among what is trimmed
+// from the source's end, the splitter does.
+Token PlainToken(TextView source, const Sets& sets, bool trimsFirst)
 {
     std::size_t start = 0;
     while (start < source.size() && sets.leading.Has(source[start]))
@@ -80,7 +81,7 @@ Token PlainToken(TextView source, const Sets& sets)
     if (start == source.size())
         return {Text(), start};
     std::size_t last = source.size() - 1;
-    while (last > start && sets.trailing.Has(source[last]))
+    while (trimsFirst && last > start && sets.trailing.Has(source[last]))
         --last;
     Token token{Text(), source.size()};
     for (std::size_t i = start; i <= last; ++i) {
@@ -145,7 +146,7 @@ std::size_t CheckToken(const Text& source, const Sets& sets, std::size_t capacit
     const bool hasQualifier =
         sets.qualifier.Count() > 0 && source.find(*sets.qualifier.Pointer()) != Text::npos;
     if (!hasQualifier) {
-        const Token plain = PlainToken(source, sets);
+        const Token plain = PlainToken(source, sets, true);
         OV_REQUIRE(whole.text == plain.text && whole.consumed == plain.consumed);
     }
 
@@ -164,6 +165,19 @@ void CheckTokens(const Text& source, const Sets& sets, std::size_t capacity)
     Text rest = source;
     while (const std::size_t consumed = CheckToken(rest, sets, capacity))
         rest.erase(0, consumed);
+}
+
+// The splitter knows no quoting and sees only a part of the source.
+void CheckSplit(const Text& source, const Sets& sets, std::size_t limit)
+{
+    const TextView part = TextView(source).substr(0, limit);
+    const Token plain = PlainToken(part, sets, false);
+    Buffer buffer(part.size() + 1);
+    const std::size_t consumed =
+        SplitAlternative(buffer.Get(), source.c_str(), sets.leading.Pointer(), sets.trailing.Pointer(),
+                         sets.remove.Pointer(), sets.consumed.Pointer(), sets.kept.Pointer(), limit);
+    OV_REQUIRE(consumed == plain.consumed);
+    OV_REQUIRE(buffer.Content() == plain.text);
 }
 
 bool SameNoCase(TextView a, TextView b)
@@ -238,6 +252,7 @@ void Run(FuzzInput input)
 
     CheckTokens(source, sets, capacity);
     OV_REQUIRE(ReadString(whole, sets, capacity).consumed <= whole.size());
+    CheckSplit(source, sets, limit);
     CheckFind(source, find, limit);
     CheckReplace(source, find, replacement, capacity, false);
     CheckReplace(source, find, replacement, capacity, true);
