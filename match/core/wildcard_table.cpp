@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <limits>
+#include <map>
+#include <unordered_map>
 #include <utility>
 
 namespace ov
@@ -12,18 +15,141 @@ namespace
 
 using Kind = PatternElement::Kind;
 
-// For each place in the text, its end and one beyond it included, whether something holds there.
-using Row = std::vector<std::uint8_t>;
+// A number of characters without a bound. Sums of lengths stay far below the type's own.
+constexpr std::size_t kUnbounded = std::numeric_limits<std::size_t>::max() / 2;
+
+// How many characters something takes.
+struct Lengths {
+    std::size_t least = 0;
+    std::size_t most = 0;
+};
+
+Lengths operator+(const Lengths& first, const Lengths& second)
+{
+    return {first.least + second.least, std::min(first.most + second.most, kUnbounded)};
+}
+
+void Include(Lengths& lengths, std::size_t length)
+{
+    lengths.least = std::min(lengths.least, length);
+    lengths.most = std::max(lengths.most, length);
+}
+
+// For each place of the text whether something holds there. Only a part of the places is in use;
+// it does not hold at any other.
+class Row
+{
+  public:
+    // Uses the places from `first` up to `last`, where it does not hold yet, of `size` in all.
+    void Use(std::size_t first, std::size_t last, std::size_t size)
+    {
+        if (m_holds.size() < size)
+            m_holds.resize(size);
+        std::fill(At(m_first), At(m_last), std::uint8_t{0});
+        m_first = first < last ? first : 0;
+        m_last = first < last ? last : 0;
+    }
+
+    void Set(std::size_t place)
+    {
+        m_holds[place] = 1;
+        m_first = m_first == m_last ? place : std::min(m_first, place);
+        m_last = std::max(m_last, place + 1);
+    }
+
+    // Lets it hold at all places in use before `end`.
+    void SetBefore(std::size_t end)
+    {
+        if (end > m_first)
+            std::fill(At(m_first), At(std::min(end, m_last)), std::uint8_t{1});
+    }
+
+    // Lets it hold nowhere from `begin` on.
+    void ClearFrom(std::size_t begin)
+    {
+        if (begin < m_last)
+            std::fill(At(std::max(begin, m_first)), At(m_last), std::uint8_t{0});
+    }
+
+    bool Holds(std::size_t place) const { return m_holds[place] != 0; }
+    std::size_t First() const { return m_first; }
+    std::size_t Last() const { return m_last; }
+    bool Uses(std::size_t place) const { return place >= m_first && place < m_last; }
+
+    // One beyond the last place where it holds; 0 when there is none.
+    std::size_t LastHolding() const
+    {
+        std::size_t last = m_last;
+        while (last > m_first && m_holds[last - 1] == 0)
+            --last;
+        return last > m_first ? last : 0;
+    }
+
+    const std::uint8_t* Data() const { return m_holds.data(); }
+    std::uint8_t* Data() { return m_holds.data(); }
+
+  private:
+    std::vector<std::uint8_t>::iterator At(std::size_t place)
+    {
+        return m_holds.begin() + static_cast<std::ptrdiff_t>(place);
+    }
+
+    std::vector<std::uint8_t> m_holds;
+    std::size_t m_first = 0;
+    std::size_t m_last = 0;
+};
+
+// One alternative of a list.
+struct Alternative {
+    Text text;
+    bool elastic = false;                 // It is tried against texts of any length.
+    std::size_t length = 0;               // Else of this one.
+    std::vector<PatternElement> elements; // Then its steps, each for one character.
+};
+
+std::vector<Alternative> ReadList(TextView content, const WildcardRules& rules)
+{
+    std::vector<Alternative> list;
+    for (Text& text : SplitAlternatives(content))
+        list.push_back({std::move(text), false, 0, {}});
+    // The steps point into the texts, which stay where they are from here on.
+    for (Alternative& alternative : list) {
+        alternative.elastic = IsElastic(alternative.text);
+        if (alternative.elastic)
+            continue;
+        alternative.length = CountedLength(alternative.text);
+        alternative.elements = ParsePattern(alternative.text, rules);
+    }
+    return list;
+}
+
+Lengths LengthsOf(const std::vector<Alternative>& list)
+{
+    // One character is what a negated list takes where nothing fits.
+    Lengths lengths{1, 1};
+    for (const Alternative& alternative : list)
+        Include(lengths, alternative.elastic ? kUnbounded : alternative.length);
+    return lengths;
+}
 
 class WildcardTable
 {
   public:
-    WildcardTable(TextView pattern, TextView text, TextView foldedText, const WildcardRules& rules)
+    enum class Start { AtFront, Anywhere };
+
+    WildcardTable(TextView pattern, TextView text, TextView foldedText, const WildcardRules& rules,
+                  Start start)
         : m_pattern(pattern), m_text(text), m_folded(foldedText), m_rules(rules),
           m_elements(ParsePattern(pattern, rules)), m_lastFit(m_elements.size() + 1)
     {
+        for (std::size_t i = 0; i < m_elements.size(); ++i) {
+            if (m_elements[i].kind == Kind::List)
+                m_lists.emplace(i, ReadList(m_elements[i].content, rules));
+        }
         m_anyNegates = std::any_of(m_elements.begin(), m_elements.end(),
                                    [](const PatternElement& element) { return element.negates; });
+        MeasureBefore(start);
+        MeasureBehind();
     }
 
     // For each place in the text whether its part from there to `end` fits the whole template.
@@ -33,35 +159,87 @@ class WildcardTable
         m_commonEnd = CommonEnd();
         const std::size_t flavours = m_anyNegates ? 2 : 1;
         for (std::size_t negated = 0; negated < flavours; ++negated) {
-            m_row[negated].assign(end + 2, 0);
-            m_next[negated].assign(end + 2, 0);
-            m_next[negated][end] = 1;
+            m_next[negated].Use(end, end + 1, end + 2);
+            m_next[negated].Set(end);
         }
         m_behindBars = m_elements.size();
         for (std::size_t i = m_elements.size(); i-- > 0;) {
-            for (std::size_t negated = 0; negated < flavours; ++negated)
+            const std::size_t first = std::max(m_before[i].least, end - std::min(end, m_behind[i].most));
+            const std::size_t last =
+                m_behind[i].least > end ? 0 : std::min(m_before[i].most, end - m_behind[i].least) + 1;
+            for (std::size_t negated = 0; negated < flavours; ++negated) {
+                m_row[negated].Use(first, last, end + 2);
                 FillRow(i, negated != 0);
+            }
             m_row.swap(m_next);
-            CloseRow(i);
+            const std::size_t equal = EqualAt(i);
+            m_lastFit[i] = std::max(m_next[0].LastHolding(), equal <= end ? equal + 1 : 0);
             if (m_elements[i].kind != Kind::Bar)
                 m_behindBars = i;
         }
-        m_row[0] = m_next[0];
-        const std::size_t equal = EqualAt(0);
-        if (equal <= m_end)
-            m_row[0][equal] = 1;
-        return m_row[0];
+        const std::size_t equal = m_elements.empty() ? kNowhere : EqualAt(0);
+        if (equal <= end)
+            m_next[0].Set(equal);
+        return m_next[0];
     }
 
   private:
     static constexpr std::size_t kNowhere = TextView::npos;
 
-    // What one alternative of a list does at a place in the text.
+    // What a list does at a place in the text.
     struct Outcome {
         bool decided = false;
         bool acceptsRest = false; // A template that ends with the list takes what is left of the text.
         std::size_t taken = 0;
     };
+
+    Lengths LengthsOfElement(std::size_t i) const
+    {
+        const bool last = i + 1 == m_elements.size();
+        switch (m_elements[i].kind) {
+        case Kind::Star:
+            return {0, kUnbounded};
+        case Kind::Bar:
+            return {last ? std::size_t{1} : 0, 1};
+        case Kind::List: {
+            Lengths lengths = LengthsOf(m_lists.at(i));
+            if (last)
+                lengths.most = kUnbounded;
+            return lengths;
+        }
+        default:
+            return {1, 1};
+        }
+    }
+
+    // How many characters stand before each element: outside these bounds its row is of no interest.
+    void MeasureBefore(Start start)
+    {
+        Lengths before{0, start == Start::AtFront ? 0 : kUnbounded};
+        m_before.reserve(m_elements.size());
+        for (std::size_t i = 0; i < m_elements.size(); ++i) {
+            m_before.push_back(before);
+            before = before + LengthsOfElement(i);
+            // Bars in a row look at all the text behind them.
+            if (i + 1 < m_elements.size() && m_elements[i].kind == Kind::Bar &&
+                m_elements[i + 1].kind == Kind::Bar)
+                before.most = kUnbounded;
+        }
+    }
+
+    // How many characters the template takes from each element on: elsewhere its row does not hold.
+    void MeasureBehind()
+    {
+        m_behind.resize(m_elements.size());
+        Lengths behind;
+        for (std::size_t i = m_elements.size(); i-- > 0;) {
+            behind = LengthsOfElement(i) + behind;
+            // Behind stars and bars a text that is equal to the template fits too.
+            if (i > 0 && (m_elements[i - 1].kind == Kind::Star || m_elements[i - 1].kind == Kind::Bar))
+                Include(behind, m_pattern.size() - m_elements[i].begin);
+            m_behind[i] = behind;
+        }
+    }
 
     // The length of the longest text in which template and text both end.
     std::size_t CommonEnd() const
@@ -78,7 +256,7 @@ class WildcardTable
     // whatever wildcards the template holds.
     std::size_t EqualAt(std::size_t element) const
     {
-        const std::size_t length = m_pattern.size() - (m_elements.empty() ? 0 : m_elements[element].begin);
+        const std::size_t length = m_pattern.size() - m_elements[element].begin;
         return length <= m_commonEnd ? m_end - length : kNowhere;
     }
 
@@ -91,30 +269,27 @@ class WildcardTable
         const bool nowNegated = negated || element.negates;
         const Row& next = m_next[nowNegated ? 1 : 0];
         Row& row = m_row[negated ? 1 : 0];
-        row[m_end] = 0;
         switch (element.kind) {
         case Kind::Literal:
             FillLiteralRow(element.character, next, row);
             break;
         case Kind::AnyCharacter:
-            std::copy_n(next.begin() + 1, m_end, row.begin());
+            std::copy(next.Data() + row.First() + 1, next.Data() + row.Last() + 1, row.Data() + row.First());
             break;
         case Kind::Star:
-            std::fill_n(row.begin(), m_end + 1, std::uint8_t{0});
-            std::fill_n(row.begin(), last ? m_end + 1 : m_lastFit[i + 1], std::uint8_t{1});
+            row.SetBefore(last ? m_end + 1 : m_lastFit[i + 1]);
             break;
         case Kind::Bar:
             FillBarRow(i, next, row);
             break;
         case Kind::Class:
-            for (std::size_t t = 0; t < m_end; ++t) {
-                const bool fits =
-                    next[t + 1] != 0 && ClassNames(element.content, m_text[t], m_rules.exact) != nowNegated;
-                row[t] = fits ? 1 : 0;
+            for (std::size_t t = row.First(); t < row.Last(); ++t) {
+                if (next.Holds(t + 1) && ClassNames(element.content, m_text[t], m_rules.exact) != nowNegated)
+                    row.Set(t);
             }
             break;
         case Kind::List:
-            FillListRow(element, last, nowNegated, next, row);
+            FillListRow(m_lists.at(i), last, nowNegated, next, row);
             break;
         }
     }
@@ -123,11 +298,10 @@ class WildcardTable
     // places at once.
     void FillLiteralRow(char16_t character, const Row& next, Row& row) const
     {
-        const std::size_t end = m_end;
         const char16_t* text = m_folded.data();
-        const std::uint8_t* behind = next.data() + 1;
-        std::uint8_t* fits = row.data();
-        for (std::size_t t = 0; t < end; ++t)
+        const std::uint8_t* behind = next.Data() + 1;
+        std::uint8_t* fits = row.Data();
+        for (std::size_t t = row.First(), last = row.Last(); t < last; ++t)
             fits[t] = static_cast<std::uint8_t>(text[t] == character ? behind[t] : 0);
     }
 
@@ -135,97 +309,101 @@ class WildcardTable
     {
         if (i + 1 == m_elements.size()) {
             // The last one takes exactly one character.
-            std::fill_n(row.begin(), m_end, std::uint8_t{0});
-            if (m_end > 0)
-                row[m_end - 1] = 1;
+            row.SetBefore(m_end);
             return;
         }
         // The rest of the template is tried as a walk of its own, then behind one character within
         // this walk.
+        const std::uint8_t* own = m_next[0].Data();
+        const std::uint8_t* behind = next.Data() + 1;
+        std::uint8_t* fits = row.Data();
+        for (std::size_t t = row.First(), last = row.Last(); t < last; ++t)
+            fits[t] = static_cast<std::uint8_t>(own[t] | behind[t]);
         const std::size_t equal = EqualAt(i + 1);
-        for (std::size_t t = 0; t <= m_end; ++t)
-            row[t] = static_cast<std::uint8_t>(m_next[0][t] | next[t + 1]);
-        if (equal <= m_end)
-            row[equal] = 1;
+        if (equal <= m_end && row.Uses(equal))
+            row.Set(equal);
         // Of several bars in a row each asks first whether what follows them fits anywhere, as a walk
         // of its own.
         if (m_behindBars > i + 1 && m_behindBars < m_elements.size())
-            std::fill(row.begin() + static_cast<std::ptrdiff_t>(m_lastFit[m_behindBars]), row.end(),
-                      std::uint8_t{0});
+            row.ClearFrom(m_lastFit[m_behindBars]);
     }
 
-    // Keeps where the last place is that fits from element `i` on, as a walk of its own: one beyond
-    // it, 0 when there is none.
-    void CloseRow(std::size_t i)
+    void FillListRow(const std::vector<Alternative>& list, bool last, bool negated, const Row& next, Row& row)
     {
-        const Row& row = m_next[0];
-        std::size_t last = m_end + 1;
-        while (last > 0 && row[last - 1] == 0)
-            --last;
-        const std::size_t equal = EqualAt(i);
-        m_lastFit[i] = equal <= m_end ? std::max(last, equal + 1) : last;
-    }
-
-    void FillListRow(const PatternElement& element, bool last, bool negated, const Row& next, Row& row)
-    {
-        std::vector<Outcome> outcomes(m_end + 1);
-        for (const Text& alternative : SplitAlternatives(element.content)) {
-            if (IsElastic(alternative))
-                TryElastic(alternative, negated, outcomes);
+        std::vector<Outcome> outcomes(row.Last() - row.First());
+        for (const Alternative& alternative : list) {
+            if (alternative.elastic)
+                TryElastic(alternative.text, negated, row.First(), outcomes);
             else
-                TryCounted(alternative, outcomes);
+                TryCounted(alternative, row.First(), outcomes);
         }
-        for (std::size_t t = 0; t <= m_end; ++t) {
-            Outcome& outcome = outcomes[t];
+        for (std::size_t t = row.First(); t < row.Last(); ++t) {
+            Outcome& outcome = outcomes[t - row.First()];
             // A negated list that finds nothing takes one character.
             if (!outcome.decided && negated)
                 outcome = {true, false, 1};
             const std::size_t reached = t + outcome.taken;
-            const bool fits =
-                outcome.decided && reached <= m_end && ((last && outcome.acceptsRest) || next[reached] != 0);
-            row[t] = fits ? 1 : 0;
+            if (outcome.decided && reached <= m_end && ((last && outcome.acceptsRest) || next.Holds(reached)))
+                row.Set(t);
         }
     }
 
     // An alternative with a star or a bar takes as much as it can.
-    void TryElastic(TextView alternative, bool negated, std::vector<Outcome>& outcomes) const
+    void TryElastic(const Text& alternative, bool negated, std::size_t first, std::vector<Outcome>& outcomes)
     {
         const bool acceptsRest = alternative.back() == u'*';
-        WildcardTable table(alternative, m_text, m_folded, m_rules);
-        for (std::size_t end = m_end; end > 0; --end) {
-            const auto undecided = [](const Outcome& outcome) { return !outcome.decided; };
-            if (std::none_of(outcomes.begin(), outcomes.begin() + static_cast<std::ptrdiff_t>(end),
-                             undecided))
-                break;
-            const Row& fits = table.FillTo(end);
-            for (std::size_t t = 0; t < end; ++t) {
-                if (!outcomes[t].decided && fits[t] != 0)
-                    outcomes[t] = {true, acceptsRest, end - t};
-            }
-        }
-        if (!negated)
-            return;
-        // In a negated list the first such alternative that does not fit ends the list, taking one
-        // character.
-        for (Outcome& outcome : outcomes) {
-            if (!outcome.decided)
+        const std::vector<std::uint32_t>& longest = LongestFits(alternative);
+        for (std::size_t i = 0; i < outcomes.size(); ++i) {
+            Outcome& outcome = outcomes[i];
+            if (outcome.decided)
+                continue;
+            // In a negated list the first such alternative that does not fit ends the list, taking
+            // one character.
+            if (longest[first + i] > 0)
+                outcome = {true, acceptsRest, longest[first + i]};
+            else if (negated)
                 outcome = {true, acceptsRest, 1};
         }
     }
 
-    // Any other alternative is tried against its counted length only.
-    void TryCounted(TextView alternative, std::vector<Outcome>& outcomes) const
+    // For each place in the text the length of the longest part from there that fits; 0 for none.
+    // A template often repeats its lists, so what was found is kept.
+    const std::vector<std::uint32_t>& LongestFits(const Text& alternative)
     {
-        const std::size_t length = CountedLength(alternative);
-        const std::vector<PatternElement> elements = ParsePattern(alternative, m_rules);
-        for (std::size_t t = 0; t <= m_end; ++t) {
+        constexpr std::size_t kMostKept = std::size_t{1} << 22;
+        const auto known = m_longestFits.find(alternative);
+        if (known != m_longestFits.end())
+            return known->second;
+        if (m_longestFits.size() * (m_end + 1) > kMostKept)
+            m_longestFits.clear();
+        std::vector<std::uint32_t>& longest = m_longestFits[alternative];
+        longest.resize(m_end + 1);
+        WildcardTable table(alternative, m_text, m_folded, m_rules, Start::Anywhere);
+        std::size_t open = m_end;
+        for (std::size_t end = m_end; end > 0 && open > 0; --end) {
+            const Row& fits = table.FillTo(end);
+            for (std::size_t t = fits.First(); t < std::min(fits.Last(), end); ++t) {
+                if (longest[t] == 0 && fits.Holds(t)) {
+                    longest[t] = static_cast<std::uint32_t>(end - t);
+                    --open;
+                }
+            }
+        }
+        return longest;
+    }
+
+    // Any other alternative is tried against its counted length only.
+    void TryCounted(const Alternative& alternative, std::size_t first, std::vector<Outcome>& outcomes) const
+    {
+        for (std::size_t i = 0; i < outcomes.size(); ++i) {
+            const std::size_t t = first + i;
             const std::size_t left = m_end - t;
-            if (outcomes[t].decided || length > left + 1)
+            if (outcomes[i].decided || alternative.length > left + 1)
                 continue;
-            const std::size_t tried = std::min(length, left);
-            if (EqualTexts(alternative, m_text.substr(t, tried), m_rules.exact) ||
-                (elements.size() == tried && FitsEach(elements, t)))
-                outcomes[t] = {true, false, length};
+            const std::size_t tried = std::min(alternative.length, left);
+            if (EqualTexts(alternative.text, m_text.substr(t, tried), m_rules.exact) ||
+                (alternative.elements.size() == tried && FitsEach(alternative.elements, t)))
+                outcomes[i] = {true, false, alternative.length};
         }
     }
 
@@ -251,13 +429,17 @@ class WildcardTable
     TextView m_folded; // The text as it is compared.
     const WildcardRules& m_rules;
     std::vector<PatternElement> m_elements;
+    std::map<std::size_t, std::vector<Alternative>> m_lists; // By element.
+    std::vector<Lengths> m_before;                           // By element; see MeasureBefore.
+    std::vector<Lengths> m_behind;                           // By element; see MeasureBehind.
     bool m_anyNegates = false;
     std::size_t m_end = 0;
     std::size_t m_commonEnd = 0;
     std::size_t m_behindBars = 0;       // The element behind the run of bars being filled.
-    std::vector<std::size_t> m_lastFit; // By element; see CloseRow.
+    std::vector<std::size_t> m_lastFit; // By element: one beyond the last place that fits; 0 for none.
     std::array<Row, 2> m_row;           // The present element's: outside and inside a negated walk.
     std::array<Row, 2> m_next;          // The following element's.
+    std::unordered_map<Text, std::vector<std::uint32_t>> m_longestFits;
 };
 
 } // namespace
@@ -267,7 +449,8 @@ bool TabulateWildcards(TextView pattern, TextView text, const WildcardRules& rul
     Text folded(text);
     for (char16_t& c : folded)
         c = Folded(c, rules.exact);
-    return WildcardTable(pattern, text, folded, rules).FillTo(text.size())[0] != 0;
+    WildcardTable table(pattern, text, folded, rules, WildcardTable::Start::AtFront);
+    return table.FillTo(text.size()).Holds(0);
 }
 
 } // namespace ov
