@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <clocale>
+#include <cstdint>
 #include <cstdlib>
 #include <cstring>
 #include <cwchar>
@@ -43,6 +44,36 @@ LocaleCoding CurrentCoding()
     return LocaleCoding::MultiByte;
 }
 
+// The number of ASCII bytes at the front.
+std::size_t AsciiLength(std::string_view bytes)
+{
+    std::size_t length = 0;
+    for (std::uint64_t eight = 0; length + sizeof(eight) <= bytes.size(); length += sizeof(eight)) {
+        std::memcpy(&eight, bytes.data() + length, sizeof(eight));
+        if ((eight & 0x8080808080808080U) != 0)
+            break;
+    }
+    while (length < bytes.size() && static_cast<unsigned char>(bytes[length]) < 0x80)
+        ++length;
+    return length;
+}
+
+// True when the locale spells every ASCII character as the byte of its value. Some encodings of
+// several bytes have another character in the place of the backslash or the tilde.
+bool SpellsAsciiPlainly(LocaleCoding coding)
+{
+    if (coding == LocaleCoding::Identity || coding == LocaleCoding::Utf8)
+        return true;
+    std::mbtowc(nullptr, nullptr, 0);
+    for (wchar_t unit = 1; unit < 0x80; ++unit) {
+        const auto byte = static_cast<char>(unit);
+        wchar_t character = 0;
+        if (std::mbtowc(&character, &byte, 1) != 1 || character != unit)
+            return false;
+    }
+    return true;
+}
+
 ByteTable SingleByteTable()
 {
     std::mbtowc(nullptr, nullptr, 0);
@@ -67,12 +98,24 @@ void AppendWide(wchar_t character, Text& text)
         AppendUtf16(text, static_cast<char32_t>(character));
 }
 
+// How many bytes at the front may be one character. Line ends, blanks and most marks of ASCII never
+// are the later byte of a character, but some runtimes swallow one that follows half a character.
+std::size_t LongestCharacter(std::string_view bytes)
+{
+    constexpr unsigned char kLowestLaterByte = 0x30;
+    std::size_t length = 1;
+    while (length < bytes.size() && length < MB_CUR_MAX &&
+           static_cast<unsigned char>(bytes[length]) >= kLowestLaterByte)
+        ++length;
+    return length;
+}
+
 void DecodeMultiByte(std::string_view bytes, Text& text)
 {
     std::mbtowc(nullptr, nullptr, 0);
     while (!bytes.empty()) {
         wchar_t character = 0;
-        const int length = std::mbtowc(&character, bytes.data(), bytes.size());
+        const int length = std::mbtowc(&character, bytes.data(), LongestCharacter(bytes));
         if (length < 0) {
             std::mbtowc(nullptr, nullptr, 0);
             text.push_back(EscapeOf(static_cast<unsigned char>(bytes.front())));
@@ -84,9 +127,22 @@ void DecodeMultiByte(std::string_view bytes, Text& text)
     }
 }
 
+void AppendPlain(std::string_view bytes, Text& text)
+{
+    const std::size_t start = text.size();
+    text.resize(start + bytes.size());
+    std::transform(bytes.begin(), bytes.end(), text.data() + start,
+                   [](char c) { return static_cast<unsigned char>(c); });
+}
+
 void DecodeUtf8(std::string_view bytes, Text& text)
 {
     while (!bytes.empty()) {
+        if (const std::size_t ascii = AsciiLength(bytes); ascii > 0) {
+            AppendPlain(bytes.substr(0, ascii), text);
+            bytes.remove_prefix(ascii);
+            continue;
+        }
         const CodePoint c = ReadUtf8(bytes);
         if (c.valid)
             AppendUtf16(text, c.value);
@@ -99,6 +155,10 @@ void DecodeUtf8(std::string_view bytes, Text& text)
 EncodeResult EncodeUtf8(TextView text, std::string& bytes)
 {
     for (std::size_t i = 0; i < text.size();) {
+        if (text[i] < 0x80) {
+            bytes.push_back(static_cast<char>(text[i++]));
+            continue;
+        }
         const CodePoint c = ReadUtf16(text.substr(i));
         if (c.valid)
             AppendUtf8(bytes, c.value);
@@ -162,7 +222,7 @@ EncodeResult EncodeIdentity(TextView text, std::string& bytes)
 
 } // namespace
 
-LocaleDecoder::LocaleDecoder() : m_coding(CurrentCoding())
+LocaleDecoder::LocaleDecoder() : m_coding(CurrentCoding()), m_plainAscii(SpellsAsciiPlainly(m_coding))
 {
     if (m_coding == LocaleCoding::SingleByte)
         m_table = SingleByteTable();
@@ -171,27 +231,31 @@ LocaleDecoder::LocaleDecoder() : m_coding(CurrentCoding())
 void LocaleDecoder::Append(std::string_view bytes, Text& text) const
 {
     switch (m_coding) {
+    case LocaleCoding::Identity:
+        AppendPlain(bytes, text);
+        break;
     case LocaleCoding::Utf8:
         DecodeUtf8(bytes, text);
-        return;
+        break;
     case LocaleCoding::MultiByte:
         DecodeMultiByte(bytes, text);
-        return;
-    case LocaleCoding::Identity:
-    case LocaleCoding::SingleByte:
+        break;
+    case LocaleCoding::SingleByte: {
+        const std::size_t start = text.size();
+        text.resize(start + bytes.size());
+        std::transform(bytes.begin(), bytes.end(), text.data() + start,
+                       [this](char c) { return m_table[static_cast<unsigned char>(c)]; });
         break;
     }
-    const std::size_t start = text.size();
-    text.resize(start + bytes.size());
-    char16_t* out = text.data() + start;
-    if (m_coding == LocaleCoding::Identity)
-        std::transform(bytes.begin(), bytes.end(), out, [](char c) { return static_cast<unsigned char>(c); });
-    else
-        std::transform(bytes.begin(), bytes.end(), out,
-                       [this](char c) { return m_table[static_cast<unsigned char>(c)]; });
+    }
 }
 
-LocaleEncoder::LocaleEncoder() : m_coding(CurrentCoding())
+bool LocaleDecoder::IsPlain(std::string_view bytes) const
+{
+    return m_coding == LocaleCoding::Identity || (m_plainAscii && AsciiLength(bytes) == bytes.size());
+}
+
+LocaleEncoder::LocaleEncoder() : m_coding(CurrentCoding()), m_plainAscii(SpellsAsciiPlainly(m_coding))
 {
     if (m_coding != LocaleCoding::SingleByte)
         return;
@@ -243,6 +307,11 @@ EncodeResult LocaleEncoder::Append(TextView text, std::string& bytes) const
     if (!result.ok)
         bytes.resize(start);
     return result;
+}
+
+bool LocaleEncoder::IsPlain(std::string_view units) const
+{
+    return m_coding == LocaleCoding::Identity || (m_plainAscii && AsciiLength(units) == units.size());
 }
 
 Text DecodeLocale(std::string_view bytes)

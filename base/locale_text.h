@@ -37,8 +37,12 @@ class LocaleDecoder
     /// Appends the text of the bytes, which must not end inside a character.
     void Append(std::string_view bytes, Text& text) const;
 
+    /// True when the text of the bytes is known to have a unit of the same value for each byte.
+    bool IsPlain(std::string_view bytes) const;
+
   private:
     LocaleCoding m_coding;
+    bool m_plainAscii;
     ByteTable m_table{};
 };
 
@@ -61,8 +65,12 @@ class LocaleEncoder
     /// Appends the bytes of the text. On failure the bytes are left as they were.
     EncodeResult Append(TextView text, std::string& bytes) const;
 
+    /// True when units of these values are known to be written as these very bytes.
+    bool IsPlain(std::string_view units) const;
+
   private:
     LocaleCoding m_coding;
+    bool m_plainAscii;
     std::array<char16_t, 256> m_low{};                        ///< Byte of each unit below 256, or kNoByte.
     std::vector<std::pair<char16_t, unsigned char>> m_others; ///< Bytes of all other units, in unit order.
 };

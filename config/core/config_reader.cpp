@@ -4,228 +4,253 @@
 #include "config/core/text_lines.h"
 
 #include <algorithm>
-#include <iterator>
+#include <string>
 #include <utility>
+#include <vector>
 
 namespace ov
 {
 namespace
 {
 
-constexpr TextView kBlanks = u" \t";
+// Lines are cut as bytes, and only what is stored is decoded. In every locale that a process runs in
+// the marks below are single bytes of ASCII, and none of them is a later byte of another character:
+// those are 0x80 and above in UTF-8 and EUC, 0x40 and above, or digits, in the other encodings.
+
+constexpr bool IsBlank(char c)
+{
+    return c == ' ' || c == '\t';
+}
+
+constexpr bool IsSpace(char c)
+{
+    return IsWhiteSpace(static_cast<unsigned char>(c));
+}
+
+std::string_view TrimBytes(std::string_view line)
+{
+    while (!line.empty() && IsSpace(line.front()))
+        line.remove_prefix(1);
+    while (!line.empty() && IsSpace(line.back()))
+        line.remove_suffix(1);
+    return line;
+}
 
 // An assignment line cut at its blanks. Exactly one separator after the operator belongs to no part.
 struct Assignment {
-    TextView name;
-    TextView operatorToken;
-    TextView value;
+    std::string_view name;
+    std::string_view operatorToken;
+    std::string_view value;
 };
 
-Assignment SplitAssignment(TextView line)
+Assignment SplitAssignment(std::string_view line)
 {
-    Assignment parts;
-    const std::size_t nameEnd = line.find_first_of(kBlanks);
-    parts.name = line.substr(0, nameEnd);
-    const std::size_t start = line.find_first_not_of(kBlanks, parts.name.size());
-    if (start == TextView::npos)
-        return parts;
-    const std::size_t end = std::min(line.find_first_of(kBlanks, start), line.size());
-    parts.operatorToken = line.substr(start, end - start);
-    if (end < line.size())
-        parts.value = line.substr(end + 1);
-    return parts;
+    const auto nameEnd = std::find_if(line.begin(), line.end(), IsBlank);
+    const auto start = std::find_if_not(nameEnd, line.end(), IsBlank);
+    const auto end = std::find_if(start, line.end(), IsBlank);
+    return {{line.begin(), nameEnd}, {start, end}, {end == line.end() ? end : end + 1, line.end()}};
 }
 
 // The character that decides what an operator token does; 0 when it holds none.
-char16_t OperatorOf(TextView token)
+char OperatorOf(std::string_view token)
 {
-    for (const char16_t c : TextView(u"=><+:")) {
-        if (token.find(c) != TextView::npos)
+    for (const char c : std::string_view("=><+:")) {
+        if (token.find(c) != std::string_view::npos)
             return c;
     }
-    return u'\0';
+    return '\0';
 }
 
-// The kind of a value after more text came to its end, without looking at the value again.
-SettingKind ClassifyExtended(SettingKind kind, TextView after)
+// A value in quotes without them and without what follows a "#". `room` takes the value when quotes
+// stand inside it.
+template <typename Unit>
+std::basic_string_view<Unit> Unquoted(std::basic_string_view<Unit> value, std::basic_string<Unit>& room)
 {
-    if (after.empty() || kind == SettingKindText)
+    constexpr Unit kQuote = '"';
+    constexpr Unit kNumberSign = '#';
+    value = value.size() == 1 ? value.substr(1) : value.substr(1, value.size() - 2);
+    if (value.find(kQuote) != value.npos) {
+        room.assign(value);
+        std::erase(room, kQuote);
+        value = room;
+    }
+    const std::size_t end = value.find(kNumberSign);
+    return end != value.npos && end > 0 ? value.substr(0, end) : value;
+}
+
+// The kind of two values joined without a separator, when the first has the given kind.
+SettingKind ClassifyJoined(CompactView first, SettingKind kind, CompactView second)
+{
+    if (first.empty())
+        return ClassifyValue(second);
+    if (second.empty() || kind == SettingKindText)
         return kind;
-    if (after.front() == u'-')
+    if (second[0] == u'-')
         return SettingKindText;
-    const SettingKind added = ClassifyValue(after);
+    const SettingKind added = ClassifyValue(second);
     return added == SettingKindInteger ? kind : added;
 }
 
-// Builds a table line by line. The table is a new one, so that a file that cannot be read to its
-// end leaves the store as it was.
+// Builds a table from the blocks of a file. The table is a new one, so that a file that cannot be
+// read to its end leaves the store as it was.
 class ConfigReader
 {
   public:
-    ConfigReader(const SettingStore& store, int table) : m_store(store), m_forCurrent(table == kCurrentTable)
+    ConfigReader(SettingStore& store, int table) : m_store(store), m_table(table) {}
+
+    void Feed(std::string_view block)
     {
+        m_splitter.Feed(block, [this](std::string_view line) { AddLine(line); });
     }
 
+    // After the last block: puts the table into the store.
+    void Finish()
+    {
+        m_splitter.Finish([this](std::string_view line) { AddLine(line); });
+        if (!m_anyLine)
+            return;
+        CombineWithCurrent();
+        m_store.Replace(m_table, std::move(m_records));
+    }
+
+  private:
     void AddLine(std::string_view bytes)
     {
         m_anyLine = true;
-        m_line.clear();
-        m_decoder.Append(bytes, m_line);
-        const TextView line = Trim(m_line);
-        if (line.empty() || line.front() == u'#') {
+        const std::string_view line = TrimBytes(bytes);
+        if (line.empty() || line.front() == '#') {
             // What stands above the first empty line is the header that the writer makes anew.
             if (m_inHeader && line.empty()) {
                 m_comment.clear();
                 m_inHeader = false;
             }
-            m_comment.append(line).push_back(u'\n');
-        } else if (line.front() != u'%') {
+            m_comment.append(line).push_back('\n');
+        } else if (line.front() != '%') {
             m_inHeader = false;
             Assign(SplitAssignment(line));
         }
     }
 
-    bool AnyLine() const { return m_anyLine; }
-    SettingTable& Records() { return m_records; }
-
-  private:
     void Assign(const Assignment& parts)
     {
-        const char16_t operation = OperatorOf(parts.operatorToken);
-        if (operation == u'\0')
+        const char operation = OperatorOf(parts.operatorToken);
+        if (operation == '\0')
             return;
-        const TextView value = Unquote(parts.value);
-        if (operation == u'=')
-            Store(parts.name, value, ClassifyValue(value));
-        else if (m_forCurrent)
-            CombineWithin(parts.name, operation, value);
+        const CompactView name = Decoded(parts.name, m_name);
+        const CompactView value = ValueOf(parts.value);
+        const SettingTable::Index index = m_records.Find(name);
+        if (index == SettingTable::kNone)
+            Insert(name, operation, value);
+        else if (operation == '=' || !ForCurrent())
+            Replace(index, operation, value);
         else
-            CombineWithCurrent(parts.name, operation, value);
+            Combine(index, operation, value);
         m_comment.clear();
     }
 
-    // A quoted value loses its quotes and what follows a "#"; any other is taken as it stands.
-    TextView Unquote(TextView value)
+    bool ForCurrent() const { return m_table == kCurrentTable; }
+
+    // A quoted value loses its quotes and what follows a "#"; any other is taken as it stands. It is
+    // decoded before: the bytes on both sides of a quote are never one character.
+    CompactView ValueOf(std::string_view bytes)
     {
-        if (value.empty() || value.front() != u'"' || value.back() != u'"')
+        const CompactView value = Decoded(bytes, m_value);
+        if (bytes.empty() || bytes.front() != '"' || bytes.back() != '"')
             return value;
-        m_unquoted.clear();
-        std::copy_if(value.begin(), value.end(), std::back_inserter(m_unquoted),
-                     [](char16_t c) { return c != u'"'; });
-        TextView result = m_unquoted;
-        const std::size_t hash = result.find(u'#');
-        if (hash != TextView::npos && hash > 0)
-            result = result.substr(0, hash);
-        return result;
+        return value.IsNarrow() ? CompactView::OfBytes(Unquoted(value.Narrow(), m_unquoted))
+                                : CompactView(Unquoted(value.Wide(), m_unquotedText));
+    }
+
+    void Insert(CompactView name, char operation, CompactView value)
+    {
+        m_records.Insert(name, value, ClassifyValue(value), Decoded(m_comment, m_decodedComment));
+        if (!ForCurrent())
+            m_operations.push_back(operation);
+    }
+
+    void Replace(SettingTable::Index index, char operation, CompactView value)
+    {
+        m_records.SetValue(index, value, ClassifyValue(value));
+        if (!ForCurrent())
+            m_operations[index] = operation;
     }
 
     // While the current file is read, its earlier lines are the current values.
-    void CombineWithin(TextView name, char16_t operation, TextView value)
+    void Combine(SettingTable::Index index, char operation, CompactView value)
     {
-        const SettingTable::Index index = m_records.Find(name);
-        if (index == SettingTable::kNone) {
-            m_records.Insert(name, value, ClassifyValue(value), m_comment);
-            return;
-        }
-        const SettingRecord record = m_records.At(index);
-        const auto kind = static_cast<SettingKind>(record.kind);
-        switch (operation) {
-        case u'>':
-            m_records.ExtendValue(index, {}, Joined(u";", value), SettingKindText);
-            break;
-        case u'<':
-            m_records.ExtendValue(index, Joined(value, u";"), {}, SettingKindText);
-            break;
-        case u'+':
-            m_records.ExtendValue(index, {}, value,
-                                  record.value.empty() ? ClassifyValue(value)
-                                                       : ClassifyExtended(kind, value));
-            break;
-        default: // ":" leaves a value that is there alone.
-            break;
-        }
+        if (operation == '>') {
+            m_records.ExtendValue(index, {}, u";", SettingKindText);
+            m_records.ExtendValue(index, {}, value, SettingKindText);
+        } else if (operation == '<') {
+            m_records.ExtendValue(index, u";", {}, SettingKindText);
+            m_records.ExtendValue(index, value, {}, SettingKindText);
+        } else if (operation == '+') {
+            const SettingRecord record = m_records.At(index);
+            const auto kind = static_cast<SettingKind>(record.kind);
+            m_records.ExtendValue(index, {}, value, ClassifyJoined(record.value, kind, value));
+        } // ":" leaves a value that is there alone.
     }
 
     // The defaults file combines with the current table, not with its own earlier lines: what the
-    // person's file says at that time decides.
-    void CombineWithCurrent(TextView name, char16_t operation, TextView value)
+    // person's file says at that time decides. So only a name's last line counts, and the current
+    // value, which may be long, is looked at once.
+    void CombineWithCurrent()
     {
-        const auto record = m_store.FindSetting(name, kCurrentTable);
-        if (record) {
-            switch (operation) {
-            case u'>':
-                value = Joined(record->value, u";", value);
-                break;
-            case u'<':
-                value = Joined(value, u";", record->value);
-                break;
-            case u'+':
-                value = Joined(record->value, value);
-                break;
-            default: // ":"
-                value = record->value;
-                break;
+        for (std::size_t i = 0; i < m_operations.size(); ++i) {
+            const char operation = m_operations[i];
+            if (operation == '=')
+                continue;
+            const auto index = static_cast<SettingTable::Index>(i);
+            const SettingRecord record = m_records.At(index);
+            const auto found = m_store.FindSetting(record.name, kCurrentTable);
+            if (!found)
+                continue;
+            const CompactView current = found->value;
+            const SettingKind kind = ClassifyValue(current);
+            if (operation == '>') {
+                m_records.ExtendValue(index, u";", {}, SettingKindText);
+                m_records.ExtendValue(index, current, {}, SettingKindText);
+            } else if (operation == '<') {
+                m_records.ExtendValue(index, {}, u";", SettingKindText);
+                m_records.ExtendValue(index, {}, current, SettingKindText);
+            } else if (operation == '+') {
+                m_records.ExtendValue(index, current, {}, ClassifyJoined(current, kind, record.value));
+            } else { // ":"
+                m_records.SetValue(index, current, kind);
             }
         }
-        Store(name, value, ClassifyValue(value));
     }
 
-    void Store(TextView name, TextView value, SettingKind kind)
+    // The text of the bytes: the bytes themselves where they can be taken for it, else in `room`.
+    CompactView Decoded(std::string_view bytes, Text& room) const
     {
-        const SettingTable::Index index = m_records.Find(name);
-        if (index == SettingTable::kNone)
-            m_records.Insert(name, value, kind, m_comment);
-        else
-            m_records.SetValue(index, value, kind);
+        if (m_decoder.IsPlain(bytes))
+            return CompactView::OfBytes(bytes);
+        room.clear();
+        m_decoder.Append(bytes, room);
+        return room;
     }
 
-    TextView Joined(TextView first, TextView second, TextView third = {})
-    {
-        m_joined.assign(first).append(second).append(third);
-        return m_joined;
-    }
-
-    const SettingStore& m_store;
-    const bool m_forCurrent;
-    const LocaleDecoder m_decoder;
-    SettingTable m_records;
-    Text m_comment;
-    bool m_inHeader = true;
-    bool m_anyLine = false;
-    Text m_line;
-    Text m_unquoted;
-    Text m_joined;
-};
-
-// Feeds a reader through a splitter and puts its table into the store.
-class ReadRun
-{
-  public:
-    ReadRun(SettingStore& store, int table) : m_store(store), m_table(table), m_reader(store, table) {}
-    // The line function holds the address of this object.
-    ReadRun(const ReadRun&) = delete;
-    ReadRun& operator=(const ReadRun&) = delete;
-
-    void Feed(std::string_view block) { m_splitter.Feed(block, m_addLine); }
-
-    void Finish()
-    {
-        m_splitter.Finish(m_addLine);
-        if (m_reader.AnyLine())
-            m_store.Replace(m_table, std::move(m_reader.Records()));
-    }
-
-  private:
     SettingStore& m_store;
     const int m_table;
-    ConfigReader m_reader;
+    const LocaleDecoder m_decoder;
     LineSplitter m_splitter;
-    const LineSplitter::LineFunction m_addLine = [this](std::string_view line) { m_reader.AddLine(line); };
+    SettingTable m_records;
+    std::vector<char> m_operations; // Of each variable's last line; only for the defaults file.
+    std::string m_comment;          // The lines above the next variable.
+    bool m_inHeader = true;
+    bool m_anyLine = false;
+    // Room for what differs from the bytes of the line; kept from line to line.
+    Text m_name;
+    Text m_value;
+    Text m_decodedComment;
+    std::string m_unquoted;
+    Text m_unquotedText;
 };
 
 } // namespace
 
-SettingKind ClassifyValue(TextView value)
+SettingKind ClassifyValue(CompactView value)
 {
     if (value.empty())
         return SettingKindText;
@@ -241,20 +266,20 @@ SettingKind ClassifyValue(TextView value)
 
 void ReadConfig(SettingStore& store, int table, std::string_view bytes)
 {
-    ReadRun run(store, table);
-    run.Feed(bytes);
-    run.Finish();
+    ConfigReader reader(store, table);
+    reader.Feed(bytes);
+    reader.Finish();
 }
 
 ReadResult ReadConfigFile(SettingStore& store, int table, const Text& path, FilePort& files)
 {
     if (path.empty() || files.Kind(path) == FileKind::Absent)
         return {ReadOutcome::NothingToRead};
-    ReadRun run(store, table);
-    FileResult result = ReadBlocks(files, path, [&run](std::string_view block) { run.Feed(block); });
+    ConfigReader reader(store, table);
+    FileResult result = ReadBlocks(files, path, [&reader](std::string_view block) { reader.Feed(block); });
     if (!result)
         return {ReadOutcome::Failed, std::move(result.systemText)};
-    run.Finish();
+    reader.Finish();
     return {ReadOutcome::Read};
 }
 

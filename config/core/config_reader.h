@@ -11,7 +11,7 @@ namespace ov
 
 /// The kind that a value read from a file gets: text (also when empty), whole number or number
 /// with a decimal point.
-SettingKind ClassifyValue(TextView value);
+SettingKind ClassifyValue(CompactView value);
 
 /// Reads the bytes of a configuration file into a table of the store, by the process's locale.
 /// The table is replaced; no bytes at all leave it as it was.

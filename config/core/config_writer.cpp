@@ -5,6 +5,9 @@
 #include "match/core/tokens.h"
 
 #include <algorithm>
+#include <array>
+#include <span>
+#include <utility>
 
 namespace ov
 {
@@ -34,12 +37,10 @@ void ReplacePlaceholder(Text& text, TextView placeholder, TextView value)
 }
 
 // Appends a list's items, the first with "=" under the comment, each further one with ">".
-void AppendList(Text& lines, const SettingRecord& record, TextView comment)
+void AppendList(Text& lines, const SettingRecord& record, CompactView comment)
 {
-    Text value;
-    value.reserve(record.value.size());
-    std::copy_if(record.value.begin(), record.value.end(), std::back_inserter(value),
-                 [](char16_t c) { return c != u'"'; });
+    Text value = record.value;
+    std::erase(value, u'"');
     // Blanks at the very end belong to no item; taken away once, they are not skipped again for
     // every item.
     while (!value.empty() && value.back() == u' ')
@@ -57,42 +58,12 @@ void AppendList(Text& lines, const SettingRecord& record, TextView comment)
         if (item.empty())
             continue;
         if (first)
-            lines.append(comment);
-        lines.append(record.name).append(first ? u" = " : u" > ").append(item).push_back(u'\n');
+            comment.AppendTo(lines);
+        record.name.AppendTo(lines);
+        lines.append(first ? u" = " : u" > ").append(item).push_back(u'\n');
         first = false;
     }
 }
-
-void AppendSetting(Text& lines, const SettingRecord& record, TextView comment)
-{
-    if (record.value.find(u';') != TextView::npos) {
-        AppendList(lines, record, comment);
-        return;
-    }
-    const TextView quote = record.kind == SettingKindText ? u"\"" : u"";
-    lines.append(comment).append(record.name).append(u" = ");
-    lines.append(quote).append(record.value).append(quote).push_back(u'\n');
-}
-
-// Turns pieces of text into the bytes of a file.
-class FileBytes
-{
-  public:
-    explicit FileBytes(std::string& bytes) : m_bytes(bytes) { m_bytes.clear(); }
-
-    EncodeResult Append(TextView lines)
-    {
-        m_encoded.clear();
-        const EncodeResult result = m_encoder.Append(lines, m_encoded);
-        AppendWithLineEnds(m_encoded, m_bytes);
-        return result;
-    }
-
-  private:
-    const LocaleEncoder m_encoder;
-    std::string& m_bytes;
-    std::string m_encoded;
-};
 
 // The whole character at an index, both units of a surrogate pair.
 Text CharacterAt(TextView text, std::size_t index)
@@ -100,6 +71,59 @@ Text CharacterAt(TextView text, std::size_t index)
     const bool pair = text[index] >= 0xD800 && text[index] <= 0xDBFF && index + 1 < text.size() &&
                       text[index + 1] >= 0xDC00 && text[index + 1] <= 0xDFFF;
     return Text(text.substr(index, pair ? 2 : 1));
+}
+
+// Turns text into the bytes of a file. What is appended must end where a character ends.
+class FileBytes
+{
+  public:
+    explicit FileBytes(std::string& bytes) : m_bytes(bytes) { m_bytes.clear(); }
+
+    // Gives the first character that the locale cannot write, nothing when all were written.
+    Text Append(TextView text)
+    {
+        m_encoded.clear();
+        if (const EncodeResult result = m_encoder.Append(text, m_encoded); !result)
+            return CharacterAt(text, result.position);
+        AppendWithLineEnds(m_encoded, m_bytes);
+        return {};
+    }
+
+    // As appending the pieces joined into one text.
+    Text Append(std::span<const CompactView> pieces)
+    {
+        if (std::all_of(pieces.begin(), pieces.end(), [this](CompactView piece) { return IsPlain(piece); })) {
+            for (const CompactView piece : pieces)
+                AppendWithLineEnds(piece.Narrow(), m_bytes);
+            return {};
+        }
+        m_joined.clear();
+        for (const CompactView piece : pieces)
+            piece.AppendTo(m_joined);
+        return Append(m_joined);
+    }
+
+  private:
+    bool IsPlain(CompactView text) const { return text.IsNarrow() && m_encoder.IsPlain(text.Narrow()); }
+
+    const LocaleEncoder m_encoder;
+    std::string& m_bytes;
+    std::string m_encoded;
+    Text m_joined;
+};
+
+// The setting's lines; nothing, or the first character that the locale cannot write.
+Text AppendSetting(FileBytes& output, const SettingRecord& record, CompactView comment)
+{
+    if (record.value.Contains(u';')) {
+        Text lines;
+        AppendList(lines, record, comment);
+        return output.Append(lines);
+    }
+    const CompactView quote = CompactView::OfBytes(record.kind == SettingKindText ? "\"" : "");
+    const std::array pieces{comment,      record.name, CompactView::OfBytes(" = "), quote,
+                            record.value, quote,       CompactView::OfBytes("\n")};
+    return output.Append(pieces);
 }
 
 } // namespace
@@ -121,22 +145,21 @@ Text MakeHeader(const HeaderInfo& info)
 WriteResult WriteConfig(const SettingStore& store, TextView header, std::string& bytes)
 {
     FileBytes output(bytes);
-    WriteResult result;
-    const Text headerLines = Text(header) + u"\n";
-    if (const EncodeResult encoded = output.Append(headerLines); !encoded)
-        return {false, true, Text(), CharacterAt(headerLines, encoded.position)};
+    // Enough for nearly every file: one byte more for a line of 16, and the marks around a value.
+    const std::size_t textBytes = store.TextBytes(kCurrentTable);
+    bytes.reserve(header.size() * 2 + textBytes + textBytes / 16 + store.Count(kCurrentTable) * 8);
+    if (Text refused = output.Append(Text(header) + u"\n"); !refused.empty())
+        return {false, true, Text(), std::move(refused)};
 
-    Text lines;
+    WriteResult result;
     store.VisitInOrder(kCurrentTable, [&](const SettingRecord& record) {
-        TextView comment = record.comment;
+        CompactView comment = record.comment;
         if (comment.empty()) {
             if (const auto other = store.FindSetting(record.name, kDefaultTable))
                 comment = other->comment;
         }
-        lines.clear();
-        AppendSetting(lines, record, comment);
-        if (const EncodeResult encoded = output.Append(lines); !encoded)
-            result = {false, false, Text(record.name), CharacterAt(lines, encoded.position)};
+        if (Text refused = AppendSetting(output, record, comment); !refused.empty())
+            result = {false, false, record.name, std::move(refused)};
         return result.ok;
     });
     return result;

@@ -35,7 +35,7 @@ void SettingStore::SetSetting(TextView name, TextView value, std::int32_t kind, 
         records.SetValue(index, value, kind);
 }
 
-std::optional<SettingRecord> SettingStore::FindSetting(TextView name, int table) const
+std::optional<SettingRecord> SettingStore::FindSetting(CompactView name, int table) const
 {
     const SettingTable& records = Table(table);
     const SettingTable::Index index = records.Find(name);

@@ -37,7 +37,7 @@ class SettingStore
     void SetSetting(TextView name, TextView value, std::int32_t kind, TextView comment, int table);
 
     /// The variable's record, nothing when it is absent. Its texts stand until the next change.
-    std::optional<SettingRecord> FindSetting(TextView name, int table) const;
+    std::optional<SettingRecord> FindSetting(CompactView name, int table) const;
 
     /// Puts a whole new table in the place of the selected one. As emptying the table, which
     /// clears the current table's modified mark, and inserting every variable, which sets it.
@@ -45,6 +45,9 @@ class SettingStore
 
     /// The number of variables in the table.
     std::size_t Count(int table) const { return Table(table).Count(); }
+
+    /// At least the number of bytes that the texts of the table take, and not much more.
+    std::size_t TextBytes(int table) const { return Table(table).TextBytes(); }
 
     /// Calls the function with every record of the table in ordinal order of the names, until it
     /// returns false.

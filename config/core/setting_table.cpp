@@ -3,133 +3,177 @@
 #include <algorithm>
 #include <limits>
 #include <numeric>
-#include <stdexcept>
+#include <string>
+#include <utility>
 
 namespace ov
 {
 namespace
 {
 
-using Traits = std::char_traits<char16_t>;
-
-std::uint32_t HashOf(TextView name)
+// A name in the form in which a table keeps it.
+std::uint32_t HashOf(CompactView name)
 {
-    const std::size_t hash = std::hash<TextView>()(name);
+    const std::size_t hash =
+        name.IsNarrow() ? std::hash<std::string_view>()(name.Narrow()) : std::hash<TextView>()(name.Wide());
     return static_cast<std::uint32_t>(hash ^ (hash >> 32));
 }
 
-std::uint32_t Length32(std::size_t length)
+std::uint32_t Counted(std::size_t room)
 {
-    if (length > std::numeric_limits<std::uint32_t>::max())
-        throw std::length_error("A setting is longer than a table can hold");
-    return static_cast<std::uint32_t>(length);
+    constexpr std::size_t kHighest = std::numeric_limits<std::uint32_t>::max();
+    return static_cast<std::uint32_t>(std::min(room, kHighest));
 }
 
 } // namespace
 
-SettingTable::Index SettingTable::Find(TextView name) const
+CompactView SettingTable::Entry::Value() const
 {
-    if (m_slots.empty())
+    if (narrowValue)
+        return CompactView::OfBytes({value, valueLength});
+    return TextView(reinterpret_cast<const char16_t*>(value), valueLength);
+}
+
+void SettingTable::Entry::PutValue(CompactView text, bool narrow, char* room)
+{
+    CopyUnits(text, narrow, room);
+    value = room;
+    valueLength = text.size();
+    narrowValue = narrow;
+}
+
+SettingTable::Index SettingTable::Find(CompactView name) const
+{
+    return m_inOrder ? FindInOrder(name) : FindByHash(name);
+}
+
+SettingTable::Index SettingTable::FindInOrder(CompactView name) const
+{
+    // A file in order asks for the last name, or for one that comes behind it.
+    auto end = static_cast<Index>(Count());
+    if (end == 0 || EntryAt(end - 1).name < name)
         return kNone;
+    Index begin = end - 1;
+    if (EntryAt(begin).name != name) {
+        begin = 0;
+        while (begin < end) {
+            const Index middle = begin + (end - begin) / 2;
+            if (EntryAt(middle).name < name)
+                begin = middle + 1;
+            else
+                end = middle;
+        }
+    }
+    return EntryAt(begin).name == name ? begin : kNone;
+}
+
+SettingTable::Index SettingTable::FindByHash(CompactView name) const
+{
+    std::string narrowed;
+    if (!name.IsNarrow() && name.FitsNarrow()) {
+        narrowed.resize(name.size());
+        name = CopyUnits(name, true, narrowed.data());
+    }
     const std::uint32_t hash = HashOf(name);
     const std::size_t mask = m_slots.size() - 1;
     for (std::size_t place = hash & mask;; place = (place + 1) & mask) {
         const Slot& slot = m_slots[place];
         if (slot.index == kNone)
             return kNone;
-        if (slot.hash == hash && NameOf(m_entries[slot.index]) == name)
+        if (slot.hash == hash && EntryAt(slot.index).name == name)
             return slot.index;
     }
 }
 
 SettingRecord SettingTable::At(Index index) const
 {
-    const Entry& entry = m_entries[index];
-    return {NameOf(entry),
-            {entry.block + entry.valueOffset, entry.valueLength},
-            {entry.comment, entry.commentLength},
-            entry.kind};
+    const Entry& entry = EntryAt(index);
+    return {entry.name, entry.Value(), entry.comment, entry.kind};
 }
 
-SettingTable::Index SettingTable::Insert(TextView name, TextView value, std::int32_t kind, TextView comment)
+SettingTable::Index SettingTable::Insert(CompactView name, CompactView value, std::int32_t kind,
+                                         CompactView comment)
 {
-    if ((m_entries.size() + 1) * 4 > m_slots.size() * 3)
-        GrowSlots();
-    if (!m_entries.empty() && name < NameOf(m_entries.back()))
-        m_insertedInOrder = false;
+    const auto index = static_cast<Index>(Count());
+    if (index == m_chunks.size() * kChunkLength) {
+        std::vector<Entry> chunk;
+        chunk.reserve(kChunkLength);
+        m_chunks.push_back(std::move(chunk));
+    }
 
-    Entry entry{};
-    entry.nameLength = Length32(name.size());
-    entry.commentLength = Length32(comment.size());
-    entry.valueLength = Length32(value.size());
-    entry.blockLength = entry.valueLength;
-    entry.kind = kind;
-    entry.name = Keep(name);
-    entry.comment = Keep(comment);
-    entry.block = m_arena.Allocate(value.size());
-    Traits::copy(entry.block, value.data(), value.size());
-
-    const auto index = static_cast<Index>(m_entries.size());
-    m_entries.push_back(entry);
-    const std::uint32_t hash = HashOf(name);
-    const std::size_t mask = m_slots.size() - 1;
-    std::size_t place = hash & mask;
-    while (m_slots[place].index != kNone)
-        place = (place + 1) & mask;
-    m_slots[place] = {hash, index};
+    const bool narrow = value.FitsNarrow();
+    Entry entry{Keep(name), Keep(comment), nullptr, 0, 0, 0, kind, narrow};
+    entry.PutValue(value, narrow, m_arena.Allocate(ByteLength(value, narrow)));
+    if (m_inOrder && index > 0 && entry.name < EntryAt(index - 1).name) {
+        m_slots.clear();
+        for (Index earlier = 0; earlier < index; ++earlier)
+            AddSlot(HashOf(EntryAt(earlier).name), earlier);
+        m_inOrder = false;
+    }
+    if (!m_inOrder)
+        AddSlot(HashOf(entry.name), index);
+    m_chunks.back().push_back(entry);
     return index;
 }
 
-void SettingTable::SetValue(Index index, TextView value, std::int32_t kind)
+void SettingTable::SetValue(Index index, CompactView value, std::int32_t kind)
 {
-    Entry& entry = m_entries[index];
-    const std::uint32_t length = Length32(value.size());
-    if (length > entry.blockLength) {
-        char16_t* block = m_arena.Allocate(length);
-        Traits::copy(block, value.data(), length);
-        entry.block = block;
-        entry.blockLength = length;
-    } else {
-        Traits::move(entry.block, value.data(), length);
+    Entry& entry = EntryAt(index);
+    const bool narrow = value.FitsNarrow();
+    const std::size_t length = ByteLength(value, narrow);
+    char* block = entry.value - entry.roomBefore;
+    std::size_t capacity = entry.roomBefore + ByteLength(entry.Value(), entry.narrowValue) + entry.roomAfter;
+    if (length > capacity) {
+        // At least twice the room, so that a value that keeps growing leaves little behind.
+        capacity = std::max(length, capacity * 2);
+        block = m_arena.Allocate(capacity);
     }
-    entry.valueOffset = 0;
-    entry.valueLength = length;
+    entry.PutValue(value, narrow, block);
+    entry.roomBefore = 0;
+    entry.roomAfter = Counted(capacity - length);
     entry.kind = kind;
 }
 
-void SettingTable::ExtendValue(Index index, TextView before, TextView after, std::int32_t kind)
+void SettingTable::ExtendValue(Index index, CompactView before, CompactView after, std::int32_t kind)
 {
-    Entry& entry = m_entries[index];
-    const std::size_t length = before.size() + entry.valueLength + after.size();
-    const std::size_t roomBefore = entry.valueOffset;
-    const std::size_t roomAfter = entry.blockLength - entry.valueOffset - entry.valueLength;
-    if (before.size() > roomBefore || after.size() > roomAfter) {
+    Entry& entry = EntryAt(index);
+    const bool narrow = entry.narrowValue && before.FitsNarrow() && after.FitsNarrow();
+    const std::size_t beforeBytes = ByteLength(before, narrow);
+    const std::size_t valueBytes = ByteLength(entry.Value(), narrow);
+    const std::size_t afterBytes = ByteLength(after, narrow);
+    const bool lacksBefore = beforeBytes > entry.roomBefore;
+    const bool lacksAfter = afterBytes > entry.roomAfter;
+    if (lacksBefore || lacksAfter || narrow != entry.narrowValue) {
         // Room as large as the value on the side that ran out; the other side keeps its room, so
         // that a list growing at both ends does not move at every line.
-        const std::size_t newBefore = before.size() > roomBefore ? length : std::min(roomBefore, length);
-        const std::size_t newAfter = after.size() > roomAfter ? length : std::min(roomAfter, length);
-        const std::uint32_t blockLength = Length32(newBefore + length + newAfter);
-        char16_t* block = m_arena.Allocate(blockLength);
-        const std::size_t offset = newBefore + before.size();
-        Traits::copy(block + offset, entry.block + entry.valueOffset, entry.valueLength);
-        entry.block = block;
-        entry.blockLength = blockLength;
-        entry.valueOffset = static_cast<std::uint32_t>(offset);
+        constexpr std::size_t kMostRoom = std::size_t{1} << 31;
+        const std::size_t length = beforeBytes + valueBytes + afterBytes;
+        const std::size_t most = std::min(length, kMostRoom);
+        std::size_t roomBefore = lacksBefore ? most : std::min<std::size_t>(entry.roomBefore, most);
+        roomBefore += roomBefore % 2; // Units of 16 bits lie on even addresses.
+        const std::size_t roomAfter = lacksAfter ? most : std::min<std::size_t>(entry.roomAfter, most);
+        char* const block = m_arena.Allocate(roomBefore + length + roomAfter);
+        entry.PutValue(entry.Value(), narrow, block + roomBefore + beforeBytes);
+        entry.roomBefore = Counted(roomBefore);
+        entry.roomAfter = Counted(roomAfter);
+    } else {
+        entry.roomBefore -= Counted(beforeBytes);
+        entry.roomAfter -= Counted(afterBytes);
     }
-    Traits::copy(entry.block + entry.valueOffset + entry.valueLength, after.data(), after.size());
-    entry.valueOffset -= static_cast<std::uint32_t>(before.size());
-    Traits::copy(entry.block + entry.valueOffset, before.data(), before.size());
-    entry.valueLength = static_cast<std::uint32_t>(length);
+    CopyUnits(after, narrow, entry.value + valueBytes);
+    entry.value -= beforeBytes;
+    CopyUnits(before, narrow, entry.value);
+    entry.valueLength += before.size() + after.size();
     entry.kind = kind;
 }
 
 void SettingTable::VisitInOrder(const std::function<bool(const SettingRecord&)>& visit) const
 {
-    std::vector<Index> order(m_entries.size());
+    std::vector<Index> order(Count());
     std::iota(order.begin(), order.end(), Index{0});
-    if (!m_insertedInOrder) {
+    if (!m_inOrder) {
         std::sort(order.begin(), order.end(),
-                  [this](Index a, Index b) { return NameOf(m_entries[a]) < NameOf(m_entries[b]); });
+                  [this](Index a, Index b) { return EntryAt(a).name < EntryAt(b).name; });
     }
     for (const Index index : order) {
         if (!visit(At(index)))
@@ -137,26 +181,32 @@ void SettingTable::VisitInOrder(const std::function<bool(const SettingRecord&)>&
     }
 }
 
-const char16_t* SettingTable::Keep(TextView text)
+CompactView SettingTable::Keep(CompactView text)
 {
-    char16_t* room = m_arena.Allocate(text.size());
-    Traits::copy(room, text.data(), text.size());
-    return room;
+    const bool narrow = text.FitsNarrow();
+    return CopyUnits(text, narrow, m_arena.Allocate(ByteLength(text, narrow)));
 }
 
-void SettingTable::GrowSlots()
+void SettingTable::AddSlot(std::uint32_t hash, Index index)
 {
-    std::vector<Slot> grown(std::max<std::size_t>(16, m_slots.size() * 2), Slot{0, kNone});
-    const std::size_t mask = grown.size() - 1;
-    for (const Slot& slot : m_slots) {
-        if (slot.index == kNone)
-            continue;
-        std::size_t place = slot.hash & mask;
-        while (grown[place].index != kNone)
-            place = (place + 1) & mask;
-        grown[place] = slot;
+    if ((std::size_t{index} + 1) * 4 > m_slots.size() * 3) {
+        std::vector<Slot> grown(std::max<std::size_t>(16, m_slots.size() * 2), Slot{0, kNone});
+        for (const Slot& slot : m_slots) {
+            if (slot.index != kNone)
+                PlaceSlot(slot, grown);
+        }
+        m_slots = std::move(grown);
     }
-    m_slots = std::move(grown);
+    PlaceSlot({hash, index}, m_slots);
+}
+
+void SettingTable::PlaceSlot(const Slot& slot, std::vector<Slot>& slots)
+{
+    const std::size_t mask = slots.size() - 1;
+    std::size_t place = slot.hash & mask;
+    while (slots[place].index != kNone)
+        place = (place + 1) & mask;
+    slots[place] = slot;
 }
 
 } // namespace ov

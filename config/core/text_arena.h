@@ -18,18 +18,24 @@ class TextArena
     {
         m_blocks = std::move(other.m_blocks);
         other.m_blocks.clear();
+        m_total = std::exchange(other.m_total, 0);
         m_free = std::exchange(other.m_free, nullptr);
-        m_freeLength = std::exchange(other.m_freeLength, 0);
+        m_freeBytes = std::exchange(other.m_freeBytes, 0);
         return *this;
     }
 
-    /// Room for `length` units, not initialised; stands until the arena is destroyed.
-    char16_t* Allocate(std::size_t length);
+    /// Room for so many bytes, not initialised and on an even address; stands until the arena is
+    /// destroyed.
+    char* Allocate(std::size_t bytes);
+
+    /// The bytes of all blocks together.
+    std::size_t Total() const { return m_total; }
 
   private:
-    std::vector<std::unique_ptr<char16_t[]>> m_blocks;
-    char16_t* m_free = nullptr;
-    std::size_t m_freeLength = 0;
+    std::vector<std::unique_ptr<char[]>> m_blocks;
+    std::size_t m_total = 0;
+    char* m_free = nullptr;
+    std::size_t m_freeBytes = 0;
 };
 
 } // namespace ov

@@ -6,44 +6,6 @@
 
 namespace ov
 {
-namespace
-{
-
-std::string_view WithoutCarriageReturn(std::string_view line)
-{
-    if (!line.empty() && line.back() == '\r')
-        line.remove_suffix(1);
-    return line;
-}
-
-} // namespace
-
-void LineSplitter::Feed(std::string_view block, const LineFunction& line)
-{
-    while (!block.empty()) {
-        const std::size_t length = block.find('\n');
-        if (length == std::string_view::npos) {
-            m_rest.append(block);
-            return;
-        }
-        if (m_rest.empty()) {
-            line(WithoutCarriageReturn(block.substr(0, length)));
-        } else {
-            m_rest.append(block, 0, length);
-            line(WithoutCarriageReturn(m_rest));
-            m_rest.clear();
-        }
-        block.remove_prefix(length + 1);
-    }
-}
-
-void LineSplitter::Finish(const LineFunction& line)
-{
-    if (!m_rest.empty())
-        line(m_rest);
-    m_rest.clear();
-}
-
 FileResult ReadBlocks(FilePort& files, const Text& path, const std::function<void(std::string_view)>& block)
 {
     constexpr std::size_t kBlockSize = std::size_t{256} * 1024;

@@ -21,16 +21,45 @@ namespace ov
 class LineSplitter
 {
   public:
-    using LineFunction = std::function<void(std::string_view line)>;
-
-    /// Calls the function for each line that the block completes, without its line end. The line
-    /// stands during the call.
-    void Feed(std::string_view block, const LineFunction& line);
+    /// Calls `line`, a function of a std::string_view, for each line that the block completes,
+    /// without its line end. The line stands during the call.
+    template <typename LineFunction>
+    void Feed(std::string_view block, const LineFunction& line)
+    {
+        while (!block.empty()) {
+            const std::size_t length = block.find('\n');
+            if (length == std::string_view::npos) {
+                m_rest.append(block);
+                return;
+            }
+            if (m_rest.empty()) {
+                line(WithoutCarriageReturn(block.substr(0, length)));
+            } else {
+                m_rest.append(block, 0, length);
+                line(WithoutCarriageReturn(m_rest));
+                m_rest.clear();
+            }
+            block.remove_prefix(length + 1);
+        }
+    }
 
     /// Calls the function for a last line without a line end.
-    void Finish(const LineFunction& line);
+    template <typename LineFunction>
+    void Finish(const LineFunction& line)
+    {
+        if (!m_rest.empty())
+            line(std::string_view(m_rest));
+        m_rest.clear();
+    }
 
   private:
+    static std::string_view WithoutCarriageReturn(std::string_view line)
+    {
+        if (!line.empty() && line.back() == '\r')
+            line.remove_suffix(1);
+        return line;
+    }
+
     std::string m_rest; ///< The beginning of a line whose end has not come yet.
 };
 

@@ -42,7 +42,7 @@ std::optional<std::string> ReadBytes(const fs::path& path)
     return bytes.str();
 }
 
-std::string Escaped(TextView text)
+std::string Escaped(const Text& text)
 {
     std::string bytes;
     EXPECT_TRUE(EncodeLocale(text, bytes));

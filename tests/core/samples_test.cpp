@@ -44,7 +44,7 @@ class Samples : public testing::Test
     std::string Comment(const char16_t* name) const
     {
         const auto record = store.FindSetting(name, kCurrentTable);
-        return record ? ov::Utf8FromText(record->comment) : "absent";
+        return record ? ov::Utf8FromText(ov::Text(record->comment)) : "absent";
     }
 
     ov::SettingStore store;
