@@ -58,11 +58,20 @@ std::string MakeConfigFile(int variables)
         std::array<char, 32> name{};
         std::snprintf(name.data(), name.size(), "_ORTHOVAL_BENCH_%07d", i);
         bytes += "\r\n#\r\n";
-        for (int line = 0; line < 2; ++line)
-            bytes.append("# ").append(generator.Sentence(16)).append("\r\n");
+        const std::size_t lines = 2 + generator.Below(2);
+        for (std::size_t line = 0; line < lines; ++line)
+            bytes.append("# ").append(generator.Sentence(15)).append("\r\n");
         bytes += "#\r\n";
         bytes.append(name.data()).append(" = ").append(generator.Value()).append("\r\n");
     }
+    return bytes;
+}
+
+std::string MakeListFile(int lines, char operation)
+{
+    std::string bytes = "\r\n_ORTHOVAL_BENCH_LIST = x\r\n";
+    for (int i = 0; i < lines; ++i)
+        bytes.append("_ORTHOVAL_BENCH_LIST ").append(1, operation).append(" x\r\n");
     return bytes;
 }
 

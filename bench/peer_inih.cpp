@@ -1,0 +1,45 @@
+// inih, which hands over names and values; they go into a map. It drops comments and cannot write.
+// The file is the one that the other libraries get.
+
+#include "bench/contenders.h"
+#include "bench/measure.h"
+
+#include <ini.h>
+#include <map>
+
+namespace ov::bench
+{
+namespace
+{
+
+using Values = std::map<std::string, std::string>;
+
+class InihDocument final : public Document
+{
+  public:
+    explicit InihDocument(const std::filesystem::path& path)
+    {
+        Require(ini_parse(path.c_str(), &Keep, &m_values) == 0, "inih cannot read the file");
+    }
+
+    std::size_t Count() const override { return m_values.size(); }
+    std::size_t Write() const override { return 0; }
+
+  private:
+    static int Keep(void* values, const char*, const char* name, const char* value)
+    {
+        (*static_cast<Values*>(values))[name] = value;
+        return 1;
+    }
+
+    Values m_values;
+};
+
+} // namespace
+
+std::unique_ptr<Document> ReadWithInih(const std::filesystem::path& path)
+{
+    return std::make_unique<InihDocument>(path);
+}
+
+} // namespace ov::bench
