@@ -13,6 +13,9 @@ namespace
 // How much of the system's text a message shows, in characters.
 constexpr std::size_t systemTextCapacity = 256;
 
+// The system's code for a person's full share of a disk; the headers lack it.
+constexpr DWORD diskQuotaExceeded = 1295;
+
 ov::FileResult Failed(DWORD error)
 {
     return {false, SystemErrorText(error)};
@@ -46,6 +49,16 @@ ov::Text WithoutPrefix(ov::Text path)
     return path;
 }
 
+/// True for a path that leads to a device or a pipe: NUL, COM1, \\.\pipe\name. It
+/// is not opened, since that alone may do something.
+bool IsDevice(const ov::Text& path)
+{
+    std::wstring full(::GetFullPathNameW(Wide(path), 0, nullptr, nullptr), L'\0');
+    const DWORD length =
+        ::GetFullPathNameW(Wide(path), static_cast<DWORD>(full.size()), full.data(), nullptr);
+    return length < full.size() && full.starts_with(L"\\\\.\\");
+}
+
 /// What tells one file from another, whatever path leads to it.
 bool IdentityOf(const ov::Text& path, BY_HANDLE_FILE_INFORMATION& identity)
 {
@@ -74,6 +87,8 @@ ov::Text SystemErrorText(unsigned long error)
 
 ov::FileKind CWin32FilePort::Kind(const ov::Text& path)
 {
+    if (IsDevice(path))
+        return ov::FileKind::Other;
     const DWORD attributes = ::GetFileAttributesW(Wide(path));
     if (attributes != INVALID_FILE_ATTRIBUTES)
         return (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0 ? ov::FileKind::Directory : ov::FileKind::File;
@@ -122,8 +137,9 @@ bool CWin32FilePort::IsSameFile(const ov::Text& first, const ov::Text& second)
 
 ov::FileResult CWin32FilePort::OpenForReading(const ov::Text& path, ov::FileHandle& file)
 {
-    const HANDLE opened = ::CreateFileW(Wide(path), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
-                                        OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr);
+    const HANDLE opened =
+        ::CreateFileW(Wide(path), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                      nullptr, OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr);
     if (opened == INVALID_HANDLE_VALUE)
         return Failed(::GetLastError());
     file = reinterpret_cast<ov::FileHandle>(opened);
@@ -140,25 +156,41 @@ ov::FileResult CWin32FilePort::Read(ov::FileHandle file, std::span<char> buffer,
 
 ov::FileResult CWin32FilePort::Create(const ov::Text& path, ov::CreateMode mode, ov::FileHandle& file)
 {
-    // OPEN_ALWAYS and a cut rather than CREATE_ALWAYS, which refuses hidden
-    // files and drops the attributes that a file has.
+    // OPEN_ALWAYS rather than CREATE_ALWAYS, which empties the file, refuses
+    // hidden ones and drops the attributes that a file has.
     const DWORD disposition = mode == ov::CreateMode::New ? CREATE_NEW : OPEN_ALWAYS;
     const HANDLE created = ::CreateFileW(Wide(path), GENERIC_WRITE, FILE_SHARE_READ, nullptr, disposition,
                                          FILE_ATTRIBUTE_NORMAL, nullptr);
     if (created == INVALID_HANDLE_VALUE)
         return Failed(::GetLastError());
-    const bool existed = ::GetLastError() == ERROR_ALREADY_EXISTS;
-    if (existed && !::SetEndOfFile(created)) {
-        const DWORD error = ::GetLastError();
-        ::CloseHandle(created);
-        return Failed(error);
-    }
     file = reinterpret_cast<ov::FileHandle>(created);
     return {};
 }
 
+ov::FileResult CWin32FilePort::Reserve(ov::FileHandle file, std::size_t size)
+{
+    LARGE_INTEGER current{};
+    FILE_ALLOCATION_INFO room{};
+    room.AllocationSize.QuadPart = static_cast<LONGLONG>(size);
+    // Less than the file holds would cut it.
+    if (!::GetFileSizeEx(Handle(file), &current) || current.QuadPart >= room.AllocationSize.QuadPart ||
+        ::SetFileInformationByHandle(Handle(file), FileAllocationInfo, &room, sizeof room))
+        return {};
+    switch (const DWORD error = ::GetLastError()) {
+    case ERROR_DISK_FULL:
+    case ERROR_HANDLE_DISK_FULL:
+    case diskQuotaExceeded:
+    case ERROR_FILE_TOO_LARGE:
+        return Failed(error);
+    default:
+        return {};
+    }
+}
+
 ov::FileResult CWin32FilePort::Write(ov::FileHandle file, std::string_view bytes)
 {
+    if (!::SetFilePointerEx(Handle(file), LARGE_INTEGER{}, nullptr, FILE_BEGIN))
+        return Failed(::GetLastError());
     while (!bytes.empty()) {
         DWORD written = 0;
         if (!::WriteFile(Handle(file), bytes.data(), PieceOf(bytes.size()), &written, nullptr))
@@ -167,7 +199,7 @@ ov::FileResult CWin32FilePort::Write(ov::FileHandle file, std::string_view bytes
             return Failed(ERROR_WRITE_FAULT);
         bytes.remove_prefix(written);
     }
-    return {};
+    return Result(::SetEndOfFile(Handle(file)));
 }
 
 ov::FileResult CWin32FilePort::Flush(ov::FileHandle file)

@@ -16,6 +16,7 @@ class CWin32FilePort final : public ov::FilePort
     ov::FileResult OpenForReading(const ov::Text& path, ov::FileHandle& file) override;
     ov::FileResult Read(ov::FileHandle file, std::span<char> buffer, std::size_t& count) override;
     ov::FileResult Create(const ov::Text& path, ov::CreateMode mode, ov::FileHandle& file) override;
+    ov::FileResult Reserve(ov::FileHandle file, std::size_t size) override;
     ov::FileResult Write(ov::FileHandle file, std::string_view bytes) override;
     ov::FileResult Flush(ov::FileHandle file) override;
     ov::FileResult Close(ov::FileHandle file) override;

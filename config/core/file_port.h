@@ -26,17 +26,18 @@ enum class FileKind {
     Absent,
     File,
     Directory,
+    Other,   ///< Neither: a device, a pipe, links that lead in a circle.
     Unknown, ///< The system would not say.
 };
 
 /// What Create does with a file that is already there.
 enum class CreateMode {
     New,      ///< Fails and leaves it alone.
-    Truncate, ///< Empties it.
+    Truncate, ///< Opens it; what it holds stays until something is written.
 };
 
 /// The file system as reading and saving need it. Every operation reports failure by its result;
-/// none throws or shows anything. Paths are in the system's notation.
+/// none shows anything, and none throws but for want of memory. Paths are in the system's notation.
 class FilePort
 {
   public:
@@ -45,8 +46,8 @@ class FilePort
     /// What stands under the path.
     virtual FileKind Kind(const Text& path) = 0;
 
-    /// The full path of what a symbolic link leads to; empty when the path is no link or the link
-    /// cannot be followed.
+    /// The full path of what a symbolic link leads to, which need not be there; empty when the path
+    /// is no link or the link cannot be followed.
     virtual Text LinkTarget(const Text& path) = 0;
 
     /// True when both paths are known to lead to one and the same file.
@@ -61,7 +62,11 @@ class FilePort
     /// Opens a file for writing and shuts out a second writer. On failure nothing is changed.
     virtual FileResult Create(const Text& path, CreateMode mode, FileHandle& file) = 0;
 
-    /// Writes all the bytes; anything less is a failure.
+    /// Makes room for a content of so many bytes; what the file holds stays. A system that cannot
+    /// say whether there is room succeeds.
+    virtual FileResult Reserve(FileHandle file, std::size_t size) = 0;
+
+    /// Makes the bytes the whole content of the file; anything less is a failure.
     virtual FileResult Write(FileHandle file, std::string_view bytes) = 0;
 
     /// Has the written bytes put on the disk.

@@ -2,9 +2,8 @@
 
 #include <cerrno>
 #include <cstdio>
-#include <cstdlib>
 #include <fcntl.h>
-#include <memory>
+#include <filesystem>
 #include <string>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -31,12 +30,26 @@ int DescriptorOf(FileHandle file)
     return static_cast<int>(file);
 }
 
+// Opens what is there. Opening a pipe must not wait for its other end, and nothing but a file is
+// read or written.
+int OpenExisting(const char* name, int access)
+{
+    const int descriptor = open(name, access | O_CLOEXEC | O_NONBLOCK);
+    struct stat status {
+    };
+    if (descriptor < 0 || (fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode)))
+        return descriptor;
+    close(descriptor);
+    errno = S_ISDIR(status.st_mode) ? EISDIR : EINVAL;
+    return -1;
+}
+
 // Opens a file for writing and tells whether it was not there before.
 int OpenForWriting(const char* name, CreateMode mode, bool& created)
 {
     created = false;
     if (mode == CreateMode::Truncate) {
-        const int descriptor = open(name, O_WRONLY | O_CLOEXEC);
+        const int descriptor = OpenExisting(name, O_WRONLY);
         if (descriptor >= 0 || errno != ENOENT)
             return descriptor;
     }
@@ -45,26 +58,46 @@ int OpenForWriting(const char* name, CreateMode mode, bool& created)
     return descriptor;
 }
 
+bool IsLink(const std::filesystem::path& name)
+{
+    std::error_code error;
+    return std::filesystem::is_symlink(std::filesystem::symlink_status(name, error));
+}
+
 } // namespace
 
 FileKind PosixFilePort::Kind(const Text& path)
 {
     struct stat status {
     };
-    if (stat(Utf8FromText(path).c_str(), &status) != 0)
+    if (stat(Utf8FromText(path).c_str(), &status) != 0) {
+        if (errno == ELOOP)
+            return FileKind::Other;
         return errno == ENOENT || errno == ENOTDIR ? FileKind::Absent : FileKind::Unknown;
-    return S_ISDIR(status.st_mode) ? FileKind::Directory : FileKind::File;
+    }
+    if (S_ISDIR(status.st_mode))
+        return FileKind::Directory;
+    return S_ISREG(status.st_mode) ? FileKind::File : FileKind::Other;
 }
 
 Text PosixFilePort::LinkTarget(const Text& path)
 {
-    const std::string name = Utf8FromText(path);
-    struct stat status {
-    };
-    if (lstat(name.c_str(), &status) != 0 || !S_ISLNK(status.st_mode))
+    constexpr int kMostLinks = 40;
+    namespace fs = std::filesystem;
+    fs::path name = Utf8FromText(path);
+    if (!IsLink(name))
         return {};
-    const std::unique_ptr<char, decltype(&std::free)> target(realpath(name.c_str(), nullptr), &std::free);
-    return target ? TextFromUtf8(target.get()) : Text();
+    std::error_code error;
+    if (const fs::path target = fs::canonical(name, error); !error)
+        return TextFromUtf8(target.string());
+    // Where the last link leads to nothing, the file is to be made there.
+    for (int links = 0; IsLink(name); ++links) {
+        const fs::path target = fs::read_symlink(name, error);
+        if (error || links == kMostLinks)
+            return {};
+        name = fs::absolute(name, error).parent_path() / target;
+    }
+    return TextFromUtf8(name.string());
 }
 
 bool PosixFilePort::IsSameFile(const Text& first, const Text& second)
@@ -79,7 +112,7 @@ bool PosixFilePort::IsSameFile(const Text& first, const Text& second)
 
 FileResult PosixFilePort::OpenForReading(const Text& path, FileHandle& file)
 {
-    const int descriptor = open(Utf8FromText(path).c_str(), O_RDONLY | O_CLOEXEC);
+    const int descriptor = OpenExisting(Utf8FromText(path).c_str(), O_RDONLY);
     if (descriptor < 0)
         return Failure(errno);
     file = descriptor;
@@ -105,8 +138,7 @@ FileResult PosixFilePort::Create(const Text& path, CreateMode mode, FileHandle& 
     const int descriptor = OpenForWriting(name.c_str(), mode, created);
     if (descriptor < 0)
         return Failure(errno);
-    // Emptied only once the lock is held: a second writer's file is left alone.
-    if (flock(descriptor, LOCK_EX | LOCK_NB) != 0 || ftruncate(descriptor, 0) != 0) {
+    if (flock(descriptor, LOCK_EX | LOCK_NB) != 0) {
         const int error = errno;
         if (created)
             unlink(name.c_str());
@@ -117,17 +149,26 @@ FileResult PosixFilePort::Create(const Text& path, CreateMode mode, FileHandle& 
     return {};
 }
 
+FileResult PosixFilePort::Reserve(FileHandle file, std::size_t size)
+{
+    if (size == 0 || fallocate(DescriptorOf(file), FALLOC_FL_KEEP_SIZE, 0, static_cast<off_t>(size)) == 0)
+        return {};
+    return errno == ENOSPC || errno == EDQUOT || errno == EFBIG ? Failure(errno) : FileResult{};
+}
+
 FileResult PosixFilePort::Write(FileHandle file, std::string_view bytes)
 {
-    while (!bytes.empty()) {
-        const ssize_t written = write(DescriptorOf(file), bytes.data(), bytes.size());
+    off_t position = 0;
+    while (static_cast<std::size_t>(position) < bytes.size()) {
+        const std::string_view rest = bytes.substr(static_cast<std::size_t>(position));
+        const ssize_t written = pwrite(DescriptorOf(file), rest.data(), rest.size(), position);
         if (written < 0 && errno == EINTR)
             continue;
         if (written <= 0)
             return Failure(written < 0 ? errno : EIO);
-        bytes.remove_prefix(static_cast<std::size_t>(written));
+        position += written;
     }
-    return {};
+    return ResultOf(ftruncate(DescriptorOf(file), position));
 }
 
 FileResult PosixFilePort::Flush(FileHandle file)
@@ -151,7 +192,11 @@ FileResult PosixFilePort::Rename(const Text& from, const Text& to)
     // A file system that cannot rename without replacing can at least link without replacing.
     if (link(oldName.c_str(), newName.c_str()) != 0)
         return Failure(errno);
-    return ResultOf(unlink(oldName.c_str()));
+    if (unlink(oldName.c_str()) == 0)
+        return {};
+    const int error = errno;
+    unlink(newName.c_str());
+    return Failure(error);
 }
 
 FileResult PosixFilePort::Remove(const Text& path)

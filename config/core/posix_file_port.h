@@ -16,6 +16,7 @@ class PosixFilePort final : public FilePort
     FileResult OpenForReading(const Text& path, FileHandle& file) override;
     FileResult Read(FileHandle file, std::span<char> buffer, std::size_t& count) override;
     FileResult Create(const Text& path, CreateMode mode, FileHandle& file) override;
+    FileResult Reserve(FileHandle file, std::size_t size) override;
     FileResult Write(FileHandle file, std::string_view bytes) override;
     FileResult Flush(FileHandle file) override;
     FileResult Close(FileHandle file) override;

@@ -3,6 +3,7 @@
 #include "config/core/config_writer.h"
 #include "config/core/text_lines.h"
 
+#include <algorithm>
 #include <optional>
 #include <string>
 #include <utility>
@@ -14,13 +15,10 @@ namespace
 
 constexpr std::size_t kLongestSystemText = 255;
 
-// True for a name that is its own backup's: it ends in ".bak" in any case. Blanks and dots at the
-// end do not tell names apart on Windows.
+// True for a name that is its own backup's: it ends in ".bak" in any case.
 bool EndsInBackupExtension(TextView path)
 {
     constexpr TextView kExtension = u".BAK";
-    while (!path.empty() && (path.back() == u' ' || path.back() == u'.'))
-        path.remove_suffix(1);
     if (path.size() < kExtension.size())
         return false;
     Text end(path.substr(path.size() - kExtension.size()));
@@ -29,37 +27,16 @@ bool EndsInBackupExtension(TextView path)
     return end == kExtension;
 }
 
-// An open file, closed once: by Close or, when something is thrown, by the destructor.
-class OpenedFile
+// An operation that runs out of memory has failed like any other; the system has no words for it.
+template <class Operation>
+FileResult Try(Operation operation) noexcept
 {
-  public:
-    OpenedFile(FilePort& files, FileHandle file) : m_files(files), m_file(file) {}
-    ~OpenedFile()
-    {
-        if (!m_open)
-            return;
-        try {
-            m_files.Close(m_file);
-        } catch (...) {
-            // What ended the writing is on its way already.
-        }
+    try {
+        return operation();
+    } catch (...) {
+        return {false, Text()};
     }
-    OpenedFile(const OpenedFile&) = delete;
-    OpenedFile& operator=(const OpenedFile&) = delete;
-
-    FileResult Write(std::string_view bytes) { return m_files.Write(m_file, bytes); }
-    FileResult Flush() { return m_files.Flush(m_file); }
-    FileResult Close()
-    {
-        m_open = false;
-        return m_files.Close(m_file);
-    }
-
-  private:
-    FilePort& m_files;
-    FileHandle m_file;
-    bool m_open = true;
-};
+}
 
 // One save: where the old content is, and the way back.
 class Save
@@ -74,19 +51,11 @@ class Save
     {
         if (m_kind != FileKind::Absent)
             SecureOldContent();
-        bool written = false;
-        try {
-            written = Write(bytes);
-        } catch (...) {
-            RestoreAfterException();
-            throw;
-        }
-        if (!written) {
+        // What is thrown so far leaves everything as it was; from here on nothing is.
+        if (!Write(bytes))
             RestoreOldContent();
-            return std::move(m_result);
-        }
-        if (m_renamed || m_staleBackup)
-            m_files.Remove(m_result.backupPath);
+        else if (m_renamed || m_staleBackup)
+            Remove(m_result.backupPath);
         return std::move(m_result);
     }
 
@@ -122,82 +91,104 @@ class Save
         }
     }
 
-    bool Write(const std::string& bytes)
+    bool Write(const std::string& bytes) noexcept
     {
-        FileHandle handle{};
-        if (!Check(Create(handle), SaveOutcome::CreateFailed))
+        FileHandle file{};
+        if (!Check(Create(file), SaveOutcome::CreateFailed))
             return false;
-        m_created = true;
-        OpenedFile file(m_files, handle);
-        const bool written = Check(file.Write(bytes), SaveOutcome::WriteFailed) &&
-                             Check(file.Flush(), SaveOutcome::FlushFailed);
-        const FileResult closing = file.Close();
-        return written && Check(closing, SaveOutcome::CloseFailed);
+        const bool written = Check(WriteInto(file, bytes), SaveOutcome::WriteFailed) &&
+                             Check(Flush(file), SaveOutcome::FlushFailed);
+        FileResult closing = Close(file);
+        return written && Check(std::move(closing), SaveOutcome::CloseFailed);
     }
 
-    // A file that was not there is never emptied, should it have come up meanwhile.
+    // A file that was not there is never opened for overwriting, should it have come up meanwhile.
     FileResult Create(FileHandle& file)
     {
-        if (m_renamed || m_kind == FileKind::Absent)
-            return m_files.Create(m_path, CreateMode::New, file);
+        const auto create = [&](CreateMode mode) {
+            return Try([&] { return m_files.Create(m_path, mode, file); });
+        };
+        if (m_renamed || m_kind == FileKind::Absent) {
+            FileResult creation = create(CreateMode::New);
+            m_created = creation.ok;
+            return creation;
+        }
         if (m_kind == FileKind::Unknown && !m_oldContent) {
             // Whether there was one shows now at the latest.
-            FileResult creation = m_files.Create(m_path, CreateMode::New, file);
+            FileResult creation = create(CreateMode::New);
             if (creation) {
                 m_kind = FileKind::Absent;
                 m_staleBackup = false;
+                m_created = true;
                 return creation;
             }
         }
-        return m_files.Create(m_path, CreateMode::Truncate, file);
+        return create(CreateMode::Truncate);
     }
 
-    bool Check(const FileResult& step, SaveOutcome failure)
+    // Over the old content nothing is written before there is room for the new one.
+    FileResult WriteInto(FileHandle file, const std::string& bytes)
+    {
+        if (!m_created) {
+            FileResult reserving = Try([&] { return m_files.Reserve(file, bytes.size()); });
+            if (!reserving)
+                return reserving;
+            m_overwritten = true;
+        }
+        return Try([&] { return m_files.Write(file, bytes); });
+    }
+
+    FileResult Flush(FileHandle file)
+    {
+        return Try([&] { return m_files.Flush(file); });
+    }
+
+    FileResult Close(FileHandle file)
+    {
+        return Try([&] { return m_files.Close(file); });
+    }
+
+    FileResult Remove(const Text& path)
+    {
+        return Try([&] { return m_files.Remove(path); });
+    }
+
+    bool Check(FileResult step, SaveOutcome failure)
     {
         if (step)
             return true;
         m_result.outcome = failure;
-        m_result.systemText = step.systemText.substr(0, kLongestSystemText);
+        step.systemText.resize(std::min(step.systemText.size(), kLongestSystemText));
+        m_result.systemText = std::move(step.systemText);
         return false;
     }
 
-    void RestoreAfterException()
+    void RestoreOldContent() noexcept
     {
-        try {
-            RestoreOldContent();
-        } catch (...) {
-            // What ended the writing is on its way already.
-        }
-    }
-
-    void RestoreOldContent()
-    {
-        const bool exists = m_kind != FileKind::Absent;
-        m_result.oldContent = exists ? OldContent::Stands : OldContent::NoneBefore;
+        if (m_created)
+            Remove(m_path);
+        if (m_kind == FileKind::Absent)
+            return;
+        m_result.oldContent = OldContent::Stands;
         if (m_renamed) {
-            if (m_created)
-                m_files.Remove(m_path);
-            if (!m_files.Rename(m_result.backupPath, m_path))
+            if (!Try([&] { return m_files.Rename(m_result.backupPath, m_path); }))
                 m_result.oldContent = OldContent::UnderBackupName;
-        } else if (m_created && m_oldContent) {
-            // A second try, since nothing but this memory holds the content any more.
-            if (!PutBack() && !PutBack())
-                m_result.oldContent = OldContent::Lost;
-        } else if (m_created) {
-            m_files.Remove(m_path);
-            if (exists)
-                m_result.oldContent = OldContent::Lost;
+        } else if (m_overwritten && !m_oldContent) {
+            Remove(m_path);
+            m_result.oldContent = OldContent::Lost;
+        } else if (m_overwritten && !PutBack() && !PutBack()) {
+            // The second try was made since nothing but this memory holds the content any more.
+            m_result.oldContent = OldContent::Lost;
         }
     }
 
     bool PutBack()
     {
-        FileHandle handle{};
-        if (!m_files.Create(m_path, CreateMode::Truncate, handle))
+        FileHandle file{};
+        if (!Try([&] { return m_files.Create(m_path, CreateMode::Truncate, file); }))
             return false;
-        OpenedFile file(m_files, handle);
-        const bool written = file.Write(*m_oldContent) && file.Flush();
-        return file.Close() && written;
+        const bool written = Try([&] { return m_files.Write(file, *m_oldContent); }) && Flush(file);
+        return Close(file) && written;
     }
 
     const Text& m_path;
@@ -207,7 +198,8 @@ class Save
     SaveResult m_result;
     bool m_renamed = false;
     bool m_staleBackup = false; ///< The backup's name could not be taken.
-    bool m_created = false;
+    bool m_created = false;     ///< The file is this save's own.
+    bool m_overwritten = false; ///< Old content may have been written over.
     std::optional<std::string> m_oldContent;
 };
 
@@ -234,12 +226,13 @@ SaveResult SaveConfigFile(const SettingStore& store, const Text& path, FilePort&
     // Where the system does not say what is there, renaming it will show.
     if (kind == FileKind::File || kind == FileKind::Unknown)
         refused.oldContent = OldContent::Stands;
-    if (kind == FileKind::Directory) {
-        refused.outcome = SaveOutcome::PathIsDirectory;
+    if (kind == FileKind::Directory || kind == FileKind::Other) {
+        refused.outcome =
+            kind == FileKind::Directory ? SaveOutcome::PathIsDirectory : SaveOutcome::PathIsNoFile;
         return refused;
     }
 
-    const Text header = MakeHeader(
+    Text header = MakeHeader(
         {FormatSaveDate(surroundings.LocalTime()), surroundings.UserName(), surroundings.ComputerName()});
     std::string bytes;
     if (WriteResult writing = WriteConfig(store, header, bytes); !writing) {
@@ -247,12 +240,12 @@ SaveResult SaveConfigFile(const SettingStore& store, const Text& path, FilePort&
         refused.inHeader = writing.inHeader;
         refused.variable = std::move(writing.variable);
         refused.character = std::move(writing.character);
-        refused.header = header;
+        refused.header = std::move(header);
         return refused;
     }
 
     SaveResult result = Save(file, kind, files, notice).Run(bytes);
-    result.header = header;
+    result.header = std::move(header);
     return result;
 }
 

@@ -31,6 +31,7 @@ enum class SaveOutcome {
     Saved,
     NoPath,           ///< No file has been named. Nothing was touched.
     PathIsDirectory,  ///< The path leads to a directory. Nothing was touched.
+    PathIsNoFile,     ///< The path leads to a device or a pipe, or in a circle. Nothing was touched.
     CharacterRefused, ///< The locale cannot write a character. Nothing was touched.
     CreateFailed,     ///< The file could not be created. The person is told nothing.
     WriteFailed,      ///< The file could not be written to its end.
@@ -50,7 +51,7 @@ enum class OldContent {
 struct SaveResult {
     SaveOutcome outcome = SaveOutcome::Saved;
     OldContent oldContent = OldContent::NoneBefore; ///< Only of meaning when the save failed.
-    Text systemText{};                              ///< The system's words for the failure; may be empty.
+    Text systemText{};                              ///< The system's words; empty when it ran out of memory.
     Text backupPath{};                              ///< The backup's name; empty when none was to be made.
     bool inHeader = false;                          ///< CharacterRefused: the character stands in the header.
     Text variable{};                                ///< CharacterRefused: else the variable that holds it.
@@ -72,11 +73,11 @@ Text BackupPath(TextView path);
 ///
 /// The whole output exists before anything is touched. A file that cannot be renamed to the
 /// backup's name is told through `notice` and then overwritten in place, its content held in
-/// memory. Any failure after that takes the unfinished file away and brings the old one back.
-/// On success the backup, also one left by an earlier run, is deleted. A file that is its own
-/// backup by name or by identity is written without one and not deleted. A symbolic link stays: the
-/// file that it leads to is written, its backup beside it. What the clock or the notice throws comes
-/// out before anything is touched, and what is thrown later after the old file is back. The store's modified
+/// memory and room made for the new one first. Any failure after that takes the unfinished file away and
+/// brings the old one back. On success the backup, also one left by an earlier run, is deleted. A file that
+/// is its own backup by name or by identity is written without one and not deleted. A symbolic link stays:
+/// the file that it leads to is written, its backup beside it. What the clock or the notice throws, and
+/// std::bad_alloc, come out before anything is touched; nothing is thrown later. The store's modified
 /// mark is left to the caller.
 SaveResult SaveConfigFile(const SettingStore& store, const Text& path, FilePort& files,
                           SaveSurroundings& surroundings, const SaveNotice& notice);

@@ -6,9 +6,9 @@
 #include <cstddef>
 #include <limits>
 #include <map>
-#include <new>
 #include <set>
 #include <string>
+#include <utility>
 
 namespace ov::test
 {
@@ -16,22 +16,20 @@ namespace ov::test
 /// What the memory file port says about a fault.
 inline constexpr TextView kFaultText = u"The injected fault.";
 
-/// Thrown by the memory file port where the process shall end.
-struct Crash {
-};
-
 /// A file system in memory that fails on request. Its operations are numbered from 1 in the order
-/// of their calls. A write that fails or in which the process ends leaves half of its bytes behind.
+/// of their calls. A write that fails leaves half of its bytes behind.
 class MemoryFilePort final : public FilePort
 {
   public:
     std::map<Text, std::string> contents;
     std::set<Text> directories;
-    std::map<Text, Text> links;                                      ///< Which path a symbolic link leads to.
+    std::set<Text> devices;
+    std::set<Text> pinned;                                          ///< Cannot be renamed or removed.
+    std::set<Text> readOnly;                                        ///< Cannot be opened for writing.
+    std::map<Text, Text> links;                                     ///< Which path a symbolic link leads to.
+    std::size_t capacity = std::numeric_limits<std::size_t>::max(); ///< For how long a content there is room.
     std::size_t blockSize = std::numeric_limits<std::size_t>::max(); ///< At most so many bytes a read.
     std::set<int> failing;                                           ///< Numbers of the calls that fail.
-    int crashing = 0; ///< Number of the call in which the process ends; 0 is none.
-    int throwing = 0; ///< Number of the call that runs out of memory; 0 is none.
     int calls = 0;
     int openFiles = 0;
     bool unflushed = false; ///< Bytes were written since the last flush.
@@ -43,28 +41,29 @@ class MemoryFilePort final : public FilePort
             return FileKind::Unknown;
         if (directories.contains(path))
             return FileKind::Directory;
-        return contents.contains(path) ? FileKind::File : FileKind::Absent;
+        if (devices.contains(path))
+            return FileKind::Other;
+        return contents.contains(Followed(path)) ? FileKind::File : FileKind::Absent;
     }
 
     Text LinkTarget(const Text& path) override
     {
         const Call call(*this);
-        const auto link = links.find(path);
-        return call.Fails() || link == links.end() ? Text() : link->second;
+        return call.Fails() || !links.contains(path) ? Text() : Followed(path);
     }
 
     bool IsSameFile(const Text& first, const Text& second) override
     {
         const Call call(*this);
-        return !call.Fails() && first == second && contents.contains(first);
+        return !call.Fails() && Followed(first) == Followed(second) && contents.contains(Followed(first));
     }
 
     FileResult OpenForReading(const Text& path, FileHandle& file) override
     {
         const Call call(*this);
-        if (call.Fails() || !contents.contains(path))
+        if (call.Fails() || !contents.contains(Followed(path)))
             return Fault();
-        file = Open(path);
+        file = Open(Followed(path));
         return {};
     }
 
@@ -84,22 +83,33 @@ class MemoryFilePort final : public FilePort
     FileResult Create(const Text& path, CreateMode mode, FileHandle& file) override
     {
         const Call call(*this);
-        if (call.Fails() || directories.contains(path) ||
-            (mode == CreateMode::New && contents.contains(path)))
+        const bool exists = contents.contains(path) || links.contains(path);
+        if (call.Fails() || directories.contains(path) || readOnly.contains(path) ||
+            (mode == CreateMode::New && exists))
             return Fault();
-        contents[path].clear();
-        file = Open(path);
+        contents.try_emplace(Followed(path));
+        file = Open(Followed(path));
         return {};
+    }
+
+    FileResult Reserve(FileHandle, std::size_t size) override
+    {
+        const Call call(*this);
+        return call.Fails() || size > capacity ? Fault() : FileResult{};
     }
 
     FileResult Write(FileHandle file, std::string_view bytes) override
     {
-        const Call call(*this, true);
-        const bool whole = !call.Fails() && calls != crashing;
-        contents[m_open[file].path].append(bytes, 0, whole ? bytes.size() : bytes.size() / 2);
+        const Call call(*this);
+        std::string& content = contents[m_open[file].path];
         unflushed = true;
-        call.EndHere();
-        return call.Fails() ? Fault() : FileResult{};
+        if (call.Fails() || bytes.size() > capacity) {
+            const std::size_t written = std::min(bytes.size() / 2, capacity);
+            content.replace(0, written, bytes, 0, written);
+            return Fault();
+        }
+        content = bytes;
+        return {};
     }
 
     FileResult Flush(FileHandle) override
@@ -122,18 +132,29 @@ class MemoryFilePort final : public FilePort
     FileResult Rename(const Text& from, const Text& to) override
     {
         const Call call(*this);
-        if (call.Fails() || !contents.contains(from) || contents.contains(to) || directories.contains(to))
+        if (call.Fails() || pinned.contains(from) || contents.contains(to) || links.contains(to) ||
+            directories.contains(to))
+            return Fault();
+        if (auto link = links.extract(from)) {
+            link.key() = to;
+            links.insert(std::move(link));
+            return {};
+        }
+        if (!contents.contains(from))
             return Fault();
         contents[to] = contents[from];
         contents.erase(from);
+        if (readOnly.erase(from) != 0)
+            readOnly.insert(to);
         return {};
     }
 
     FileResult Remove(const Text& path) override
     {
         const Call call(*this);
-        if (call.Fails() || contents.erase(path) == 0)
+        if (call.Fails() || pinned.contains(path) || links.erase(path) + contents.erase(path) == 0)
             return Fault();
+        readOnly.erase(path);
         return {};
     }
 
@@ -143,32 +164,26 @@ class MemoryFilePort final : public FilePort
         std::size_t position = 0;
     };
 
-    // Numbers a call and ends the process where that is asked for.
+    // Numbers a call.
     class Call
     {
       public:
-        explicit Call(MemoryFilePort& port, bool halfDone = false) : m_port(port), m_number(++port.calls)
-        {
-            // What has ended makes no more calls.
-            const bool ended = port.crashing != 0 && m_number > port.crashing;
-            if (ended || (m_number == port.crashing && !halfDone))
-                throw Crash();
-            if (m_number == port.throwing)
-                throw std::bad_alloc();
-        }
-        void EndHere() const
-        {
-            if (m_number == m_port.crashing)
-                throw Crash();
-        }
+        explicit Call(MemoryFilePort& port) : m_port(port), m_number(++port.calls) {}
         bool Fails() const { return m_port.failing.contains(m_number); }
 
       private:
-        MemoryFilePort& m_port;
+        const MemoryFilePort& m_port;
         int m_number;
     };
 
     static FileResult Fault() { return {false, Text(kFaultText)}; }
+
+    Text Followed(Text path) const
+    {
+        for (auto link = links.find(path); link != links.end(); link = links.find(path))
+            path = link->second;
+        return path;
+    }
 
     FileHandle Open(const Text& path)
     {

@@ -1,5 +1,6 @@
-// Lets every operation of a save fail, alone and in pairs, and the process end in every one: a
-// complete copy of the file, old or new, must always stand.
+// Lets every operation of a save fail, run out of memory and be the process's last, alone and in
+// pairs, in every situation that a save can meet. After every single operation a complete copy of
+// the file, old or new, must stand under the file's or the backup's name.
 
 #include "config/core/save.h"
 
@@ -7,10 +8,12 @@
 #include "tests/core/memory_file_port.h"
 #include "tests/core/scoped_locale.h"
 #include "tests/core/test_surroundings.h"
+#include "tests/save/step_file_port.h"
 
 #include <gtest/gtest.h>
 #include <new>
 #include <optional>
+#include <ostream>
 #include <vector>
 
 namespace ov
@@ -18,66 +21,192 @@ namespace ov
 namespace
 {
 
+using test::MemoryFilePort;
+using test::StepFault;
+using test::StepFilePort;
+
 const Text kPath = u"office.cfg";
 const Text kBackup = u"office.bak";
+const Text kTarget = u"share/common.cfg";
+const Text kTargetBackup = u"share/common.bak";
 const std::string kOld = "OLD = content\r\n";
 const std::string kStale = "STALE = content\r\n";
 
-enum class Before { NoFile, File, FileAndStaleBackup, FileNamedAsBackup };
+// What a save finds.
+struct Situation {
+    const char* name;
+    std::optional<std::string> old; ///< The content before the save.
+    bool inPlace = false;           ///< No backup can be made.
+    bool fails = false;             ///< The save fails without any fault.
+    Text path = kPath;
+    void (*arrange)(MemoryFilePort& files) = [](MemoryFilePort&) {};
+};
 
-class SaveFault : public testing::TestWithParam<Before>
+void PrintTo(const Situation& situation, std::ostream* stream)
+{
+    *stream << situation.name;
+}
+
+const Situation kSituations[] = {
+    {.name = "File", .old = kOld},
+    {.name = "EmptyFile", .old = ""},
+    {.name = "LongFile", .old = std::string(5000, 'x')},
+    {.name = "NoFile", .old = {}},
+    {.name = "StaleBackup",
+     .old = kOld,
+     .inPlace = true,
+     .arrange = [](MemoryFilePort& files) { files.contents[kBackup] = kStale; }},
+    {.name = "StaleBackupOfALongFile",
+     .old = std::string(5000, 'x'),
+     .inPlace = true,
+     .arrange = [](MemoryFilePort& files) { files.contents[kBackup] = kStale; }},
+    {.name = "FileNamedAsBackup", .old = kOld, .inPlace = true, .path = kBackup},
+    {.name = "FileThatIsItsBackup",
+     .old = kOld,
+     .inPlace = true,
+     .arrange = [](MemoryFilePort& files) { files.links[kBackup] = kPath; }},
+    {.name = "Link",
+     .old = kOld,
+     .arrange =
+         [](MemoryFilePort& files) {
+             files.contents[kTarget] = files.contents[kPath];
+             files.contents.erase(kPath);
+             files.links[kPath] = kTarget;
+         }},
+    {.name = "LinkToNothing",
+     .old = {},
+     .arrange = [](MemoryFilePort& files) { files.links[kPath] = kTarget; }},
+    {.name = "OpenElsewhere",
+     .old = kOld,
+     .inPlace = true,
+     .arrange = [](MemoryFilePort& files) { files.pinned = {kPath}; }},
+    {.name = "OpenElsewhereForAll",
+     .old = kOld,
+     .inPlace = true,
+     .fails = true,
+     .arrange =
+         [](MemoryFilePort& files) {
+             files.pinned = {kPath};
+             files.readOnly = {kPath};
+         }},
+    {.name = "ReadOnly", .old = kOld, .arrange = [](MemoryFilePort& files) { files.readOnly = {kPath}; }},
+    {.name = "ReadOnlyWithStaleBackup",
+     .old = kOld,
+     .inPlace = true,
+     .fails = true,
+     .arrange =
+         [](MemoryFilePort& files) {
+             files.readOnly = {kPath};
+             files.contents[kBackup] = kStale;
+         }},
+    {.name = "FullDisk",
+     .old = kOld,
+     .fails = true,
+     .arrange = [](MemoryFilePort& files) { files.capacity = 100; }},
+    {.name = "FullDiskAndStaleBackup",
+     .old = kOld,
+     .inPlace = true,
+     .fails = true,
+     .arrange =
+         [](MemoryFilePort& files) {
+             files.capacity = 100;
+             files.contents[kBackup] = kStale;
+         }},
+};
+
+// What stands for the end of the process.
+struct End {
+};
+
+class SaveFault : public testing::TestWithParam<Situation>
 {
   protected:
+    // One save with faults in it, and what is left of it.
+    struct Run {
+        explicit Run(MemoryFilePort before) : files(std::move(before)) {}
+        MemoryFilePort files;
+        StepFilePort port{files};
+        std::optional<SaveResult> result{}; ///< None when it threw or the process ended.
+        bool threw = false;
+    };
+
     SaveFault()
     {
         m_store.SetSetting(u"A", u"1", SettingKindInteger, u"", kCurrentTable);
         EXPECT_TRUE(WriteConfig(m_store, test::TestSurroundings::Header(), m_new));
+        m_parts = {0, 1, m_new.size() / 2, m_new.size() - 1, m_new.size()};
+        if (GetParam().old)
+            m_before.contents[GetParam().path] = *GetParam().old;
+        GetParam().arrange(m_before);
     }
 
-    const Text& Path() const { return GetParam() == Before::FileNamedAsBackup ? kBackup : kPath; }
-
-    test::MemoryFilePort Files() const
+    // Saves; after every operation a complete copy stands.
+    void Save(Run& run)
     {
-        test::MemoryFilePort files;
-        if (GetParam() != Before::NoFile)
-            files.contents[Path()] = kOld;
-        if (GetParam() == Before::FileAndStaleBackup)
-            files.contents[kBackup] = kStale;
-        return files;
-    }
-
-    SaveResult Save(test::MemoryFilePort& files)
-    {
+        run.port.end = [] { throw End(); };
+        run.port.afterEach = [&] { ExpectCompleteCopy(run); };
         test::TestSurroundings surroundings;
-        return SaveConfigFile(m_store, Path(), files, surroundings, [](const Text&) {});
+        try {
+            SaveResult result =
+                SaveConfigFile(m_store, GetParam().path, run.port, surroundings, [](const Text&) {});
+            if (!run.port.ended)
+                run.result = std::move(result);
+        } catch (const std::bad_alloc&) {
+            run.threw = true;
+        } catch (const End&) {
+        }
+        ExpectCompleteCopy(run);
     }
 
-    static std::optional<std::string> Content(const test::MemoryFilePort& files, const Text& path)
+    static std::optional<std::string> Content(const MemoryFilePort& files, const Text& path)
     {
-        const auto found = files.contents.find(path);
+        const auto link = files.links.find(path);
+        const auto found = files.contents.find(link == files.links.end() ? path : link->second);
         return found == files.contents.end() ? std::nullopt : std::optional(found->second);
     }
 
-    // What must hold once a save has returned, whatever failed in it.
-    void ExpectNothingLost(const test::MemoryFilePort& files, const SaveResult& result) const
+    // Without a backup there is one window: the write itself, until the content is put back.
+    void ExpectCompleteCopy(const Run& run) const
     {
-        const auto file = Content(files, Path());
-        EXPECT_EQ(files.openFiles, 0);
-        if (result.Saved()) {
+        const bool inPlace = !run.port.renamed;
+        if (!GetParam().old || (inPlace && run.port.unfinishedWrite))
+            return;
+        bool stands = false;
+        bool oldStands = false;
+        for (const Text& path : {GetParam().path, kBackup, kTarget, kTargetBackup}) {
+            const auto content = Content(run.files, path);
+            oldStands = oldStands || content == GetParam().old;
+            stands = stands || content == m_new;
+        }
+        EXPECT_TRUE(stands || oldStands) << "after operation " << run.port.steps;
+        // The old copy goes only once the new one is on the disk.
+        EXPECT_TRUE(oldStands || !run.files.unflushed || inPlace) << "after operation " << run.port.steps;
+    }
+
+    // What must hold when a save has returned.
+    void ExpectTrueResult(const Run& run) const
+    {
+        if (run.threw) {
+            EXPECT_EQ(run.files.contents, m_before.contents) << "thrown after something was touched";
+            EXPECT_EQ(run.files.links, m_before.links);
+        }
+        if (!run.result)
+            return;
+        const auto file = Content(run.files, GetParam().path);
+        if (run.result->Saved()) {
             EXPECT_EQ(file, m_new);
+            EXPECT_FALSE(run.files.unflushed);
             return;
         }
-        switch (result.oldContent) {
+        switch (run.result->oldContent) {
         case OldContent::NoneBefore:
-            // A removal that failed too may leave the beginning of the file.
-            EXPECT_EQ(GetParam(), Before::NoFile);
-            EXPECT_TRUE(!file || m_new.starts_with(*file));
+            EXPECT_EQ(GetParam().old, std::nullopt);
             break;
         case OldContent::Stands:
-            EXPECT_EQ(file, kOld);
+            EXPECT_EQ(file, GetParam().old);
             break;
         case OldContent::UnderBackupName:
-            EXPECT_EQ(Content(files, kBackup), kOld);
+            EXPECT_EQ(Content(run.files, run.result->backupPath), GetParam().old);
             break;
         case OldContent::Lost:
             ADD_FAILURE() << "lost";
@@ -85,95 +214,130 @@ class SaveFault : public testing::TestWithParam<Before>
         }
     }
 
+    // Runs the save with the fault at each operation in turn, until it strikes none. Gives the
+    // number of runs in which it struck.
+    template <class Check>
+    int SweepOne(StepFault fault, std::size_t part, Check check)
+    {
+        for (int k = 1;; ++k) {
+            SCOPED_TRACE(testing::Message() << "fault " << int(fault) << " at " << k << ", part " << part);
+            Run run(m_before);
+            run.port.faults = {{k, fault}};
+            run.port.partOfWrite = part;
+            Save(run);
+            if (run.port.steps < k)
+                return k - 1;
+            check(run);
+        }
+    }
+
+    // The same with two faults.
+    template <class Check>
+    void SweepTwo(StepFault one, StepFault other, std::size_t part, Check check)
+    {
+        for (int first = 1;; ++first) {
+            for (int second = first + 1;; ++second) {
+                SCOPED_TRACE(testing::Message() << "faults " << int(one) << " at " << first << ", "
+                                                << int(other) << " at " << second << ", part " << part);
+                Run run(m_before);
+                run.port.faults = {{first, one}, {second, other}};
+                run.port.partOfWrite = part;
+                Save(run);
+                if (run.port.steps < first)
+                    return;
+                if (run.port.steps < second)
+                    break;
+                check(run);
+            }
+        }
+    }
+
     const test::ScopedLocale m_locale{"C"};
     SettingStore m_store;
     std::string m_new;
+    std::vector<std::size_t> m_parts; ///< How far a write may come that does not come to its end.
+    MemoryFilePort m_before;
 };
+
+TEST_P(SaveFault, WithoutAFaultACompleteCopyStandsAfterEveryOperation)
+{
+    Run run(m_before);
+    Save(run);
+    ASSERT_TRUE(run.result);
+    EXPECT_EQ(run.result->Saved(), !GetParam().fails);
+    EXPECT_EQ(run.port.renamed, GetParam().old && !GetParam().inPlace);
+    EXPECT_EQ(run.files.openFiles, 0);
+    ExpectTrueResult(run);
+    if (GetParam().fails) {
+        EXPECT_EQ(run.files.contents, m_before.contents);
+    }
+}
 
 TEST_P(SaveFault, EachOperationMayFail)
 {
-    int successes = 0;
-    for (int k = 1;; ++k) {
-        SCOPED_TRACE(k);
-        test::MemoryFilePort files = Files();
-        files.failing = {k};
-        const SaveResult result = Save(files);
-        ExpectNothingLost(files, result);
-        successes += result.Saved() ? 1 : 0;
-        if (files.calls < k)
-            break;
+    for (const std::size_t part : m_parts) {
+        const int struck = SweepOne(StepFault::Fails, part, [&](const Run& run) {
+            EXPECT_TRUE(run.result);
+            EXPECT_EQ(run.files.openFiles, 0);
+            ExpectTrueResult(run);
+        });
+        EXPECT_GT(struck, 3);
     }
-    EXPECT_GE(successes, 1);
 }
 
-TEST_P(SaveFault, EachPairOfOperationsMayFail)
+TEST_P(SaveFault, EachOperationMayBeDoneAndSayThatItFailed)
 {
-    for (int first = 1;; ++first) {
-        bool firstFired = false;
-        for (int second = first + 1;; ++second) {
-            SCOPED_TRACE(testing::Message() << first << " and " << second);
-            test::MemoryFilePort files = Files();
-            files.failing = {first, second};
-            ExpectNothingLost(files, Save(files));
-            firstFired = files.calls >= first;
-            if (files.calls < second)
-                break;
+    SweepOne(StepFault::FailsDone, 0, [&](const Run& run) {
+        ASSERT_TRUE(run.result);
+        if (run.result->Saved()) {
+            EXPECT_EQ(Content(run.files, GetParam().path), m_new);
         }
-        if (!firstFired)
-            break;
-    }
+    });
 }
 
 TEST_P(SaveFault, MemoryMayRunOutInEachOperation)
 {
-    for (int k = 1;; ++k) {
-        SCOPED_TRACE(k);
-        test::MemoryFilePort files = Files();
-        files.throwing = k;
-        try {
-            EXPECT_TRUE(Save(files).Saved());
-            break;
-        } catch (const std::bad_alloc&) {
-        }
-        const auto file = Content(files, Path());
-        EXPECT_EQ(files.openFiles, 0);
-        EXPECT_TRUE(file == Content(Files(), Path()) || file == m_new) << file.value_or("no file");
-        if (GetParam() == Before::File && file == kOld) {
-            EXPECT_EQ(Content(files, kBackup), std::nullopt);
-        }
+    for (const std::size_t part : m_parts) {
+        SweepOne(StepFault::OutOfMemory, part, [&](const Run& run) {
+            EXPECT_TRUE(run.threw || run.result);
+            EXPECT_EQ(run.files.openFiles, 0);
+            ExpectTrueResult(run);
+        });
     }
 }
 
-TEST_P(SaveFault, ProcessMayEndInEachOperation)
+TEST_P(SaveFault, ProcessMayEndBeforeWithinAndAfterEachOperation)
 {
-    // Without a room for a backup the file is overwritten in place, and its content is in memory only.
-    const bool inPlace = GetParam() == Before::FileAndStaleBackup || GetParam() == Before::FileNamedAsBackup;
-    for (int k = 1;; ++k) {
-        SCOPED_TRACE(k);
-        test::MemoryFilePort files = Files();
-        files.crashing = k;
-        try {
-            EXPECT_TRUE(Save(files).Saved());
-            break;
-        } catch (const test::Crash&) {
-        }
-        const auto file = Content(files, Path());
-        const auto backup = Content(files, kBackup);
-        if (GetParam() == Before::File) {
-            EXPECT_TRUE(file == kOld || file == m_new || backup == kOld);
-        }
-        if (inPlace && file != kOld && file != m_new) {
-            EXPECT_TRUE(m_new.starts_with(*file));
-        }
-        if (GetParam() == Before::FileAndStaleBackup && file != m_new) {
-            EXPECT_EQ(backup, kStale);
+    for (const StepFault end : {StepFault::EndsBefore, StepFault::EndsWithin, StepFault::EndsAfter}) {
+        for (const std::size_t part : m_parts)
+            SweepOne(end, part, [&](const Run& run) { EXPECT_TRUE(run.port.ended); });
+    }
+}
+
+TEST_P(SaveFault, EachPairOfOperationsMayFail)
+{
+    for (const StepFault one : {StepFault::Fails, StepFault::OutOfMemory}) {
+        for (const StepFault other : {StepFault::Fails, StepFault::OutOfMemory}) {
+            for (const std::size_t part : {std::size_t{0}, m_new.size() / 2}) {
+                SweepTwo(one, other, part, [&](const Run& run) {
+                    EXPECT_EQ(run.files.openFiles, 0);
+                    ExpectTrueResult(run);
+                });
+            }
         }
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Situations, SaveFault,
-                         testing::Values(Before::NoFile, Before::File, Before::FileAndStaleBackup,
-                                         Before::FileNamedAsBackup));
+TEST_P(SaveFault, ProcessMayEndAfterAnotherOperationFailed)
+{
+    for (const StepFault fault : {StepFault::Fails, StepFault::FailsDone}) {
+        for (const StepFault end : {StepFault::EndsBefore, StepFault::EndsWithin, StepFault::EndsAfter})
+            SweepTwo(fault, end, m_new.size() / 2, [&](const Run& run) { EXPECT_TRUE(run.port.ended); });
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Situations, SaveFault, testing::ValuesIn(kSituations),
+                         [](const auto& situation) { return situation.param.name; });
 
 } // namespace
 } // namespace ov

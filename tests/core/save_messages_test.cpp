@@ -72,6 +72,24 @@ TEST(SaveMessages, EveryFailedStepHasItsOwnReasonWithTheSystemsWords)
     }
 }
 
+TEST(SaveMessages, WantOfMemoryIsTheReasonWhereTheSystemHasNoWords)
+{
+    EXPECT_EQ(Message({.outcome = SaveOutcome::WriteFailed, .oldContent = OldContent::Stands}),
+              u"The configuration file has not been saved.\nIt could not be written: There is not enough "
+              u"memory.\n\nThe file on disk is as it was before.");
+}
+
+TEST(SaveMessages, APlaceThatIsNoFilesSaysToChooseAnother)
+{
+    for (const SaveOutcome outcome : {SaveOutcome::PathIsDirectory, SaveOutcome::PathIsNoFile}) {
+        const Text message = Message({.outcome = outcome});
+        EXPECT_TRUE(message.starts_with(u"The configuration file has not been saved.\n"));
+        EXPECT_NE(message.find(u"to choose another."), Text::npos);
+    }
+    EXPECT_NE(Message({.outcome = SaveOutcome::PathIsDirectory}),
+              Message({.outcome = SaveOutcome::PathIsNoFile}));
+}
+
 TEST(SaveMessages, APercentSignInAPathIsNoPlaceholder)
 {
     const Text message = Message({.outcome = SaveOutcome::WriteFailed,

@@ -32,6 +32,8 @@ unsigned ReasonId(SaveOutcome outcome)
     switch (outcome) {
     case SaveOutcome::PathIsDirectory:
         return IDS_SAVE_PLACE_TAKEN_BY_FOLDER;
+    case SaveOutcome::PathIsNoFile:
+        return IDS_SAVE_PLACE_IS_NO_FILE;
     case SaveOutcome::CreateFailed:
         return IDS_SAVE_CREATE_FAILED;
     case SaveOutcome::WriteFailed:
@@ -51,7 +53,8 @@ Text Reason(const SaveResult& result, const StringLoader& load)
         return Compose(load(result.inHeader ? IDS_SAVE_CHARACTER_IN_HEADER : IDS_SAVE_CHARACTER_IN_VARIABLE),
                        {result.variable, result.character});
     }
-    return Compose(load(ReasonId(result.outcome)), {result.systemText});
+    const Text systemText = result.systemText.empty() ? load(IDS_SAVE_OUT_OF_MEMORY) : result.systemText;
+    return Compose(load(ReasonId(result.outcome)), {systemText});
 }
 
 Text OldContentText(const SaveResult& result, const StringLoader& load)
@@ -84,6 +87,7 @@ Text SaveFailureText(const SaveResult& result, const StringLoader& load)
     case SaveOutcome::NoPath:
         return load(IDS_NO_CONFIG_FILE);
     case SaveOutcome::PathIsDirectory:
+    case SaveOutcome::PathIsNoFile:
         return Reason(result, load);
     case SaveOutcome::CreateFailed:
         if (OldContentIsInPlace(result.oldContent))
