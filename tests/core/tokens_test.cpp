@@ -201,6 +201,70 @@ TEST(ExtractToken, AtMostCapacityCharactersAreWritten)
     EXPECT_EQ(Extract(u"abc;d", nullptr, u";", nullptr, 3), (Token{u"abc", 4}));
 }
 
+TEST(ExtractToken, DoubledQualifiersOnEachSideOfAWordBecomeOneEach)
+{
+    EXPECT_EQ(Extract(u"\"a \"\"hi\"\" b\""), (Token{u"a \"hi\" b", 12}));
+    EXPECT_EQ(Extract(u"\"\"\"hi\"\" b\";"), (Token{u"\"hi\" b", 11}));
+}
+
+TEST(ExtractToken, NothingButQualifiersIsReadTwoByTwo)
+{
+    EXPECT_EQ(Extract(u"\"\"\"\""), (Token{u"\"\"", 4}));
+    EXPECT_EQ(Extract(u"\"\"\""), (Token{u"\"", 3}));
+}
+
+TEST(ExtractToken, TrailingTrimBeforeAStopAndBeforeTheEnd)
+{
+    EXPECT_EQ(Extract(u"ab  ;c"), (Token{u"ab", 5}));
+    EXPECT_EQ(Extract(u"ab  "), (Token{u"ab", 4}));
+    EXPECT_EQ(Extract(u"ab  ,c", nullptr, u";", u","), (Token{u"ab", 4}));
+    EXPECT_EQ(Extract(u"  ;c"), (Token{u"", 3}));
+}
+
+TEST(ExtractToken, EveryCharacterOfASetCounts)
+{
+    Text text;
+    EXPECT_EQ(ExtractTokenString(text, u"\t .a-b+c. \t;d", u" \t.", u".\t ", u"+-", u",;", u"|/", nullptr, 0),
+              12u);
+    EXPECT_EQ(text, u"abc");
+    EXPECT_EQ(ExtractTokenString(text, u"a,b", u" \t.", u".\t ", u"+-", u",;", u"|/", nullptr, 0), 2u);
+    EXPECT_EQ(text, u"a");
+    EXPECT_EQ(ExtractTokenString(text, u"a/b|c", u" \t.", u".\t ", u"+-", u",;", u"|/", nullptr, 0), 1u);
+    EXPECT_EQ(text, u"a");
+    EXPECT_EQ(ExtractTokenString(text, u"a|b/c", u" \t.", u".\t ", u"+-", u",;", u"|/", nullptr, 0), 1u);
+    EXPECT_EQ(text, u"a");
+}
+
+TEST(ExtractToken, AnyCharacterMayBeTheQualifier)
+{
+    const char16_t qualifier = u'\'';
+    Text text;
+    EXPECT_EQ(ExtractTokenString(text, u"'a;\"b';c", u" ", u" ", nullptr, u";", nullptr, &qualifier, 0), 7u);
+    EXPECT_EQ(text, u"a;\"b");
+    EXPECT_EQ(ExtractTokenString(text, u"'it''s'", u" ", u" ", nullptr, u";", nullptr, &qualifier, 0), 7u);
+    EXPECT_EQ(text, u"it's");
+}
+
+TEST(ExtractToken, LongTokensAreReadWhole)
+{
+    for (const std::size_t length : {799u, 800u, 801u, 5000u}) {
+        EXPECT_EQ(Extract(Text(length, u'a') + u";b", nullptr, u";", nullptr, 6000),
+                  (Token{Text(length, u'a'), length + 1}));
+        EXPECT_EQ(Extract(u"\"" + Text(length, u';') + u"\"", nullptr, u";", nullptr, 6000),
+                  (Token{Text(length, u';'), length + 2}));
+    }
+}
+
+TEST(ExtractTokenString, EmptySourceLeavesTheTextEmpty)
+{
+    Text text = u"old";
+    EXPECT_EQ(ExtractTokenString(text, u"", u" ", u" ", nullptr, u";", nullptr, &kQuote, 10), 0u);
+    EXPECT_EQ(text, u"");
+    text = u"old";
+    EXPECT_EQ(ExtractTokenString(text, TextView(), u" ", u" ", nullptr, u";", nullptr, &kQuote, 10), 0u);
+    EXPECT_EQ(text, u"");
+}
+
 TEST(ExtractTokenString, CapacityZeroStandsFor512)
 {
     Text text;
@@ -239,6 +303,36 @@ TEST(FindNoCase, NullZeroAndLongerNeedlesFindNothing)
     EXPECT_EQ(FindNoCase(u"a", nullptr, 1), nullptr);
     EXPECT_EQ(FindNoCase(u"a", u"a", 0), nullptr);
     EXPECT_EQ(FindNoCase(u"ab", u"abc", 3), nullptr);
+}
+
+TEST(FindNoCase, NeedleLongerThanTheLimitIsNotFound)
+{
+    EXPECT_EQ(FindNoCase(u"abc", u"abc", 2), nullptr);
+    EXPECT_EQ(FindNoCase(u"abcabc", u"abc", 2), nullptr);
+}
+
+TEST(FindNoCase, EmptyNeedleIsFoundAtTheStart)
+{
+    const char16_t* text = u"abc";
+    EXPECT_EQ(FindNoCase(text, u"", 3), text);
+}
+
+TEST(FindNoCase, OnlyAToZHaveACase)
+{
+    EXPECT_EQ(FindNoCase(u"\u00C9", u"\u00E9", 1), nullptr);
+    EXPECT_EQ(FindNoCase(u"@[", u"`", 2), nullptr);
+    EXPECT_EQ(FindNoCase(u"@[", u"{", 2), nullptr);
+}
+
+TEST(FindNoCase, LongTextsAreSearchedWhole)
+{
+    const Text needle = Text(1500, u'b') + u"c";
+    for (const std::size_t before : {0u, 1023u, 1024u, 1025u, 5000u}) {
+        const Text text = Text(before, u'a') + Text(1500, u'B') + u"C";
+        EXPECT_EQ(FindNoCase(text.c_str(), needle.c_str(), text.size()), text.c_str() + before);
+        EXPECT_EQ(FindNoCase(text.c_str(), needle.c_str(), text.size() - 1), nullptr);
+        EXPECT_EQ(FindNoCase(text.c_str(), u"C", text.size()), text.c_str() + before + 1500);
+    }
 }
 
 struct Replaced {
@@ -288,6 +382,35 @@ TEST(ReplaceAll, DestinationAndSourceMayBeOneBuffer)
 TEST(ReplaceAll, AtMostCapacityCharactersAreWritten)
 {
     EXPECT_EQ(Replace(u"a-b", u"-", u"+++", 3), (Replaced{u"a++", kMatchDone}));
+}
+
+TEST(ReplaceAll, WhatIsCopiedUnchangedIsCutToTheCapacityToo)
+{
+    EXPECT_EQ(Replace(u"abcdef", u"x", u"y", 3), (Replaced{u"abc", kMatchFailed}));
+    EXPECT_EQ(Replace(u"abcdef", u"", u"y", 3), (Replaced{u"abc", kMatchFailed}));
+    EXPECT_EQ(Replace(u"abcdef", u"abcdefg", u"y", 3), (Replaced{u"abc", kMatchFailed}));
+    EXPECT_EQ(Replace(u"abcdef", u"x", u"y", 0), (Replaced{u"", kMatchFailed}));
+}
+
+TEST(ReplaceAll, WhatWasPutInIsNotSearchedAgain)
+{
+    EXPECT_EQ(Replace(u"aba", u"a", u"aa"), (Replaced{u"aabaa", kMatchDone}));
+    EXPECT_EQ(Replace(u"aab", u"ab", u"b"), (Replaced{u"ab", kMatchDone}));
+}
+
+TEST(ReplaceAll, WholeSourceMayBeReplaced)
+{
+    EXPECT_EQ(Replace(u"abc", u"ABC", u""), (Replaced{u"", kMatchDone}));
+    EXPECT_EQ(Replace(u"abc", u"abc", u"x", 100, 1), (Replaced{u"x", kMatchDone}));
+}
+
+TEST(ReplaceAll, OneBufferIsLeftAloneWhenNothingIsReplaced)
+{
+    std::array<char16_t, 16> buffer{u'a', u'b', u'c', u'd', u'\0'};
+    EXPECT_EQ(ReplaceAll(buffer.data(), buffer.data(), u"abcde", u"x", 2, 0), kMatchFailed);
+    EXPECT_EQ(Text(buffer.data()), u"abcd");
+    EXPECT_EQ(ReplaceAll(buffer.data(), buffer.data(), u"x", u"y", 15, 0), kMatchFailed);
+    EXPECT_EQ(Text(buffer.data()), u"abcd");
 }
 
 TEST(ReplaceAll, WithoutMemoryNothingIsReplaced)
