@@ -103,9 +103,9 @@ void AppendWide(wchar_t character, Text& text)
 std::size_t LongestCharacter(std::string_view bytes)
 {
     constexpr unsigned char kLowestLaterByte = 0x30;
+    const std::size_t longest = std::min(bytes.size(), static_cast<std::size_t>(MB_CUR_MAX));
     std::size_t length = 1;
-    while (length < bytes.size() && length < MB_CUR_MAX &&
-           static_cast<unsigned char>(bytes[length]) >= kLowestLaterByte)
+    while (length < longest && static_cast<unsigned char>(bytes[length]) >= kLowestLaterByte)
         ++length;
     return length;
 }
