@@ -1,5 +1,6 @@
 #include "config/core/config_reader.h"
 
+#include "config/core/config_writer.h"
 #include "tests/core/memory_file_port.h"
 #include "tests/core/scoped_locale.h"
 
@@ -355,6 +356,144 @@ TEST_F(ConfigReader, FileIsReadInAnyBlocks)
         EXPECT_EQ(Value(u"B"), u"2");
     }
 }
+
+TEST_F(ConfigReader, LongListsGrowAtBothEnds)
+{
+    std::string bytes = "A = m\n";
+    Text expected = u"m";
+    for (int i = 0; i < 3000; ++i) {
+        const std::string item = std::to_string(i);
+        const Text text(item.begin(), item.end());
+        bytes += i % 2 == 0 ? "A > " : "A < ";
+        bytes += item + '\n';
+        expected = i % 2 == 0 ? expected + u';' + text : text + u';' + expected;
+    }
+    ReadCurrent(bytes);
+    EXPECT_EQ(Value(u"A"), expected);
+    EXPECT_EQ(Kind(u"A"), SettingKindText);
+}
+
+// Joining every line with the current value would copy 20 GB.
+TEST_F(ConfigReader, OnlyTheLastDefaultLineIsJoinedWithALongCurrentValue)
+{
+    const std::string value(1 << 20, 'v');
+    for (const char operation : {'>', '<', '+', ':'}) {
+        ReadCurrent("A = " + value + "\n");
+        std::string bytes;
+        for (int i = 0; i < 20000; ++i)
+            bytes.append("A ").append(1, operation).append(" x\n");
+        ReadDefault(bytes);
+        const Text current(value.begin(), value.end());
+        EXPECT_EQ(Value(u"A", kDefaultTable), operation == '>'   ? current + u";x"
+                                              : operation == '<' ? u"x;" + current
+                                              : operation == '+' ? current + u"x"
+                                                                 : current);
+        EXPECT_EQ(Kind(u"A", kDefaultTable), SettingKindText);
+    }
+}
+
+TEST_F(ConfigReader, LastDefaultLineDecidesWhateverStoodBefore)
+{
+    ReadCurrent("A = 1\nB =\n");
+    ReadDefault("A > x\nA = 5\nB + -\nC > 1\nC + 2\n");
+    EXPECT_EQ(Value(u"A", kDefaultTable), u"5");
+    EXPECT_EQ(Kind(u"A", kDefaultTable), SettingKindInteger);
+    EXPECT_EQ(Value(u"B", kDefaultTable), u"-");
+    EXPECT_EQ(Kind(u"B", kDefaultTable), SettingKindInteger);
+    EXPECT_EQ(Value(u"C", kDefaultTable), u"2");
+    ReadDefault("A = 5\nA + 2\nA : 7\n");
+    EXPECT_EQ(Value(u"A", kDefaultTable), u"1");
+    ReadDefault("A : 7\nA + .5\nB : 3\n");
+    EXPECT_EQ(Value(u"A", kDefaultTable), u"1.5");
+    EXPECT_EQ(Kind(u"A", kDefaultTable), SettingKindReal);
+    EXPECT_EQ(Value(u"B", kDefaultTable), u"");
+    EXPECT_EQ(Kind(u"B", kDefaultTable), SettingKindText);
+}
+
+TEST_F(ConfigReader, DefaultLinesJoinWithWideCurrentValues)
+{
+    m_store.SetSetting(u"A", u"\u20AC", SettingKindText, u"", kCurrentTable);
+    ReadDefault("A > \xE9\n");
+    EXPECT_EQ(Value(u"A", kDefaultTable), u"\u20AC;\u00E9");
+}
+
+// What is read from odd bytes, however the blocks fall, is written and read back as the same.
+TEST_F(ConfigReader, OddBytesAreReadInAnyBlocksAndSurviveWriting)
+{
+    using namespace std::string_literals;
+    const std::string inputs[] = {
+        "\n# nul \0 in a comment\nA = x\0y\nB\0 = 1\n"s,
+        "\n# lone \r return\nA = x\ry\r\r\n\rB = 1\r"s,
+        "\n\x1A\nA\x1A = \x1A\n# \x1A\nB = 1\x1A"s,
+        "\xEF\xBB\xBF\n\nA = 1"s,
+        "\xFF\xFE\n\nA\0 \0=\0 \0001\0\n\0"s,
+        "\n# \xE2\x82\nA = \xE2\x82\n\xF0\x9F = \xF0\x9F\x98\nB > \x80;\xC3\nB < \xA9\n"s,
+        "\v\f\nA = 1\f\n\fB\t=\t\v2\n"s,
+    };
+    for (const char* name : {"C", "C.UTF-8"}) {
+        const test::ScopedLocale locale(name);
+        if (!locale.IsSet())
+            continue; // Windows names its locales otherwise.
+        for (const std::string& bytes : inputs) {
+            ReadCurrent(bytes);
+            std::string whole;
+            ASSERT_TRUE(WriteConfig(m_store, u"#", whole));
+            EXPECT_GT(Count(), 0u);
+            for (std::size_t block = 1; block <= 8; ++block) {
+                m_files.contents[u"a.cfg"] = bytes;
+                m_files.blockSize = block;
+                SettingStore store;
+                ASSERT_EQ(ReadConfigFile(store, kCurrentTable, u"a.cfg", m_files).outcome, ReadOutcome::Read);
+                std::string written;
+                ASSERT_TRUE(WriteConfig(store, u"#", written));
+                EXPECT_EQ(written, whole);
+            }
+            SettingStore again;
+            ReadConfig(again, kCurrentTable, whole);
+            std::string rewritten;
+            ASSERT_TRUE(WriteConfig(again, u"#", rewritten));
+            EXPECT_EQ(rewritten, whole);
+        }
+    }
+}
+
+#ifndef _WIN32
+
+TEST_F(ConfigReader, TextsOfAUtf8LocaleAreDecoded)
+{
+    const test::ScopedLocale locale("C.UTF-8");
+    ASSERT_TRUE(locale.IsSet());
+    ReadCurrent("\n# \xE2\x82\xAC\nN\xC3\xA9 = \xC3\xA9\nN\xC3\xA9 > \xE2\x82\xAC\nN\xC3\xA9 < a\n");
+    EXPECT_EQ(Value(u"N\u00E9"), u"a;\u00E9;\u20AC");
+    EXPECT_EQ(Comment(u"N\u00E9"), u"\n# \u20AC\n");
+}
+
+TEST_F(ConfigReader, InvalidBytesOfAUtf8LocaleAreKeptOneByOne)
+{
+    const test::ScopedLocale locale("C.UTF-8");
+    ASSERT_TRUE(locale.IsSet());
+    ReadCurrent("\n# \xE2\x82\nA = \xE9 x\xE2\x82\nB = \"\xC3\"\xA9 \"\n");
+    EXPECT_EQ(Value(u"A"), Text({0xDCE9, u' ', u'x', 0xDCE2, 0xDC82}));
+    EXPECT_EQ(Comment(u"A"), Text({u'\n', u'#', u' ', 0xDCE2, 0xDC82, u'\n'}));
+    // What a quote keeps apart is not one character when the quote is gone.
+    EXPECT_EQ(Value(u"B"), Text({0xDCC3, 0xDCA9, u' '}));
+}
+
+#else
+
+TEST_F(ConfigReader, HalfACharacterTakesNoMarkWithIt)
+{
+    const test::ScopedLocale locale(".932");
+    ASSERT_TRUE(locale.IsSet());
+    ReadCurrent("\n# \x93\xFA\x93\nA = \x93\xFA \x93\nB = \"\x93\"\n");
+    EXPECT_EQ(Value(u"A").substr(0, 2), u"\u65E5 ");
+    EXPECT_EQ(Value(u"A").size(), 3u);
+    EXPECT_EQ(Value(u"B").size(), 1u);
+    EXPECT_EQ(Comment(u"A").substr(0, 4), u"\n# \u65E5");
+    EXPECT_EQ(Comment(u"A").back(), u'\n');
+}
+
+#endif
 
 TEST_F(ConfigReader, EmptyPathAndMissingFileAreNotReadWithoutAWord)
 {

@@ -232,6 +232,45 @@ TEST_F(ConfigWriter, RefusedCharacterInTheHeaderIsTold)
     EXPECT_EQ(result.character, u"\u4E00");
 }
 
+TEST_F(ConfigWriter, LineBreaksInsideNamesAndValuesAreWrittenAsCrLf)
+{
+    Set(u"A\nB", u"x\ny");
+    Set(u"C", u"x\ny;z");
+    EXPECT_EQ(Body(), "A\r\nB = \"x\r\ny\"\r\nC = x\r\ny\r\nC > z\r\n");
+}
+
+TEST_F(ConfigWriter, CharacterBehindOthersOfTheLocaleIsRefused)
+{
+    Set(u"A", u"\u00E9\u00FF\u0100", SettingKindText, u"# \u00E9\n");
+    std::string bytes;
+    const WriteResult result = WriteConfig(m_store, u"#", bytes);
+    EXPECT_EQ(result.variable, u"A");
+    EXPECT_EQ(result.character, u"\u0100");
+}
+
+#ifndef _WIN32
+
+TEST_F(ConfigWriter, Utf8LocaleSpellsEveryText)
+{
+    const test::ScopedLocale locale("C.UTF-8");
+    ASSERT_TRUE(locale.IsSet());
+    Set(u"A", u"\u00E9", SettingKindText, u"# plain\n");
+    Set(u"B", u"plain", SettingKindText, u"# \u20AC\n");
+    Set(u"C\u00FF", u"1;\U0001F600", SettingKindText);
+    EXPECT_EQ(Body(), "# plain\r\nA = \"\xC3\xA9\"\r\n# \xE2\x82\xAC\r\nB = \"plain\"\r\n"
+                      "C\xC3\xBF = 1\r\nC\xC3\xBF > \xF0\x9F\x98\x80\r\n");
+}
+
+TEST_F(ConfigWriter, HalvesOfAPairThatMeetAreOneCharacter)
+{
+    const test::ScopedLocale locale("C.UTF-8");
+    ASSERT_TRUE(locale.IsSet());
+    Set(Text(1, char16_t{0xDE00}), u"1", SettingKindInteger, Text(u"# ") + char16_t{0xD83D});
+    EXPECT_EQ(Body(), "# \xF0\x9F\x98\x80 = 1\r\n");
+}
+
+#endif
+
 TEST_F(ConfigWriter, EveryByteOfTheLocaleSurvivesReadingAndWriting)
 {
     std::string value;

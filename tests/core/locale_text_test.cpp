@@ -52,6 +52,13 @@ TEST(LocaleText, FailedAppendLeavesTheBytesAsTheyWere)
     EXPECT_EQ(bytes, "kept");
 }
 
+TEST(LocaleText, EveryByteIsPlainInTheCLocale)
+{
+    const test::ScopedLocale locale("C");
+    EXPECT_TRUE(LocaleDecoder().IsPlain(AllBytes()));
+    EXPECT_TRUE(LocaleEncoder().IsPlain(AllBytes()));
+}
+
 TEST(LocaleText, TimeIsFormattedInTheLocalesWords)
 {
     const test::ScopedLocale locale("C");
@@ -97,6 +104,18 @@ TEST(LocaleText, AllBytesSurviveInCodePages)
     }
 }
 
+TEST(LocaleText, AsciiIsPlainInCodePages)
+{
+    for (const char* name : {".1250", ".1252", ".932", ".936"}) {
+        const test::ScopedLocale locale(name);
+        ASSERT_TRUE(locale.IsSet()) << name;
+        EXPECT_TRUE(LocaleDecoder().IsPlain("a\\~ 1")) << name;
+        EXPECT_TRUE(LocaleEncoder().IsPlain("a\\~ 1")) << name;
+        EXPECT_FALSE(LocaleDecoder().IsPlain("a long text of ASCII and one other: \x80")) << name;
+        EXPECT_FALSE(LocaleEncoder().IsPlain("\x80")) << name;
+    }
+}
+
 TEST(LocaleText, SimilarCharacterIsNotWrittenInPlaceOfAnother)
 {
     const test::ScopedLocale locale(".1252");
@@ -138,6 +157,36 @@ TEST(LocaleText, InvalidUtf8SurvivesAsItsBytes)
     std::string back;
     ASSERT_TRUE(EncodeLocale(DecodeLocale(AllBytes()), back));
     EXPECT_EQ(back, AllBytes());
+}
+
+TEST(LocaleText, AsciiIsPlainInUtf8)
+{
+    const test::ScopedLocale locale("C.UTF-8");
+    ASSERT_TRUE(locale.IsSet());
+    for (std::size_t length = 0; length < 20; ++length) {
+        std::string bytes(length, '~');
+        EXPECT_TRUE(LocaleDecoder().IsPlain(bytes));
+        EXPECT_TRUE(LocaleEncoder().IsPlain(bytes));
+        bytes.insert(length / 2, 1, '\x80');
+        EXPECT_FALSE(LocaleDecoder().IsPlain(bytes));
+        EXPECT_FALSE(LocaleEncoder().IsPlain(bytes));
+    }
+}
+
+TEST(LocaleText, Utf8IsDecodedBetweenAsciiOfAnyLength)
+{
+    const test::ScopedLocale locale("C.UTF-8");
+    ASSERT_TRUE(locale.IsSet());
+    for (std::size_t before = 0; before < 20; ++before) {
+        for (std::size_t after = 0; after < 20; ++after) {
+            const std::string bytes = std::string(before, 'a') + "\xC3\xA9" + std::string(after, 'z');
+            const Text text = Text(before, u'a') + u'\u00E9' + Text(after, u'z');
+            EXPECT_EQ(DecodeLocale(bytes), text);
+            std::string back;
+            EXPECT_TRUE(EncodeLocale(text, back));
+            EXPECT_EQ(back, bytes);
+        }
+    }
 }
 
 TEST(LocaleText, LoneSurrogateCannotBeWrittenInUtf8)

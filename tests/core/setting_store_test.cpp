@@ -179,26 +179,6 @@ TEST(SettingStore, EmptiedTableTakesANewComment)
     EXPECT_EQ(store.FindSetting(u"A", kCurrentTable)->comment, u"# new\n");
 }
 
-TEST(SettingTable, ValueGrowsAtBothEnds)
-{
-    SettingTable table;
-    const SettingTable::Index index = table.Insert(u"A", u"m", SettingKindInteger, u"# c\n");
-    Text expected = u"m";
-    for (int i = 0; i < 500; ++i) {
-        const Text item = FormatInteger(i);
-        if (i % 3 == 0) {
-            table.ExtendValue(index, item + u";", u"", SettingKindText);
-            expected.insert(0, item + u";");
-        } else {
-            table.ExtendValue(index, u"", u";" + item, SettingKindText);
-            expected += u";" + item;
-        }
-        ASSERT_EQ(table.At(index).value, expected);
-    }
-    EXPECT_EQ(table.At(index).comment, u"# c\n");
-    EXPECT_EQ(table.At(index).kind, SettingKindText);
-}
-
 TEST(SettingStore, ValuesOfAnyLengthReplaceOneAnother)
 {
     SettingStore store;
