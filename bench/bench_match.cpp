@@ -77,9 +77,13 @@ void MeasureNames(Table& table, Targets& targets)
         Race race;
         const Race::Entry own = race.Add([&, kind = type] {
             std::size_t found = 0;
-            for (const ov::Text& name : names.texts)
-                found += Fits(pattern, name, kind) ? 1 : 0;
-            Require(found == expected, "the match has changed");
+            std::uint32_t statuses = 0;
+            for (const ov::Text& name : names.texts) {
+                std::uint32_t match = 0;
+                statuses |= ov::MatchPattern(&match, pattern.c_str(), name.c_str(), kind, kNoCase);
+                found += match;
+            }
+            Require(statuses == ov::kMatchDone && found == expected, "the match has changed");
         });
         const Race::Entry library = race.Add([&, text = bytes.c_str()] {
             std::size_t found = 0;
