@@ -36,6 +36,12 @@ BOOL CDC::DeleteDC()
     return m_hDC != nullptr && ::DeleteDC(Detach());
 }
 
+CFont* CDC::SelectObject(CFont* font)
+{
+    const HGDIOBJ handle = font != nullptr ? font->GetSafeHandle() : nullptr;
+    return CFont::FromHandle(static_cast<HFONT>(::SelectObject(m_hDC, handle)));
+}
+
 CPoint CDC::SetWindowOrg(int x, int y)
 {
     CPoint previous;
@@ -43,11 +49,26 @@ CPoint CDC::SetWindowOrg(int x, int y)
     return previous;
 }
 
+int CDC::DrawText(ov::TextView text, LPRECT rectangle, UINT format)
+{
+    return ::DrawTextW(m_hDC, reinterpret_cast<const wchar_t*>(text.data()), static_cast<int>(text.size()),
+                       rectangle, format);
+}
+
 void CDC::FillSolidRect(LPCRECT rectangle, COLORREF colour)
 {
     const COLORREF previous = ::SetBkColor(m_hDC, colour);
     ::ExtTextOutW(m_hDC, 0, 0, ETO_OPAQUE, rectangle, nullptr, 0, nullptr);
     ::SetBkColor(m_hDC, previous);
+}
+
+void CDC::Draw3dRect(LPCRECT rectangle, COLORREF topLeft, COLORREF bottomRight)
+{
+    const CRect r(*rectangle);
+    FillSolidRect(CRect(r.left, r.top, r.right - 1, r.top + 1), topLeft);
+    FillSolidRect(CRect(r.left, r.top, r.left + 1, r.bottom - 1), topLeft);
+    FillSolidRect(CRect(r.right - 1, r.top, r.right, r.bottom), bottomRight);
+    FillSolidRect(CRect(r.left, r.bottom - 1, r.right, r.bottom), bottomRight);
 }
 
 BOOL CDC::BitBlt(int x, int y, int width, int height, CDC* source, int sourceX, int sourceY, DWORD operation)
@@ -65,6 +86,16 @@ CPaintDC::~CPaintDC()
 {
     ::EndPaint(m_window, &m_ps);
     Detach();
+}
+
+CClientDC::CClientDC(CWnd* window) : m_window(window->m_hWnd)
+{
+    m_hDC = ::GetDC(m_window);
+}
+
+CClientDC::~CClientDC()
+{
+    ::ReleaseDC(m_window, Detach());
 }
 
 CDC* AfxContextFromParam(WPARAM handle)

@@ -1,11 +1,12 @@
 #pragma once
 
+#include "base/text.h"
 #include "framework/gdi.h"
 
 class CWnd;
 
-/// A drawing context. It deletes the context that it owns; CPaintDC gives its
-/// own back instead.
+/// A drawing context. It deletes the context that it owns; CPaintDC and
+/// CClientDC give theirs back instead.
 class CDC : public CObject
 {
     DECLARE_DYNAMIC(CDC)
@@ -25,9 +26,27 @@ class CDC : public CObject
     BOOL DeleteDC();
     BOOL IsPrinting() const { return ::GetDeviceCaps(m_hDC, TECHNOLOGY) == DT_RASPRINTER; }
 
+    /// Selects the font; the one that was selected before, null when that failed.
+    CFont* SelectObject(CFont* font);
+    COLORREF SetTextColor(COLORREF colour) { return ::SetTextColor(m_hDC, colour); }
+    int SetBkMode(int mode) { return ::SetBkMode(m_hDC, mode); }
     CPoint SetWindowOrg(int x, int y);
 
+    /// Draws or, with DT_CALCRECT, measures into the rectangle; the text's height.
+    int DrawText(ov::TextView text, LPRECT rectangle, UINT format);
+
     void FillSolidRect(LPCRECT rectangle, COLORREF colour);
+    void Draw3dRect(LPCRECT rectangle, COLORREF topLeft, COLORREF bottomRight);
+    BOOL DrawEdge(LPRECT rectangle, UINT edge, UINT flags)
+    {
+        return ::DrawEdge(m_hDC, rectangle, edge, flags);
+    }
+    BOOL FillRgn(CRgn* region, CBrush* brush) { return ::FillRgn(m_hDC, *region, *brush); }
+    /// Draws the region's border, inside of it.
+    BOOL FrameRgn(CRgn* region, CBrush* brush, int width, int height)
+    {
+        return ::FrameRgn(m_hDC, *region, *brush, width, height);
+    }
     BOOL DrawIcon(int x, int y, HICON icon) { return ::DrawIcon(m_hDC, x, y, icon); }
     BOOL BitBlt(int x, int y, int width, int height, CDC* source, int sourceX, int sourceY, DWORD operation);
 
@@ -42,6 +61,17 @@ class CPaintDC : public CDC
     ~CPaintDC() override;
 
     PAINTSTRUCT m_ps{};
+
+  private:
+    HWND m_window;
+};
+
+/// Draws into a window's client area.
+class CClientDC : public CDC
+{
+  public:
+    explicit CClientDC(CWnd* window);
+    ~CClientDC() override;
 
   private:
     HWND m_window;

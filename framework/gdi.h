@@ -32,10 +32,30 @@ class CFont : public CGdiObject
     static CFont* FromHandle(HFONT font);
     operator HFONT() const { return static_cast<HFONT>(m_hObject); }
     BOOL CreateFontIndirect(const LOGFONTW* description);
+    /// Describes the font; false when there is none.
+    BOOL GetLogFont(LOGFONTW* description) const;
+};
+
+class CBrush : public CGdiObject
+{
+    DECLARE_DYNAMIC(CBrush)
+    explicit CBrush(COLORREF colour);
+    operator HBRUSH() const { return static_cast<HBRUSH>(m_hObject); }
 };
 
 class CBitmap : public CGdiObject
 {
     DECLARE_DYNAMIC(CBitmap)
     BOOL CreateCompatibleBitmap(CDC* context, int width, int height);
+};
+
+class CRgn : public CGdiObject
+{
+    DECLARE_DYNAMIC(CRgn)
+    operator HRGN() const { return static_cast<HRGN>(m_hObject); }
+    BOOL CreateRectRgnIndirect(LPCRECT rectangle);
+    BOOL CreateRoundRectRgn(int left, int top, int right, int bottom, int ellipseWidth, int ellipseHeight);
+    BOOL CreatePolygonRgn(const POINT* points, int count, int fillMode);
+    /// Makes this existing region the combination; the region type or ERROR.
+    int CombineRgn(const CRgn* first, const CRgn* second, int mode);
 };

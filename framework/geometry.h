@@ -46,6 +46,10 @@ class CRect : public RECT
     constexpr int Width() const { return right - left; }
     constexpr int Height() const { return bottom - top; }
     constexpr CPoint TopLeft() const { return {left, top}; }
+    constexpr BOOL PtInRect(POINT point) const
+    {
+        return point.x >= left && point.x < right && point.y >= top && point.y < bottom;
+    }
     constexpr void OffsetRect(int dx, int dy) { *this = CRect(left + dx, top + dy, right + dx, bottom + dy); }
     constexpr bool operator==(const CRect& other) const
     {

@@ -124,6 +124,13 @@ void AfxThunkMouseWheel(CCmdTarget& target, AFX_HANDLER_CALL& call)
     call.handled = call.result != 0;
 }
 
+template <auto Handler>
+void AfxThunkTimer(CCmdTarget& target, AFX_HANDLER_CALL& call)
+{
+    static_assert(AfxFits<Handler, void(UINT_PTR)>, "ON_WM_TIMER: void OnTimer(UINT_PTR id)");
+    (AfxTarget<Handler>(target).*Handler)(static_cast<UINT_PTR>(call.wParam));
+}
+
 /// In the class: it has a message map. The access that follows is protected.
 #define DECLARE_MESSAGE_MAP()                                                                                \
   protected:                                                                                                 \
@@ -171,4 +178,5 @@ void AfxThunkMouseWheel(CCmdTarget& target, AFX_HANDLER_CALL& call)
 #define ON_WM_HSCROLL() {WM_HSCROLL, 0, 0, 0, &AfxThunkScroll<&ThisClass::OnHScroll>},
 #define ON_WM_VSCROLL() {WM_VSCROLL, 0, 0, 0, &AfxThunkScroll<&ThisClass::OnVScroll>},
 #define ON_WM_MOUSEWHEEL() {WM_MOUSEWHEEL, 0, 0, 0, &AfxThunkMouseWheel<&ThisClass::OnMouseWheel>},
+#define ON_WM_TIMER() {WM_TIMER, 0, 0, 0, &AfxThunkTimer<&ThisClass::OnTimer>},
 // clang-format on

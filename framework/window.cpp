@@ -155,6 +155,11 @@ void CWnd::CenterWindow()
     SetWindowPos(nullptr, x, y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
+BOOL CWnd::RedrawWindow(LPCRECT rectangle, CRgn* region, UINT flags)
+{
+    return ::RedrawWindow(m_hWnd, rectangle, region != nullptr ? static_cast<HRGN>(*region) : nullptr, flags);
+}
+
 BOOL CWnd::GetScrollInfo(int bar, SCROLLINFO* info, UINT mask) const
 {
     info->cbSize = sizeof *info;

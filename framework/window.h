@@ -7,6 +7,7 @@
 
 class CDataExchange;
 class CFont;
+class CRgn;
 
 /// A window. The object and its window are bound by a handle map of the thread:
 /// a permanent entry for objects that the program made, a temporary one for
@@ -67,6 +68,9 @@ class CWnd : public CCmdTarget
     void GetWindowRect(LPRECT rectangle) const { ::GetWindowRect(m_hWnd, rectangle); }
     void GetClientRect(LPRECT rectangle) const { ::GetClientRect(m_hWnd, rectangle); }
     void ScreenToClient(LPRECT rectangle) const;
+    /// Cuts the window to a region in its own coordinates, which belongs to the
+    /// window from then on; 0 when that failed.
+    int SetWindowRgn(HRGN region, BOOL redraw) { return ::SetWindowRgn(m_hWnd, region, redraw); }
     /// Centres a top-level window over its owner, else on the screen, within
     /// the work area.
     void CenterWindow();
@@ -77,9 +81,11 @@ class CWnd : public CCmdTarget
 
     // --- painting --------------------------------------------------------------
     void Invalidate(BOOL erase = TRUE) { ::InvalidateRect(m_hWnd, nullptr, erase); }
+    BOOL RedrawWindow(LPCRECT rectangle = nullptr, CRgn* region = nullptr,
+                      UINT flags = RDW_INVALIDATE | RDW_UPDATENOW | RDW_ERASE);
     void SetRedraw(BOOL redraw = TRUE) { SendMessage(WM_SETREDRAW, static_cast<WPARAM>(redraw), 0); }
 
-    // --- messages, focus ------------------------------------------------------
+    // --- messages, focus, timers ----------------------------------------------
     LRESULT SendMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const
     {
         return ::SendMessageW(m_hWnd, message, wParam, lParam);
@@ -88,6 +94,12 @@ class CWnd : public CCmdTarget
     {
         return ::PostMessageW(m_hWnd, message, wParam, lParam);
     }
+    /// Starts a timer of the window, or starts it anew; 0 when that failed.
+    UINT_PTR SetTimer(UINT_PTR id, UINT milliseconds)
+    {
+        return ::SetTimer(m_hWnd, id, milliseconds, nullptr);
+    }
+    BOOL KillTimer(UINT_PTR id) { return ::KillTimer(m_hWnd, id); }
     CWnd* SetFocus() { return FromHandle(::SetFocus(m_hWnd)); }
 
     // --- scrolling -----------------------------------------------------------
@@ -158,6 +170,7 @@ class CWnd : public CCmdTarget
     void OnHScroll(UINT, UINT, CWnd*) { Default(); }
     void OnVScroll(UINT, UINT, CWnd*) { Default(); }
     BOOL OnMouseWheel(UINT, short, CPoint) { return Default() != 0; }
+    void OnTimer(UINT_PTR) { Default(); }
 
     bool m_continueModal = false; ///< a modal loop runs or may begin
     int m_nModalResult = -1;      ///< what EndModalLoop was given, else -1

@@ -60,6 +60,11 @@ class CMappedWindow : public CBaseWindow
         m_log.push_back("scroll " + std::to_string(code) + " at " + std::to_string(position));
         m_sender = sender;
     }
+    void OnTimer(UINT_PTR id)
+    {
+        m_log.push_back("timer " + std::to_string(id));
+        KillTimer(id);
+    }
     BOOL OnMouseWheel(UINT keys, short delta, CPoint point)
     {
         m_log.push_back("wheel " + std::to_string(keys) + " " + std::to_string(delta) + " at " +
@@ -90,6 +95,7 @@ BEGIN_MESSAGE_MAP(CMappedWindow, CBaseWindow)
     ON_WM_SIZE()
     ON_WM_VSCROLL()
     ON_WM_MOUSEWHEEL()
+    ON_WM_TIMER()
 END_MESSAGE_MAP()
 
 class MessageMap : public testing::Test
@@ -176,6 +182,16 @@ TEST_F(MessageMap, RefusedWheelGoesOnToTheDefault)
     m_window.m_wheelAnswer = FALSE;
     EXPECT_EQ(FALSE, m_window.SendMessage(WM_MOUSEWHEEL, wheel, place));
     EXPECT_EQ((EventLog{"wheel 8 -120 at -5,7", "wheel 8 -120 at -5,7", "wheel's default"}), m_window.m_log);
+}
+
+TEST_F(MessageMap, TimerTellsItsId)
+{
+    ASSERT_NE(0u, m_window.SetTimer(101, 1));
+    MSG message{};
+    ASSERT_GT(::GetMessageW(&message, m_window, WM_TIMER, WM_TIMER), 0);
+    ::DispatchMessageW(&message);
+    EXPECT_EQ((EventLog{"timer 101"}), m_window.m_log);
+    EXPECT_FALSE(m_window.KillTimer(101)) << "it has been stopped";
 }
 
 TEST_F(MessageMap, RealControlNotifiesItsParent)
