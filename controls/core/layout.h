@@ -4,6 +4,8 @@
 #include <optional>
 #include <vector>
 
+#include "controls/core/geometry.h"
+
 namespace ov
 {
 
@@ -19,27 +21,6 @@ inline constexpr std::uint32_t LayoutScaleY = 0x080;        ///< top in proporti
 inline constexpr std::uint32_t LayoutStretchWidth = 0x100;  ///< left kept, right edge follows
 inline constexpr std::uint32_t LayoutStretchHeight = 0x200; ///< top kept, bottom edge follows
 inline constexpr std::uint32_t LayoutScaleWidthFromRight = 0x400; ///< scaled width sits at the right margin
-
-/// Edges in pixels, in the dialog's client coordinates; right and bottom lie
-/// just outside.
-struct Rect {
-    std::int32_t left = 0;
-    std::int32_t top = 0;
-    std::int32_t right = 0;
-    std::int32_t bottom = 0;
-
-    constexpr std::int32_t Width() const { return right - left; }
-    constexpr std::int32_t Height() const { return bottom - top; }
-    bool operator==(const Rect&) const = default;
-};
-
-/// Width and height in pixels.
-struct Size {
-    std::int32_t width = 0;
-    std::int32_t height = 0;
-
-    bool operator==(const Size&) const = default;
-};
 
 /// One control that follows its dialog's size.
 struct CDlgControlInfo {
