@@ -136,6 +136,11 @@ CToolTipControl* GetToolTipControl()
     return theToolTip.GetSafeHwnd() != nullptr ? &theToolTip : nullptr;
 }
 
+HICON GetApplicationIcon()
+{
+    return dialogIcon;
+}
+
 const ov::Text& GetDefaultConfigPath()
 {
     return theCommandLine.m_defaultPath;

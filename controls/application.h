@@ -1,10 +1,12 @@
 #pragma once
 
+#include "framework/windows_api.h"
+
 class CFont;
 class CToolTipControl;
 
 // What the controls need of the application object, which lies above them: the
-// application defines these two, so that nothing here includes it.
+// application defines these, so that nothing here includes it.
 
 /// The font that every dialog shares. Made on first request and kept by the
 /// application; null without a main window.
@@ -13,3 +15,6 @@ CFont* GetSharedDialogFont();
 /// The process-wide tooltip window and registry of help texts; null while there
 /// is no such window.
 CToolTipControl* GetToolTipControl();
+
+/// The application's icon; null until it is loaded. It needs no destroying.
+HICON GetApplicationIcon();

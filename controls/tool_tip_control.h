@@ -2,8 +2,10 @@
 
 #include <map>
 #include <memory>
+#include <vector>
 
 #include "base/text.h"
+#include "controls/core/tooltip_layout.h"
 #include "framework/afxwin.h"
 
 // Shapes of the tooltip window.
@@ -26,20 +28,20 @@ class CToolTipTextProvider
     virtual ov::Text GetToolTipText(HWND control) = 0;
 };
 
+/// An icon that several may own; destroyed with its last owner.
+using ToolTipIcon = std::shared_ptr<std::remove_pointer_t<HICON>>;
+
 /// What is known of one control.
 struct ToolTipEntry {
-    struct IconDeleter {
-        void operator()(HICON icon) const { ::DestroyIcon(icon); }
-    };
-
     CRect controlRect;
-    std::unique_ptr<std::remove_pointer_t<HICON>, IconDeleter> icon;
+    ToolTipIcon icon;
     ov::Text text; ///< in the markup of controls/core/tooltip_markup.h
 };
 
 /// The program's one tooltip window and, behind it, the registry of the
-/// controls' help texts. Nothing shows the window; the texts reach the person
-/// through the fields of the dialog and the comments of the saved file.
+/// controls' help texts. Nothing in the program shows the window: no control
+/// arms it, and the texts reach the person through the fields of the dialog and
+/// the comments of the saved file.
 class CToolTipControl : public CWnd
 {
     DECLARE_DYNAMIC(CToolTipControl)
@@ -54,7 +56,7 @@ class CToolTipControl : public CWnd
     /// window is ignored. A given icon belongs to the entry from then on.
     void RegisterControl(const CWnd* control, ov::Text text, HICON icon = nullptr);
 
-    /// RegisterControl with a text of the string table.
+    /// RegisterControl with a text of the string table and the tooltips' icon.
     void AddTool(const CWnd* control, UINT textId);
 
     /// The configuration variable that the control edits; empty when the control
@@ -67,17 +69,57 @@ class CToolTipControl : public CWnd
     /// Number of registered controls.
     size_t GetToolCount() const { return m_entries.size(); }
 
+    /// The icon of the control's entry; null when it has none. It stays the entry's.
+    HICON GetToolIcon(const CWnd* control) const;
+
     UINT GetToolTipStyle() const { return m_style; }
+
+    /// Shows the current text in a window that points at `anchor`, in screen
+    /// coordinates, without activating it. A text without sections shows nothing.
+    void ShowAt(CPoint anchor);
+
+    /// Hides the window and forgets what kept it open.
+    void Hide();
 
   protected:
     void OnDestroy();
+    void OnPaint();
+    void OnTimer(UINT_PTR id);
     DECLARE_MESSAGE_MAP()
 
+    /// Draws the window as measured last.
+    void Draw(CDC* context);
+
+    static constexpr UINT_PTR showTimer = 100;
+    static constexpr UINT_PTR watchTimer = 101;
+
+    // What a show goes by. Who arms it fills in the text and the control's
+    // rectangle, sets pending and starts the show timer.
+    ov::Text m_currentText;  ///< in the markup
+    CRect m_controlRect;     ///< in screen coordinates; the window stays while the cursor is inside
+    bool m_pending = false;  ///< a show waits for its delay
+    UINT m_showDelay = 1000; ///< in milliseconds
+    CPoint m_anchor;         ///< where the cursor was at the show
+    ov::TooltipSide m_side;  ///< where the body lies from there
+    ov::TooltipOutline m_outline;
+
   private:
+    void SetEntry(const CWnd* control, ov::Text text, ToolTipIcon icon);
     ov::Text TextOf(const CWnd* control) const;
+    void CreateFonts();
+    CFont& FontOf(ov::TooltipSection section);
+    /// The current text's pieces with their sizes; they view into the text.
+    std::vector<ov::TooltipPart> Measure(CDC* context);
+    bool MakeRegion(CRgn& region) const;
 
     std::map<HWND, ToolTipEntry> m_entries;
+    std::weak_ptr<ToolTipIcon::element_type> m_toolIcon; ///< the one icon of AddTool's entries
     CToolTipTextProvider* m_provider = nullptr;
     UINT m_style = ToolTipBalloon;
     UINT m_secondStyle = 0;
+    CFont m_headingFont;
+    CFont m_variableFont;
+    CFont m_descriptionFont;
+    ov::TooltipMetrics m_metrics;
+    UINT_PTR m_watchTimer = 0;
 };

@@ -3,6 +3,7 @@
 #include "app/host_size.h"
 #include "controls/application.h"
 #include "include/ovPreferences.h"
+#include "resources/ids.h"
 #include "tests/app/program.h"
 #include "wizard/application_texts.h"
 
@@ -96,6 +97,47 @@ TEST_F(ProgramTest, AnExceptionIsToldUnderTheProgramsCaption)
     EXPECT_EQ(doors.messages[0].text, L"The clock stands still.");
     EXPECT_EQ(doors.messages[0].caption, L"Orthoval for MicroStation Preferences");
     EXPECT_EQ(doors.messages[0].type, UINT{MB_OK | MB_ICONSTOP | MB_SETFOREGROUND | MB_TOPMOST});
+}
+
+TEST_F(ProgramTest, HelpTextsAreRegisteredWithTheirIconAndNeverShown)
+{
+    Open(L"", L"");
+    HICON icon = nullptr;
+    for (const int id : {IDC_PREFERENCES_CONFIG_FILE, IDC_PREFERENCES_BROWSE, IDC_PREFERENCES_SAVE, IDCANCEL,
+                         IDC_LEFT_PANE_LIST}) {
+        icon = theToolTip.GetToolIcon(CWnd::FromHandle(Control(id)));
+        ICONINFO info{};
+        ASSERT_TRUE(::GetIconInfo(icon, &info)) << id;
+        ::DeleteObject(info.hbmMask);
+        ::DeleteObject(info.hbmColor);
+    }
+    EXPECT_GT(theToolTip.GetToolCount(), 5u) << "the pages' controls";
+    // Focus and cursor go over controls that have a text.
+    CRect save;
+    ::GetWindowRect(Control(IDC_PREFERENCES_SAVE), save);
+    ::SetCursorPos(save.left + 5, save.top + 5);
+    ::SetFocus(Control(IDC_PREFERENCES_BROWSE));
+    MSG message{};
+    while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+        if (!CWnd::WalkPreTranslateTree(dialog->m_hWnd, &message))
+            ::DispatchMessageW(&message);
+    }
+    EXPECT_FALSE(theToolTip.IsWindowVisible());
+    for (const UINT_PTR timer : {100, 101})
+        EXPECT_FALSE(::KillTimer(theToolTip, timer)) << timer;
+    theToolTip.DestroyWindow();
+    ICONINFO info{};
+    EXPECT_FALSE(::GetIconInfo(icon, &info));
+}
+
+TEST_F(ProgramTest, TheApplicationsIconIsLoadedByAnExport)
+{
+    doors.AnswerDialog(IDCANCEL);
+    EXPECT_EQ(ovPreferences_showDialog(), 0u);
+    ICONINFO info{};
+    ASSERT_TRUE(::GetIconInfo(GetApplicationIcon(), &info));
+    ::DeleteObject(info.hbmMask);
+    ::DeleteObject(info.hbmColor);
 }
 
 TEST_F(ProgramTest, TheSharedFontIsACopyOfTheMainWindowsFont)

@@ -5,30 +5,14 @@
 
 #include <gtest/gtest.h>
 
-#include "controls/application.h"
 #include "controls/pref_list_ctrl.h"
 #include "controls/resizable_dlg.h"
 #include "controls/tool_tip_control.h"
+#include "tests/ui/controls_application.h"
 
 static void PrintTo(const CRect& rect, std::ostream* out)
 {
     *out << rect.left << ", " << rect.top << ", " << rect.right << ", " << rect.bottom;
-}
-
-namespace
-{
-CFont* sharedFont = nullptr;
-}
-
-// This program is the application of the controls that it tests.
-CFont* GetSharedDialogFont()
-{
-    return sharedFont;
-}
-
-CToolTipControl* GetToolTipControl()
-{
-    return nullptr;
 }
 
 namespace
@@ -389,6 +373,21 @@ TEST_F(ToolTip, ControlWithoutAWindowIsIgnored)
     EXPECT_EQ(tip.GetToolCount(), 0u);
     EXPECT_EQ(tip.GetDescription(&nothing), u"");
     EXPECT_EQ(tip.GetDescription(nullptr), u"");
+}
+
+TEST_F(ToolTip, EntriesShareTheToolTipsIcon)
+{
+    tip.AddTool(Control(1258), 7001);
+    tip.AddTool(Control(1006), 7002);
+    const HICON icon = tip.GetToolIcon(Control(1258));
+    ICONINFO info{};
+    ASSERT_TRUE(::GetIconInfo(icon, &info));
+    ::DeleteObject(info.hbmMask);
+    ::DeleteObject(info.hbmColor);
+    EXPECT_EQ(tip.GetToolIcon(Control(1006)), icon);
+    EXPECT_EQ(tip.GetToolIcon(Control(1009)), nullptr);
+    tip.DestroyWindow();
+    EXPECT_FALSE(::GetIconInfo(icon, &info)) << "it goes with the entries";
 }
 
 TEST_F(ToolTip, UnknownControlHasEmptyTexts)

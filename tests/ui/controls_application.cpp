@@ -1,0 +1,19 @@
+#include "tests/ui/controls_application.h"
+
+CFont* sharedFont = nullptr;
+HICON applicationIcon = nullptr;
+
+CFont* GetSharedDialogFont()
+{
+    return sharedFont;
+}
+
+CToolTipControl* GetToolTipControl()
+{
+    return nullptr;
+}
+
+HICON GetApplicationIcon()
+{
+    return applicationIcon;
+}
