@@ -1,0 +1,68 @@
+#pragma once
+
+#include "config/core/posix_file_port.h"
+#include "config/core/save.h"
+#include "tests/save/new_content.h"
+
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <optional>
+#include <set>
+#include <sstream>
+#include <string>
+
+namespace ov::test
+{
+
+/// A folder of its own on the disk, in which files are saved through the POSIX port.
+class RealFolder : public testing::Test
+{
+  protected:
+    RealFolder()
+    {
+        std::string pattern = (std::filesystem::temp_directory_path() / "ov-save-XXXXXX").string();
+        if (mkdtemp(pattern.data()) == nullptr)
+            throw std::runtime_error("No temporary directory");
+        folder = pattern;
+        // For the user that a test becomes.
+        std::filesystem::permissions(folder, std::filesystem::perms{0755});
+    }
+    ~RealFolder() override { std::filesystem::remove_all(folder); }
+
+    Text Path(const std::string& name) const { return TextFromUtf8((folder / name).string()); }
+    void Put(const std::string& name, const std::string& bytes) const
+    {
+        std::ofstream(folder / name, std::ios::binary) << bytes;
+    }
+    std::optional<std::string> Get(const std::string& name) const
+    {
+        std::ifstream file(folder / name, std::ios::binary);
+        if (!file)
+            return std::nullopt;
+        std::ostringstream bytes;
+        bytes << file.rdbuf();
+        return bytes.str();
+    }
+    std::set<std::string> Names() const
+    {
+        std::set<std::string> names;
+        for (const auto& entry : std::filesystem::directory_iterator(folder))
+            names.insert(entry.path().filename().string());
+        return names;
+    }
+
+    SaveResult Save(const std::string& name, const NewContent& content, FilePort& port)
+    {
+        TestSurroundings surroundings;
+        return SaveConfigFile(content.store, Path(name), port, surroundings,
+                              [this](const Text&) { ++notices; });
+    }
+    SaveResult Save(const std::string& name, const NewContent& content) { return Save(name, content, files); }
+
+    std::filesystem::path folder;
+    PosixFilePort files;
+    int notices = 0; ///< How often it was told that there is no backup.
+};
+
+} // namespace ov::test

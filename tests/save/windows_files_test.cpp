@@ -1,0 +1,331 @@
+// Saves through the Windows port: files that others hold open, attributes, devices, and processes
+// that end while they save. Started with arguments, the program is such a process.
+
+#include "config/core/save.h"
+#include "config/win32_file_port.h"
+#include "framework/afxwin.h"
+#include "pages/core/string_table.h"
+#include "tests/save/new_content.h"
+#include "tests/save/step_file_port.h"
+#include "tests/support/process.h"
+#include "tests/support/test_files.h"
+#include "wizard/core/save_messages.h"
+
+#include <gtest/gtest.h>
+#include <iostream>
+#include <shellapi.h>
+
+using namespace uidriver;
+using ov::test::StepFault;
+
+namespace
+{
+using Names = std::vector<std::wstring>;
+
+const std::string oldBytes = "OLD = content\r\n";
+const std::string staleBytes = "STALE = content\r\n";
+constexpr DWORD killedExitCode = 77;
+
+ov::SaveResult SaveThrough(ov::FilePort& port, const std::wstring& path, const ov::test::NewContent& content,
+                           int& notices)
+{
+    ov::test::TestSurroundings surroundings;
+    return ov::SaveConfigFile(content.store, FromWide(path), port, surroundings,
+                              [&notices](const ov::Text&) { ++notices; });
+}
+
+class WindowsSave : public testing::Test
+{
+  protected:
+    ov::SaveResult Save(ov::FilePort& port) { return SaveThrough(port, path, content, notices); }
+    ov::SaveResult Save() { return Save(files); }
+
+    // What the person is told at the end.
+    static ov::Text Message(const ov::SaveResult& result)
+    {
+        return ov::SaveFailureText(result, [](unsigned id) { return ov::Text(ov::FindString(id)); });
+    }
+
+    TempFolder folder;
+    std::wstring path = folder / L"a.cfg";
+    std::wstring backup = folder / L"a.bak";
+    CWin32FilePort files;
+    const ov::test::NewContent content{1};
+    int notices = 0; ///< How often it was told that there is no backup.
+};
+
+// How another handle holds the file: what it does with it and what it lets others do.
+struct Holder {
+    DWORD access;
+    DWORD share;
+};
+
+std::string Describe(const Holder& holder)
+{
+    const std::string access = holder.access == GENERIC_READ    ? "reads"
+                               : holder.access == GENERIC_WRITE ? "writes"
+                                                                : "reads and writes";
+    return access + ", lets others" + ((holder.share & FILE_SHARE_READ) != 0 ? " read" : "") +
+           ((holder.share & FILE_SHARE_WRITE) != 0 ? " write" : "") +
+           ((holder.share & FILE_SHARE_DELETE) != 0 ? " delete" : "") + (holder.share == 0 ? " nothing" : "");
+}
+
+class HeldFile : public WindowsSave, public testing::WithParamInterface<Holder>
+{
+};
+} // namespace
+
+TEST_P(HeldFile, IsSavedOrStandsAsItsHolderAllows)
+{
+    const Holder& holder = GetParam();
+    ASSERT_TRUE(WriteBytes(path, oldBytes));
+    const HANDLE held =
+        ::CreateFileW(path.c_str(), holder.access, holder.share, nullptr, OPEN_EXISTING, 0, nullptr);
+    ASSERT_NE(held, INVALID_HANDLE_VALUE);
+    const ov::SaveResult result = Save();
+    ::CloseHandle(held);
+
+    // A file can be renamed when its holder lets others delete it. In place it can be written when
+    // the holder lets others write and does not itself: a second writer is shut out.
+    const bool renames = (holder.share & FILE_SHARE_DELETE) != 0;
+    const bool saves =
+        renames || ((holder.share & FILE_SHARE_WRITE) != 0 && (holder.access & GENERIC_WRITE) == 0);
+    std::cout << Describe(holder) << ": " << (notices != 0 ? "told, " : "")
+              << (result.Saved() ? "saved" : "stands") << '\n';
+    EXPECT_EQ(notices, renames ? 0 : 1);
+    EXPECT_EQ(result.outcome, saves ? ov::SaveOutcome::Saved : ov::SaveOutcome::CreateFailed);
+    EXPECT_EQ(ReadBytes(path), saves ? content.bytes : oldBytes);
+    EXPECT_EQ(Message(result), u"");
+    EXPECT_EQ(folder.Names(), Names{L"a.cfg"});
+}
+
+namespace
+{
+std::vector<Holder> AllHolders()
+{
+    std::vector<Holder> holders;
+    constexpr DWORD reads = GENERIC_READ;
+    constexpr DWORD writes = GENERIC_WRITE;
+    for (const DWORD access : {reads, writes, reads | writes}) {
+        for (DWORD share = 0; share < 8; ++share)
+            holders.push_back({access, share});
+    }
+    return holders;
+}
+} // namespace
+
+INSTANTIATE_TEST_SUITE_P(Holders, HeldFile, testing::ValuesIn(AllHolders()));
+
+TEST_F(WindowsSave, AReadOnlyFileIsReplacedAndItsBackupDeleted)
+{
+    ASSERT_TRUE(WriteBytes(path, oldBytes));
+    ASSERT_TRUE(::SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_READONLY));
+    EXPECT_TRUE(Save().Saved());
+    EXPECT_EQ(notices, 0);
+    EXPECT_EQ(ReadBytes(path), content.bytes);
+    EXPECT_EQ(folder.Names(), Names{L"a.cfg"});
+}
+
+TEST_F(WindowsSave, AReadOnlyFileWithoutABackupStands)
+{
+    ASSERT_TRUE(WriteBytes(path, oldBytes));
+    ASSERT_TRUE(WriteBytes(backup, staleBytes));
+    ASSERT_TRUE(::SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_READONLY));
+    const HANDLE writer =
+        ::CreateFileW(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
+    if (writer != INVALID_HANDLE_VALUE) {
+        ::CloseHandle(writer);
+        GTEST_SKIP() << "The system lets this user write read-only files, as Wine does the superuser";
+    }
+    const ov::SaveResult result = Save();
+    EXPECT_EQ(result.outcome, ov::SaveOutcome::CreateFailed);
+    EXPECT_EQ(result.oldContent, ov::OldContent::Stands);
+    EXPECT_EQ(notices, 1);
+    EXPECT_EQ(ReadBytes(path), oldBytes);
+    EXPECT_EQ(ReadBytes(backup), staleBytes);
+    EXPECT_NE(::GetFileAttributesW(path.c_str()) & FILE_ATTRIBUTE_READONLY, 0u);
+    ::SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_NORMAL);
+}
+
+TEST_F(WindowsSave, AReadOnlyFileComesBackReadOnly)
+{
+    ASSERT_TRUE(WriteBytes(path, oldBytes));
+    ASSERT_TRUE(::SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_READONLY));
+    ov::test::StepFilePort port(files);
+    port.faults = {{6, StepFault::Fails}}; // link, kind, same file, rename, create, write
+    const ov::SaveResult result = Save(port);
+    EXPECT_EQ(result.outcome, ov::SaveOutcome::WriteFailed);
+    EXPECT_EQ(ReadBytes(path), oldBytes);
+    EXPECT_NE(::GetFileAttributesW(path.c_str()) & FILE_ATTRIBUTE_READONLY, 0u);
+    EXPECT_EQ(folder.Names(), Names{L"a.cfg"});
+    ::SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_NORMAL);
+}
+
+TEST_F(WindowsSave, AShorterContentWrittenInPlaceEndsWhereItEnds)
+{
+    ASSERT_TRUE(WriteBytes(path, std::string(100'000, 'x')));
+    ASSERT_TRUE(WriteBytes(backup, staleBytes));
+    EXPECT_TRUE(Save().Saved());
+    EXPECT_EQ(notices, 1);
+    EXPECT_EQ(ReadBytes(path), content.bytes);
+    EXPECT_EQ(folder.Names(), Names{L"a.cfg"});
+}
+
+TEST_F(WindowsSave, WhatStoodInPlaceIsPutBackWhenTheWriteFails)
+{
+    ASSERT_TRUE(WriteBytes(path, oldBytes));
+    ASSERT_TRUE(WriteBytes(backup, staleBytes));
+    ov::test::StepFilePort port(files);
+    // link, kind, same file, rename, open, read, read, close, create, reserve, write
+    port.faults = {{11, StepFault::Fails}};
+    port.partOfWrite = content.bytes.size() - 1;
+    const ov::SaveResult result = Save(port);
+    EXPECT_EQ(result.outcome, ov::SaveOutcome::WriteFailed);
+    EXPECT_EQ(result.oldContent, ov::OldContent::Stands);
+    EXPECT_EQ(ReadBytes(path), oldBytes);
+    EXPECT_EQ(ReadBytes(backup), staleBytes);
+}
+
+TEST_F(WindowsSave, AFolderInItsPlaceIsRefused)
+{
+    ASSERT_TRUE(::CreateDirectoryW(path.c_str(), nullptr));
+    EXPECT_EQ(Save().outcome, ov::SaveOutcome::PathIsDirectory);
+    EXPECT_EQ(notices, 0);
+    EXPECT_EQ(folder.Names(), Names{L"a.cfg"});
+}
+
+TEST_F(WindowsSave, AFolderUnderTheBackupsNameIsLeftAlone)
+{
+    ASSERT_TRUE(WriteBytes(path, oldBytes));
+    ASSERT_TRUE(::CreateDirectoryW(backup.c_str(), nullptr));
+    EXPECT_TRUE(Save().Saved());
+    EXPECT_EQ(notices, 1);
+    EXPECT_EQ(ReadBytes(path), content.bytes);
+    EXPECT_EQ(folder.Names(), (Names{L"a.bak", L"a.cfg"}));
+}
+
+TEST_F(WindowsSave, ADeviceOrPipeIsRefusedAndTheReasonTold)
+{
+    for (const wchar_t* device : {L"NUL", L"nul.cfg", L"CON", L"\\\\.\\pipe\\a.cfg"}) {
+        path = device;
+        const ov::SaveResult result = Save();
+        EXPECT_EQ(result.outcome, ov::SaveOutcome::PathIsNoFile) << testing::PrintToString(path);
+        EXPECT_NE(Message(result).find(u"a device or a pipe"), ov::Text::npos);
+    }
+    EXPECT_EQ(notices, 0);
+}
+
+TEST_F(WindowsSave, ASecondWriterIsShutOutFromTheCreationToTheClose)
+{
+    ASSERT_TRUE(WriteBytes(path, oldBytes));
+    ov::test::StepFilePort port(files);
+    std::string steps;
+    port.afterEach = [&] {
+        constexpr DWORD all = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+        const HANDLE second =
+            ::CreateFileW(path.c_str(), GENERIC_WRITE, all, nullptr, OPEN_EXISTING, 0, nullptr);
+        if (second != INVALID_HANDLE_VALUE)
+            ::CloseHandle(second);
+        steps += second != INVALID_HANDLE_VALUE ? '+' : '-';
+    };
+    EXPECT_TRUE(Save(port).Saved());
+    // link, kind, same file; rename: there is none; create, write, flush; close, remove
+    EXPECT_EQ(steps, "+++----++");
+    EXPECT_EQ(ReadBytes(path), content.bytes);
+}
+
+namespace
+{
+std::wstring ProgramPath()
+{
+    std::wstring name(MAX_PATH, L'\0');
+    name.resize(::GetModuleFileNameW(nullptr, name.data(), static_cast<DWORD>(name.size())));
+    return name;
+}
+
+class EndedProcess : public WindowsSave
+{
+  protected:
+    /// Saves in a process that ends at the step; true when it did.
+    bool SaveInAnotherProcess(StepFault end, int step) const
+    {
+        const Process process(ProgramPath(),
+                              {path, std::to_wstring(static_cast<int>(end)), std::to_wstring(step)});
+        EXPECT_TRUE(process.IsStarted());
+        EXPECT_TRUE(process.AwaitEnd());
+        const DWORD code = process.ExitCode();
+        EXPECT_TRUE(code == 0 || code == killedExitCode) << code;
+        return code == killedExitCode;
+    }
+
+    bool ACompleteCopyIsLeft() const
+    {
+        const auto file = ReadBytes(path);
+        return file == oldBytes || file == content.bytes || ReadBytes(backup) == oldBytes;
+    }
+};
+} // namespace
+
+TEST_F(EndedProcess, BeforeEachStepLeavesACompleteCopy)
+{
+    int step = 0;
+    do {
+        SCOPED_TRACE(++step);
+        ASSERT_TRUE(WriteBytes(path, oldBytes));
+        ::DeleteFileW(backup.c_str());
+        ASSERT_LT(step, 30);
+        const bool ended = SaveInAnotherProcess(StepFault::EndsBefore, step);
+        EXPECT_TRUE(ACompleteCopyIsLeft());
+        if (!ended)
+            break;
+    } while (true);
+    // link, kind, same file, rename, create, write, flush, close, remove
+    EXPECT_EQ(step, 10);
+    EXPECT_EQ(ReadBytes(path), content.bytes);
+    EXPECT_EQ(folder.Names(), Names{L"a.cfg"});
+}
+
+TEST_F(EndedProcess, WithinTheWriteAndAfterEachStepThatChangesSomethingLeavesACompleteCopy)
+{
+    for (const auto& [end, step] : {std::pair{StepFault::EndsAfter, 4}, std::pair{StepFault::EndsAfter, 5},
+                                    std::pair{StepFault::EndsWithin, 6}, std::pair{StepFault::EndsAfter, 6},
+                                    std::pair{StepFault::EndsAfter, 7}, std::pair{StepFault::EndsAfter, 9}}) {
+        SCOPED_TRACE(step);
+        ASSERT_TRUE(WriteBytes(path, oldBytes));
+        ::DeleteFileW(backup.c_str());
+        EXPECT_TRUE(SaveInAnotherProcess(end, step));
+        EXPECT_TRUE(ACompleteCopyIsLeft());
+    }
+}
+
+TEST_F(EndedProcess, WithoutABackupOnlyTheWriteItselfIsAWindow)
+{
+    // link, kind, same file, rename, open, read, read, close, create, reserve, write, flush, close
+    for (const auto& [end, step] : {std::pair{StepFault::EndsAfter, 4}, std::pair{StepFault::EndsAfter, 9},
+                                    std::pair{StepFault::EndsAfter, 10}, std::pair{StepFault::EndsAfter, 11},
+                                    std::pair{StepFault::EndsAfter, 13}}) {
+        SCOPED_TRACE(step);
+        ASSERT_TRUE(WriteBytes(path, oldBytes));
+        ASSERT_TRUE(WriteBytes(backup, staleBytes));
+        EXPECT_TRUE(SaveInAnotherProcess(end, step));
+        EXPECT_EQ(ReadBytes(path), step < 11 ? oldBytes : content.bytes);
+        EXPECT_EQ(ReadBytes(backup), staleBytes);
+    }
+}
+
+int main(int argc, char** argv)
+{
+    testing::InitGoogleTest(&argc, argv);
+    int count = 0;
+    wchar_t** const arguments = ::CommandLineToArgvW(::GetCommandLineW(), &count);
+    if (count != 4)
+        return RUN_ALL_TESTS();
+    CWin32FilePort files;
+    ov::test::StepFilePort port(files);
+    const ov::test::NewContent content(1);
+    port.faults = {{std::stoi(arguments[3]), static_cast<StepFault>(std::stoi(arguments[2]))}};
+    port.partOfWrite = content.bytes.size() / 2;
+    port.end = [] { ::TerminateProcess(::GetCurrentProcess(), killedExitCode); };
+    int notices = 0;
+    return SaveThrough(port, arguments[1], content, notices).Saved() ? 0 : 1;
+}
