@@ -1,8 +1,11 @@
 #include "bench/config_input.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
+#include <numeric>
 #include <random>
+#include <vector>
 
 namespace ov::bench
 {
@@ -50,13 +53,17 @@ class Generator
 
 } // namespace
 
-std::string MakeConfigFile(int variables)
+std::string MakeConfigFile(int variables, bool inOrder)
 {
     Generator generator;
+    std::vector<int> numbers(static_cast<std::size_t>(variables));
+    std::iota(numbers.begin(), numbers.end(), 0);
+    if (!inOrder)
+        std::shuffle(numbers.begin(), numbers.end(), std::mt19937{20261121});
     std::string bytes = "#\r\n# A header.\r\n#\r\n";
-    for (int i = 0; i < variables; ++i) {
+    for (const int number : numbers) {
         std::array<char, 32> name{};
-        std::snprintf(name.data(), name.size(), "_ORTHOVAL_BENCH_%07d", i);
+        std::snprintf(name.data(), name.size(), "_ORTHOVAL_BENCH_%07d", number);
         bytes += "\r\n#\r\n";
         const std::size_t lines = 2 + generator.Below(2);
         for (std::size_t line = 0; line < lines; ++line)
