@@ -74,6 +74,21 @@ TEST(Strings, TextsOfTheListEditorStandWordForWord)
     EXPECT_EQ(String(7010), "<H>Browse<D>Opens a file requestor dialog to browse for the required file.");
 }
 
+TEST(Strings, TextsOfThePatternTesterStandWordForWord)
+{
+    EXPECT_EQ(String(5120), "0 - No regular expressions allowed");
+    EXPECT_EQ(String(5121), "1 - DOS Wildcards (? and *)");
+    EXPECT_EQ(String(5122), "2 - DOS Wildcards with ranges & subsets");
+    EXPECT_EQ(String(5123), "3 - DOS Wildcards with ranges, subsets & substrings");
+    EXPECT_EQ(String(5124), "4 - PERL Regular Expressions");
+    EXPECT_EQ(String(5125), "5 - POSIX Extended Regular Expressions");
+    EXPECT_EQ(String(5126), "No Template String");
+    EXPECT_EQ(String(5127), "No Test String");
+    EXPECT_EQ(String(5128), "Syntax Error in Regex: %d");
+    EXPECT_EQ(String(5129), "Match");
+    EXPECT_EQ(String(5130), "No Match");
+}
+
 TEST(Strings, EveryPageHasATitle)
 {
     for (const ov::PageInfo& page : ov::PageCatalogue())
