@@ -15,12 +15,15 @@ namespace
 constexpr int browsingExtraWidth = 200;
 constexpr int columnMargin = 5;
 constexpr int moveIconSize = 16;
+// Posted by the dialog to itself; see OnRowChanged.
+constexpr UINT showSelectionMessage = WM_APP + 1;
 } // namespace
 
 IMPLEMENT_DYNAMIC(CConfigSettingDlg, CResizableDlg)
 
 BEGIN_MESSAGE_MAP(CConfigSettingDlg, CResizableDlg)
     ON_WM_GETMINMAXINFO()
+    ON_MESSAGE(showSelectionMessage, &CConfigSettingDlg::OnShowSelection)
     ON_EN_CHANGE(IDC_CONFIG_SETTING_VALUE, &CConfigSettingDlg::OnValueChanged)
     ON_BN_CLICKED(IDC_CONFIG_SETTING_INSERT, &CConfigSettingDlg::OnInsert)
     ON_BN_CLICKED(IDC_CONFIG_SETTING_DELETE, &CConfigSettingDlg::OnDelete)
@@ -70,6 +73,8 @@ BOOL CConfigSettingDlg::OnInitDialog()
     RegisterTooltips();
     if (m_list.GetColumnCount() == 0)
         CreateColumns();
+    // What an earlier window of this dialog posted went with it.
+    m_selectionChanged = false;
     FillList();
     SetMoveIcon(m_moveUpButton, IDI_MOVE_UP);
     SetMoveIcon(m_moveDownButton, IDI_MOVE_DOWN);
@@ -80,6 +85,7 @@ BOOL CConfigSettingDlg::OnInitDialog()
                      SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     }
     m_browseButton.ShowWindow(m_browsing ? SW_SHOW : SW_HIDE);
+    ShowSelection();
     UpdateButtons();
     return TRUE;
 }
@@ -153,7 +159,6 @@ void CConfigSettingDlg::UpdateButtons()
 
 void CConfigSettingDlg::EnableButton(CButton& button, bool enable, CWnd& next)
 {
-    // Selecting thousands of rows asks for as many updates, most of them the same.
     if (enable == (button.IsWindowEnabled() != FALSE))
         return;
     // A disabled button that keeps the focus would swallow the keyboard.
@@ -192,12 +197,14 @@ bool CConfigSettingDlg::ShowInsertedRow(const std::optional<ov::ListRows::Insert
 
 void CConfigSettingDlg::OnValueChanged()
 {
+    m_selectedValue.reset();
     UpdateData(TRUE);
     UpdateButtons();
 }
 
 void CConfigSettingDlg::OnInsert()
 {
+    ShowSelection();
     UpdateData(TRUE);
     const ov::TextView entry = ov::Trim(m_valueText);
     if (entry.empty())
@@ -266,6 +273,7 @@ void CConfigSettingDlg::OnBrowse()
     chooser.m_ofn.lpstrTitle = Wide(title);
     if (chooser.DoModal() != IDOK)
         return;
+    m_selectedValue.reset();
     ShowValue(chooser.GetPathName());
     UpdateButtons();
 }
@@ -278,10 +286,30 @@ void CConfigSettingDlg::OnRowChanged(NMHDR* header, LRESULT* result)
                            ((change->uNewState ^ change->uOldState) & LVIS_SELECTED) != 0;
     if (!selection || m_removingRow)
         return;
+    // Selecting thousands of rows tells of each. What they come to is shown once,
+    // when all have been told: before any input, since posted messages go first.
+    if (!m_selectionChanged)
+        m_selectionChanged = PostMessage(showSelectionMessage) != FALSE;
     // A change of all rows at once names none.
     if (change->iItem >= 0 && static_cast<size_t>(change->iItem) < m_rows.Count())
-        ShowValue(m_rows.EntryText(static_cast<size_t>(change->iItem)));
+        m_selectedValue = m_rows.EntryText(static_cast<size_t>(change->iItem));
+}
+
+LRESULT CConfigSettingDlg::OnShowSelection(WPARAM, LPARAM)
+{
+    m_selectionChanged = false;
+    ShowSelection();
     UpdateButtons();
+    return 0;
+}
+
+void CConfigSettingDlg::ShowSelection()
+{
+    if (!m_selectedValue)
+        return;
+    const ov::Text value = std::move(*m_selectedValue);
+    m_selectedValue.reset();
+    ShowValue(value);
 }
 
 void CConfigSettingDlg::OnColumnClick(NMHDR*, LRESULT* result)

@@ -38,6 +38,7 @@ class CConfigSettingDlg : public CResizableDlg
     void OnMoveDown();
     void OnBrowse();
     void OnRowChanged(NMHDR* header, LRESULT* result);
+    LRESULT OnShowSelection(WPARAM wParam, LPARAM lParam);
     void OnColumnClick(NMHDR* header, LRESULT* result);
     DECLARE_MESSAGE_MAP()
 
@@ -47,6 +48,8 @@ class CConfigSettingDlg : public CResizableDlg
     void RegisterTooltips();
     void SetMoveIcon(CButton& button, UINT iconId);
     void ShowValue(ov::Text text);
+    /// Shows the value of the row that was selected or deselected last, if that has not been done.
+    void ShowSelection();
     void UpdateButtons();
     void EnableButton(CButton& button, bool enable, CWnd& next);
     void MoveSelectedRow(int step);
@@ -67,5 +70,7 @@ class CConfigSettingDlg : public CResizableDlg
     size_t m_fieldCount;
     bool m_browsing;
     bool m_removingRow = false;
+    bool m_selectionChanged = false;         ///< a message to show it is on its way
+    std::optional<ov::Text> m_selectedValue; ///< still to be shown
     ov::ListRows m_rows;
 };

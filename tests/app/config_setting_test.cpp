@@ -45,8 +45,23 @@ class ConfigSetting : public ProgramTest
     {
         editor->SendMessage(WM_COMMAND, MAKEWPARAM(id, BN_CLICKED), reinterpret_cast<LPARAM>(Item(id)));
     }
-    bool Enabled(int id) const { return ::IsWindowEnabled(Item(id)) != FALSE; }
-    std::wstring Value() const { return Wide(editor->GetDlgItemText(IDC_CONFIG_SETTING_VALUE)); }
+    /// Handles what the editor has posted to itself, as it does before any input.
+    void Settle() const
+    {
+        MSG message{};
+        while (::PeekMessageW(&message, editor->m_hWnd, WM_APP, 0xBFFF, PM_REMOVE))
+            ::DispatchMessageW(&message);
+    }
+    bool Enabled(int id) const
+    {
+        Settle();
+        return ::IsWindowEnabled(Item(id)) != FALSE;
+    }
+    std::wstring Value() const
+    {
+        Settle();
+        return Wide(editor->GetDlgItemText(IDC_CONFIG_SETTING_VALUE));
+    }
     void TypeValue(const wchar_t* text)
     {
         ::SendMessageW(Item(IDC_CONFIG_SETTING_VALUE), EM_SETSEL, 0, -1);
@@ -478,6 +493,60 @@ TEST_F(ConfigSetting, FiveThousandEntriesOpenAndAreWrittenBack)
     text.replace(text.find(u"Level 7;"), 7, u"LEVEL 7");
     text.pop_back();
     EXPECT_EQ(Accept(), text);
+}
+
+TEST_F(ConfigSetting, ManySelectedRowsAreShownOnce)
+{
+    ov::Text text;
+    for (int i = 0; i < 5000; ++i)
+        text += u"Level " + ov::FormatInteger(i) + u";";
+    OpenEditor(text);
+    Settle();
+    /// Counts how often the value is set.
+    class CCounted : public CWnd
+    {
+      public:
+        int m_changes = 0;
+
+      protected:
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            m_changes += message == WM_SETTEXT ? 1 : 0;
+            return CWnd::WindowProc(message, wParam, lParam);
+        }
+    };
+    const HWND edit = Item(IDC_CONFIG_SETTING_VALUE);
+    CWnd* const bound = CWnd::FromHandlePermanent(edit);
+    static_cast<CEdit*>(bound)->UnsubclassWindow();
+    CCounted counted;
+    ASSERT_TRUE(counted.SubclassWindow(edit));
+    List().SetItemState(-1, LVIS_SELECTED, LVIS_SELECTED);
+    EXPECT_EQ(Value(), L"Level 4999");
+    EXPECT_EQ(counted.m_changes, 1);
+    EXPECT_TRUE(Enabled(IDC_CONFIG_SETTING_DELETE));
+    List().SetItemState(-1, 0, LVIS_SELECTED);
+    EXPECT_FALSE(Enabled(IDC_CONFIG_SETTING_DELETE));
+    EXPECT_LE(counted.m_changes, 2);
+    counted.UnsubclassWindow();
+    static_cast<CEdit*>(bound)->SubclassWindow(edit);
+}
+
+TEST_F(ConfigSetting, InsertTakesTheValueOfTheRowSelectedLast)
+{
+    OpenEditor(u"a;b;c");
+    TypeValue(L"typed");
+    List().SetItemState(1, LVIS_SELECTED, LVIS_SELECTED);
+    Press(IDC_CONFIG_SETTING_INSERT);
+    EXPECT_EQ(Shown(), (Rows{{L"a"}, {L"b"}, {L"c"}}));
+    EXPECT_EQ(Value(), L"");
+}
+
+TEST_F(ConfigSetting, WhatIsTypedAfterASelectionStays)
+{
+    OpenEditor(u"a;b;c");
+    List().SetItemState(1, LVIS_SELECTED, LVIS_SELECTED);
+    TypeValue(L"typed");
+    EXPECT_EQ(Value(), L"typed");
 }
 
 namespace
