@@ -9,8 +9,4 @@ class CPageBranding : public CSettingsPage
 
   public:
     CPageBranding(CPreferencesWizard* owner, const ov::PageInfo& info);
-
-  protected:
-    void OnBrowseRenames();
-    DECLARE_MESSAGE_MAP()
 };

@@ -10,11 +10,4 @@ class CPageConforming : public CSettingsPage
 
   public:
     CPageConforming(CPreferencesWizard* owner, const ov::PageInfo& info);
-
-    BOOL OnInitDialog() override;
-    bool LoadSettings(int selector) override;
-
-  protected:
-    void OnBrowseIgnoredLevels();
-    DECLARE_MESSAGE_MAP()
 };

@@ -1,8 +1,6 @@
 #include "pages/page_factory.h"
 
-#include "pages/page_branding.h"
-#include "pages/page_conforming.h"
-#include "resources/ids.h"
+#include "pages/page_list.inc"
 
 namespace
 {
@@ -13,22 +11,23 @@ std::unique_ptr<CWizardPage> Make(CPreferencesWizard* owner, const ov::PageInfo&
 }
 
 struct PageMaker {
-    UINT templateId;
+    ov::TextView className;
     std::unique_ptr<CWizardPage> (*make)(CPreferencesWizard*, const ov::PageInfo&);
 };
 
+#define OV_PAGE(Class) {u"" #Class, &Make<Class>},
+
 // The catalogue says which pages there are and in what order; this says which
 // class each of them is.
-constexpr PageMaker makers[] = {
-    {IDD_PAGE_BRANDING, &Make<CPageBranding>},
-    {IDD_PAGE_CONFORMING, &Make<CPageConforming>},
-};
+constexpr PageMaker makers[] = {OV_PAGE_LIST};
+
+#undef OV_PAGE
 } // namespace
 
 std::unique_ptr<CWizardPage> MakePage(const ov::PageInfo& info, CPreferencesWizard* owner)
 {
     for (const PageMaker& maker : makers) {
-        if (maker.templateId == info.templateId)
+        if (maker.className == info.className)
             return maker.make(owner, info);
     }
     return nullptr;

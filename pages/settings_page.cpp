@@ -1,5 +1,7 @@
 #include "pages/settings_page.h"
 
+#include <algorithm>
+#include <commctrl.h>
 #include <stdexcept>
 
 #include "controls/application.h"
@@ -8,12 +10,54 @@
 
 namespace
 {
+constexpr char16_t qualifier = u'"';
+
 /// The button that begins the group a radio button belongs to.
 int FirstOfGroup(HWND button)
 {
     while (button != nullptr && (::GetWindowLongPtrW(button, GWL_STYLE) & WS_GROUP) == 0)
         button = ::GetWindow(button, GW_HWNDPREV);
     return button != nullptr ? ::GetDlgCtrlID(button) : 0;
+}
+
+/// Whether a control of that kind reports a change by that notification.
+bool IsChange(ov::ControlKind control, int code)
+{
+    switch (control) {
+    case ov::ControlKind::None:
+        return false;
+    case ov::ControlKind::CheckBox:
+    case ov::ControlKind::RadioGroup:
+        return code == BN_CLICKED;
+    case ov::ControlKind::Edit:
+        return code == EN_CHANGE;
+    case ov::ControlKind::DropDownList:
+        return code == CBN_SELCHANGE;
+    case ov::ControlKind::DatePicker:
+        return code == static_cast<int>(DTN_DATETIMECHANGE);
+    }
+    return false;
+}
+
+/// A day as "2016-05-06".
+void ExchangeDay(CDataExchange* exchange, int id, ov::Text& day)
+{
+    const HWND picker = exchange->PrepareCtrl(id);
+    SYSTEMTIME time = {};
+    wchar_t digits[16];
+    if (exchange->m_bSaveAndValidate) {
+        ::SendMessageW(picker, DTM_GETSYSTEMTIME, 0, reinterpret_cast<LPARAM>(&time));
+        std::swprintf(digits, std::size(digits), L"%04d-%02d-%02d", time.wYear, time.wMonth, time.wDay);
+        day = FromWide(digits);
+        return;
+    }
+    const auto part = [&](size_t from) {
+        return static_cast<WORD>(ov::ToInteger(ov::TextView(day).substr(std::min(from, day.size()))));
+    };
+    time.wYear = part(0);
+    time.wMonth = part(5);
+    time.wDay = part(8);
+    ::SendMessageW(picker, DTM_SETSYSTEMTIME, GDT_VALID, reinterpret_cast<LPARAM>(&time));
 }
 } // namespace
 
@@ -22,7 +66,7 @@ IMPLEMENT_DYNAMIC(CSettingsPage, CWizardPage)
 CSettingsPage::CSettingsPage(CPreferencesWizard* owner, const ov::PageInfo& info, const ov::PageRows& rows)
     : CWizardPage(owner, static_cast<UINT>(info.pageId), CSize(info.scrollWidth, info.scrollHeight),
                   info.templateId),
-      m_rows(rows), m_values(rows.settings)
+      m_rows(rows), m_values(rows)
 {
     CSettingsPage::InitControlLayout();
 }
@@ -35,10 +79,48 @@ void CSettingsPage::InitControlLayout()
 
 BOOL CSettingsPage::OnInitDialog()
 {
+    FillLists();
+    SetUpSpins();
     CWizardPage::OnInitDialog();
     LoadSettings(TakePendingSelector());
     RegisterTooltips();
     return TRUE;
+}
+
+void CSettingsPage::FillLists()
+{
+    for (const ov::EntriesRow& row : m_rows.entries) {
+        const HWND list = GetDlgItem(row.controlId)->m_hWnd;
+        for (const unsigned id : row.stringIds) {
+            const ov::Text entry = AfxLoadString(id);
+            ::SendMessageW(list, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(Wide(entry)));
+        }
+    }
+}
+
+void CSettingsPage::SetUpSpins()
+{
+    for (const ov::SpinRow& row : m_rows.spins) {
+        CSpinButtonCtrl spin;
+        spin.Attach(GetDlgItem(row.controlId)->m_hWnd);
+        spin.SetBuddy(GetDlgItem(row.buddyId));
+        spin.SetRange32(row.lowest, row.highest);
+        std::vector<UDACCEL> steps;
+        for (const ov::SpinStep& step : row.steps)
+            steps.push_back({step.seconds, step.increment});
+        if (!steps.empty())
+            spin.SetAccel(static_cast<int>(steps.size()), steps.data());
+        spin.Detach();
+    }
+}
+
+bool CSettingsPage::CreateOrShow(CWnd* parent, const CRect& rectangle)
+{
+    if (!CWizardPage::CreateOrShow(parent, rectangle))
+        return false;
+    UpdateData(TRUE);
+    RefreshControls();
+    return true;
 }
 
 void CSettingsPage::RegisterTooltips()
@@ -58,23 +140,36 @@ void CSettingsPage::DoDataExchange(CDataExchange* exchange)
 {
     CWizardPage::DoDataExchange(exchange);
     for (size_t row = 0; row < m_rows.settings.size(); ++row) {
-        const int id = m_rows.settings[row].controlId;
-        switch (m_rows.settings[row].control) {
-        case ov::ControlKind::None:
-            break;
-        case ov::ControlKind::CheckBox:
-            DDX_Check(exchange, id, m_values.Number(row));
-            break;
-        case ov::ControlKind::Edit:
-            DDX_Text(exchange, id, m_values.String(row));
-            break;
-        case ov::ControlKind::DropDownList:
-            DDX_CBIndex(exchange, id, m_values.Number(row));
-            break;
-        case ov::ControlKind::RadioGroup:
-            DDX_Radio(exchange, id, m_values.Number(row));
-            break;
-        }
+        Exchange(exchange, m_rows.settings[row].control, m_rows.settings[row].controlId, m_values.Number(row),
+                 m_values.String(row));
+    }
+    for (size_t row = 0; row < m_rows.companions.size(); ++row) {
+        Exchange(exchange, m_rows.companions[row].control, m_rows.companions[row].controlId,
+                 m_values.CompanionNumber(row), m_values.CompanionString(row));
+    }
+}
+
+void CSettingsPage::Exchange(CDataExchange* exchange, ov::ControlKind control, int id, int& number,
+                             ov::Text& text)
+{
+    switch (control) {
+    case ov::ControlKind::None:
+        break;
+    case ov::ControlKind::CheckBox:
+        DDX_Check(exchange, id, number);
+        break;
+    case ov::ControlKind::Edit:
+        DDX_Text(exchange, id, text);
+        break;
+    case ov::ControlKind::DropDownList:
+        DDX_CBIndex(exchange, id, number);
+        break;
+    case ov::ControlKind::RadioGroup:
+        DDX_Radio(exchange, id, number);
+        break;
+    case ov::ControlKind::DatePicker:
+        ExchangeDay(exchange, id, text);
+        break;
     }
 }
 
@@ -85,6 +180,11 @@ bool CSettingsPage::LoadSettings(int selector)
         return true;
     m_values.Load(wizard->Store(), selector);
     UpdateData(FALSE);
+    RefreshControls();
+    if (m_rows.loadMarksModified) {
+        UpdateData(TRUE);
+        SetModified(true);
+    }
     return true;
 }
 
@@ -103,47 +203,95 @@ bool CSettingsPage::SaveSettings(CPreferencesWizard* wizard)
     return true;
 }
 
+void CSettingsPage::RefreshControls()
+{
+    if (m_rows.refresh != nullptr && m_rows.refresh(m_values))
+        UpdateData(FALSE);
+    for (const ov::DependencyRow& row : m_rows.dependencies) {
+        const HWND control = GetDlgItem(row.controlId)->m_hWnd;
+        if (row.effect == ov::Effect::Enable)
+            ::EnableWindow(control, m_values.Holds(row) ? TRUE : FALSE);
+        else
+            ::ShowWindow(control, m_values.Holds(row) ? SW_SHOW : SW_HIDE);
+    }
+}
+
+void CSettingsPage::Browse(const ov::BrowseRow& row)
+{
+    ov::Text& text = m_values.TextOf(row.variable);
+    switch (row.kind) {
+    case ov::BrowseKind::File:
+        UpdateData(TRUE);
+        BrowseFileOrList(text, false);
+        break;
+    case ov::BrowseKind::Folder:
+        UpdateData(TRUE);
+        BrowseFolder(text);
+        break;
+    case ov::BrowseKind::List:
+        if (EditValueList(text, row.browsing, row.separator, qualifier, row.fieldSeparator, row.fieldCount))
+            break;
+        if (row.focusOnRefusal == ov::kFocusRemoved)
+            ::SetFocus(nullptr);
+        else if (row.focusOnRefusal != ov::kFocusStays)
+            GetDlgItem(row.focusOnRefusal)->SetFocus();
+        break;
+    }
+}
+
+void CSettingsPage::Browse(int buttonId)
+{
+    const auto found = std::ranges::find(m_rows.browses, buttonId, &ov::BrowseRow::buttonId);
+    if (found == m_rows.browses.end())
+        throw std::logic_error("The page has no such button.");
+    Browse(*found);
+}
+
 BOOL CSettingsPage::OnCmdMsg(UINT id, int code, NMHDR* notify, LRESULT* result)
 {
     if (CWizardPage::OnCmdMsg(id, code, notify, result))
         return TRUE;
-    if (notify != nullptr || !ReportsChange(static_cast<int>(id), code))
+    const int control = static_cast<int>(id);
+    const auto browse = std::ranges::find(m_rows.browses, control, &ov::BrowseRow::buttonId);
+    if (notify == nullptr && code == BN_CLICKED && browse != m_rows.browses.end()) {
+        Browse(*browse);
+        return TRUE;
+    }
+    if (!ReportsChange(control, code))
         return FALSE;
+    if (IsDependedOn(control)) {
+        UpdateData(TRUE);
+        RefreshControls();
+    }
     OnSettingChanged();
+    if (notify != nullptr)
+        *result = 0;
     return TRUE;
+}
+
+int CSettingsPage::GroupOf(int id) const
+{
+    const HWND control = ::GetDlgItem(m_hWnd, id);
+    const bool isRadioButton = (::SendMessageW(control, WM_GETDLGCODE, 0, 0) & DLGC_RADIOBUTTON) != 0;
+    return isRadioButton ? FirstOfGroup(control) : id;
 }
 
 bool CSettingsPage::ReportsChange(int id, int code) const
 {
-    for (const ov::SettingRow& row : m_rows.settings) {
-        switch (row.control) {
-        case ov::ControlKind::None:
-            break;
-        case ov::ControlKind::CheckBox:
-            if (row.controlId == id && code == BN_CLICKED)
-                return true;
-            break;
-        case ov::ControlKind::Edit:
-            if (row.controlId == id && code == EN_CHANGE)
-                return true;
-            break;
-        case ov::ControlKind::DropDownList:
-            if (row.controlId == id && code == CBN_SELCHANGE)
-                return true;
-            break;
-        case ov::ControlKind::RadioGroup:
-            if (code == BN_CLICKED && row.controlId == FirstOfGroup(::GetDlgItem(m_hWnd, id)))
-                return true;
-            break;
-        }
-    }
-    return false;
+    const int control = GroupOf(id);
+    const bool bySetting = std::ranges::any_of(m_rows.settings, [&](const ov::SettingRow& row) {
+        return row.controlId == control && !row.changeGoesUnnoticed && IsChange(row.control, code);
+    });
+    return bySetting || std::ranges::any_of(m_rows.companions, [&](const ov::CompanionRow& row) {
+               return row.controlId == control && IsChange(row.control, code);
+           });
 }
 
-ov::Text& CSettingsPage::TextOf(ov::TextView variable)
+bool CSettingsPage::IsDependedOn(int id) const
 {
-    const size_t row = m_values.FindRow(variable);
-    if (row == m_rows.settings.size())
-        throw std::logic_error("The page has no such setting.");
-    return m_values.String(row);
+    const int control = GroupOf(id);
+    return std::ranges::any_of(m_rows.dependencies, [&](const ov::DependencyRow& row) {
+        return std::ranges::any_of(
+            row.conditions, [&](const ov::Condition& condition) { return condition.controlId == control; });
+    });
 }

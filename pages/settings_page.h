@@ -6,8 +6,11 @@
 #include "wizard/wizard_page.h"
 
 /// A category page that its rows describe: it loads, saves, exchanges, lays
-/// out and explains every setting from them, and marks the dialog modified
-/// when one of their controls changes. A derived class adds what is peculiar.
+/// out and explains every setting from them, fills lists, sets up up-down
+/// controls, opens what the "..." buttons open, enables and shows what depends
+/// on others, and marks the dialog modified when a control changes. A derived
+/// class adds what is peculiar; an entry in its message map comes before what
+/// the rows say about the same notification.
 class CSettingsPage : public CWizardPage
 {
     DECLARE_DYNAMIC(CSettingsPage)
@@ -16,6 +19,7 @@ class CSettingsPage : public CWizardPage
     CSettingsPage(CPreferencesWizard* owner, const ov::PageInfo& info, const ov::PageRows& rows);
 
     BOOL OnInitDialog() override;
+    bool CreateOrShow(CWnd* parent, const CRect& rectangle) override;
     bool LoadSettings(int selector) override;
     bool SaveSettings(CPreferencesWizard* wizard) override;
     virtual void RegisterTooltips();
@@ -24,15 +28,29 @@ class CSettingsPage : public CWizardPage
     void DoDataExchange(CDataExchange* exchange) override;
     void InitControlLayout() override;
 
-    /// Notifications that no message-map entry takes, from the control of a
-    /// row, by which that kind of control reports a change.
+    /// Notifications that no message-map entry takes: "..." buttons, and the
+    /// control of a row by the notification with which that kind of control
+    /// reports a change.
     BOOL OnCmdMsg(UINT id, int code, NMHDR* notify, LRESULT* result) override;
 
-    /// The text of the row that edits `variable`, which must be one of the page's.
-    ov::Text& TextOf(ov::TextView variable);
+    /// The page's hook, then the dependencies, from the members. Runs after a
+    /// load, when the page is shown and when a control that dependencies name
+    /// has changed.
+    virtual void RefreshControls();
+
+    /// What the "..." button opens, the focus on refusal included.
+    void Browse(const ov::BrowseRow& row);
+    void Browse(int buttonId);
+
+    ov::PageValues& Values() { return m_values; }
 
   private:
+    void FillLists();
+    void SetUpSpins();
     bool ReportsChange(int id, int code) const;
+    bool IsDependedOn(int id) const;
+    int GroupOf(int id) const;
+    void Exchange(CDataExchange* exchange, ov::ControlKind control, int id, int& number, ov::Text& text);
 
     const ov::PageRows& m_rows;
     ov::PageValues m_values;

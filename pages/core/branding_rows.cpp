@@ -29,9 +29,18 @@ constexpr LayoutRow layout[] = {
     {IDC_BRANDING_RENAME_BROWSE, kTopRight},
 };
 
-constexpr int catalogueId = 2;
+constexpr BrowseRow browses[] = {
+    BrowseFields(IDC_BRANDING_RENAME_BROWSE, u"_ORTHOVAL_BRANDING_RENAME_TABLES", 0, u':', 2,
+                 IDC_BRANDING_RENAME),
+};
 
-constexpr PageRows rows = {catalogueId, settings, extraHelp, layout};
+constexpr PageRows rows = {
+    .pageId = 2,
+    .settings = settings,
+    .extraHelp = extraHelp,
+    .layout = layout,
+    .browses = browses,
+};
 } // namespace
 
 const PageRows& BrandingRows()

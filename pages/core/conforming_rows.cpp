@@ -60,9 +60,25 @@ constexpr LayoutRow layout[] = {
     {IDC_CONFORMING_IGNORED_LEVELS_BROWSE, kTopRight},
 };
 
-constexpr int catalogueId = 6;
+// A refusal takes the keyboard focus away altogether: this page has always
+// handed it to an edit that stands for no control.
+constexpr BrowseRow browses[] = {
+    BrowseList(IDC_CONFORMING_IGNORED_LEVELS_BROWSE, u"_ORTHOVAL_CHECK_IGNORED_LEVELS", u',', kFocusRemoved),
+};
 
-constexpr PageRows rows = {catalogueId, settings, extraHelp, layout};
+constexpr SpinRow spins[] = {
+    {IDC_CONFORMING_MAX_ERROR_SPIN, IDC_CONFORMING_MAX_ERROR, 0, 10000, kFasterAndFaster},
+};
+
+constexpr PageRows rows = {
+    .pageId = 6,
+    .settings = settings,
+    .extraHelp = extraHelp,
+    .layout = layout,
+    .browses = browses,
+    .spins = spins,
+    .loadMarksModified = true,
+};
 } // namespace
 
 const PageRows& ConformingRows()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/text.h"
 #include "pages/core/setting_row.h"
 
 #include <cstddef>
@@ -10,35 +11,53 @@
 namespace ov
 {
 
-/// The values that a page holds, one per row: what its controls show and what
-/// it writes into the store. Rows are addressed by their index.
+/// The values that a page holds, one per row and companion: what its controls
+/// show and what it writes into the store. Settings are addressed by the index
+/// of their row or by their variable, companions by their control.
 class PageValues
 {
   public:
     /// The comment that the setting shown by a control is given in the file.
     using CommentOfControl = std::function<Text(int controlId)>;
 
-    /// Starts with the rows' built-in values. The rows are kept by reference.
-    explicit PageValues(std::span<const SettingRow> rows);
+    /// Starts with the rows' built-in values. What the rows refer to stays theirs.
+    explicit PageValues(const PageRows& rows);
+    /// A page of nothing but settings.
+    explicit PageValues(std::span<const SettingRow> settings);
 
-    std::span<const SettingRow> Rows() const { return m_rows; }
+    std::span<const SettingRow> Rows() const { return m_rows.settings; }
 
     /// The value of a row that holds a number (flags and indexes included).
     int& Number(std::size_t row) { return m_values[row].number; }
     /// The value of a row that holds a text.
     Text& String(std::size_t row) { return m_values[row].text; }
 
+    /// The same by the variable, which must be one of the page's.
+    int& NumberOf(TextView variable) { return m_values[RowOf(variable)].number; }
+    Text& TextOf(TextView variable) { return m_values[RowOf(variable)].text; }
+
     /// The row of that variable; one past the last when the page has none.
     std::size_t FindRow(TextView variable) const;
 
-    /// Takes every value from one of the store's tables. Nothing falls back to
-    /// the built-in values: an absent flag is off, an absent text is empty.
-    /// Only a number keeps what it was when there is nothing to read.
+    /// The value of a companion, by its index or by its control.
+    int& CompanionNumber(std::size_t companion) { return m_companions[companion].number; }
+    Text& CompanionString(std::size_t companion) { return m_companions[companion].text; }
+    int& CompanionNumberOf(int controlId) { return m_companions[CompanionOf(controlId)].number; }
+    Text& CompanionTextOf(int controlId) { return m_companions[CompanionOf(controlId)].text; }
+
+    /// Whether all conditions of the dependency hold.
+    bool Holds(const DependencyRow& dependency) const;
+
+    /// Takes every value from one of the store's tables, then lets the page's
+    /// hook work out the companions. Nothing falls back to the built-in values:
+    /// an absent flag is off, an absent text is empty. Only a number keeps what
+    /// it was when there is nothing to read.
     void Load(const SettingStore& store, int table);
 
-    /// Writes the values into the current table, new settings with their
-    /// comment. A page without a window leaves settings alone that are there.
-    void Save(SettingStore& store, bool hasWindow, const CommentOfControl& commentOf) const;
+    /// Lets the page's hook work out the settings from the companions and
+    /// writes them into the current table, new ones with their comment. A page
+    /// without a window leaves settings alone that are there.
+    void Save(SettingStore& store, bool hasWindow, const CommentOfControl& commentOf);
 
   private:
     struct Value {
@@ -47,9 +66,13 @@ class PageValues
     };
 
     static bool IsSaved(const SettingRow& row, const SettingStore& store, bool hasWindow);
+    std::size_t RowOf(TextView variable) const;
+    std::size_t CompanionOf(int controlId) const;
+    int NumberShownBy(int controlId) const;
 
-    std::span<const SettingRow> m_rows;
+    PageRows m_rows;
     std::vector<Value> m_values;
+    std::vector<Value> m_companions;
 };
 
 } // namespace ov

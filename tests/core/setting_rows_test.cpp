@@ -1,13 +1,17 @@
-// What must hold of the rows of every page, and the rows of each page one by one.
+// What must hold of the rows of every page. A page is checked from the moment
+// that its rows exist.
 #include "controls/core/tooltip_markup.h"
 #include "pages/core/all_page_rows.h"
-#include "pages/core/branding_rows.h"
-#include "pages/core/conforming_rows.h"
 #include "pages/core/page_catalogue.h"
+#include "pages/core/page_values.h"
 #include "pages/core/string_table.h"
+#include "tests/pages/expected_pages.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstdio>
+#include <ctime>
 #include <map>
 #include <set>
 
@@ -15,65 +19,17 @@ namespace
 {
 using ov::ControlKind;
 using ov::Encoding;
+using ov::PageRows;
 using ov::SettingRow;
 
-struct ExpectedSetting {
-    const char* variable;
-    int controlId;
-    ControlKind control;
-    Encoding encoding;
-    int kind;
-    unsigned helpId;
-};
-
-constexpr ExpectedSetting Check(const char* variable, int controlId, unsigned helpId)
+/// Calls `check` with every page that has rows.
+template <class Check>
+void ForEachPage(Check check)
 {
-    return {variable, controlId, ControlKind::CheckBox, Encoding::Flag, 4, helpId};
-}
-
-constexpr ExpectedSetting Edit(const char* variable, int controlId, int kind, unsigned helpId)
-{
-    return {variable, controlId, ControlKind::Edit, Encoding::Verbatim, kind, helpId};
-}
-
-constexpr ExpectedSetting conforming[] = {
-    Check("_ORTHOVAL_CHECK_CELLS", 2000, 8000),
-    Check("_ORTHOVAL_CHECK_TEXT", 2001, 8001),
-    Check("_ORTHOVAL_CHECK_TAGS", 2002, 8002),
-    Check("_ORTHOVAL_CHECK_RGB_COLOUR_MATCH", 11072, 2069),
-    Check("_ORTHOVAL_CHECK_COMPLEXCOMPONENTS", 2013, 8008),
-    Check("_ORTHOVAL_CHECK_3D_OBJECTS", 2014, 8020),
-    Check("_ORTHOVAL_CHECK_MULTILINE_DIMS", 2017, 8010),
-    Check("_ORTHOVAL_CHECK_PATTERNS", 2015, 8004),
-    Check("_ORTHOVAL_CHECK_HIDDEN_CELLS", 2016, 2011),
-    Check("_ORTHOVAL_ALLOW_NEGATIVE_TEXTSIZE", 2018, 8023),
-    Check("_ORTHOVAL_CHECK_CONTINUOUSISZERO", 2023, 8028),
-    Edit("_ORTHOVAL_MAX_ERROR_UORS", 2019, 5, 8012),
-    Edit("_ORTHOVAL_MIN_MU_ERRORSCALE", 2020, 5, 2017),
-    Edit("_ORTHOVAL_CHECK_IGNORED_LEVELS", 11015, 1, 8021),
-};
-
-constexpr ExpectedSetting branding[] = {
-    Check("_ORTHOVAL_BRANDING_AUTO", 9512, 2059),
-    Check("_ORTHOVAL_BRANDING_OVERRIDE", 9513, 2060),
-    Check("_ORTHOVAL_BRANDING_CERTIFY", 9514, 2061),
-    Check("_ORTHOVAL_BRANDING_DISABLE_AUTOLOAD", 9515, 2062),
-    Edit("_ORTHOVAL_BRANDING_RENAME_TABLES", 11001, 1, 2063),
-};
-
-void ExpectRows(const ov::PageRows& rows, std::span<const ExpectedSetting> expected)
-{
-    ASSERT_EQ(rows.settings.size(), expected.size());
-    for (std::size_t i = 0; i < expected.size(); ++i) {
-        const SettingRow& row = rows.settings[i];
-        SCOPED_TRACE(expected[i].variable);
-        EXPECT_EQ(ov::Utf8FromText(row.variable), expected[i].variable);
-        EXPECT_EQ(row.controlId, expected[i].controlId);
-        EXPECT_EQ(row.commentControlId, expected[i].controlId);
-        EXPECT_EQ(row.control, expected[i].control);
-        EXPECT_EQ(row.encoding, expected[i].encoding);
-        EXPECT_EQ(row.kind, expected[i].kind);
-        EXPECT_EQ(row.helpId, expected[i].helpId);
+    ASSERT_FALSE(ov::AllPageRows().empty());
+    for (const PageRows* page : ov::AllPageRows()) {
+        SCOPED_TRACE(expected::PageOf(page->pageId).title);
+        check(*page);
     }
 }
 
@@ -81,204 +37,449 @@ void ExpectRows(const ov::PageRows& rows, std::span<const ExpectedSetting> expec
 template <class Check>
 void ForEachSetting(Check check)
 {
-    ASSERT_FALSE(ov::AllPageRows().empty());
-    for (const ov::PageRows* page : ov::AllPageRows()) {
-        for (const SettingRow& row : page->settings) {
+    ForEachPage([&](const PageRows& page) {
+        for (const SettingRow& row : page.settings) {
             SCOPED_TRACE(ov::Utf8FromText(row.variable));
-            check(*page, row);
+            check(page, row);
         }
+    });
+}
+
+/// Pages whose help texts were there before the rules for writing them.
+bool HasTextsOfOld(const PageRows& page)
+{
+    static const std::set<int> pages = {10, 12, 15, 16, 17, 21, 22, 23, 24, 25, 26};
+    return pages.contains(page.pageId);
+}
+
+std::map<int, unsigned> HelpByControl(const PageRows& page)
+{
+    std::map<int, unsigned> help;
+    for (const SettingRow& row : page.settings) {
+        if (row.helpId != 0)
+            help[row.controlId] = row.helpId;
+    }
+    for (const ov::HelpRow& row : page.extraHelp)
+        help[row.controlId] = row.helpId;
+    return help;
+}
+
+/// The kind of the control that shows a number or a text; None for no row's.
+ControlKind KindOfControl(const PageRows& page, int controlId)
+{
+    for (const SettingRow& row : page.settings) {
+        if (row.controlId == controlId)
+            return row.control;
+    }
+    for (const ov::CompanionRow& row : page.companions) {
+        if (row.controlId == controlId)
+            return row.control;
+    }
+    return ControlKind::None;
+}
+
+Encoding ExpectedEncoding(const expected::Setting& setting)
+{
+    switch (setting.meaning) {
+    case expected::Meaning::Flag:
+        return Encoding::Flag;
+    case expected::Meaning::UnlessZero:
+        return Encoding::FlagUnlessZero;
+    case expected::Meaning::TextOrZero:
+        return Encoding::VerbatimOrZero;
+    case expected::Meaning::Index:
+        return Encoding::Number;
+    case expected::Meaning::ListOfThree:
+        return Encoding::AlwaysNeverUser;
+    case expected::Meaning::ButtonsOfThree:
+        return Encoding::NeverAlwaysUser;
+    case expected::Meaning::LeftAlone:
+        return setting.kind == ov::SettingKindFlag ? Encoding::Flag : Encoding::Verbatim;
+    default:
+        return Encoding::Verbatim;
     }
 }
 
-TEST(ConformingRows, EqualTheTable)
+ControlKind ExpectedControl(expected::Control control)
 {
-    EXPECT_EQ(ov::ConformingRows().pageId, 6);
-    ExpectRows(ov::ConformingRows(), conforming);
+    switch (control) {
+    case expected::Control::None:
+        return ControlKind::None;
+    case expected::Control::Check:
+        return ControlKind::CheckBox;
+    case expected::Control::Edit:
+        return ControlKind::Edit;
+    case expected::Control::List:
+        return ControlKind::DropDownList;
+    case expected::Control::Radio:
+        return ControlKind::RadioGroup;
+    }
+    return ControlKind::None;
 }
 
-TEST(ConformingRows, BelongToTheirPage)
+TEST(ExpectedPages, HoldEveryVariableOnceAndAgreeWithTheCatalogue)
 {
-    ASSERT_NE(ov::FindPage(ov::ConformingRows().pageId), nullptr);
-    EXPECT_EQ(ov::FindPage(ov::ConformingRows().pageId)->templateId, 101u);
+    std::set<std::string> variables;
+    ASSERT_EQ(expected::Pages().size(), ov::kPageCount);
+    for (std::size_t row = 0; row < ov::kPageCount; ++row) {
+        const expected::Page& page = expected::Pages()[row];
+        const ov::PageInfo& info = *ov::PaneRows()[row];
+        EXPECT_EQ(page.pageId, info.pageId) << page.title;
+        EXPECT_EQ(page.templateId, info.templateId) << page.title;
+        EXPECT_EQ(page.title, ov::Utf8FromText(ov::FindString(info.titleId)));
+        for (const expected::Setting& setting : page.settings)
+            EXPECT_TRUE(variables.insert(setting.variable).second) << setting.variable;
+    }
+    for (const char* variable : expected::OlderVariables())
+        EXPECT_TRUE(variables.insert(variable).second) << variable;
+    EXPECT_EQ(variables.size(), 177u);
 }
 
-TEST(ConformingRows, BrowseButtonHasItsOwnHelp)
+// A report, as long as there are pages to come: which ones, and how many settings.
+TEST(ExpectedPages, SayWhatIsStillMissing)
 {
-    ASSERT_EQ(ov::ConformingRows().extraHelp.size(), 1u);
-    EXPECT_EQ(ov::ConformingRows().extraHelp[0].controlId, 11016);
-    EXPECT_EQ(ov::ConformingRows().extraHelp[0].helpId, 9319u);
-}
-
-TEST(BrandingRows, EqualTheTable)
-{
-    EXPECT_EQ(ov::BrandingRows().pageId, 2);
-    ExpectRows(ov::BrandingRows(), branding);
-}
-
-TEST(BrandingRows, LongCaptionsStretchWithThePage)
-{
-    std::map<int, std::uint32_t> flags;
-    for (const ov::LayoutRow& row : ov::BrandingRows().layout)
-        flags[row.controlId] = row.layoutFlags;
-    EXPECT_EQ(flags[9512], 258u);
-    EXPECT_EQ(flags[9513], 258u);
-}
-
-TEST(BrandingRows, BelongToTheirPage)
-{
-    ASSERT_NE(ov::FindPage(ov::BrandingRows().pageId), nullptr);
-    EXPECT_EQ(ov::FindPage(ov::BrandingRows().pageId)->templateId, 9364u);
-}
-
-TEST(BrandingRows, BrowseButtonHasItsOwnHelp)
-{
-    ASSERT_EQ(ov::BrandingRows().extraHelp.size(), 1u);
-    EXPECT_EQ(ov::BrandingRows().extraHelp[0].controlId, 11002);
-    EXPECT_EQ(ov::BrandingRows().extraHelp[0].helpId, 2064u);
+    std::size_t present = 0;
+    for (const expected::Page& page : expected::Pages()) {
+        const bool exists = std::ranges::any_of(
+            ov::AllPageRows(), [&](const PageRows* rows) { return rows->pageId == page.pageId; });
+        if (exists)
+            ++present;
+        else
+            std::printf("missing: %s, %zu settings\n", page.title, page.settings.size());
+    }
+    EXPECT_EQ(present, ov::AllPageRows().size());
 }
 
 TEST(AllRows, BelongToAPageOfTheCatalogueAndStandInItsOrder)
 {
     int order = 0;
-    for (const ov::PageRows* page : ov::AllPageRows()) {
-        const ov::PageInfo* info = ov::FindPage(page->pageId);
-        ASSERT_NE(info, nullptr) << page->pageId;
+    ForEachPage([&](const PageRows& page) {
+        const ov::PageInfo* info = ov::FindPage(page.pageId);
+        ASSERT_NE(info, nullptr) << page.pageId;
         EXPECT_GT(info->order, order);
         order = info->order;
-    }
+    });
+}
+
+TEST(AllRows, AreTheSettingsOfTheirPage)
+{
+    ForEachPage([](const PageRows& page) {
+        std::set<std::string> wanted;
+        for (const expected::Setting& setting : expected::PageOf(page.pageId).settings)
+            wanted.insert(setting.variable);
+        std::set<std::string> found;
+        for (const SettingRow& row : page.settings)
+            EXPECT_TRUE(found.insert(ov::Utf8FromText(row.variable)).second)
+                << ov::Utf8FromText(row.variable);
+        EXPECT_EQ(found, wanted);
+    });
+}
+
+TEST(AllRows, EqualWhatIsExpectedOfTheirSetting)
+{
+    ForEachPage([](const PageRows& page) {
+        auto help = HelpByControl(page);
+        for (const expected::Setting& setting : expected::PageOf(page.pageId).settings) {
+            SCOPED_TRACE(setting.variable);
+            const auto row = std::ranges::find(page.settings, setting.variable, [](const SettingRow& found) {
+                return ov::Utf8FromText(found.variable);
+            });
+            ASSERT_NE(row, page.settings.end());
+            EXPECT_EQ(row->kind, setting.kind);
+            EXPECT_EQ(row->encoding, ExpectedEncoding(setting));
+            EXPECT_EQ(row->control, ExpectedControl(setting.control));
+            EXPECT_EQ(row->controlId, setting.controlId);
+            EXPECT_EQ(row->commentControlId, setting.commentId);
+            EXPECT_EQ(help[setting.commentId], setting.helpId);
+            EXPECT_EQ(row->saveRule == ov::SaveRule::Never, setting.meaning == expected::Meaning::LeftAlone);
+        }
+    });
 }
 
 TEST(AllRows, NameEachVariableOnce)
 {
     std::set<ov::Text> variables;
-    ForEachSetting([&](const ov::PageRows&, const SettingRow& row) {
-        EXPECT_TRUE(variables.insert(row.variable).second);
-    });
+    ForEachSetting(
+        [&](const PageRows&, const SettingRow& row) { EXPECT_TRUE(variables.insert(row.variable).second); });
 }
 
-TEST(AllRows, NameVariablesOfTheProduct)
+TEST(AllRows, HoldATextWhereTheirControlShowsOne)
 {
-    ForEachSetting([](const ov::PageRows&, const SettingRow& row) {
-        const ov::TextView name = row.variable;
-        EXPECT_TRUE(name.starts_with(u"_ORTHOVAL_"));
-        EXPECT_EQ(name.find_first_not_of(u"ABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789_"), ov::TextView::npos);
-    });
-}
-
-TEST(AllRows, EncodingAndKindFitTheControl)
-{
-    ForEachSetting([](const ov::PageRows&, const SettingRow& row) {
-        switch (row.control) {
-        case ControlKind::CheckBox:
-            EXPECT_EQ(row.encoding, Encoding::Flag);
-            EXPECT_EQ(row.kind, ov::SettingKindFlag);
-            break;
-        case ControlKind::Edit:
-            EXPECT_EQ(row.encoding, Encoding::Verbatim);
-            EXPECT_NE(row.kind, ov::SettingKindFlag);
-            break;
-        case ControlKind::DropDownList:
-        case ControlKind::RadioGroup:
-            EXPECT_EQ(row.encoding, Encoding::Number);
-            EXPECT_EQ(row.kind, ov::SettingKindInteger);
-            break;
-        case ControlKind::None:
-            EXPECT_EQ(row.controlId, 0);
-            break;
-        }
+    ForEachSetting([](const PageRows&, const SettingRow& row) {
         EXPECT_EQ(row.controlId == 0, row.control == ControlKind::None);
+        if (row.control != ControlKind::None) {
+            EXPECT_EQ(ov::ShowsText(row.control), row.HoldsText());
+        }
     });
 }
 
-TEST(AllRows, EditEachControlInOneRow)
+TEST(AllRows, ShowEachControlInOneRow)
 {
-    for (const ov::PageRows* page : ov::AllPageRows()) {
+    ForEachPage([](const PageRows& page) {
         std::set<int> controls;
-        for (const SettingRow& row : page->settings) {
-            if (row.controlId != 0) {
-                EXPECT_TRUE(controls.insert(row.controlId).second) << row.controlId;
-            }
-        }
-        for (const ov::HelpRow& row : page->extraHelp)
+        for (const SettingRow& row : page.settings)
+            EXPECT_TRUE(row.controlId == 0 || controls.insert(row.controlId).second) << row.controlId;
+        for (const ov::CompanionRow& row : page.companions) {
+            EXPECT_NE(row.control, ControlKind::None);
             EXPECT_TRUE(controls.insert(row.controlId).second) << row.controlId;
-    }
+        }
+    });
+}
+
+TEST(AllRows, ExplainEachControlOnce)
+{
+    ForEachPage([](const PageRows& page) {
+        std::set<int> controls;
+        for (const SettingRow& row : page.settings)
+            EXPECT_TRUE(row.helpId == 0 || controls.insert(row.controlId).second) << row.controlId;
+        for (const ov::HelpRow& row : page.extraHelp)
+            EXPECT_TRUE(controls.insert(row.controlId).second) << row.controlId;
+    });
 }
 
 TEST(AllRows, SayWhyTheyAreAnException)
 {
-    ForEachSetting([](const ov::PageRows&, const SettingRow& row) {
-        EXPECT_EQ(row.HasException(), row.reason != nullptr);
+    ForEachSetting(
+        [](const PageRows&, const SettingRow& row) { EXPECT_EQ(row.HasException(), row.reason != nullptr); });
+}
+
+TEST(AllRows, HelpTextsExistAndDescribe)
+{
+    ForEachPage([](const PageRows& page) {
+        for (const auto& [control, id] : HelpByControl(page)) {
+            const ov::TextView help = ov::FindString(id);
+            EXPECT_FALSE(ov::VariableName(help).empty()) << id << " of control " << control;
+            EXPECT_FALSE(ov::Description(help).empty()) << id << " of control " << control;
+        }
     });
 }
 
-TEST(AllRows, HelpTextsNameTheRowsVariable)
+TEST(AllRows, CommentsNameTheRowsVariable)
 {
-    ForEachSetting([](const ov::PageRows&, const SettingRow& row) {
-        const ov::TextView help = ov::FindString(row.helpId);
-        ASSERT_FALSE(help.empty());
-        EXPECT_EQ(ov::VariableName(help) != row.variable, row.helpNamesAnotherVariable);
-        EXPECT_FALSE(ov::Description(help).empty());
+    ForEachSetting([](const PageRows& page, const SettingRow& row) {
+        auto help = HelpByControl(page);
+        ASSERT_NE(help[row.commentControlId], 0u);
+        const ov::TextView comment = ov::FindString(help[row.commentControlId]);
+        const ov::TextView own = row.helpId != 0 ? ov::FindString(row.helpId) : comment;
+        EXPECT_EQ(ov::VariableName(comment) != row.variable || ov::VariableName(own) != row.variable,
+                  row.helpNamesAnotherVariable);
+    });
+}
+
+TEST(AllRows, ExtraHelpTextsNameAVariableOfTheirPage)
+{
+    ForEachPage([](const PageRows& page) {
+        if (HasTextsOfOld(page))
+            return;
+        std::set<ov::Text> variables;
+        std::set<int> exceptions;
+        for (const SettingRow& row : page.settings) {
+            variables.insert(row.variable);
+            if (row.helpNamesAnotherVariable)
+                exceptions.insert(row.commentControlId);
+        }
+        for (const ov::HelpRow& row : page.extraHelp) {
+            if (!exceptions.contains(row.controlId)) {
+                EXPECT_TRUE(variables.contains(ov::VariableName(ov::FindString(row.helpId)))) << row.helpId;
+            }
+        }
     });
 }
 
 // An absent flag reads as off, whatever the page shows before it loads.
 TEST(AllRows, HelpOfTheFlagsSaysWhatAMissingVariableMeans)
 {
-    ForEachSetting([](const ov::PageRows&, const SettingRow& row) {
-        if (row.encoding != Encoding::Flag)
+    ForEachSetting([](const PageRows& page, const SettingRow& row) {
+        if (HasTextsOfOld(page) || row.kind != ov::SettingKindFlag)
             return;
-        const ov::Text description = ov::Description(ov::FindString(row.helpId));
-        EXPECT_NE(description.find(u"If this variable is missing, the option is OFF."), ov::Text::npos);
+        auto help = HelpByControl(page);
+        const ov::Text description = ov::Description(ov::FindString(help[row.commentControlId]));
+        const ov::Text missing = u"If this variable is missing, the option is ";
+        EXPECT_NE(description.find(missing + (row.encoding == Encoding::FlagUnlessZero ? u"ON." : u"OFF.")),
+                  ov::Text::npos);
         EXPECT_EQ(description.find(u"default"), ov::Text::npos);
     });
 }
 
-TEST(AllRows, ExtraHelpTextsNameAVariableOfTheirPage)
+TEST(AllRows, LayOutEachControlOnceAndEveryControlThatTheyName)
 {
-    for (const ov::PageRows* page : ov::AllPageRows()) {
-        std::set<ov::Text> variables;
-        for (const SettingRow& row : page->settings)
-            variables.insert(row.variable);
-        for (const ov::HelpRow& row : page->extraHelp) {
-            const ov::TextView help = ov::FindString(row.helpId);
-            EXPECT_TRUE(variables.contains(ov::VariableName(help))) << row.helpId;
-            EXPECT_FALSE(ov::Description(help).empty()) << row.helpId;
-        }
-    }
-}
-
-TEST(AllRows, CommentComesFromAControlWithHelp)
-{
-    ForEachSetting([](const ov::PageRows& page, const SettingRow& row) {
-        std::map<int, unsigned> helpOf;
-        for (const SettingRow& other : page.settings)
-            helpOf[other.controlId] = other.helpId;
-        for (const ov::HelpRow& other : page.extraHelp)
-            helpOf[other.controlId] = other.helpId;
-        EXPECT_NE(helpOf[row.commentControlId], 0u);
-    });
-}
-
-TEST(AllRows, LayOutEachControlOnceAndEveryControlWithHelp)
-{
-    for (const ov::PageRows* page : ov::AllPageRows()) {
-        std::set<int> laidOut;
-        for (const ov::LayoutRow& row : page->layout)
+    ForEachPage([](const PageRows& page) {
+        std::set<int> laidOut = {0};
+        for (const ov::LayoutRow& row : page.layout)
             EXPECT_TRUE(laidOut.insert(row.controlId).second) << row.controlId;
-        for (const SettingRow& row : page->settings)
-            EXPECT_TRUE(row.controlId == 0 || laidOut.contains(row.controlId)) << row.controlId;
-        for (const ov::HelpRow& row : page->extraHelp)
-            EXPECT_TRUE(laidOut.contains(row.controlId)) << row.controlId;
-    }
+        const auto expectLaidOut = [&](int control) { EXPECT_TRUE(laidOut.contains(control)) << control; };
+        for (const SettingRow& row : page.settings) {
+            expectLaidOut(row.controlId);
+            expectLaidOut(row.commentControlId);
+        }
+        for (const ov::HelpRow& row : page.extraHelp)
+            expectLaidOut(row.controlId);
+        for (const ov::CompanionRow& row : page.companions)
+            expectLaidOut(row.controlId);
+        for (const ov::DependencyRow& row : page.dependencies)
+            expectLaidOut(row.controlId);
+        for (const ov::BrowseRow& row : page.browses)
+            expectLaidOut(row.buttonId);
+        for (const ov::SpinRow& row : page.spins) {
+            expectLaidOut(row.controlId);
+            expectLaidOut(row.buddyId);
+        }
+    });
 }
 
 TEST(AllRows, UseTheLayoutFlagsOfTheProgram)
 {
     const std::set<std::uint32_t> known = {3, 6, 9, 12, 258, 264, 512, 768};
-    for (const ov::PageRows* page : ov::AllPageRows()) {
-        for (const ov::LayoutRow& row : page->layout)
+    ForEachPage([&](const PageRows& page) {
+        for (const ov::LayoutRow& row : page.layout)
             EXPECT_TRUE(known.contains(row.layoutFlags)) << row.controlId;
+    });
+}
+
+TEST(AllRows, FillTheirDropDownListsAndNoOthers)
+{
+    ForEachPage([](const PageRows& page) {
+        std::set<int> filled;
+        for (const ov::EntriesRow& row : page.entries) {
+            EXPECT_EQ(KindOfControl(page, row.controlId), ControlKind::DropDownList) << row.controlId;
+            EXPECT_TRUE(filled.insert(row.controlId).second) << row.controlId;
+            for (const unsigned id : row.stringIds)
+                EXPECT_FALSE(ov::FindString(id).empty()) << id;
+        }
+        const auto expectFilled = [&](ControlKind control, int id) {
+            EXPECT_EQ(filled.contains(id), control == ControlKind::DropDownList) << id;
+        };
+        for (const SettingRow& row : page.settings)
+            expectFilled(row.control, row.controlId);
+        for (const ov::CompanionRow& row : page.companions)
+            expectFilled(row.control, row.controlId);
+        for (const expected::Setting& setting : expected::PageOf(page.pageId).settings) {
+            for (const ov::EntriesRow& row : page.entries) {
+                if (row.controlId == setting.controlId) {
+                    EXPECT_EQ(row.stringIds.size(), static_cast<std::size_t>(setting.entries));
+                }
+            }
+        }
+    });
+}
+
+TEST(AllRows, DependOnControlsThatShowANumber)
+{
+    ForEachPage([](const PageRows& page) {
+        std::set<std::pair<int, ov::Effect>> dependent;
+        for (const ov::DependencyRow& row : page.dependencies) {
+            EXPECT_TRUE(dependent.insert({row.controlId, row.effect}).second) << row.controlId;
+            EXPECT_NE(row.conditions[0].controlId, 0) << row.controlId;
+            for (const ov::Condition& condition : row.conditions) {
+                if (condition.controlId == 0)
+                    continue;
+                const ControlKind control = KindOfControl(page, condition.controlId);
+                EXPECT_TRUE(control != ControlKind::None && !ov::ShowsText(control)) << condition.controlId;
+                EXPECT_NE(condition.controlId, row.controlId);
+            }
+        }
+    });
+}
+
+TEST(AllRows, BrowseForSettingsThatHoldAText)
+{
+    ForEachPage([](const PageRows& page) {
+        std::set<int> buttons;
+        for (const ov::BrowseRow& row : page.browses) {
+            EXPECT_TRUE(buttons.insert(row.buttonId).second) << row.buttonId;
+            const auto setting =
+                std::ranges::find(page.settings, ov::TextView(row.variable),
+                                  [](const SettingRow& found) { return ov::TextView(found.variable); });
+            ASSERT_NE(setting, page.settings.end()) << row.buttonId;
+            EXPECT_TRUE(setting->HoldsText()) << row.buttonId;
+        }
+    });
+}
+
+/// Texts that a variable of that meaning may be found with.
+std::vector<std::string> StoredTexts(expected::Meaning meaning)
+{
+    switch (meaning) {
+    case expected::Meaning::Index:
+        return {"", "0", "1", "2", "2 of 3"};
+    case expected::Meaning::Preset:
+        return {"", "mine", "$$userfullname$$-$$currentfile$$", "$(Orthoval_Current_Discipline)",
+                "$$USERINITIALS$$-$$CURRENTMODEL$$-$$CURRENTFILE$$"};
+    case expected::Meaning::Models:
+        return {"", "0", "7", "-3", "-7", "none"};
+    case expected::Meaning::ScaleSource:
+        return {"", "0", "1", "2", " yes "};
+    case expected::Meaning::Scales:
+        return {"", "1:50,1:100", "[1:50,1:100]", " [1:50", "1:50]] "};
+    case expected::Meaning::ScaleFactor:
+        return {"", "2", "0.1", "1.1"};
+    case expected::Meaning::Period:
+        return {"", "1", "1, 1, 1, 1, 8, 2007, 0, 2, 1, 3, 6, 5, 2016, 0", "1,,1", "0, 1"};
+    default:
+        return {"", "1", "0", "-1", "2", " 1", "true", " both ends ", "a;b;;c", "12abc"};
     }
+}
+
+std::string Today()
+{
+    const std::time_t now = std::time(nullptr);
+    const std::tm* date = std::localtime(&now);
+    return std::to_string(date->tm_mday) + ", " + std::to_string(date->tm_mon + 1) + ", " +
+           std::to_string(date->tm_year + 1900);
+}
+
+/// What an opened page leaves in the store that held this table.
+void ExpectAfterSave(const PageRows& page, const expected::Table& table)
+{
+    ov::SettingStore store;
+    for (const auto& [variable, value] : table) {
+        store.SetSetting(ov::TextFromUtf8(variable), ov::TextFromUtf8(value), ov::SettingKindText, u"",
+                         ov::kCurrentTable);
+    }
+    ov::PageValues values(page);
+    values.Load(store, ov::kCurrentTable);
+    if (page.refresh != nullptr)
+        page.refresh(values);
+    values.Save(store, true, [](int) { return ov::Text(); });
+    for (const expected::Setting& setting : expected::PageOf(page.pageId).settings) {
+        SCOPED_TRACE(setting.variable);
+        const auto expected = expected::AfterSave(setting, table, Today());
+        const auto record = store.FindSetting(ov::TextFromUtf8(setting.variable), ov::kCurrentTable);
+        ASSERT_EQ(record.has_value(), expected.has_value());
+        if (expected) {
+            EXPECT_EQ(ov::Utf8FromText(record->value), *expected);
+        }
+    }
+}
+
+TEST(AllRows, SaveWhatTheirMeaningSays)
+{
+    ForEachPage([](const PageRows& page) {
+        ExpectAfterSave(page, {});
+        for (const expected::Setting& setting : expected::PageOf(page.pageId).settings) {
+            for (const std::string& stored : StoredTexts(setting.meaning)) {
+                SCOPED_TRACE(setting.variable + (" = \"" + stored + "\""));
+                ExpectAfterSave(page, {{setting.variable, stored}});
+            }
+        }
+    });
+}
+
+TEST(AllRows, StartWithWhatIsSelectedBeforeAnythingIsRead)
+{
+    ForEachPage([](const PageRows& page) {
+        for (const expected::Setting& setting : expected::PageOf(page.pageId).settings) {
+            if (setting.entries == 0)
+                continue;
+            const auto row = std::ranges::find(page.settings, setting.variable, [](const SettingRow& found) {
+                return ov::Utf8FromText(found.variable);
+            });
+            ASSERT_NE(row, page.settings.end());
+            if (!row->HoldsText()) {
+                EXPECT_EQ(row->initialNumber, setting.initial) << setting.variable;
+            }
+        }
+    });
 }
 
 } // namespace

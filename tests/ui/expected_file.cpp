@@ -1,6 +1,7 @@
 #include "tests/ui/expected_file.h"
 
-#include "resources/ids.h"
+#include "resources/page_ids.h"
+#include "tests/ui/built_pages.h"
 
 #include <windows.h>
 
@@ -17,9 +18,7 @@ struct HelpText {
 
 #define OV_STRING(id, text) {id, text},
 constexpr HelpText helpTexts[] = {
-#include "resources/strings_branding.inc"
-#include "resources/strings_conforming.inc"
-#include "resources/strings_dialog.inc"
+#include "resources/strings.inc"
 };
 #undef OV_STRING
 
@@ -151,13 +150,15 @@ void ExpectedFile::Add(const std::string& variable, const std::string& comment,
 
 void ExpectedFile::AddMissingSettings()
 {
-    for (const auto* settings : {&BrandingSettings(), &ConformingSettings()}) {
-        for (const PageSetting& setting : *settings) {
-            const char* value = setting.kind == PageSetting::Flag   ? "0"
-                                : setting.kind == PageSetting::Text ? "\"\""
-                                                                    : "";
-            Add(setting.variable, CommentBlock(HelpSection(setting.help, "<D>")),
-                {setting.variable + " = " + value});
+    constexpr int textKind = 1; // the one that is written between quotes
+    for (const expected::Page* page : BuiltPages()) {
+        for (const expected::Setting& setting : page->settings) {
+            const auto value = expected::AfterSave(setting, {});
+            if (!value)
+                continue;
+            const std::string written = setting.kind == textKind ? "\"" + *value + "\"" : *value;
+            Add(setting.variable, CommentBlock(HelpSection(setting.helpId, "<D>")),
+                {setting.variable + (" = " + written)});
         }
     }
 }

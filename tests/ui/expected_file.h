@@ -33,8 +33,8 @@ class ExpectedFile
     /// a comment with LF line ends, its own line end included.
     void Add(const std::string& variable, const std::string& comment, const std::vector<std::string>& lines);
 
-    /// Adds every setting of both pages that is not there yet as a file gets
-    /// them that has none: flags "0", texts empty, the comment its description.
+    /// Adds every setting of the pages that is not there yet as a file gets
+    /// them that has none, the comment its description.
     void AddMissingSettings();
 
     /// The file, its variables in order of their names' bytes, lines ended by

@@ -1,4 +1,5 @@
 // The dialog's sizes: how its controls follow, the smallest size, the grip.
+#include "tests/ui/built_pages.h"
 #include "tests/ui/dialog_session.h"
 
 #include <random>
@@ -143,7 +144,7 @@ TEST_F(LayoutTest, PageFillsItsPlaceholderAtEverySize)
     ASSERT_TRUE(Open());
     for (const SIZE size : {SIZE{900, 700}, {580, 400}, {1100, 500}}) {
         Resize(Dialog(), size.cx, size.cy);
-        for (const wchar_t* title : {L"Branding", L"Conforming"}) {
+        for (const std::wstring& title : BuiltTitles()) {
             ASSERT_TRUE(ShowPage(title));
             EXPECT_EQ(RectIn(Control(IDC_PREFERENCES_PAGE_AREA), Dialog()), RectIn(Page(), Dialog()));
         }

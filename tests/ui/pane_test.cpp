@@ -1,4 +1,5 @@
 // The category pane.
+#include "tests/ui/built_pages.h"
 #include "tests/ui/dialog_session.h"
 
 #include <commctrl.h>
@@ -29,9 +30,10 @@ class PaneTest : public DialogSession
 TEST_F(PaneTest, RowsAreTheBuiltPagesInPaneOrder)
 {
     ASSERT_TRUE(Open());
-    EXPECT_EQ((std::vector<std::wstring>{L"Branding", L"Conforming"}), ListViewTexts(List()));
-    EXPECT_EQ(2, ListViewData(List(), 0));
-    EXPECT_EQ(6, ListViewData(List(), 1));
+    EXPECT_EQ(BuiltTitles(), ListViewTexts(List()));
+    const auto pages = BuiltPages();
+    for (std::size_t row = 0; row < pages.size(); ++row)
+        EXPECT_EQ(pages[row]->pageId, ListViewData(List(), static_cast<int>(row))) << pages[row]->title;
     Cancel();
 }
 

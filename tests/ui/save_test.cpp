@@ -38,7 +38,7 @@ class SaveTest : public DialogSession
     }
 };
 
-TEST_F(SaveTest, NewFileHoldsEverySettingOfBothPagesUnderItsDescription)
+TEST_F(SaveTest, NewFileHoldsEverySettingUnderItsDescription)
 {
     m_currentPath = m_folder / L"new.cfg";
     ASSERT_TRUE(Open());
