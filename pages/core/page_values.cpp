@@ -61,11 +61,6 @@ PageValues::PageValues(const PageRows& rows) : m_rows(rows)
         m_companions.push_back({row.initialNumber, row.initialText});
 }
 
-PageValues::PageValues(std::span<const SettingRow> settings)
-    : PageValues(PageRows{.pageId = 0, .settings = settings, .extraHelp = {}, .layout = {}})
-{
-}
-
 std::size_t PageValues::FindRow(TextView variable) const
 {
     const auto found = std::ranges::find(m_rows.settings, variable,

@@ -22,8 +22,6 @@ class PageValues
 
     /// Starts with the rows' built-in values. What the rows refer to stays theirs.
     explicit PageValues(const PageRows& rows);
-    /// A page of nothing but settings.
-    explicit PageValues(std::span<const SettingRow> settings);
 
     std::span<const SettingRow> Rows() const { return m_rows.settings; }
 

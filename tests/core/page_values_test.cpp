@@ -47,9 +47,17 @@ constexpr ov::SettingRow sampleRows[] = {
     ov::TextRow(u"TEXT", ov::SettingKindText, 3, 0, u"built in"),
 };
 
+/// A page of nothing but settings.
+constexpr ov::PageRows PageOf(std::span<const ov::SettingRow> settings)
+{
+    return {.pageId = 0, .settings = settings, .extraHelp = {}, .layout = {}};
+}
+
+constexpr ov::PageRows samplePage = PageOf(sampleRows);
+
 TEST(PageValues, StartWithTheBuiltInValues)
 {
-    PageValues values(sampleRows);
+    PageValues values(samplePage);
     EXPECT_EQ(values.Number(0), 1);
     EXPECT_EQ(values.Number(1), 7);
     EXPECT_EQ(values.String(2), u"built in");
@@ -57,7 +65,7 @@ TEST(PageValues, StartWithTheBuiltInValues)
 
 TEST(PageValues, RowsAreFoundByVariable)
 {
-    const PageValues values(sampleRows);
+    const PageValues values(samplePage);
     EXPECT_EQ(values.FindRow(u"TEXT"), 2u);
     EXPECT_EQ(values.FindRow(u"text"), 3u);
 }
@@ -68,7 +76,7 @@ TEST(PageValues, OnlyTheExactTextOneIsAFlag)
         SCOPED_TRACE(ov::Utf8FromText(text));
         SettingStore store;
         Put(store, u"FLAG", text);
-        PageValues values(sampleRows);
+        PageValues values(samplePage);
         values.Load(store, kCurrentTable);
         EXPECT_EQ(values.Number(0), 0);
         values.Save(store, withWindow, NoComment);
@@ -77,7 +85,7 @@ TEST(PageValues, OnlyTheExactTextOneIsAFlag)
     }
     SettingStore store;
     Put(store, u"FLAG", u"1");
-    PageValues values(sampleRows);
+    PageValues values(samplePage);
     values.Load(store, kCurrentTable);
     EXPECT_EQ(values.Number(0), 1);
     values.Save(store, withWindow, NoComment);
@@ -87,7 +95,7 @@ TEST(PageValues, OnlyTheExactTextOneIsAFlag)
 TEST(PageValues, AbsentFlagIsOffWhateverIsBuiltIn)
 {
     const SettingStore store;
-    PageValues values(sampleRows);
+    PageValues values(samplePage);
     values.Load(store, kCurrentTable);
     EXPECT_EQ(values.Number(0), 0);
 }
@@ -96,7 +104,7 @@ TEST(PageValues, NumberIsReadToItsLastDigitAndWrittenInDecimal)
 {
     SettingStore store;
     Put(store, u"NUMBER", u"12abc");
-    PageValues values(sampleRows);
+    PageValues values(samplePage);
     values.Load(store, kCurrentTable);
     EXPECT_EQ(values.Number(1), 12);
     values.Save(store, withWindow, NoComment);
@@ -114,7 +122,7 @@ TEST(PageValues, NumberTakesBlanksAndSignAndIsZeroWithoutDigits)
         SCOPED_TRACE(ov::Utf8FromText(item.text));
         SettingStore store;
         Put(store, u"NUMBER", item.text);
-        PageValues values(sampleRows);
+        PageValues values(samplePage);
         values.Load(store, kCurrentTable);
         EXPECT_EQ(values.Number(1), item.number);
     }
@@ -123,7 +131,7 @@ TEST(PageValues, NumberTakesBlanksAndSignAndIsZeroWithoutDigits)
 TEST(PageValues, EmptyOrAbsentNumberKeepsThePreviousOne)
 {
     SettingStore store;
-    PageValues values(sampleRows);
+    PageValues values(samplePage);
     values.Number(1) = 42;
     values.Load(store, kCurrentTable);
     EXPECT_EQ(values.Number(1), 42);
@@ -138,7 +146,7 @@ TEST(PageValues, TextIsKeptAsEdited)
 {
     for (const char16_t* text : {u"  both ends  ", u"\"quoted\"", u"a;b;;c", u"", u"C:\\Std\\#1"}) {
         SettingStore store;
-        PageValues values(sampleRows);
+        PageValues values(samplePage);
         values.String(2) = text;
         values.Save(store, withWindow, NoComment);
         EXPECT_EQ(Stored(store, u"TEXT"), ov::Utf8FromText(text));
@@ -153,7 +161,7 @@ TEST(PageValues, LoadReadsTheSelectedTable)
     SettingStore store;
     Put(store, u"TEXT", u"current", kCurrentTable);
     Put(store, u"TEXT", u"default", kDefaultTable);
-    PageValues values(sampleRows);
+    PageValues values(samplePage);
     values.Load(store, kDefaultTable);
     EXPECT_EQ(values.String(2), u"default");
     values.Load(store, kCurrentTable);
@@ -165,7 +173,7 @@ TEST(PageValues, LoadingDefaultsShowsNothingForWhatTheDefaultsLack)
     SettingStore store;
     for (const ov::SettingRow& row : ov::ConformingRows().settings)
         Put(store, row.variable, u"1", kCurrentTable);
-    PageValues values(ov::ConformingRows().settings);
+    PageValues values(ov::ConformingRows());
     values.Load(store, kCurrentTable);
     values.Load(store, kDefaultTable);
     for (std::size_t i = 0; i < values.Rows().size(); ++i) {
@@ -182,7 +190,7 @@ TEST(PageValues, PageWithoutWindowLeavesPresentSettingsAndAddsAbsentOnes)
     Put(store, u"FLAG", u"yes");
     Put(store, u"TEXT", u"");
     store.SetModified(false);
-    PageValues values(sampleRows);
+    PageValues values(samplePage);
     values.Save(store, withoutWindow, NoComment);
     EXPECT_EQ(Stored(store, u"FLAG"), "yes");
     EXPECT_EQ(KindOf(store, u"FLAG"), ov::SettingKindText);
@@ -195,7 +203,7 @@ TEST(PageValues, PageWithoutWindowLeavesPresentSettingsAndAddsAbsentOnes)
 TEST(PageValues, SavingWritesTheCurrentTableOnly)
 {
     SettingStore store;
-    PageValues values(sampleRows);
+    PageValues values(samplePage);
     values.Load(store, kDefaultTable);
     values.Save(store, withWindow, NoComment);
     EXPECT_EQ(store.Count(kDefaultTable), 0u);
@@ -205,7 +213,7 @@ TEST(PageValues, SavingWritesTheCurrentTableOnly)
 TEST(PageValues, SavingMarksTheStoreModifiedOnlyWhenAValueChanges)
 {
     SettingStore store;
-    PageValues values(sampleRows);
+    PageValues values(samplePage);
     values.Save(store, withWindow, NoComment);
     EXPECT_TRUE(store.IsModified());
     store.SetModified(false);
@@ -223,8 +231,9 @@ TEST(PageValues, CommentComesFromTheControlThatTheRowNames)
         {u"OTHER", ov::SettingKindInteger, ov::Encoding::Number, ov::ControlKind::DropDownList, 11, 99, 0},
     };
     SettingStore store;
-    PageValues(rows).Save(store, withWindow,
-                          [](int control) { return u"comment " + ov::FormatInteger(control); });
+    PageValues(PageOf(rows)).Save(store, withWindow, [](int control) {
+        return u"comment " + ov::FormatInteger(control);
+    });
     EXPECT_EQ(store.FindSetting(u"OWN", kCurrentTable)->comment, u"comment 10");
     EXPECT_EQ(store.FindSetting(u"OTHER", kCurrentTable)->comment, u"comment 99");
 }
@@ -235,7 +244,7 @@ TEST(PageValues, NoCommentIsAskedForASettingThatIsSkipped)
     Put(store, u"FLAG", u"1");
     Put(store, u"NUMBER", u"1");
     std::vector<int> asked;
-    PageValues(sampleRows).Save(store, withoutWindow, [&](int control) {
+    PageValues(samplePage).Save(store, withoutWindow, [&](int control) {
         asked.push_back(control);
         return Text();
     });
@@ -251,9 +260,9 @@ TEST(PageValues, ExceptionsToTheRuleOfSaving)
         return result;
     }();
     SettingStore store;
-    PageValues(rows).Save(store, withoutWindow, NoComment);
+    PageValues(PageOf(rows)).Save(store, withoutWindow, NoComment);
     EXPECT_EQ(store.Count(kCurrentTable), 0u);
-    PageValues(rows).Save(store, withWindow, NoComment);
+    PageValues(PageOf(rows)).Save(store, withWindow, NoComment);
     EXPECT_TRUE(store.HasSetting(u"SHOWN", kCurrentTable));
     EXPECT_FALSE(store.HasSetting(u"NEVER", kCurrentTable));
 }
@@ -263,7 +272,7 @@ TEST(ConformingValues, CheckCellsStoredAsYesOrTrueIsOffAndSavedAsZero)
     for (const char16_t* text : {u"yes", u"true"}) {
         SettingStore store;
         Put(store, u"_ORTHOVAL_CHECK_CELLS", text);
-        PageValues values(ov::ConformingRows().settings);
+        PageValues values(ov::ConformingRows());
         values.Load(store, kCurrentTable);
         EXPECT_EQ(values.Number(values.FindRow(u"_ORTHOVAL_CHECK_CELLS")), 0);
         values.Save(store, withWindow, NoComment);
@@ -273,7 +282,7 @@ TEST(ConformingValues, CheckCellsStoredAsYesOrTrueIsOffAndSavedAsZero)
 
 TEST(ConformingValues, BuiltInValuesShowBeforeAnythingIsLoaded)
 {
-    PageValues values(ov::ConformingRows().settings);
+    PageValues values(ov::ConformingRows());
     for (std::size_t i = 0; i < values.Rows().size(); ++i) {
         const ov::TextView name = values.Rows()[i].variable;
         SCOPED_TRACE(ov::Utf8FromText(name));
@@ -290,20 +299,20 @@ TEST(ConformingValues, BuiltInValuesShowBeforeAnythingIsLoaded)
 TEST(ConformingValues, PageNeverOpenedWritesAnAbsentMaximumErrorAndLeavesAPresentOne)
 {
     SettingStore absent;
-    PageValues(ov::ConformingRows().settings).Save(absent, withoutWindow, NoComment);
+    PageValues(ov::ConformingRows()).Save(absent, withoutWindow, NoComment);
     EXPECT_EQ(Stored(absent, u"_ORTHOVAL_MAX_ERROR_UORS"), "1");
     EXPECT_EQ(KindOf(absent, u"_ORTHOVAL_MAX_ERROR_UORS"), ov::SettingKindReal);
 
     SettingStore present;
     Put(present, u"_ORTHOVAL_MAX_ERROR_UORS", u"25");
-    PageValues(ov::ConformingRows().settings).Save(present, withoutWindow, NoComment);
+    PageValues(ov::ConformingRows()).Save(present, withoutWindow, NoComment);
     EXPECT_EQ(Stored(present, u"_ORTHOVAL_MAX_ERROR_UORS"), "25");
 }
 
 TEST(ConformingValues, AbsentNumbersShowEmptyAndAreSavedEmpty)
 {
     SettingStore store;
-    PageValues values(ov::ConformingRows().settings);
+    PageValues values(ov::ConformingRows());
     values.Load(store, kCurrentTable);
     EXPECT_EQ(values.String(values.FindRow(u"_ORTHOVAL_MAX_ERROR_UORS")), u"");
     EXPECT_EQ(values.String(values.FindRow(u"_ORTHOVAL_MIN_MU_ERRORSCALE")), u"");
@@ -316,7 +325,7 @@ TEST(ConformingValues, AbsentNumbersShowEmptyAndAreSavedEmpty)
 TEST(ConformingValues, NumericEditsTakeAnyText)
 {
     SettingStore store;
-    PageValues values(ov::ConformingRows().settings);
+    PageValues values(ov::ConformingRows());
     values.String(values.FindRow(u"_ORTHOVAL_MAX_ERROR_UORS")) = u" about one ";
     values.Save(store, withWindow, NoComment);
     EXPECT_EQ(Stored(store, u"_ORTHOVAL_MAX_ERROR_UORS"), " about one ");
@@ -325,7 +334,7 @@ TEST(ConformingValues, NumericEditsTakeAnyText)
 
 TEST(BrandingValues, FirstThreeFlagsAreOnUntilLoaded)
 {
-    PageValues values(ov::BrandingRows().settings);
+    PageValues values(ov::BrandingRows());
     EXPECT_EQ(values.Number(values.FindRow(u"_ORTHOVAL_BRANDING_AUTO")), 1);
     EXPECT_EQ(values.Number(values.FindRow(u"_ORTHOVAL_BRANDING_OVERRIDE")), 1);
     EXPECT_EQ(values.Number(values.FindRow(u"_ORTHOVAL_BRANDING_CERTIFY")), 1);
@@ -340,7 +349,7 @@ TEST(BrandingValues, FirstThreeFlagsAreOnUntilLoaded)
 TEST(BrandingValues, RenameListIsStoredAsText)
 {
     SettingStore store;
-    PageValues values(ov::BrandingRows().settings);
+    PageValues values(ov::BrandingRows());
     values.String(values.FindRow(u"_ORTHOVAL_BRANDING_RENAME_TABLES")) =
         u"Civil 2004:Civil;Survey Old:Survey";
     values.Save(store, withWindow, NoComment);

@@ -444,10 +444,10 @@ void ExpectAfterSave(const PageRows& page, const expected::Table& table)
     for (const expected::Setting& setting : expected::PageOf(page.pageId).settings) {
         SCOPED_TRACE(setting.variable);
         const auto expected = expected::AfterSave(setting, table, Today());
-        const auto record = store.FindSetting(ov::TextFromUtf8(setting.variable), ov::kCurrentTable);
-        ASSERT_EQ(record.has_value(), expected.has_value());
+        const ov::Text variable = ov::TextFromUtf8(setting.variable);
+        ASSERT_EQ(store.HasSetting(variable, ov::kCurrentTable), expected.has_value());
         if (expected) {
-            EXPECT_EQ(ov::Utf8FromText(record->value), *expected);
+            EXPECT_EQ(ov::Utf8FromText(store.GetSettingValue(variable, ov::kCurrentTable)), *expected);
         }
     }
 }
