@@ -628,7 +628,7 @@ TEST(PatternMatch, AlternativeThatEndsInAStarAcceptsTheRest)
         // template's end accepts the rest because the alternative's last character is a star.
         {"two characters", u"[x[*,B]]", u"xy", kSubsets, kAnyCase, kDone, kYes},
         {"and the rest", u"[x[*,B]]", u"xyzzy", kSubsets, kAnyCase, kDone, kYes},
-        {"the next step ends that", u"[x[*,B]]q", u"xyzq", kSubsets, kAnyCase, kDone, kNo},
+        {"the next step ends that", u"[x[*,B]]q", u"xyqz", kSubsets, kAnyCase, kDone, kNo},
         {"and takes what follows", u"[x[*,B]]q", u"xyq", kSubsets, kAnyCase, kDone, kYes},
         {"an alternative without a star", u"[x[*q,B]]", u"xyqz", kSubsets, kAnyCase, kDone, kNo},
     });
@@ -652,7 +652,7 @@ TEST(PatternMatch, NegatedListRejectsNothing)
         {"its last star accepts the rest", u"[^A*,BC]", u"xyz", kSubsets, kAnyCase, kDone, kYes},
         {"not when it ends otherwise", u"[^*A,BC]", u"xyz", kSubsets, kAnyCase, kDone, kNo},
         {"not when it ends otherwise, one left", u"[^*A,BC]", u"x", kSubsets, kAnyCase, kDone, kYes},
-        {"the next step ends that", u"[^A*,BC]q", u"xyq", kSubsets, kAnyCase, kDone, kNo},
+        {"the next step ends that", u"[^A*,BC]q", u"xqy", kSubsets, kAnyCase, kDone, kNo},
         {"a bar counts as a star", u"[^A|,xy]z", u"xyz", kSubsets, kAnyCase, kDone, kNo},
         {"a starred one past the end", u"[^A*,BC]", u"", kSubsets, kAnyCase, kDone, kNo},
     });
