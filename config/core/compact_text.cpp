@@ -13,6 +13,11 @@ char16_t UnitOf(char byte)
     return static_cast<unsigned char>(byte);
 }
 
+char16_t UnitOf(char16_t unit)
+{
+    return unit;
+}
+
 } // namespace
 
 bool CompactView::FitsNarrow() const
@@ -42,7 +47,7 @@ void CompactView::AppendTo(Text& text) const
     const std::string_view bytes = Narrow();
     const std::size_t start = text.size();
     text.resize(start + bytes.size());
-    std::transform(bytes.begin(), bytes.end(), text.data() + start, UnitOf);
+    std::transform(bytes.begin(), bytes.end(), text.data() + start, [](char byte) { return UnitOf(byte); });
 }
 
 CompactView::operator Text() const
@@ -58,7 +63,7 @@ bool operator==(CompactView a, CompactView b)
         return false;
     if (a.IsNarrow() && b.IsNarrow())
         return a.Narrow() == b.Narrow();
-    return (a <=> b) == 0;
+    return std::is_eq(a <=> b);
 }
 
 std::strong_ordering operator<=>(CompactView a, CompactView b)
@@ -68,13 +73,12 @@ std::strong_ordering operator<=>(CompactView a, CompactView b)
         return a.Narrow() <=> b.Narrow();
     if (!a.IsNarrow() && !b.IsNarrow())
         return a.Wide() <=> b.Wide();
-    if (!a.IsNarrow())
-        return 0 <=> (b <=> a);
-    const std::string_view narrow = a.Narrow();
-    const TextView wide = b.Wide();
-    return std::lexicographical_compare_three_way(
-        narrow.begin(), narrow.end(), wide.begin(), wide.end(),
-        [](char byte, char16_t unit) { return UnitOf(byte) <=> unit; });
+    const auto compare = [](auto first, auto second) {
+        return std::lexicographical_compare_three_way(
+            first.begin(), first.end(), second.begin(), second.end(),
+            [](auto one, auto other) { return UnitOf(one) <=> UnitOf(other); });
+    };
+    return a.IsNarrow() ? compare(a.Narrow(), b.Wide()) : compare(a.Wide(), b.Narrow());
 }
 
 CompactView CopyUnits(CompactView text, bool narrow, char* room)
@@ -91,7 +95,8 @@ CompactView CopyUnits(CompactView text, bool narrow, char* room)
     }
     auto* const units = reinterpret_cast<char16_t*>(room);
     if (text.IsNarrow())
-        std::transform(text.Narrow().begin(), text.Narrow().end(), units, UnitOf);
+        std::transform(text.Narrow().begin(), text.Narrow().end(), units,
+                       [](char byte) { return UnitOf(byte); });
     else if (!text.empty())
         std::memmove(units, text.Wide().data(), text.size() * sizeof(char16_t));
     return TextView(units, text.size());

@@ -23,7 +23,7 @@ class CompactView
     CompactView(const char16_t* text) : CompactView(TextView(text)) {}
 
     /// The text whose units are the values of the bytes.
-    static CompactView OfBytes(std::string_view bytes) { return {bytes.data(), bytes.size() << 1}; }
+    static constexpr CompactView OfBytes(std::string_view bytes) { return {bytes.data(), bytes.size() << 1}; }
 
     std::size_t size() const { return m_shape >> 1; }
     bool empty() const { return size() == 0; }
@@ -51,7 +51,7 @@ class CompactView
     friend std::strong_ordering operator<=>(CompactView a, CompactView b);
 
   private:
-    CompactView(const void* units, std::size_t shape) : m_units(units), m_shape(shape) {}
+    constexpr CompactView(const void* units, std::size_t shape) : m_units(units), m_shape(shape) {}
 
     const void* m_units = nullptr;
     std::size_t m_shape = 0; ///< Twice the length, and one more in units of 16 bits.

@@ -61,6 +61,9 @@ char OperatorOf(std::string_view token)
     return '\0';
 }
 
+// What stands between the items of a list.
+constexpr CompactView kSeparator = CompactView::OfBytes(";");
+
 // A value in quotes without them and without what follows a "#". `room` takes the value when quotes
 // stand inside it.
 template <typename Unit>
@@ -179,10 +182,10 @@ class ConfigReader
     void Combine(SettingTable::Index index, char operation, CompactView value)
     {
         if (operation == '>') {
-            m_records.ExtendValue(index, {}, u";", SettingKindText);
+            m_records.ExtendValue(index, {}, kSeparator, SettingKindText);
             m_records.ExtendValue(index, {}, value, SettingKindText);
         } else if (operation == '<') {
-            m_records.ExtendValue(index, u";", {}, SettingKindText);
+            m_records.ExtendValue(index, kSeparator, {}, SettingKindText);
             m_records.ExtendValue(index, value, {}, SettingKindText);
         } else if (operation == '+') {
             const SettingRecord record = m_records.At(index);
@@ -208,10 +211,10 @@ class ConfigReader
             const CompactView current = found->value;
             const SettingKind kind = ClassifyValue(current);
             if (operation == '>') {
-                m_records.ExtendValue(index, u";", {}, SettingKindText);
+                m_records.ExtendValue(index, kSeparator, {}, SettingKindText);
                 m_records.ExtendValue(index, current, {}, SettingKindText);
             } else if (operation == '<') {
-                m_records.ExtendValue(index, {}, u";", SettingKindText);
+                m_records.ExtendValue(index, {}, kSeparator, SettingKindText);
                 m_records.ExtendValue(index, {}, current, SettingKindText);
             } else if (operation == '+') {
                 m_records.ExtendValue(index, current, {}, ClassifyJoined(current, kind, record.value));

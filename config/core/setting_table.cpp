@@ -1,6 +1,7 @@
 #include "config/core/setting_table.h"
 
 #include <algorithm>
+#include <compare>
 #include <limits>
 #include <numeric>
 #include <string>
@@ -49,20 +50,20 @@ SettingTable::Index SettingTable::Find(CompactView name) const
 
 SettingTable::Index SettingTable::FindInOrder(CompactView name) const
 {
-    // A file in order asks for the last name, or for one that comes behind it.
     auto end = static_cast<Index>(Count());
-    if (end == 0 || EntryAt(end - 1).name < name)
+    if (end == 0)
         return kNone;
-    Index begin = end - 1;
-    if (EntryAt(begin).name != name) {
-        begin = 0;
-        while (begin < end) {
-            const Index middle = begin + (end - begin) / 2;
-            if (EntryAt(middle).name < name)
-                begin = middle + 1;
-            else
-                end = middle;
-        }
+    // A file in order asks for the last name, or for one that comes behind it.
+    const std::strong_ordering order = name <=> EntryAt(end - 1).name;
+    if (std::is_gteq(order))
+        return std::is_eq(order) ? end - 1 : kNone;
+    Index begin = 0;
+    while (begin < end) {
+        const Index middle = begin + (end - begin) / 2;
+        if (EntryAt(middle).name < name)
+            begin = middle + 1;
+        else
+            end = middle;
     }
     return EntryAt(begin).name == name ? begin : kNone;
 }

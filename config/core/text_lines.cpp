@@ -2,25 +2,26 @@
 
 #include "base/locale_text.h"
 
+#include <memory>
 #include <utility>
 
 namespace ov
 {
 FileResult ReadBlocks(FilePort& files, const Text& path, const std::function<void(std::string_view)>& block)
 {
-    constexpr std::size_t kBlockSize = std::size_t{256} * 1024;
+    constexpr std::size_t kBlockSize = std::size_t{64} * 1024;
     FileHandle file{};
     FileResult result = files.OpenForReading(path, file);
     if (!result)
         return result;
     try {
-        std::string buffer(kBlockSize, '\0');
+        const auto buffer = std::make_unique_for_overwrite<char[]>(kBlockSize);
         for (;;) {
             std::size_t count = 0;
-            result = files.Read(file, buffer, count);
+            result = files.Read(file, {buffer.get(), kBlockSize}, count);
             if (!result || count == 0)
                 break;
-            block(std::string_view(buffer).substr(0, count));
+            block(std::string_view(buffer.get(), count));
         }
     } catch (...) {
         files.Close(file);
