@@ -113,9 +113,7 @@ bool HitsClass(TextView content, char16_t c, bool exact)
             if (InRange(content, k, c, exact))
                 return true;
             ++k; // The upper bound.
-        } else if (member == u'|' || member == u'?' || member == u'*') {
-            return true;
-        } else if (SameCharacter(member, c, exact)) {
+        } else if (member == u'|' || member == u'?' || member == u'*' || SameCharacter(member, c, exact)) {
             return true;
         }
     }
