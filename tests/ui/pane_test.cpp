@@ -2,6 +2,7 @@
 #include "tests/ui/built_pages.h"
 #include "tests/ui/dialog_session.h"
 
+#include <algorithm>
 #include <commctrl.h>
 
 using namespace uidriver;
@@ -14,6 +15,13 @@ class PaneTest : public DialogSession
   protected:
     bool ShowsBranding() { return PageControl(IDC_BRANDING_RENAME) != nullptr; }
     bool ShowsConforming() { return PageControl(IDC_CONFORMING_MAX_ERROR) != nullptr; }
+
+    /// The row of Conforming; those after it follow in the list.
+    static int ConformingRow()
+    {
+        const auto titles = BuiltTitles();
+        return static_cast<int>(std::ranges::find(titles, L"Conforming") - titles.begin());
+    }
 
     int ColumnWidth() { return static_cast<int>(Send(List(), LVM_GETCOLUMNWIDTH, 0)); }
 
@@ -68,11 +76,22 @@ TEST_F(PaneTest, ArrowKeysSwitchPages)
     EXPECT_EQ(0, ListViewSelection(List()));
     EXPECT_TRUE(ShowsBranding());
     EXPECT_EQ(List(), FocusIn(Dialog()));
-    PostKey(Dialog(), VK_DOWN);
-    EXPECT_EQ(1, ListViewSelection(List()));
+    for (int row = 1; row <= ConformingRow(); ++row)
+        PostKey(Dialog(), VK_DOWN);
+    EXPECT_EQ(ConformingRow(), ListViewSelection(List()));
     EXPECT_TRUE(ShowsConforming());
+    Cancel();
+}
+
+TEST_F(PaneTest, ArrowKeyOnTheLastRowStaysThere)
+{
+    ASSERT_TRUE(Open());
+    const int last = static_cast<int>(BuiltTitles().size()) - 1;
+    ClickRow(last);
+    HWND page = Page();
     PostKey(Dialog(), VK_DOWN); // there is no further row
-    EXPECT_TRUE(ShowsConforming());
+    EXPECT_EQ(last, ListViewSelection(List()));
+    EXPECT_EQ(page, Page());
     Cancel();
 }
 
@@ -80,7 +99,7 @@ TEST_F(PaneTest, ClickSwitchesPagesAndShowsOneAtATime)
 {
     ASSERT_TRUE(Open());
     HWND branding = Page();
-    ClickRow(1);
+    ClickRow(ConformingRow());
     EXPECT_TRUE(ShowsConforming());
     EXPECT_FALSE(IsWindowVisible(branding));
     ClickRow(0);
