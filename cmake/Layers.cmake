@@ -24,6 +24,7 @@ if(OV_SANITIZE)
                                               -fno-omit-frame-pointer)
   target_link_options(ov_options INTERFACE -fsanitize=address,undefined)
 endif()
+
 function(ov_layer NAME)
   cmake_parse_arguments(LAYER "" "" "SOURCES;DEPENDS" ${ARGN})
   add_library(${NAME} STATIC ${LAYER_SOURCES})
@@ -31,6 +32,11 @@ function(ov_layer NAME)
   if(OV_FUZZ)
     # The counters that steer the fuzzer are in the product's code, not in the harnesses'.
     target_compile_options(${NAME} PRIVATE -fsanitize=fuzzer-no-link)
+  endif()
+  if(OV_COVERAGE)
+    # Atomically, so that a process that is killed in a test leaves sound counters.
+    target_compile_options(${NAME} PRIVATE --coverage -fprofile-update=atomic)
+    target_link_options(${NAME} PUBLIC --coverage)
   endif()
 endfunction()
 

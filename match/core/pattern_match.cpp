@@ -23,31 +23,14 @@ struct ReleaseMatchData {
     void operator()(pcre2_match_data* data) const { pcre2_match_data_free(data); }
 };
 
-// True when two texts that end with a NUL are equal under the case rule; looks no further than the
-// first difference.
-bool AreEqual(const char16_t* first, const char16_t* second, bool exact)
-{
-    while (Folded(*first, exact) == Folded(*second, exact)) {
-        if (*first == u'\0')
-            return true;
-        ++first;
-        ++second;
-    }
-    return false;
-}
-
-bool MatchWildcards(const char16_t* pattern, const char16_t* text, WildcardType type, bool exact)
+// The text is not equal to the template.
+bool MatchWildcards(TextView pattern, TextView text, WildcardType type, bool exact)
 {
     if (type < WildcardTypeNone)
-        return *text == u'\0';
+        return text.empty();
     if (type == WildcardTypeNone)
-        return AreEqual(pattern, text, true);
-    const WildcardRules rules{type >= WildcardTypeRanges, type >= WildcardTypeSubsets, exact};
-    if (!rules.subsets) {
-        if (const auto fits = WalkWildcards(pattern, text, rules))
-            return *fits;
-    }
-    return TabulateWildcards(pattern, text, rules);
+        return pattern == text;
+    return TabulateWildcards(pattern, text, {type >= WildcardTypeRanges, type >= WildcardTypeSubsets, exact});
 }
 
 // The regular expression may fit anywhere in the text. PCRE2's limits end what would take too long.
@@ -83,7 +66,13 @@ std::uint32_t MatchPattern(std::uint32_t* match, const char16_t* pattern, const 
     if (match == nullptr || pattern == nullptr || text == nullptr)
         return kMatchFailed;
     const bool exact = caseFlag != 0;
-    if (AreEqual(pattern, text, exact)) {
+    if (type == WildcardTypeDos || type == WildcardTypeRanges) {
+        if (const auto fits = WalkWildcards(pattern, text, type == WildcardTypeRanges, exact)) {
+            *match = *fits ? 1 : 0;
+            return kMatchDone;
+        }
+    }
+    if (EqualTexts(pattern, text, exact)) {
         *match = 1;
         return kMatchDone;
     }

@@ -40,7 +40,7 @@ inline bool ClassNames(TextView content, char16_t character, bool exact)
                 (Folded(low, exact) <= folded && folded <= Folded(high, exact)))
                 return true;
             ++i;
-        } else if (Folded(c, exact) == folded || c == u'|' || c == u'?' || c == u'*') {
+        } else if (Folded(c, exact) == folded || c == u'|' || (c <= u'?' && (c == u'?' || c == u'*'))) {
             return true;
         }
     }

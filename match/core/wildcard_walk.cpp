@@ -7,27 +7,41 @@ namespace ov
 namespace
 {
 
-using Traits = std::char_traits<char16_t>;
-
 // Where the bracket closes whose content begins at `content`, brackets within being counted; null
 // when nowhere.
 const char16_t* FindClosing(const char16_t* content)
 {
     std::size_t level = 1;
     for (const char16_t* at = content; *at != u'\0'; ++at) {
-        if (*at == u']' && --level == 0)
-            return at;
-        level += *at == u'[' ? 1 : 0;
+        if (*at == u']') {
+            if (--level == 0)
+                return at;
+        } else if (*at == u'[') {
+            ++level;
+        }
     }
     return nullptr;
+}
+
+// True when two texts that end with a NUL are equal; looks no further than the first difference.
+template <bool exact>
+bool AreEqual(const char16_t* first, const char16_t* second)
+{
+    while (Folded(*first, exact) == Folded(*second, exact)) {
+        if (*first == u'\0')
+            return true;
+        ++first;
+        ++second;
+    }
+    return false;
 }
 
 template <bool exact>
 class Walk
 {
   public:
-    Walk(const char16_t* pattern, const char16_t* text, const WildcardRules& rules)
-        : m_at(pattern), m_read(text), m_rules(rules)
+    Walk(const char16_t* pattern, const char16_t* text, bool ranges)
+        : m_pattern(pattern), m_text(text), m_at(pattern), m_read(text), m_ranges(ranges)
     {
     }
 
@@ -38,22 +52,32 @@ class Walk
                 if (*m_read == u'\0')
                     return true;
             } else if (*m_at == u'*') {
-                if (PassStar())
-                    return true;
+                if (const auto fits = PassStar())
+                    return fits;
                 continue;
             } else if (*m_read == u'\0') {
                 // What is left of the template takes more characters than there are, and a star that
                 // takes more leaves fewer.
                 return false;
+            } else if (*m_at == u'[' && m_ranges) {
+                // A text equal to the template fits it. Without brackets the walk finds that anyway.
+                if (!m_compared && AreEqual<exact>(m_pattern, m_text))
+                    return true;
+                m_compared = true;
+                if (FitsBracket()) {
+                    ++m_read;
+                    if (m_budget < 0)
+                        return std::nullopt;
+                    continue;
+                }
             } else if (FitsOne()) {
                 ++m_read;
-                if (m_budget < 0)
-                    return std::nullopt;
                 continue;
             }
             if (m_afterStar == nullptr)
                 return false;
-            if (--m_budget < 0)
+            m_budget -= m_at - m_afterStar;
+            if (m_budget < 0)
                 return std::nullopt;
             // Only the last star need take more: the text up to it would fit no better with another
             // one taking more.
@@ -64,34 +88,53 @@ class Walk
     }
 
   private:
-    // Goes beyond a star. True when the rest fits at once: after the last star everything does, and a
-    // rest that is equal to the end of the text does, whatever wildcards it holds.
-    bool PassStar()
+    // Goes beyond a star; says whether the text fits where that is known at once.
+    std::optional<bool> PassStar()
     {
         ++m_at;
         if (*m_at == u'\0')
             return true;
-        if (m_textEnd == nullptr) {
-            m_patternEnd = m_at + Traits::length(m_at);
-            m_textEnd = m_read + Traits::length(m_read);
-            m_budget += 8 * ((m_patternEnd - m_at) + (m_textEnd - m_read));
-        }
+        if (m_textEnd == nullptr)
+            LookAhead();
         const std::ptrdiff_t rest = m_patternEnd - m_at;
-        if (rest <= m_textEnd - m_read &&
-            EqualTexts({m_at, m_patternEnd}, {m_textEnd - rest, m_textEnd}, exact))
+        const std::ptrdiff_t left = m_textEnd - m_read;
+        if (m_at > m_lastPeculiar) {
+            // All that follows takes one character each: the last ones of the text.
+            return rest <= left && EndsAlike(m_textEnd - rest);
+        }
+        // A rest that is equal to the end of the text fits, whatever wildcards it holds.
+        if (rest <= left && EqualTexts({m_at, m_patternEnd}, {m_textEnd - rest, m_textEnd}, exact))
             return true;
         m_afterStar = m_at;
         m_afterStarRead = m_read;
         m_negated = false;
-        return false;
+        return std::nullopt;
+    }
+
+    // Finds the ends of both, and the last place in the template that is more than one character.
+    void LookAhead()
+    {
+        m_lastPeculiar = m_at - 1;
+        for (m_patternEnd = m_at; *m_patternEnd != u'\0'; ++m_patternEnd) {
+            if (*m_patternEnd == u'*' || (*m_patternEnd == u'[' && m_ranges))
+                m_lastPeculiar = m_patternEnd;
+        }
+        m_textEnd = m_read + std::char_traits<char16_t>::length(m_read);
+        m_budget += 8 * ((m_patternEnd - m_at) + (m_textEnd - m_read));
+    }
+
+    // True when the rest of the template, all literals and question marks, fits the text's end.
+    bool EndsAlike(const char16_t* end) const
+    {
+        return std::equal(m_at, m_patternEnd, end, [](char16_t wanted, char16_t given) {
+            return wanted == u'?' || Folded(wanted, exact) == Folded(given, exact);
+        });
     }
 
     // Passes one step of the template. True when the next character fits it.
     bool FitsOne()
     {
         const char16_t c = *m_at;
-        if (c == u'[' && m_rules.ranges)
-            return FitsBracket();
         ++m_at;
         return c == u'?' || Folded(c, exact) == Folded(*m_read, exact);
     }
@@ -106,7 +149,7 @@ class Walk
         const char16_t* closing = FindClosing(content);
         if (closing == nullptr) {
             // No expression: it fits any one character and takes the character behind it along.
-            const std::size_t length = Traits::length(content);
+            const std::size_t length = std::char_traits<char16_t>::length(content);
             m_budget -= static_cast<std::ptrdiff_t>(length);
             m_at = content + std::min<std::size_t>(length, 1);
             return true;
@@ -117,22 +160,27 @@ class Walk
         return ClassNames(names, *m_read, exact) != m_negated;
     }
 
+    const char16_t* const m_pattern;
+    const char16_t* const m_text;
     const char16_t* m_at;   // In the template.
     const char16_t* m_read; // In the text.
-    const WildcardRules& m_rules;
+    const bool m_ranges;
     std::ptrdiff_t m_budget = 1024; // Steps that may still be taken.
     bool m_negated = false;
+    bool m_compared = false;               // The whole text with the whole template.
     const char16_t* m_afterStar = nullptr; // In the template, behind the last star passed.
     const char16_t* m_afterStarRead = nullptr;
-    const char16_t* m_patternEnd = nullptr; // Both ends are looked for at the first star.
+    // These three are looked for at the first star.
+    const char16_t* m_patternEnd = nullptr;
     const char16_t* m_textEnd = nullptr;
+    const char16_t* m_lastPeculiar = nullptr; // The last star or bracket.
 };
 
 } // namespace
 
-std::optional<bool> WalkWildcards(const char16_t* pattern, const char16_t* text, const WildcardRules& rules)
+std::optional<bool> WalkWildcards(const char16_t* pattern, const char16_t* text, bool ranges, bool exact)
 {
-    return rules.exact ? Walk<true>(pattern, text, rules).Run() : Walk<false>(pattern, text, rules).Run();
+    return exact ? Walk<true>(pattern, text, ranges).Run() : Walk<false>(pattern, text, ranges).Run();
 }
 
 } // namespace ov

@@ -11,6 +11,6 @@ namespace ov
 /// returns to the last star only. Takes no memory and looks no further than it must. Nothing when
 /// the walk would cost more than a few steps for each character: a template may make it go over
 /// the same text many times. Both texts end with a NUL.
-std::optional<bool> WalkWildcards(const char16_t* pattern, const char16_t* text, const WildcardRules& rules);
+std::optional<bool> WalkWildcards(const char16_t* pattern, const char16_t* text, bool ranges, bool exact);
 
 } // namespace ov
