@@ -42,8 +42,8 @@ void AppendList(Text& lines, const SettingRecord& record, CompactView comment)
     Text value = record.value;
     std::erase(value, u'"');
     // Blanks at the very end belong to no item; taken away once, they are not skipped again for
-    // every item.
-    while (!value.empty() && value.back() == u' ')
+    // every item. A list holds a semicolon at least.
+    while (value.back() == u' ')
         value.pop_back();
     TextView rest = value;
     Text item;

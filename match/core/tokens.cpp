@@ -34,12 +34,12 @@ std::size_t PositionNoCase(TextView haystack, TextView needle, std::size_t from)
     return from + static_cast<std::size_t>(found - rest.begin());
 }
 
-// Appends the text with every doubled qualifier reduced to one.
+// Appends a text, in which qualifiers stand in pairs only, with one for each pair.
 void AppendUndoubled(Text& token, TextView text, char16_t qualifier)
 {
     for (std::size_t i = 0; i < text.size(); ++i) {
         token.push_back(text[i]);
-        if (text[i] == qualifier && i + 1 < text.size() && text[i + 1] == qualifier)
+        if (text[i] == qualifier)
             ++i;
     }
 }

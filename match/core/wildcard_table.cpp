@@ -370,7 +370,7 @@ class WildcardTable
     // A template often repeats its lists, so what was found is kept.
     const std::vector<std::uint32_t>& LongestFits(const Text& alternative)
     {
-        constexpr std::size_t kMostKept = std::size_t{1} << 22;
+        constexpr std::size_t kMostKept = std::size_t{1} << 16;
         const auto known = m_longestFits.find(alternative);
         if (known != m_longestFits.end())
             return known->second;

@@ -223,6 +223,18 @@ TEST_F(ConfigWriter, RefusedCharacterMayStandInACommentOrBeAPair)
     EXPECT_EQ(result.character, u"\U0001F600");
 }
 
+TEST_F(ConfigWriter, HalfAPairIsRefusedByItself)
+{
+    const Text half(1, u'\xD83D');
+    for (const Text& behind : {Text(u"x"), Text(1, u'\xE000'), half}) {
+        Set(u"A", half + behind);
+        std::string bytes;
+        const WriteResult result = WriteConfig(m_store, u"#", bytes);
+        EXPECT_FALSE(result);
+        EXPECT_EQ(result.character, half);
+    }
+}
+
 TEST_F(ConfigWriter, RefusedCharacterInTheHeaderIsTold)
 {
     std::string bytes;

@@ -1045,5 +1045,38 @@ TEST(PatternMatchLong, RestEqualToTheEndOfALongTextFits)
     }
 }
 
+// Each place of the text is one where the rest nearly fits: the walk is given up.
+TEST(PatternMatchLong, RestThatNearlyFitsEverywhere)
+{
+    const Text pattern = u"*" + Text(200, u'a') + u"b*";
+    const Text text(5000, u'a');
+    for (const WildcardType type : {kDos, kRanges, kSubsets}) {
+        EXPECT_EQ(Match(pattern, text, type), kDiffers);
+        EXPECT_EQ(Match(pattern, text + u"B" + text, type), kFits);
+        EXPECT_EQ(Match(pattern, text + u"B" + text, type, kExact), kDiffers);
+        EXPECT_EQ(Match(pattern, text + u"c" + Text(199, u'a') + u"b", type), kDiffers);
+    }
+    // Under DOS a bracket is a letter like any other.
+    const Text brackets = u"*" + Repeat(u"[", 200) + u"b*";
+    EXPECT_EQ(Match(brackets, Repeat(u"[", 5000), kDos), kDiffers);
+    EXPECT_EQ(Match(brackets, Repeat(u"[", 5000) + u"b", kDos), kFits);
+}
+
+// More different alternatives than are kept at once, each met twice.
+TEST(PatternMatchLong, ManyDifferentAlternativesWithStars)
+{
+    Text list = u"[";
+    for (char16_t first = u'b'; first <= u'z'; ++first) {
+        for (char16_t second = u'b'; second <= u'm'; ++second)
+            list.append(1, first).append(1, second).append(u"*,");
+    }
+    list += u"aa*]";
+    const Text text(250, u'a');
+    EXPECT_EQ(Match(list + u"*", text, kSubsets), kFits);
+    EXPECT_EQ(Match(list + u"?", text, kSubsets), kDiffers);
+    EXPECT_EQ(Match(list + list, text, kSubsets), kDiffers);
+    EXPECT_EQ(Match(list, u"ab", kSubsets), kDiffers);
+}
+
 } // namespace
 } // namespace ov

@@ -308,6 +308,15 @@ TEST_F(SaveConfig, FileNamedLikeABackupIsPutBackWhenTheWriteFails)
     EXPECT_EQ(m_files.contents, (std::map<Text, std::string>{{u"office.bak", kOld}}));
 }
 
+TEST_F(SaveConfig, ShortNameHasABackupLikeAnyOther)
+{
+    m_files.contents[u"a"] = kOld;
+    const SaveResult result = Save(u"a");
+    EXPECT_TRUE(result.Saved());
+    EXPECT_EQ(result.backupPath, u".bak");
+    EXPECT_EQ(m_files.contents, (std::map<Text, std::string>{{u"a", NewContent()}}));
+}
+
 TEST_F(SaveConfig, BackupPathReplacesWhatFollowsTheLastDot)
 {
     EXPECT_EQ(BackupPath(u"C:\\a\\office.cfg"), u"C:\\a\\office.bak");

@@ -59,6 +59,18 @@ TEST(SplitAlternative, EmptyOrNullSourceGivesNothing)
     EXPECT_EQ(Text(buffer.data()), u"");
 }
 
+TEST(SplitAlternative, WithoutADestinationNothingIsRead)
+{
+    EXPECT_EQ(SplitAlternative(nullptr, u"a,b", nullptr, nullptr, nullptr, u",", nullptr, 255), 0U);
+}
+
+TEST(SplitAlternative, LimitAlsoEndsTheSkippingOfLeadingCharacters)
+{
+    std::array<char16_t, 3> piece{u'!', u'!', u'!'};
+    EXPECT_EQ(SplitAlternative(piece.data(), u"   ab", u" ", nullptr, nullptr, u",", nullptr, 2), 2U);
+    EXPECT_EQ(piece[0], u'\0');
+}
+
 TEST(SplitAlternative, PiecesFollowOneAnotherToTheEnd)
 {
     const Text source = u"A,,BC,D";

@@ -281,6 +281,21 @@ TEST(ExtractTokenString, NulIsACharacterLikeAnyOther)
     EXPECT_EQ(text, Text(u"a\0b", 3));
 }
 
+TEST(ExtractTokenString, BlanksBehindTheClosingQualifierAreConsumedThoughNotTrimmed)
+{
+    Text token;
+    EXPECT_EQ(ExtractTokenString(token, u"\"a;b\"  ", nullptr, nullptr, nullptr, u";", nullptr, &kQuote, 0),
+              7U);
+    EXPECT_EQ(token, u"a;b");
+}
+
+TEST(ExtractTokenString, TwoQualifiersAreAnEmptyTokenEvenWhereQualifiersAreTrimmed)
+{
+    Text token = u"old";
+    EXPECT_EQ(ExtractTokenString(token, u"\"\"", nullptr, u"\"", nullptr, u";", nullptr, &kQuote, 0), 2U);
+    EXPECT_EQ(token, u"");
+}
+
 TEST(FindNoCase, FindsTheFirstOccurrenceInAnyCase)
 {
     const char16_t* text = u"one TWO two";
@@ -315,6 +330,12 @@ TEST(FindNoCase, EmptyNeedleIsFoundAtTheStart)
 {
     const char16_t* text = u"abc";
     EXPECT_EQ(FindNoCase(text, u"", 3), text);
+}
+
+TEST(FindNoCase, EmptyNeedleIsFoundInAnEmptyText)
+{
+    const char16_t* const nothing = u"";
+    EXPECT_EQ(FindNoCase(nothing, u"", 1), nothing);
 }
 
 TEST(FindNoCase, OnlyAToZHaveACase)
