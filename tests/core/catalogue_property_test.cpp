@@ -1,0 +1,99 @@
+// Random variables go into the rows of all pages and come out as their meaning
+// says, whatever stands beside them. OV_CATALOGUE_ROUNDS asks for more rounds,
+// OV_CATALOGUE_SEED for others.
+#include "pages/core/all_page_rows.h"
+#include "pages/core/page_values.h"
+#include "tests/pages/expected_pages.h"
+#include "tests/pages/page_changes.h"
+#include "tests/pages/random_table.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <ctime>
+
+namespace
+{
+using expected::Table;
+
+int FromEnvironment(const char* name, int otherwise)
+{
+    const char* value = std::getenv(name);
+    return value != nullptr ? std::atoi(value) : otherwise;
+}
+
+std::string Today()
+{
+    const std::time_t now = std::time(nullptr);
+    const std::tm* date = std::localtime(&now);
+    return std::to_string(date->tm_mday) + ", " + std::to_string(date->tm_mon + 1) + ", " +
+           std::to_string(date->tm_year + 1900);
+}
+
+void Fill(ov::SettingStore& store, const Table& table)
+{
+    for (const auto& [variable, value] : table) {
+        store.SetSetting(ov::TextFromUtf8(variable), ov::TextFromUtf8(value), ov::SettingKindText, u"",
+                         ov::kCurrentTable);
+    }
+}
+
+Table Content(const ov::SettingStore& store)
+{
+    Table table;
+    store.VisitInOrder(ov::kCurrentTable, [&](const ov::SettingRecord& record) {
+        table[ov::Utf8FromText(ov::Text(record.name))] = ov::Utf8FromText(ov::Text(record.value));
+        return true;
+    });
+    return table;
+}
+
+/// Opens every page on the store, which loads it, and saves them all.
+void OpenAndSave(ov::SettingStore& store)
+{
+    std::vector<ov::PageValues> pages;
+    for (const ov::PageRows* rows : ov::AllPageRows()) {
+        ov::PageValues& values = pages.emplace_back(*rows);
+        values.Load(store, ov::kCurrentTable);
+        if (rows->refresh != nullptr)
+            rows->refresh(values);
+    }
+    for (ov::PageValues& values : pages)
+        values.Save(store, true, [](int) { return ov::Text(); });
+}
+
+TEST(CatalogueProperty, RandomTablesAreSavedAsTheirMeaningSays)
+{
+    const int rounds = FromEnvironment("OV_CATALOGUE_ROUNDS", 250);
+    const int firstSeed = FromEnvironment("OV_CATALOGUE_SEED", 1);
+    for (int seed = firstSeed; seed < firstSeed + rounds && !HasFailure(); ++seed) {
+        SCOPED_TRACE(testing::Message() << "OV_CATALOGUE_SEED=" << seed);
+        std::mt19937 random(static_cast<unsigned>(seed));
+        const Table loaded = expected::RandomTable(random, expected::Carrier::Store);
+        Table saved = loaded;
+        for (const ov::PageRows* rows : ov::AllPageRows())
+            expected::SaveInto(saved, expected::PageOf(rows->pageId), loaded, Today());
+
+        ov::SettingStore store;
+        Fill(store, loaded);
+        OpenAndSave(store);
+        EXPECT_EQ("", expected::DifferenceOf(saved, Content(store)));
+    }
+}
+
+// What was saved once is saved the same again.
+TEST(CatalogueProperty, SavingAgainChangesNothing)
+{
+    for (unsigned seed = 1; seed <= 50 && !HasFailure(); ++seed) {
+        SCOPED_TRACE(seed);
+        std::mt19937 random(seed);
+        ov::SettingStore store;
+        Fill(store, expected::RandomTable(random, expected::Carrier::Store));
+        OpenAndSave(store);
+        const Table once = Content(store);
+        OpenAndSave(store);
+        EXPECT_EQ("", expected::DifferenceOf(once, Content(store)));
+    }
+}
+
+} // namespace
