@@ -1,0 +1,10 @@
+#include "pages/page_drafting.h"
+
+#include "pages/core/drafting_rows.h"
+
+IMPLEMENT_DYNAMIC(CPageDrafting, CSettingsPage)
+
+CPageDrafting::CPageDrafting(CPreferencesWizard* owner, const ov::PageInfo& info)
+    : CSettingsPage(owner, info, ov::DraftingRows())
+{
+}

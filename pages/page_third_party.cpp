@@ -1,0 +1,10 @@
+#include "pages/page_third_party.h"
+
+#include "pages/core/third_party_rows.h"
+
+IMPLEMENT_DYNAMIC(CPageThirdParty, CSettingsPage)
+
+CPageThirdParty::CPageThirdParty(CPreferencesWizard* owner, const ov::PageInfo& info)
+    : CSettingsPage(owner, info, ov::ThirdPartyRows())
+{
+}

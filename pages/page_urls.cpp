@@ -1,0 +1,10 @@
+#include "pages/page_urls.h"
+
+#include "pages/core/urls_rows.h"
+
+IMPLEMENT_DYNAMIC(CPageURLs, CSettingsPage)
+
+CPageURLs::CPageURLs(CPreferencesWizard* owner, const ov::PageInfo& info)
+    : CSettingsPage(owner, info, ov::UrlsRows())
+{
+}

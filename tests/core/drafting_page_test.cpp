@@ -1,0 +1,20 @@
+// Drafting: three flags that start off.
+#include "pages/core/drafting_rows.h"
+#include "pages/core/page_values.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+TEST(DraftingPage, FlagsStartOffAndLoadingMarksNothing)
+{
+    const ov::PageRows& rows = ov::DraftingRows();
+    ov::PageValues values(rows);
+    ASSERT_EQ(values.Rows().size(), 3u);
+    for (std::size_t row = 0; row < values.Rows().size(); ++row)
+        EXPECT_EQ(values.Number(row), 0);
+    EXPECT_FALSE(rows.loadMarksModified);
+}
+
+} // namespace
