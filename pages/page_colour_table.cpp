@@ -1,0 +1,10 @@
+#include "pages/page_colour_table.h"
+
+#include "pages/core/colour_table_rows.h"
+
+IMPLEMENT_DYNAMIC(CPageColourTable, CSettingsPage)
+
+CPageColourTable::CPageColourTable(CPreferencesWizard* owner, const ov::PageInfo& info)
+    : CSettingsPage(owner, info, ov::ColourTableRows())
+{
+}

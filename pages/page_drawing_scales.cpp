@@ -1,0 +1,10 @@
+#include "pages/page_drawing_scales.h"
+
+#include "pages/core/drawing_scales_rows.h"
+
+IMPLEMENT_DYNAMIC(CPageDrawingScales, CSettingsPage)
+
+CPageDrawingScales::CPageDrawingScales(CPreferencesWizard* owner, const ov::PageInfo& info)
+    : CSettingsPage(owner, info, ov::DrawingScalesRows())
+{
+}

@@ -1,0 +1,33 @@
+/// The multi-entry editor that the "..." buttons of lists open.
+#pragma once
+
+#include "tests/ui/dialog_session.h"
+
+/// Presses the "..." button.
+/// @return the editor; null when it does not come up.
+inline HWND OpenValueEditor(HWND button)
+{
+    uidriver::Click(button);
+    return uidriver::AwaitTopWindow(L"Multi-Entry Values", GetCurrentProcessId());
+}
+
+inline std::vector<std::wstring> ValueEditorRows(HWND editor)
+{
+    return uidriver::ListViewTexts(GetDlgItem(editor, IDC_CONFIG_SETTING_LIST));
+}
+
+/// Types a value and inserts it at the end.
+inline void InsertValue(HWND editor, const std::wstring& value)
+{
+    uidriver::TypeText(GetDlgItem(editor, IDC_CONFIG_SETTING_VALUE), value);
+    uidriver::Click(GetDlgItem(editor, IDC_CONFIG_SETTING_INSERT));
+}
+
+/// Closes the editor by IDOK or IDCANCEL; the dialog has taken its text then.
+inline void CloseValueEditor(HWND editor, int button)
+{
+    HWND dialog = GetWindow(editor, GW_OWNER);
+    uidriver::Click(GetDlgItem(editor, button));
+    EXPECT_TRUE(uidriver::AwaitGone(editor));
+    uidriver::Settle(dialog);
+}
