@@ -1,6 +1,7 @@
 // The two pages: what their controls read, show and save.
 #include "tests/ui/dialog_session.h"
 #include "tests/ui/expected_file.h"
+#include "tests/ui/focus_removal.h"
 
 #include <commctrl.h>
 
@@ -8,34 +9,6 @@ using namespace uidriver;
 
 namespace
 {
-
-/// Sees the host's thread take the keyboard focus from every window. A window
-/// manager may activate the dialog a moment later, which gives the focus back,
-/// so that looking for it afterwards would come too late now and then.
-class FocusRemoval
-{
-  public:
-    FocusRemoval() : m_hook(SetWindowsHookExW(WH_CBT, See, nullptr, HostThread::Get().Id())) { seen = false; }
-    ~FocusRemoval() { UnhookWindowsHookEx(m_hook); }
-    FocusRemoval(const FocusRemoval&) = delete;
-    FocusRemoval& operator=(const FocusRemoval&) = delete;
-
-    bool Await() const
-    {
-        return uidriver::Await([] { return seen.load(); });
-    }
-
-  private:
-    static LRESULT CALLBACK See(int code, WPARAM window, LPARAM previous)
-    {
-        if (code == HCBT_SETFOCUS && window == 0)
-            seen = true;
-        return CallNextHookEx(nullptr, code, window, previous);
-    }
-
-    static inline std::atomic<bool> seen = false;
-    HHOOK m_hook;
-};
 
 class PagesTest : public DialogSession
 {

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "pages/core/setting_row.h"
+
+namespace ov
+{
+
+/// The Custom Reports page.
+const PageRows& CustomReportsRows();
+
+} // namespace ov

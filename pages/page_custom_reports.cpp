@@ -1,0 +1,10 @@
+#include "pages/page_custom_reports.h"
+
+#include "pages/core/custom_reports_rows.h"
+
+IMPLEMENT_DYNAMIC(CPageCustomReports, CSettingsPage)
+
+CPageCustomReports::CPageCustomReports(CPreferencesWizard* owner, const ov::PageInfo& info)
+    : CSettingsPage(owner, info, ov::CustomReportsRows())
+{
+}

@@ -1,0 +1,10 @@
+#include "pages/page_logging.h"
+
+#include "pages/core/logging_rows.h"
+
+IMPLEMENT_DYNAMIC(CPageLogging, CSettingsPage)
+
+CPageLogging::CPageLogging(CPreferencesWizard* owner, const ov::PageInfo& info)
+    : CSettingsPage(owner, info, ov::LoggingRows())
+{
+}

@@ -1,0 +1,10 @@
+#include "pages/page_watermark_placement.h"
+
+#include "pages/core/watermark_placement_rows.h"
+
+IMPLEMENT_DYNAMIC(CPageWatermarkPlacement, CSettingsPage)
+
+CPageWatermarkPlacement::CPageWatermarkPlacement(CPreferencesWizard* owner, const ov::PageInfo& info)
+    : CSettingsPage(owner, info, ov::WatermarkPlacementRows())
+{
+}

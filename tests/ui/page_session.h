@@ -1,0 +1,102 @@
+/// What the tests of single pages have in common: the saved file, the entries
+/// of lists, and what a "..." button of a list opens or refuses to open.
+#pragma once
+
+#include "tests/ui/dialog_session.h"
+#include "tests/ui/expected_file.h"
+#include "tests/ui/focus_removal.h"
+
+#include <commctrl.h>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+class PageSession : public DialogSession
+{
+  protected:
+    /// What the multi-entry editor shows.
+    struct Editor {
+        std::vector<std::wstring> rows; ///< the first field of each
+        int fields = 0;
+        bool browses = false; ///< offers to choose files
+    };
+
+    /// The line of the saved file that assigns to the variable.
+    std::string Saved(const std::string& variable) const { return AssignmentOf(CurrentBytes(), variable); }
+
+    bool IsPageEnabled(int id) const { return uidriver::IsEnabled(PageControl(id)); }
+    int PageSelection(int id) const { return uidriver::ComboSelection(PageControl(id)); }
+    std::vector<std::wstring> PageEntries(int id) const { return uidriver::ComboTexts(PageControl(id)); }
+    void SelectOnPage(int id, int index) { uidriver::SelectComboEntry(PageControl(id), index); }
+
+    /// The range of an up-down control, which has to fill that edit.
+    std::pair<int, int> RangeOfSpin(int id, int buddy) const
+    {
+        EXPECT_EQ(PageControl(buddy), reinterpret_cast<HWND>(uidriver::Send(PageControl(id), UDM_GETBUDDY)));
+        int low = 0;
+        int high = 0;
+        SendMessageW(PageControl(id), UDM_GETRANGE32, reinterpret_cast<WPARAM>(&low),
+                     reinterpret_cast<LPARAM>(&high));
+        return {low, high};
+    }
+
+    /// Opens the dialog anew for each change, expects the change to mark it
+    /// modified and leaves it.
+    void ExpectEachMarksModified(const std::wstring& title, const std::vector<std::function<void()>>& changes)
+    {
+        for (std::size_t index = 0; index < changes.size(); ++index) {
+            SCOPED_TRACE(index);
+            ASSERT_TRUE(Open());
+            ASSERT_TRUE(ShowPage(title));
+            EXPECT_FALSE(CanSave());
+            changes[index]();
+            EXPECT_TRUE(CanSave());
+            Abandon();
+        }
+    }
+
+    /// Presses the "..." button and closes the editor that it opens by `answer`,
+    /// IDOK or IDCANCEL, inserting a row before unless it is empty.
+    Editor UseEditor(int button, int answer, const std::wstring& newRow = {})
+    {
+        Editor editor;
+        ClickOnPage(button);
+        const HWND window = uidriver::AwaitTopWindow(L"Multi-Entry Values", GetCurrentProcessId());
+        EXPECT_TRUE(window) << "no editor comes up";
+        if (!window)
+            return editor;
+        const HWND list = GetDlgItem(window, IDC_CONFIG_SETTING_LIST);
+        editor.rows = uidriver::ListViewTexts(list);
+        const auto header = reinterpret_cast<HWND>(uidriver::Send(list, LVM_GETHEADER));
+        editor.fields = static_cast<int>(uidriver::Send(header, HDM_GETITEMCOUNT));
+        editor.browses = uidriver::IsShown(GetDlgItem(window, IDC_CONFIG_SETTING_BROWSE));
+        if (!newRow.empty()) {
+            uidriver::TypeText(GetDlgItem(window, IDC_CONFIG_SETTING_VALUE), newRow);
+            uidriver::Click(GetDlgItem(window, IDC_CONFIG_SETTING_INSERT));
+        }
+        uidriver::Click(GetDlgItem(window, answer));
+        EXPECT_TRUE(uidriver::AwaitGone(window));
+        uidriver::Settle(Dialog());
+        return editor;
+    }
+
+    /// With a lone quote in the edit, the button opens no editor and the edit
+    /// keeps its text. The focus goes to that control; to none for 0.
+    void ExpectRefusal(int edit, int button, int focused)
+    {
+        TypeOnPage(edit, L"a\"b");
+        uidriver::Focus(PageControl(button));
+        ClickOnPage(button);
+        const FocusRemoval removal;
+        AnswerBox(L"Text qualifier is missing.\nPlease verify the value again.", {IDOK}, IDOK);
+        ExpectOpen();
+        if (focused == 0) {
+            EXPECT_TRUE(removal.Await());
+            EXPECT_NE(PageControl(edit), uidriver::FocusIn(Dialog()));
+        } else {
+            EXPECT_TRUE(uidriver::Await([&] { return uidriver::FocusIn(Dialog()) == PageControl(focused); }));
+        }
+        EXPECT_EQ(L"a\"b", PageText(edit));
+    }
+};
