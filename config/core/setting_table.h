@@ -86,6 +86,12 @@ class SettingTable
         CompactView Value() const;
         void PutValue(CompactView text, bool narrow, char* room);
     };
+    /// How a name is sorted: what follows the beginning that all names share, as a number.
+    struct SortKey {
+        std::uint64_t following;
+        Index index;
+    };
+
     /// A place of the hash table; the hash is kept so that growing does not read the names.
     struct Slot {
         std::uint32_t hash;
@@ -98,6 +104,8 @@ class SettingTable
     const Entry& EntryAt(Index index) const { return m_chunks[index / kChunkLength][index % kChunkLength]; }
     Index FindInOrder(CompactView name) const;
     Index FindByHash(CompactView name) const;
+    std::vector<SortKey> SortedKeys() const;
+    std::size_t SharedBeginning() const;
     CompactView Keep(CompactView text);
     void AddSlot(std::uint32_t hash, Index index);
     static void PlaceSlot(const Slot& slot, std::vector<Slot>& slots);

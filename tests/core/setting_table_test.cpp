@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <gtest/gtest.h>
+#include <random>
 #include <string>
 #include <vector>
 
@@ -9,6 +10,8 @@ namespace ov
 {
 namespace
 {
+
+using namespace std::string_literals;
 
 std::vector<Text> NamesInOrder(const SettingTable& table)
 {
@@ -145,6 +148,29 @@ TEST(SettingTable, NamesAreFoundInWhateverFormAndOrderTheyCame)
     std::vector<Text> sorted = names;
     std::sort(sorted.begin(), sorted.end());
     EXPECT_EQ(NamesInOrder(table), sorted);
+}
+
+// Beginnings in common, NUL, units around the end of 8 bits and long equal parts.
+TEST(SettingTable, NamesComeOutInOrdinalOrder)
+{
+    const Text units = u"\0AB\xFE\xFF\x100\xFFFF"s;
+    std::mt19937 engine{20261121};
+    for (int round = 0; round < 200; ++round) {
+        const Text beginning(engine() % 4, u'_');
+        SettingTable table;
+        std::vector<Text> names;
+        for (int i = 0; i < 40; ++i) {
+            Text name = beginning + Text(engine() % 2 * 9, u'A');
+            for (std::size_t length = engine() % 5; length > 0; --length)
+                name += units[engine() % units.size()];
+            if (table.Find(name) != SettingTable::kNone)
+                continue;
+            table.Insert(name, u"", SettingKindText, u"");
+            names.push_back(name);
+        }
+        std::sort(names.begin(), names.end());
+        ASSERT_EQ(NamesInOrder(table), names) << "round " << round;
+    }
 }
 
 TEST(SettingTable, NamesInOrderAreFoundWithAndWithoutNeighbours)

@@ -2,6 +2,7 @@
 #include "controls/core/tooltip_markup.h"
 #include "pages/core/page_catalogue.h"
 #include "pages/core/string_table.h"
+#include "resources/page_ids.h"
 
 #include <gtest/gtest.h>
 
@@ -33,6 +34,13 @@ std::vector<std::size_t> TagPositions(ov::TextView text)
 bool IsHelpText(ov::TextView text)
 {
     return text.starts_with(u'<');
+}
+
+/// Help texts that were there before the rules for writing them and stand word
+/// for word, two blanks in a row included.
+bool HasTwoBlanksOfOld(unsigned id)
+{
+    return id == IDS_HELP_FILE_NAMING_TEMPLATES;
 }
 
 TEST(Strings, CaptionsQuestionsAndMessagesStandWordForWord)
@@ -157,7 +165,7 @@ TEST(Strings, SectionsHaveNoBlanksAtTheirEnds)
         EXPECT_EQ(ov::Trim(heading), heading) << row.id;
         const ov::Text description = ov::Description(row.text);
         EXPECT_EQ(ov::Trim(description), description) << row.id;
-        EXPECT_EQ(description.find(u"  "), ov::Text::npos) << row.id;
+        EXPECT_EQ(description.find(u"  ") != ov::Text::npos, HasTwoBlanksOfOld(row.id)) << row.id;
     }
 }
 

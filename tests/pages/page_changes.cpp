@@ -422,6 +422,8 @@ std::vector<Change> ChangesOf(const Page& page, const Table& before, int round)
 void SaveInto(Table& saved, const Page& page, const Table& loaded, const std::string& today)
 {
     for (const Setting& setting : page.settings) {
+        if (setting.meaning == Meaning::LeftAlone)
+            continue;
         if (const auto value = AfterSave(setting, loaded, today))
             saved[setting.variable] = *value;
     }

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "pages/core/setting_row.h"
+
+namespace ov
+{
+
+/// The File Paths page.
+const PageRows& FilesRows();
+
+} // namespace ov

@@ -1,0 +1,10 @@
+#include "pages/page_file_naming_convention.h"
+
+#include "pages/core/file_naming_rows.h"
+
+IMPLEMENT_DYNAMIC(CPageFileNamingConvention, CSettingsPage)
+
+CPageFileNamingConvention::CPageFileNamingConvention(CPreferencesWizard* owner, const ov::PageInfo& info)
+    : CSettingsPage(owner, info, ov::FileNamingRows())
+{
+}

@@ -1,0 +1,10 @@
+#include "pages/page_files.h"
+
+#include "pages/core/files_rows.h"
+
+IMPLEMENT_DYNAMIC(CPageFiles, CSettingsPage)
+
+CPageFiles::CPageFiles(CPreferencesWizard* owner, const ov::PageInfo& info)
+    : CSettingsPage(owner, info, ov::FilesRows())
+{
+}

@@ -1,0 +1,10 @@
+#include "pages/page_model_naming_convention.h"
+
+#include "pages/core/model_naming_rows.h"
+
+IMPLEMENT_DYNAMIC(CPageModelNamingConvention, CSettingsPage)
+
+CPageModelNamingConvention::CPageModelNamingConvention(CPreferencesWizard* owner, const ov::PageInfo& info)
+    : CSettingsPage(owner, info, ov::ModelNamingRows())
+{
+}

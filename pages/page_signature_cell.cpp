@@ -1,0 +1,10 @@
+#include "pages/page_signature_cell.h"
+
+#include "pages/core/signature_cell_rows.h"
+
+IMPLEMENT_DYNAMIC(CPageSignatureCell, CSettingsPage)
+
+CPageSignatureCell::CPageSignatureCell(CPreferencesWizard* owner, const ov::PageInfo& info)
+    : CSettingsPage(owner, info, ov::SignatureCellRows())
+{
+}

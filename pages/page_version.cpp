@@ -1,0 +1,10 @@
+#include "pages/page_version.h"
+
+#include "pages/core/version_rows.h"
+
+IMPLEMENT_DYNAMIC(CPageVersion, CSettingsPage)
+
+CPageVersion::CPageVersion(CPreferencesWizard* owner, const ov::PageInfo& info)
+    : CSettingsPage(owner, info, ov::VersionRows())
+{
+}

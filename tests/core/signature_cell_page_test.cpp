@@ -1,0 +1,73 @@
+// The Signature Cells page: what depends on its first box, what it leaves alone.
+#include "controls/core/tooltip_markup.h"
+#include "pages/core/page_values.h"
+#include "pages/core/signature_cell_rows.h"
+#include "pages/core/string_table.h"
+#include "resources/page_ids.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+
+namespace
+{
+using ov::kCurrentTable;
+using ov::PageValues;
+using ov::SettingStore;
+using ov::Text;
+
+constexpr const char16_t* countFields = u"_ORTHOVAL_SIGNATURECELL_COUNT_EDF";
+
+Text NoComment(int)
+{
+    return {};
+}
+
+TEST(SignatureCellPage, EverythingElseIsEnabledWithItsFirstBox)
+{
+    PageValues values(ov::SignatureCellRows());
+    std::set<int> dependent;
+    for (const ov::DependencyRow& row : ov::SignatureCellRows().dependencies) {
+        EXPECT_EQ(row.effect, ov::Effect::Enable);
+        dependent.insert(row.controlId);
+        values.NumberOf(u"_ORTHOVAL_CHECK_SIGNATURECELL") = 0;
+        EXPECT_FALSE(values.Holds(row)) << row.controlId;
+        values.NumberOf(u"_ORTHOVAL_CHECK_SIGNATURECELL") = 1;
+        EXPECT_TRUE(values.Holds(row)) << row.controlId;
+    }
+    EXPECT_EQ(dependent, (std::set<int>{9495, 9509, 9501, 9499, 9500, 9502, 9497, 9498}));
+}
+
+TEST(SignatureCellPage, LoadingMarksTheDialogModified)
+{
+    EXPECT_TRUE(ov::SignatureCellRows().loadMarksModified);
+}
+
+TEST(SignatureCellPage, CountOfEnterDataFieldsStaysAsRead)
+{
+    for (const char16_t* stored : {u"1", u"0", u"yes"}) {
+        SettingStore store;
+        store.SetSetting(countFields, stored, ov::SettingKindText, u"", kCurrentTable);
+        PageValues values(ov::SignatureCellRows());
+        values.Load(store, kCurrentTable);
+        values.NumberOf(countFields) = 1 - values.NumberOf(countFields);
+        values.Save(store, true, NoComment);
+        EXPECT_EQ(store.GetSettingValue(countFields, kCurrentTable), stored);
+    }
+}
+
+TEST(SignatureCellPage, CountOfEnterDataFieldsIsNotAddedWhereItIsAbsent)
+{
+    SettingStore store;
+    PageValues(ov::SignatureCellRows()).Save(store, true, NoComment);
+    EXPECT_FALSE(store.HasSetting(countFields, kCurrentTable));
+}
+
+TEST(SignatureCellPage, HelpKeepsItsWording)
+{
+    EXPECT_EQ(ov::Utf8FromText(ov::Description(ov::FindString(IDS_HELP_SIGNATURE_CELL_COUNT_FIELDS))),
+              "If enabled, this option means that the user is not allowed to changed the number of Enter "
+              "Data Fields when editing the Signature Cell information.");
+}
+
+} // namespace
