@@ -276,7 +276,11 @@ void ReadConfig(SettingStore& store, int table, std::string_view bytes)
 
 ReadResult ReadConfigFile(SettingStore& store, int table, const Text& path, FilePort& files)
 {
-    if (path.empty() || files.Kind(path) == FileKind::Absent)
+    if (path.empty())
+        return {ReadOutcome::NothingToRead};
+    // Reading from a device or a pipe may wait for ever.
+    const FileKind kind = files.Kind(path);
+    if (kind == FileKind::Absent || kind == FileKind::Other)
         return {ReadOutcome::NothingToRead};
     ConfigReader reader(store, table);
     FileResult result = ReadBlocks(files, path, [&reader](std::string_view block) { reader.Feed(block); });

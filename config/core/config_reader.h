@@ -20,7 +20,7 @@ void ReadConfig(SettingStore& store, int table, std::string_view bytes);
 /// How the reading of a configuration file ended.
 enum class ReadOutcome {
     Read,          ///< To the file's end; an empty file counts and leaves the table as it was.
-    NothingToRead, ///< No file is named, or there is none.
+    NothingToRead, ///< No file is named, or there is none, or it is a device or a pipe.
     Failed,        ///< There is a file, but it could not be read.
 };
 
@@ -30,8 +30,8 @@ struct ReadResult {
     Text systemText{}; ///< Failed: the system's words for it; may be empty.
 };
 
-/// Reads a configuration file into a table of the store. An empty path and a file that does not
-/// exist are nothing to read. The store is unchanged unless the whole file was read.
+/// Reads a configuration file into a table of the store. An empty path, a file that does not exist
+/// and what is no file are nothing to read. The store is unchanged unless the whole file was read.
 ReadResult ReadConfigFile(SettingStore& store, int table, const Text& path, FilePort& files);
 
 } // namespace ov

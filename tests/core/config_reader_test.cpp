@@ -506,6 +506,17 @@ TEST_F(ConfigReader, EmptyPathAndMissingFileAreNotReadWithoutAWord)
     EXPECT_EQ(Value(u"A"), u"1");
 }
 
+TEST_F(ConfigReader, DeviceIsNotOpenedForReading)
+{
+    ReadCurrent("A = 1\n");
+    m_files.devices.insert(u"CON");
+    const ReadResult result = ReadConfigFile(m_store, kCurrentTable, u"CON", m_files);
+    EXPECT_EQ(result.outcome, ReadOutcome::NothingToRead);
+    EXPECT_EQ(result.systemText, u"");
+    EXPECT_EQ(m_files.calls, 1); // the question what it is
+    EXPECT_EQ(Value(u"A"), u"1");
+}
+
 TEST_F(ConfigReader, FileThatCannotBeOpenedIsToldAndLeavesTheStore)
 {
     ReadCurrent("A = 1\n");
