@@ -20,10 +20,10 @@ enum WildcardType : std::int32_t {
 };
 
 /// Sets `match` to 1 when the text fits the template, to 0 when it does not, and gives
-/// kMatchDone. A case flag of zero compares without regard to case (a to z only). kMatchFailed,
-/// with `match` of no meaning, when an argument is null, when memory runs out, for a regular
-/// expression that is not valid or takes PCRE2 to one of its limits, and for POSIX. A text equal to
-/// the template fits it under every type.
+/// kMatchDone. A case flag of zero compares without regard to case: of a to z only, in regular
+/// expressions of all letters. kMatchFailed, with `match` of no meaning, when an argument is null,
+/// when memory runs out, for a regular expression that is not valid or takes PCRE2 to one of its
+/// limits, and for POSIX. A text equal to the template fits it under every type.
 std::uint32_t MatchPattern(std::uint32_t* match, const char16_t* pattern, const char16_t* text,
                            WildcardType type, int caseFlag);
 
