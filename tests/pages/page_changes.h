@@ -59,7 +59,8 @@ struct Change {
 ///              chooses other values; flags are turned over by both
 std::vector<Change> ChangesOf(const Page& page, const Table& before, int round);
 
-/// What the variables are when all was saved: every setting of the page.
+/// What becomes of a file when the page, which has loaded a table, is saved
+/// into it: every setting of the page but those that pages never write.
 void SaveInto(Table& saved, const Page& page, const Table& loaded, const std::string& today = {});
 
 /// Empty when both are equal, otherwise a line for each variable that differs.

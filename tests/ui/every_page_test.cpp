@@ -335,7 +335,6 @@ TEST_F(EveryPageTest, ShowsTheDefaultsAndSavesThemIntoANewFile)
 TEST_F(EveryPageTest, LoadsTheDefaultsOverTheCurrentFile)
 {
     const Table defaults = FullTable();
-    // Nothing in the file says what the defaults do not say too.
     Table file;
     for (const auto& [variable, value] : defaults)
         file[variable] = value == "1" ? "0" : "1";
@@ -347,14 +346,7 @@ TEST_F(EveryPageTest, LoadsTheDefaultsOverTheCurrentFile)
     Press(IDC_PREFERENCES_LOAD_DEFAULTS);
     ExpectShown(defaults);
     Save();
-    Table left;
-    for (const expected::Page* page : BuiltPages()) {
-        for (const expected::Setting& setting : page->settings) {
-            if (setting.meaning == expected::Meaning::LeftAlone)
-                left[setting.variable] = file[setting.variable];
-        }
-    }
-    ExpectSaved(Saved(defaults, left));
+    ExpectSaved(Saved(defaults, file));
 }
 
 TEST_F(EveryPageTest, EveryChangeIsMarkedSavedAndShownAgain)
@@ -372,7 +364,7 @@ TEST_F(EveryPageTest, EveryChangeIsMarkedSavedAndShownAgain)
 // meaning whatever it is.
 TEST_F(EveryPageTest, RandomFilesAreShownChangedAndSavedAsTheirMeaningSays)
 {
-    const int rounds = FromEnvironment("OV_DIALOG_ROUNDS", 6);
+    const int rounds = FromEnvironment("OV_DIALOG_ROUNDS", 3);
     const int firstSeed = FromEnvironment("OV_DIALOG_SEED", 1);
     for (int seed = firstSeed; seed < firstSeed + rounds && !HasFailure(); ++seed) {
         SCOPED_TRACE(testing::Message() << "OV_DIALOG_SEED=" << seed);
