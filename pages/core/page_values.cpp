@@ -136,7 +136,7 @@ void PageValues::Save(SettingStore& store, bool hasWindow, const CommentOfContro
         m_rows.beforeSave(*this);
     for (std::size_t i = 0; i < m_values.size(); ++i) {
         const SettingRow& row = m_rows.settings[i];
-        if (!IsSaved(row, store, hasWindow))
+        if (m_values[i].heldBack || !IsSaved(row, store, hasWindow))
             continue;
         const Text value =
             row.HoldsText() ? m_values[i].text : NumberToStore(row.encoding, m_values[i].number);

@@ -43,6 +43,10 @@ class PageValues
     int& CompanionNumberOf(int controlId) { return m_companions[CompanionOf(controlId)].number; }
     Text& CompanionTextOf(int controlId) { return m_companions[CompanionOf(controlId)].text; }
 
+    /// Whether the setting stays in the store as it is, or stays out of it,
+    /// because the page cannot show what it says.
+    void HoldBack(TextView variable, bool heldBack) { m_values[RowOf(variable)].heldBack = heldBack; }
+
     /// Whether all conditions of the dependency hold.
     bool Holds(const DependencyRow& dependency) const;
 
@@ -61,6 +65,7 @@ class PageValues
     struct Value {
         int number;
         Text text;
+        bool heldBack = false;
     };
 
     static bool IsSaved(const SettingRow& row, const SettingStore& store, bool hasWindow);

@@ -88,7 +88,10 @@ TEST(CatalogueProperty, SavingAgainChangesNothing)
         SCOPED_TRACE(seed);
         std::mt19937 random(seed);
         ov::SettingStore store;
-        Fill(store, expected::RandomTable(random, expected::Carrier::Store));
+        Table table = expected::RandomTable(random, expected::Carrier::Store);
+        // It is never removed, and speaks again once no fixed period is saved.
+        table.erase("_ORTHOVAL_SCANPERIOD_VALUE");
+        Fill(store, table);
         OpenAndSave(store);
         const Table once = Content(store);
         OpenAndSave(store);

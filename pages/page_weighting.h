@@ -1,0 +1,20 @@
+#pragma once
+
+#include "pages/settings_page.h"
+
+/// How much each attribute of an element counts in the match score: a bar for
+/// each, whose value is the setting.
+class CPageWeighting : public CSettingsPage
+{
+    DECLARE_DYNAMIC(CPageWeighting)
+
+  public:
+    CPageWeighting(CPreferencesWizard* owner, const ov::PageInfo& info);
+
+    BOOL OnInitDialog() override;
+    bool LoadSettings(int selector) override;
+
+  protected:
+    void OnHScroll(UINT code, UINT position, CWnd* sender);
+    DECLARE_MESSAGE_MAP()
+};

@@ -1,0 +1,92 @@
+// The Feature Tables page in the dialog.
+#include "tests/ui/dialog_session.h"
+#include "tests/ui/expected_file.h"
+
+#include <commctrl.h>
+
+#include "resources/page_ids.h"
+
+using namespace uidriver;
+
+namespace
+{
+
+class FeatureTablesPageTest : public DialogSession
+{
+  protected:
+    std::string Saved(const std::string& variable) { return AssignmentOf(CurrentBytes(), variable); }
+};
+
+TEST_F(FeatureTablesPageTest, BoxesAndTextsAreSaved)
+{
+    m_currentPath = m_folder / L"new.cfg";
+    ASSERT_TRUE(Open());
+    ASSERT_TRUE(ShowPage(L"Feature Tables"));
+    constexpr std::pair<int, const char*> boxes[] = {
+        {IDC_FEATURE_TABLES_DICT_VERSIONING, "_ORTHOVAL_USEDICTVERSIONING"},
+        {IDC_FEATURE_TABLES_TRICAD, "_ORTHOVAL_SUPPORT_TRICAD"},
+        {IDC_FEATURE_TABLES_SHAPES_AS_LINEAR, "_ORTHOVAL_CHECK_SHAPESASLINEAR"},
+        {IDC_FEATURE_TABLES_SHOW_HIDDEN, "_ORTHOVAL_FEATURES_SHOWHIDDEN"},
+        {IDC_FEATURE_TABLES_SHOW_SUGGESTED, "_ORTHOVAL_FEATURES_SHOWSUGGESTED"},
+        {IDC_FEATURE_TABLES_ATTACHED_TAGS, "_ORTHOVAL_CHECK_ATTACHED_TAGS"},
+        {IDC_FEATURE_TABLES_ORDER_BY_DESCRIPTION, "_ORTHOVAL_TABLE_ORDERBY_DESCRIPTION"},
+    };
+    for (const auto& [box, variable] : boxes) {
+        EXPECT_FALSE(IsPageChecked(box)) << variable;
+        ClickOnPage(box);
+    }
+    TypeOnPage(IDC_FEATURE_TABLES_SQL_LONG_STRING, L"VARCHAR(2000)");
+    Save();
+    for (const auto& [box, variable] : boxes)
+        EXPECT_EQ(std::string(variable) + " = 1", Saved(variable));
+    ASSERT_TRUE(Open());
+    ASSERT_TRUE(ShowPage(L"Feature Tables"));
+    for (const auto& [box, variable] : boxes)
+        EXPECT_TRUE(IsPageChecked(box)) << variable;
+    EXPECT_EQ(L"VARCHAR(2000)", PageText(IDC_FEATURE_TABLES_SQL_LONG_STRING));
+    Cancel();
+}
+
+TEST_F(FeatureTablesPageTest, ListsOfTableNamesAreTakenApartAtCommasNotAtSemicolons)
+{
+    ASSERT_TRUE(Open());
+    ASSERT_TRUE(ShowPage(L"Feature Tables"));
+    for (const auto& [button, edit] :
+         {std::pair{IDC_FEATURE_TABLES_ALLOWED_BROWSE, IDC_FEATURE_TABLES_ALLOWED},
+          {IDC_FEATURE_TABLES_DISALLOWED_BROWSE, IDC_FEATURE_TABLES_DISALLOWED}}) {
+        TypeOnPage(edit, L"Civil,Survey;Old , Rail");
+        ClickOnPage(button);
+        HWND editor = AwaitTopWindow(L"Multi-Entry Values", GetCurrentProcessId());
+        ASSERT_TRUE(editor);
+        EXPECT_EQ((std::vector<std::wstring>{L"Civil", L"Survey;Old", L"Rail"}),
+                  ListViewTexts(GetDlgItem(editor, 9338)));
+        Click(GetDlgItem(editor, IDOK));
+        EXPECT_TRUE(AwaitGone(editor));
+        Settle(Dialog());
+        EXPECT_EQ(L"Civil,Survey;Old,Rail", PageText(edit));
+    }
+    Abandon();
+}
+
+TEST_F(FeatureTablesPageTest, BackupsTakeDigitsAndArrows)
+{
+    UseCurrent("_ORTHOVAL_TABLE_BACKUP_MAX = 12\r\n");
+    ASSERT_TRUE(Open());
+    ASSERT_TRUE(ShowPage(L"Feature Tables"));
+    const HWND edit = PageControl(IDC_FEATURE_TABLES_BACKUP_MAX);
+    EXPECT_TRUE(GetWindowLongPtrW(edit, GWL_STYLE) & ES_NUMBER);
+    EXPECT_EQ(edit,
+              reinterpret_cast<HWND>(Send(PageControl(IDC_FEATURE_TABLES_BACKUP_MAX_SPIN), UDM_GETBUDDY)));
+    Focus(edit);
+    PostKey(Dialog(), VK_DOWN);
+    EXPECT_EQ(L"11", PageText(IDC_FEATURE_TABLES_BACKUP_MAX));
+    EXPECT_TRUE(CanSave());
+    TypeOnPage(IDC_FEATURE_TABLES_BACKUP_MAX, L"9999");
+    PostKey(Dialog(), VK_UP);
+    PostKey(Dialog(), VK_UP);
+    EXPECT_EQ(L"10000", PageText(IDC_FEATURE_TABLES_BACKUP_MAX));
+    Save();
+    EXPECT_NE(std::string::npos, Saved("_ORTHOVAL_TABLE_BACKUP_MAX").find("10000"));
+}
+
+} // namespace
