@@ -378,6 +378,10 @@ class WildcardTable
             m_longestFits.clear();
         std::vector<std::uint32_t>& longest = m_longestFits[alternative];
         longest.resize(m_end + 1);
+        if (alternative.find_first_of(u"[|") == Text::npos) {
+            FindLongestPlainFits(alternative, longest);
+            return longest;
+        }
         WildcardTable table(alternative, m_text, m_folded, m_rules, Start::Anywhere);
         std::size_t open = m_end;
         for (std::size_t end = m_end; end > 0 && open > 0; --end) {
@@ -390,6 +394,67 @@ class WildcardTable
             }
         }
         return longest;
+    }
+
+    // As LongestFits, for an alternative of literals, question marks and stars. A part between two
+    // stars does best at the first place that it fits, the part behind the last star at the last one.
+    void FindLongestPlainFits(TextView alternative, std::vector<std::uint32_t>& longest) const
+    {
+        std::size_t star = alternative.find(u'*');
+        TextView part = alternative.substr(0, star);
+        // For each place in the text the one behind what the parts so far take from there.
+        std::vector<std::size_t> behind(m_end + 1, kNowhere);
+        for (std::size_t t = 0; t <= m_end; ++t) {
+            if (PartFits(part, t))
+                behind[t] = t + part.size();
+        }
+        for (;;) {
+            const std::size_t begin = star + 1;
+            star = alternative.find(u'*', begin);
+            part = alternative.substr(begin, star - begin);
+            if (star == TextView::npos)
+                break;
+            const std::vector<std::size_t> behindFirst = BehindFirstFits(part);
+            for (std::size_t& place : behind)
+                place = place != kNowhere ? behindFirst[place] : kNowhere;
+        }
+        if (part.size() > m_end)
+            return;
+        std::size_t last = m_end - part.size();
+        while (last > 0 && !PartFits(part, last))
+            --last;
+        if (!PartFits(part, last))
+            return;
+        for (std::size_t t = 0; t <= m_end; ++t) {
+            if (behind[t] <= last)
+                longest[t] = static_cast<std::uint32_t>(last + part.size() - t);
+        }
+    }
+
+    // For each place in the text the one behind the first fit of the part from there on.
+    std::vector<std::size_t> BehindFirstFits(TextView part) const
+    {
+        std::vector<std::size_t> behind(m_end + 1);
+        std::size_t nearest = kNowhere;
+        for (std::size_t t = m_end + 1; t-- > 0;) {
+            if (PartFits(part, t))
+                nearest = t + part.size();
+            behind[t] = nearest;
+        }
+        return behind;
+    }
+
+    // True when the text at the place fits literals and question marks.
+    bool PartFits(TextView part, std::size_t t) const
+    {
+        if (part.size() > m_end - t)
+            return false;
+        for (const char16_t c : part) {
+            if (c != u'?' && Folded(c, m_rules.exact) != m_folded[t])
+                return false;
+            ++t;
+        }
+        return true;
     }
 
     // Any other alternative is tried against its counted length only.

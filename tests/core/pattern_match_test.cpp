@@ -621,6 +621,25 @@ TEST(PatternMatch, AlternativeWithAWildcardTakesAsMuchAsItCan)
     });
 }
 
+TEST(PatternMatch, PartsOfAnAlternativeBetweenItsStarsFollowOneAnother)
+{
+    Check({
+        {"three parts", u"[A*B?C*D,x]Z", u"AxBBBcCyDDZ", kSubsets, kAnyCase, kDone, kYes},
+        {"three parts, the last too early", u"[A*B?C*D,x]Z", u"AxDBBcCyZ", kSubsets, kAnyCase, kDone, kNo},
+        {"three parts, no first", u"[A*B?C*D,x]Z", u"yABBcDZ", kSubsets, kAnyCase, kDone, kNo},
+        {"three parts, exact", u"[A*B?C*D,x]Z", u"AxBBBccyDDZ", kSubsets, kExact, kDone, kNo},
+        {"they do not overlap", u"[AB*BA,x]", u"ABA", kSubsets, kAnyCase, kDone, kNo},
+        {"they may touch", u"[AB*BA,x]", u"ABBA", kSubsets, kAnyCase, kDone, kYes},
+        {"? on both sides", u"[?*?,x]", u"A", kSubsets, kAnyCase, kDone, kNo},
+        {"? on both sides, two", u"[?*?,x]", u"AB", kSubsets, kAnyCase, kDone, kYes},
+        {"stars on both sides", u"[*A*,x]", u"yAz", kSubsets, kAnyCase, kDone, kYes},
+        {"nothing but stars", u"[**,x]", u"yz", kSubsets, kAnyCase, kDone, kYes},
+        {"longer than the text", u"[*ABCD,x]", u"BCD", kSubsets, kAnyCase, kDone, kNo},
+        {"later in the text", u"y[A*B,x]Z", u"yABAZ", kSubsets, kAnyCase, kDone, kNo},
+        {"later in the text, to the last B", u"y[A*B,x]Z", u"yABABZ", kSubsets, kAnyCase, kDone, kYes},
+    });
+}
+
 TEST(PatternMatch, AlternativeThatEndsInAStarAcceptsTheRest)
 {
     Check({
@@ -1060,6 +1079,22 @@ TEST(PatternMatchLong, RestThatNearlyFitsEverywhere)
     const Text brackets = u"*" + Repeat(u"[", 200) + u"b*";
     EXPECT_EQ(Match(brackets, Repeat(u"[", 5000), kDos), kDiffers);
     EXPECT_EQ(Match(brackets, Repeat(u"[", 5000) + u"b", kDos), kFits);
+}
+
+TEST(PatternMatchLong, ThousandsOfAlternativesWithStars)
+{
+    Text list = u"[";
+    for (std::size_t i = 0; list.size() < kLong; ++i) {
+        list += u"*x";
+        for (std::size_t rest = i, letters = 0; letters < 4; ++letters, rest /= 24)
+            list.push_back(static_cast<char16_t>(u'b' + rest % 24));
+        list += u",";
+    }
+    const Text text(1000, u'a');
+    EXPECT_EQ(Match(list + u"q]", text, kSubsets), kDiffers);
+    EXPECT_EQ(Match(list + u"*a]", text, kSubsets), kFits);
+    EXPECT_EQ(Match(list + u"*a]b", text + u"b", kSubsets), kFits);
+    EXPECT_EQ(Match(list + u"*a]b", text + u"bb", kSubsets), kDiffers);
 }
 
 // More different alternatives than are kept at once, each met twice.
