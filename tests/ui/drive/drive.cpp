@@ -26,7 +26,9 @@ constexpr unsigned ControlDeadline = 2000;
 constexpr const char* Usage = R"(usage: ovDrive COMMAND
   start EXE [ARGUMENT...]  start the host, wait until the dialog is up, and print
                            the milliseconds that took
+  categories               print the titles of the categories, one a line
   select TITLE             select a category and wait for its page
+  focus                    give the page's first control the keyboard focus
   click ID                 press a button or a check box
   type ID TEXT             replace the text of an edit control by typing
   text ID                  print a control's text
@@ -95,12 +97,36 @@ int Start(Arguments arguments)
     return 0;
 }
 
+int PrintCategories(Arguments)
+{
+    HWND dialog = OpenDialog();
+    HWND list = dialog ? AwaitControl(dialog, CategoryListId, ControlDeadline) : nullptr;
+    if (!list)
+        return 1;
+    for (const auto& title : ListViewTexts(list))
+        std::printf("%s\n", Utf8(title).c_str());
+    return 0;
+}
+
 int Select(Arguments arguments)
 {
     HWND dialog = OpenDialog();
     if (!dialog)
         return 1;
     return SelectCategory(dialog, arguments[0]) ? 0 : Fail("no page for category " + Utf8(arguments[0]));
+}
+
+int FocusPage(Arguments)
+{
+    HWND dialog = OpenDialog();
+    HWND page = dialog ? VisiblePage(dialog) : nullptr;
+    HWND control = page ? GetNextDlgTabItem(page, nullptr, FALSE) : nullptr;
+    if (dialog && !control)
+        return Fail("no page with a control is shown");
+    if (!control)
+        return 1;
+    Focus(control);
+    return Await([&] { return FocusIn(dialog) == control; }) ? 0 : Fail("the page does not take the focus");
 }
 
 int Press(Arguments arguments)
@@ -203,9 +229,17 @@ struct Command {
 };
 
 constexpr Command Commands[] = {
-    {L"start", 1, 64, Start}, {L"select", 1, 1, Select},        {L"click", 1, 1, Press},
-    {L"type", 2, 2, Type},    {L"text", 1, 1, PrintText},       {L"state", 1, 1, PrintState},
-    {L"size", 2, 2, Size},    {L"wait-close", 0, 1, WaitClose}, {L"answer", 1, 1, Answer},
+    {L"categories", 0, 0, PrintCategories},
+    {L"start", 1, 64, Start},
+    {L"select", 1, 1, Select},
+    {L"focus", 0, 0, FocusPage},
+    {L"click", 1, 1, Press},
+    {L"type", 2, 2, Type},
+    {L"text", 1, 1, PrintText},
+    {L"state", 1, 1, PrintState},
+    {L"size", 2, 2, Size},
+    {L"wait-close", 0, 1, WaitClose},
+    {L"answer", 1, 1, Answer},
 };
 
 } // namespace
