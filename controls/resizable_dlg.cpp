@@ -7,11 +7,11 @@ namespace
 class DialogControls : public ov::LayoutControls
 {
   public:
-    explicit DialogControls(HWND dialog) : m_dialog(dialog) {}
+    explicit DialogControls(HWND dialog) : m_dialog(dialog), m_visible(::IsWindowVisible(dialog) != FALSE) {}
 
     std::optional<ov::Rect> ControlRect(std::uint16_t controlId) override
     {
-        const HWND control = ::GetDlgItem(m_dialog, controlId);
+        const HWND control = Find(controlId);
         if (control == nullptr)
             return std::nullopt;
         RECT rect;
@@ -22,7 +22,7 @@ class DialogControls : public ov::LayoutControls
 
     std::int32_t ListColumns(std::uint16_t controlId) override
     {
-        const HWND control = ::GetDlgItem(m_dialog, controlId);
+        const HWND control = Find(controlId);
         if (!AfxIsOfClass(control, WC_LISTVIEWW))
             return 0;
         const HWND header = ListView_GetHeader(control);
@@ -31,20 +31,37 @@ class DialogControls : public ov::LayoutControls
 
     void SetListColumnWidths(std::uint16_t controlId, std::int32_t width) override
     {
-        const HWND control = ::GetDlgItem(m_dialog, controlId);
+        const HWND control = Find(controlId);
         for (std::int32_t column = ListColumns(controlId) - 1; column >= 0; --column)
             ListView_SetColumnWidth(control, column, width);
     }
 
     void MoveControl(std::uint16_t controlId, const ov::Rect& rect) override
     {
-        const HWND control = ::GetDlgItem(m_dialog, controlId);
-        ::MoveWindow(control, rect.left, rect.top, rect.Width(), rect.Height(), TRUE);
-        ::InvalidateRect(control, nullptr, TRUE);
+        const HWND control = Find(controlId);
+        if (ControlRect(controlId) != rect)
+            ::MoveWindow(control, rect.left, rect.top, rect.Width(), rect.Height(), m_visible);
+        if (m_visible)
+            ::InvalidateRect(control, nullptr, TRUE);
     }
 
   private:
+    // The layout asks for one control several times in a row, and the system
+    // looks through all of them each time.
+    HWND Find(std::uint16_t controlId)
+    {
+        if (m_found == nullptr || m_foundId != controlId) {
+            m_found = ::GetDlgItem(m_dialog, controlId);
+            m_foundId = controlId;
+        }
+        return m_found;
+    }
+
     HWND m_dialog;
+    // A hidden dialog is drawn as a whole when it is shown.
+    bool m_visible;
+    HWND m_found = nullptr;
+    std::uint16_t m_foundId = 0;
 };
 
 } // namespace

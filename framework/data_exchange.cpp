@@ -37,6 +37,17 @@ void SetTextOf(HWND control, const ov::Text& text)
         ::SetWindowTextW(control, Wide(text));
 }
 
+// The system looks through all the children each time, and data is exchanged
+// often.
+HWND FindControl(HWND dialog, int id)
+{
+    HWND& control = AfxGetThreadState().exchangedControls[dialog][id];
+    if (control == nullptr || !::IsWindow(control) || ::GetParent(control) != dialog ||
+        ::GetDlgCtrlID(control) != id)
+        control = ::GetDlgItem(dialog, id);
+    return control;
+}
+
 bool IsRadioButton(HWND control)
 {
     return (::SendMessageW(control, WM_GETDLGCODE, 0, 0) & DLGC_RADIOBUTTON) != 0;
@@ -62,7 +73,7 @@ CDataExchange::CDataExchange(CWnd* window, BOOL saveAndValidate)
 
 HWND CDataExchange::PrepareCtrl(int id)
 {
-    const HWND control = ::GetDlgItem(m_pDlgWnd->m_hWnd, id);
+    const HWND control = FindControl(m_pDlgWnd->m_hWnd, id);
     if (control == nullptr)
         throw std::runtime_error("The dialog has no control " + std::to_string(id) + ".");
     m_lastControl = control;

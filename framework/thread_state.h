@@ -84,6 +84,8 @@ struct AFX_EXCHANGE_LOCK {
 
 struct AFX_THREAD_STATE {
     std::unordered_map<HWND, CWnd*> permanentWindows;
+    /// The controls that data has been exchanged with, by dialog and id.
+    std::unordered_map<HWND, std::unordered_map<int, HWND>> exchangedControls;
     AFX_TEMP_MAPS temporary;
     MSG currentMessage{};
     CCreationHook* creation = nullptr; ///< waits for its window
@@ -137,6 +139,7 @@ class CCreationHook
     static LRESULT CALLBACK HookProc(int code, WPARAM wParam, LPARAM lParam);
     /// False when the window must not come to be.
     bool Meet(HWND window) noexcept;
+    void Unhook() noexcept;
 
     CWnd* m_window;
     CRestoreValue<CCreationHook*> m_pending;

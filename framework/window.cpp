@@ -44,8 +44,10 @@ BOOL CWnd::Attach(HWND window)
 HWND CWnd::Detach()
 {
     const HWND window = m_hWnd;
-    if (window != nullptr && FromHandlePermanent(window) == this)
+    if (window != nullptr && FromHandlePermanent(window) == this) {
         AfxGetThreadState().permanentWindows.erase(window);
+        AfxGetThreadState().exchangedControls.erase(window);
+    }
     m_hWnd = nullptr;
     m_superWndProc = nullptr;
     return window;

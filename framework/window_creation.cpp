@@ -29,11 +29,15 @@ LRESULT CALLBACK CCreationHook::HookProc(int code, WPARAM wParam, LPARAM lParam)
 {
     AFX_THREAD_STATE& state = AfxGetThreadState();
     const auto created = reinterpret_cast<HWND>(wParam);
-    if (code == HCBT_CREATEWND && state.creation != nullptr && !IsInputMethodWindow(created)) {
-        if (!std::exchange(state.creation, nullptr)->Meet(created))
-            return 1;
-    }
-    return ::CallNextHookEx(nullptr, code, wParam, lParam);
+    if (code != HCBT_CREATEWND || state.creation == nullptr || IsInputMethodWindow(created))
+        return ::CallNextHookEx(nullptr, code, wParam, lParam);
+    CCreationHook* const creation = std::exchange(state.creation, nullptr);
+    if (!creation->Meet(created))
+        return 1;
+    const LRESULT result = ::CallNextHookEx(nullptr, code, wParam, lParam);
+    // Else it would be called for every control of a dialog.
+    creation->Unhook();
+    return result;
 }
 
 CCreationHook::CCreationHook(CWnd* window)
@@ -44,8 +48,13 @@ CCreationHook::CCreationHook(CWnd* window)
 
 CCreationHook::~CCreationHook()
 {
+    Unhook();
+}
+
+void CCreationHook::Unhook() noexcept
+{
     if (m_hook != nullptr)
-        ::UnhookWindowsHookEx(m_hook);
+        ::UnhookWindowsHookEx(std::exchange(m_hook, nullptr));
 }
 
 bool CCreationHook::Meet(HWND window) noexcept
