@@ -39,8 +39,8 @@ void WidenOpenList(HWND list)
     }
     ::SelectObject(context, before);
     ::ReleaseDC(list, context);
-    const int edges = 2 * ::GetSystemMetrics(SM_CXEDGE) + ::GetSystemMetrics(SM_CXVSCROLL);
-    ::SendMessageW(list, CB_SETDROPPEDWIDTH, static_cast<WPARAM>(width + edges), 0);
+    width += 2 * ::GetSystemMetrics(SM_CXEDGE) + ::GetSystemMetrics(SM_CXVSCROLL);
+    ::SendMessageW(list, CB_SETDROPPEDWIDTH, static_cast<WPARAM>(width), 0);
 }
 } // namespace
 
