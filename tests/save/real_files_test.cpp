@@ -279,35 +279,36 @@ class SmallDisk : public RealSave
         m_page = static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
         static const bool isAlone =
             unshare(CLONE_NEWNS) == 0 && mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
-        if (!isAlone)
-            GTEST_SKIP() << "No mount namespace of its own for this process";
+        if (!isAlone || !Mount("size=" + std::to_string(4 * m_page)))
+            GTEST_SKIP() << "This process may not mount anything: " << std::strerror(errno);
     }
-    void TearDown() override
-    {
-        if (m_mounted)
-            umount2(folder.c_str(), MNT_DETACH);
-    }
+    void TearDown() override { Unmount(); }
 
-    // Errors are in errno.
+    // Puts another disk in the place of the present one, which has four pages. Errors are in errno.
     bool Mount(const std::string& options)
     {
+        Unmount();
         m_mounted = mount("tmpfs", folder.c_str(), "tmpfs", 0, options.c_str()) == 0;
         return m_mounted;
     }
-    bool MountPages(int pages) { return Mount("size=" + std::to_string(pages * m_page)); }
     std::string Pages(std::size_t pages) const { return std::string(pages * m_page, 'x'); }
 
     const test::NewContent m_large{1000};
     std::size_t m_page = 0;
 
   private:
+    void Unmount()
+    {
+        if (m_mounted)
+            umount2(folder.c_str(), MNT_DETACH);
+        m_mounted = false;
+    }
+
     bool m_mounted = false;
 };
 
 TEST_F(SmallDisk, FileForWhichThereIsNoRoomLeavesTheOldOneAndNothingElse)
 {
-    if (!MountPages(4))
-        GTEST_SKIP() << "Nothing can be mounted here: " << std::strerror(errno);
     Put("a.cfg", kOld);
     const SaveResult result = Save("a.cfg", m_large);
     EXPECT_EQ(result.outcome, SaveOutcome::WriteFailed);
@@ -319,8 +320,6 @@ TEST_F(SmallDisk, FileForWhichThereIsNoRoomLeavesTheOldOneAndNothingElse)
 
 TEST_F(SmallDisk, NewFileForWhichThereIsNoRoomLeavesNothing)
 {
-    if (!MountPages(4))
-        GTEST_SKIP() << "Nothing can be mounted here: " << std::strerror(errno);
     const SaveResult result = Save("a.cfg", m_large);
     EXPECT_EQ(result.outcome, SaveOutcome::WriteFailed);
     EXPECT_EQ(result.oldContent, OldContent::NoneBefore);
@@ -329,8 +328,6 @@ TEST_F(SmallDisk, NewFileForWhichThereIsNoRoomLeavesNothing)
 
 TEST_F(SmallDisk, InPlaceNothingIsWrittenWhereThereIsNoRoom)
 {
-    if (!MountPages(4))
-        GTEST_SKIP() << "Nothing can be mounted here: " << std::strerror(errno);
     const std::string old = Pages(2);
     Put("a.cfg", old);
     Put("a.bak", kStale);
@@ -348,8 +345,6 @@ TEST_F(SmallDisk, InPlaceNothingIsWrittenWhereThereIsNoRoom)
 
 TEST_F(SmallDisk, InPlaceAFullDiskHasRoomForWhatIsNotLonger)
 {
-    if (!MountPages(4))
-        GTEST_SKIP() << "Nothing can be mounted here: " << std::strerror(errno);
     Put("a.cfg", Pages(2));
     Put("a.bak", Pages(2));
     EXPECT_TRUE(Save("a.cfg", *m_small).Saved());
@@ -359,8 +354,7 @@ TEST_F(SmallDisk, InPlaceAFullDiskHasRoomForWhatIsNotLonger)
 
 TEST_F(SmallDisk, DiskThatTakesNoMoreFilesLeavesTheOldOne)
 {
-    if (!Mount("nr_inodes=2"))
-        GTEST_SKIP() << "Nothing can be mounted here: " << std::strerror(errno);
+    ASSERT_TRUE(Mount("nr_inodes=2"));
     Put("a.cfg", kOld);
     const SaveResult result = Save("a.cfg", *m_small);
     EXPECT_EQ(result.outcome, SaveOutcome::CreateFailed);
@@ -371,8 +365,6 @@ TEST_F(SmallDisk, DiskThatTakesNoMoreFilesLeavesTheOldOne)
 
 TEST_F(SmallDisk, ReadOnlyDiskLeavesTheFile)
 {
-    if (!MountPages(4))
-        GTEST_SKIP() << "Nothing can be mounted here: " << std::strerror(errno);
     Put("a.cfg", kOld);
     ASSERT_EQ(mount(nullptr, folder.c_str(), nullptr, MS_REMOUNT | MS_RDONLY, nullptr), 0);
     const SaveResult result = Save("a.cfg", *m_small);
