@@ -97,9 +97,9 @@ TEST_P(NamingPagesTest, RefusedListsFocusTheirEditButForTheHelpTextOfFiles)
     ASSERT_TRUE(OpenPage());
     for (const int id : {page.templates, page.descriptions, page.text})
         TypeOnPage(id, L"\"");
-    ExpectRefusal(page.templatesBrowse, page.templates);
-    ExpectRefusal(page.descriptionsBrowse, page.descriptions);
-    ExpectRefusal(page.textBrowse, page.focusAfterText);
+    ExpectRefused(page.templatesBrowse, page.templates);
+    ExpectRefused(page.descriptionsBrowse, page.descriptions);
+    ExpectRefused(page.textBrowse, page.focusAfterText);
     Abandon();
 }
 

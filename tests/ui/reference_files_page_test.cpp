@@ -1,7 +1,6 @@
 // Reference Files in the dialog: the scale factor, and what follows the texts
 // of the border sheets and of the plot border.
-#include "tests/ui/dialog_session.h"
-#include "tests/ui/expected_file.h"
+#include "tests/ui/page_session.h"
 #include "tests/ui/value_editor.h"
 
 #include "resources/page_ids.h"
@@ -11,7 +10,7 @@ using namespace uidriver;
 namespace
 {
 
-class ReferenceFilesPageTest : public DialogSession
+class ReferenceFilesPageTest : public PageSession
 {
   protected:
     static constexpr int BorderSheets = 3002;
@@ -19,7 +18,6 @@ class ReferenceFilesPageTest : public DialogSession
     static constexpr int ScaleFactor = 11019;
 
     bool OpenPage() { return Open() && ShowPage(L"Reference Files"); }
-    std::string Saved(const std::string& variable) { return AssignmentOf(CurrentBytes(), variable); }
 
     bool AreEnabled(std::initializer_list<int> controls) const
     {
@@ -339,14 +337,8 @@ TEST_F(ReferenceFilesPageTest, LoneQuoteIsRefusedAndTheEditGetsTheFocus)
 {
     UseCurrent("_ORTHOVAL_BORDERSHEETS = a.dgn\r\n");
     ASSERT_TRUE(OpenPage());
-    for (const auto& [button, edit] : {std::pair{3005, 3002}, {3007, 3006}, {3011, 3010}}) {
-        TypeOnPage(edit, L"\"a");
-        Focus(PageControl(button));
-        ClickOnPage(button);
-        AnswerBox(L"Text qualifier is missing.\nPlease verify the value again.", {IDOK}, IDOK);
-        ExpectOpen();
-        EXPECT_TRUE(Await([&, edit = edit] { return FocusIn(Dialog()) == PageControl(edit); })) << edit;
-    }
+    for (const auto& [button, edit] : {std::pair{3005, 3002}, {3007, 3006}, {3011, 3010}})
+        ExpectRefusal(edit, button, edit);
     Abandon();
 }
 
