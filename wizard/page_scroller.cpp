@@ -61,13 +61,33 @@ bool CPageScroller::Request(int bar, ov::ScrollRequest request)
         return false;
     SCROLLINFO info{};
     m_page.GetScrollInfo(bar, &info, SIF_TRACKPOS);
+    return Request(bar, request, info.nTrackPos);
+}
+
+bool CPageScroller::Request(int bar, ov::ScrollRequest request, int trackPosition)
+{
     ov::ScrollAxis& axis = AxisOf(bar);
-    const int step = ov::Scroll(axis, request, info.nTrackPos);
+    const int step = ov::Scroll(axis, request, trackPosition);
     if (step == 0)
         return false;
     m_page.SetScrollPos(bar, axis.position, TRUE);
     ScrollAlong(bar, -step);
     return true;
+}
+
+void CPageScroller::Show(const CRect& rectangle)
+{
+    CRect view;
+    m_page.GetClientRect(&view);
+    ShowAlong(SB_HORZ, rectangle.left, rectangle.right, view.Width());
+    ShowAlong(SB_VERT, rectangle.top, rectangle.bottom, view.Height());
+}
+
+void CPageScroller::ShowAlong(int bar, int begin, int end, int visible)
+{
+    const ov::ScrollAxis& axis = AxisOf(bar);
+    const int position = ov::PositionShowing(axis, axis.position + begin, axis.position + end, visible);
+    Request(bar, ov::ScrollRequest::ThumbPosition, position);
 }
 
 void CPageScroller::ScrollAlong(int bar, int shift)

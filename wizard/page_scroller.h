@@ -17,6 +17,10 @@ class CPageScroller
     /// Moves the content, child windows included, back to the top-left corner.
     void ScrollToOrigin();
 
+    /// Scrolls as far as it takes to bring the rectangle, in the page's client
+    /// coordinates, into view.
+    void Show(const CRect& rectangle);
+
     /// Performs a scroll-bar request; `sender` is the control that sent it, null
     /// for the page's own bar.
     void OnHScroll(UINT code, const CWnd* sender);
@@ -30,6 +34,8 @@ class CPageScroller
     void UpdateScrollBars();
     int UpdateScrollBar(int bar, ov::ScrollAxis& axis, int available);
     bool Request(int bar, ov::ScrollRequest request);
+    bool Request(int bar, ov::ScrollRequest request, int trackPosition);
+    void ShowAlong(int bar, int begin, int end, int visible);
     void ScrollContent(int dx, int dy);
     void ScrollAlong(int bar, int shift);
     ov::ScrollAxis& AxisOf(int bar) { return bar == SB_HORZ ? m_horizontal : m_vertical; }

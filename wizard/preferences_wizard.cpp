@@ -249,7 +249,23 @@ HCURSOR CPreferencesWizard::OnQueryDragIcon()
 BOOL CPreferencesWizard::PreTranslateMessage(MSG* message)
 {
     UpdateFocusItems();
-    return CResizableDlg::PreTranslateMessage(message);
+    const HWND focus = ::GetFocus();
+    const BOOL taken = CResizableDlg::PreTranslateMessage(message);
+    // Not after a click, which would lose the button that it has pressed.
+    const bool isKey = message->message >= WM_KEYFIRST && message->message <= WM_KEYLAST;
+    if (isKey && ::GetFocus() != focus)
+        ScrollToFocus();
+    return taken;
+}
+
+void CPreferencesWizard::ScrollToFocus()
+{
+    if (m_currentPage < 0)
+        return;
+    CWizardPage& page = *m_pages[static_cast<size_t>(m_currentPage)];
+    const HWND focus = ::GetFocus();
+    if (page.GetSafeHwnd() != nullptr && ::IsChild(page, focus))
+        page.ScrollTo(focus);
 }
 
 void CPreferencesWizard::UpdateFocusItems()

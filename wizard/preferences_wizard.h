@@ -78,6 +78,7 @@ class CPreferencesWizard : public CResizableDlg
     CTextFileEx& ConfigFile();
     void UpdateButtons();
     void UpdateFocusItems();
+    void ScrollToFocus();
     void FitIntoWorkArea();
     CRect PlaceholderRect(UINT id) const;
     void PlaceAfter(CWnd& child, UINT placeholderId);

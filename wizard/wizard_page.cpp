@@ -85,6 +85,14 @@ void CWizardPage::MoveToRect(const CRect& rectangle)
         MoveWindow(rectangle, TRUE);
 }
 
+void CWizardPage::ScrollTo(HWND control)
+{
+    CRect rectangle;
+    ::GetWindowRect(control, &rectangle);
+    ScreenToClient(&rectangle);
+    m_scroller.Show(rectangle);
+}
+
 void CWizardPage::SetModified(bool modified)
 {
     if (CPreferencesWizard* wizard = GetParentWizard())

@@ -34,6 +34,9 @@ class CWizardPage : public CResizableDlg
     /// Moves the page, if it has a window, and repaints it.
     virtual void MoveToRect(const CRect& rectangle);
 
+    /// Scrolls the control, which lies on the page, into view.
+    void ScrollTo(HWND control);
+
     /// Tells the dialog that the page was changed (or no longer is).
     virtual void SetModified(bool modified);
 

@@ -135,6 +135,50 @@ TEST(PageScrollRequest, ContentThatFitsStaysAtTheOrigin)
     EXPECT_EQ(axis.position, 0);
 }
 
+TEST(PageScrollShowing, WhatIsInViewStaysWhereItIs)
+{
+    const ScrollAxis axis{200, 1000, 300};
+    EXPECT_EQ(PositionShowing(axis, 300, 320, 200), 300);
+    EXPECT_EQ(PositionShowing(axis, 480, 500, 200), 300);
+    EXPECT_EQ(PositionShowing(axis, 300, 500, 200), 300);
+}
+
+TEST(PageScrollShowing, WhatIsOutOfViewComesInTheShortestWay)
+{
+    const ScrollAxis axis{200, 1000, 300};
+    EXPECT_EQ(PositionShowing(axis, 481, 501, 200), 301);
+    EXPECT_EQ(PositionShowing(axis, 900, 920, 200), 720);
+    EXPECT_EQ(PositionShowing(axis, 299, 319, 200), 299);
+    EXPECT_EQ(PositionShowing(axis, 250, 270, 200), 250);
+}
+
+TEST(PageScrollShowing, WhatTheOriginShowsIsShownThere)
+{
+    const ScrollAxis axis{200, 1000, 300};
+    EXPECT_EQ(PositionShowing(axis, 10, 30, 200), 0);
+    EXPECT_EQ(PositionShowing(axis, 180, 200, 200), 0);
+    EXPECT_EQ(PositionShowing(axis, 181, 201, 200), 181);
+}
+
+TEST(PageScrollShowing, TheOtherBarTakesItsPartOfTheView)
+{
+    // The bars leave 183 of 200 pixels.
+    const ScrollAxis axis{200, 1000, 300};
+    EXPECT_EQ(PositionShowing(axis, 463, 483, 183), 300);
+    EXPECT_EQ(PositionShowing(axis, 464, 484, 183), 301);
+}
+
+TEST(PageScrollShowing, OfWhatIsLongerThanTheViewTheBeginningIsShown)
+{
+    const ScrollAxis atOrigin{200, 1000, 0};
+    EXPECT_EQ(PositionShowing(atOrigin, 10, 300, 200), 0);
+    EXPECT_EQ(PositionShowing(atOrigin, 100, 400, 200), 50);
+    const ScrollAxis axis{200, 1000, 300};
+    EXPECT_EQ(PositionShowing(axis, 310, 600, 200), 300);
+    EXPECT_EQ(PositionShowing(axis, 200, 600, 200), 200);
+    EXPECT_EQ(PositionShowing(axis, 10, 600, 200), 0);
+}
+
 TEST(PageScrollWheel, OneNotchOfThreeLinesIsSixtyPixels)
 {
     ScrollAxis axis{200, 5000, 0};

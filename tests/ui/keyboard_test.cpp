@@ -1,9 +1,7 @@
 // The dialog without a mouse.
 #include "tests/ui/dialog_session.h"
 #include "tests/ui/expected_file.h"
-#include "tests/ui/reading_order.h"
-
-#include <algorithm>
+#include "tests/ui/tab_walk.h"
 
 using namespace uidriver;
 
@@ -26,56 +24,19 @@ class KeyboardTest : public DialogSession
     }
 
     static int IdOf(HWND control) { return GetDlgCtrlID(control); }
-
-    std::vector<int> IdsOf(const std::vector<HWND>& controls)
-    {
-        std::vector<int> ids;
-        std::ranges::transform(controls, std::back_inserter(ids), IdOf);
-        return ids;
-    }
-
-    /// Where the focus is after each of so many presses of Tab.
-    std::vector<HWND> Walk(std::size_t steps, bool backwards)
-    {
-        std::vector<HWND> visited;
-        for (std::size_t step = 0; step < steps; ++step) {
-            if (backwards)
-                EXPECT_TRUE(PressKey(Dialog(), VK_TAB, VK_SHIFT));
-            else
-                PostKey(Dialog(), VK_TAB);
-            visited.push_back(FocusIn(Dialog()));
-        }
-        return visited;
-    }
-
-    /// From the category list once around and back to it, in both directions.
-    void ExpectCycle()
-    {
-        auto expected = TabStopsInReadingOrder(Dialog());
-        const auto list = std::ranges::find(expected, List());
-        ASSERT_NE(expected.end(), list);
-        std::ranges::rotate(expected, list + 1); // the list comes last
-        Focus(List());
-        EXPECT_EQ(IdsOf(expected), IdsOf(Walk(expected.size(), false)));
-        EXPECT_EQ(List(), FocusIn(Dialog()));
-        std::ranges::reverse(expected);
-        std::ranges::rotate(expected, expected.begin() + 1);
-        EXPECT_EQ(IdsOf(expected), IdsOf(Walk(expected.size(), true)));
-        EXPECT_EQ(List(), FocusIn(Dialog()));
-    }
 };
 
 TEST_F(KeyboardTest, TabVisitsEveryControlOnceInReadingOrderWithBranding)
 {
     ASSERT_TRUE(OpenWithPage(L"Branding"));
-    ExpectCycle();
+    ExpectTabCycle(Dialog(), List());
     Abandon();
 }
 
 TEST_F(KeyboardTest, TabVisitsEveryControlOnceInReadingOrderWithConforming)
 {
     ASSERT_TRUE(OpenWithPage(L"Conforming"));
-    ExpectCycle();
+    ExpectTabCycle(Dialog(), List());
     Abandon();
 }
 
@@ -84,7 +45,7 @@ TEST_F(KeyboardTest, TabPassesDisabledButtons)
     ASSERT_TRUE(Open());
     ASSERT_FALSE(CanSave());
     ASSERT_FALSE(CanLoadDefaults());
-    ExpectCycle();
+    ExpectTabCycle(Dialog(), List());
     Cancel();
 }
 

@@ -67,6 +67,18 @@ std::int32_t Scroll(ScrollAxis& axis, ScrollRequest request, std::int32_t trackP
     return step;
 }
 
+std::int32_t PositionShowing(const ScrollAxis& axis, std::int32_t begin, std::int32_t end,
+                             std::int32_t visible)
+{
+    if (end - begin > visible)
+        end = begin + visible - visible / 4;
+    if (begin >= axis.position && end <= axis.position + visible)
+        return axis.position;
+    if (end <= visible)
+        return 0;
+    return begin > axis.position ? end - visible : begin;
+}
+
 std::int32_t ResetAxis(ScrollAxis& axis)
 {
     if (axis.displaySize <= 0 || axis.pageSize <= 0 || axis.position <= 0)

@@ -68,6 +68,13 @@ ScrollUpdate UpdateAxis(ScrollAxis& axis, std::int32_t available, std::int32_t b
 /// where the thumb is being held; only the two thumb requests look at it.
 std::int32_t Scroll(ScrollAxis& axis, ScrollRequest request, std::int32_t trackPosition);
 
+/// Where to scroll so that the content from `begin` to `end` comes into view:
+/// the shortest way, or to the origin where that shows it. Of what is longer
+/// than the view, as much as fills three quarters of it. `visible` is what the
+/// scroll bars leave of the page.
+std::int32_t PositionShowing(const ScrollAxis& axis, std::int32_t begin, std::int32_t end,
+                             std::int32_t visible);
+
 /// Returns a scrolled axis to its origin; the result is by how much the content
 /// moves back, 0 when it need not.
 std::int32_t ResetAxis(ScrollAxis& axis);
