@@ -5,6 +5,7 @@
 #include "pages/core/page_catalogue.h"
 #include "pages/core/page_values.h"
 #include "pages/core/string_table.h"
+#include "tests/pages/expected_controls.h"
 #include "tests/pages/expected_pages.h"
 
 #include <gtest/gtest.h>
@@ -192,6 +193,71 @@ TEST(AllRows, EqualWhatIsExpectedOfTheirSetting)
             EXPECT_EQ(row->commentControlId, setting.commentId);
             EXPECT_EQ(help[setting.commentId], setting.helpId);
             EXPECT_EQ(row->saveRule == ov::SaveRule::Never, setting.meaning == expected::Meaning::LeftAlone);
+        }
+    });
+}
+
+TEST(ExpectedControls, HoldEveryControlOfTheExpectedSettings)
+{
+    ASSERT_EQ(expected::ControlPages().size(), expected::Pages().size());
+    for (std::size_t i = 0; i < expected::Pages().size(); ++i) {
+        const expected::Page& page = expected::Pages()[i];
+        const expected::ControlPage& controls = expected::ControlPages()[i];
+        SCOPED_TRACE(page.title);
+        ASSERT_EQ(controls.pageId, page.pageId);
+        std::map<int, unsigned> help;
+        for (const expected::ControlRow& control : controls.controls) {
+            EXPECT_TRUE(control.id == expected::kAnyId || help.emplace(control.id, control.help).second)
+                << control.id;
+        }
+        for (const expected::Setting& setting : page.settings) {
+            SCOPED_TRACE(setting.variable);
+            EXPECT_TRUE(setting.controlId == 0 || help.contains(setting.controlId));
+            ASSERT_TRUE(help.contains(setting.commentId));
+            EXPECT_TRUE(help[setting.commentId] == setting.helpId ||
+                        help[setting.commentId] == expected::kAnyHelp);
+        }
+    }
+}
+
+TEST(AllRows, GiveEachControlTheHelpThatIsExpectedOrNone)
+{
+    ForEachPage([](const PageRows& page) {
+        auto help = HelpByControl(page);
+        for (const expected::ControlRow& control : expected::ControlsOf(page.pageId).controls) {
+            if (control.id != expected::kAnyId && control.help != expected::kAnyHelp) {
+                EXPECT_EQ(help[control.id], control.help) << control.id;
+            }
+        }
+    });
+}
+
+TEST(AllRows, LayControlsOutWhereThatIsExpected)
+{
+    ForEachPage([](const PageRows& page) {
+        for (const expected::ControlRow& control : expected::ControlsOf(page.pageId).controls) {
+            if (control.layout == 0)
+                continue;
+            const auto row = std::ranges::find(page.layout, control.id, &ov::LayoutRow::controlId);
+            ASSERT_NE(row, page.layout.end()) << control.id;
+            EXPECT_EQ(row->layoutFlags, control.layout) << control.id;
+        }
+    });
+}
+
+TEST(AllRows, FillTheirListsWithWhatIsExpected)
+{
+    ForEachPage([](const PageRows& page) {
+        for (const expected::ControlRow& control : expected::ControlsOf(page.pageId).controls) {
+            if (control.controlClass != expected::ControlClass::List)
+                continue;
+            const auto row = std::ranges::find(page.entries, control.id, &ov::EntriesRow::controlId);
+            ASSERT_NE(row, page.entries.end()) << control.id;
+            std::vector<std::string> entries;
+            for (const unsigned id : row->stringIds)
+                entries.push_back(ov::Utf8FromText(ov::FindString(id)));
+            EXPECT_EQ(entries, std::vector<std::string>(control.entries.begin(), control.entries.end()))
+                << control.id;
         }
     });
 }

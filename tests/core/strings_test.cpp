@@ -3,11 +3,13 @@
 #include "pages/core/page_catalogue.h"
 #include "pages/core/string_table.h"
 #include "resources/page_ids.h"
+#include "tests/pages/expected_texts.h"
 
 #include <gtest/gtest.h>
 
 #include <set>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace
@@ -102,6 +104,25 @@ TEST(Strings, TextsOfThePatternTesterStandWordForWord)
     EXPECT_EQ(String(5128), "Syntax Error in Regex: %d");
     EXPECT_EQ(String(5129), "Match");
     EXPECT_EQ(String(5130), "No Match");
+}
+
+TEST(Strings, FixedTextsStandWordForWord)
+{
+    for (const expected::FixedText& fixed : expected::FixedTexts()) {
+        SCOPED_TRACE(fixed.id);
+        const std::string text = String(fixed.id);
+        switch (fixed.extent) {
+        case expected::Extent::Whole:
+            EXPECT_EQ(text, fixed.text);
+            break;
+        case expected::Extent::Beginning:
+            EXPECT_EQ(text.substr(0, std::string_view(fixed.text).size()), fixed.text);
+            break;
+        case expected::Extent::Part:
+            EXPECT_NE(text.find(fixed.text), std::string::npos) << text;
+            break;
+        }
+    }
 }
 
 TEST(Strings, EveryPageHasATitle)
