@@ -21,7 +21,7 @@ class ConfigSetting : public ProgramTest
                     char16_t fieldSeparator = u'\0', size_t fieldCount = 1)
     {
         if (!dialog)
-            Open(L"", L"");
+            OpenWithoutPages();
         Close();
         editor = std::make_unique<CConfigSettingDlg>(dialog.get(), text, browsing, separator, u'"',
                                                      fieldSeparator, fieldCount);

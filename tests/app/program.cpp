@@ -63,13 +63,29 @@ ProgramTest::~ProgramTest()
 
 void ProgramTest::Open(const std::wstring& defaultPath, const std::wstring& currentPath)
 {
+    MakeDialog(defaultPath, currentPath);
+    ASSERT_TRUE(dialog->CreatePages());
+    ShowDialog();
+}
+
+void ProgramTest::OpenWithoutPages()
+{
+    MakeDialog(L"", L"");
+    ShowDialog();
+}
+
+void ProgramTest::MakeDialog(const std::wstring& defaultPath, const std::wstring& currentPath)
+{
     theCommandLine.m_defaultPath = FromWide(defaultPath);
     theCommandLine.m_currentPath = FromWide(currentPath);
     theCommandLine.m_userName = u"Tester";
     dialog = std::make_unique<CPreferencesWizard>();
     theApp.m_pMainWnd = dialog.get();
     theToolTip.Create(dialog.get(), ToolTipBalloon, 8, nullptr);
-    ASSERT_TRUE(dialog->CreatePages());
+}
+
+void ProgramTest::ShowDialog()
+{
     ASSERT_TRUE(dialog->Create(IDD_PREFERENCES));
     dialog->ShowWindow(SW_SHOW);
 }

@@ -67,6 +67,8 @@ class ProgramTest : public testing::Test
 
     /// Opens the dialog on these paths; empty for none.
     void Open(const std::wstring& defaultPath, const std::wstring& currentPath);
+    /// The dialog as an owner for other windows: the pages are most of its work.
+    void OpenWithoutPages();
 
     /// Writes a file into the test's folder; its full path.
     std::wstring MakeFile(const std::wstring& name, const std::string& bytes);
@@ -85,4 +87,8 @@ class ProgramTest : public testing::Test
     uidriver::TempFolder folder;
     DoorKeeper doors;
     std::unique_ptr<CPreferencesWizard> dialog;
+
+  private:
+    void MakeDialog(const std::wstring& defaultPath, const std::wstring& currentPath);
+    void ShowDialog();
 };

@@ -115,7 +115,7 @@ class RegexTesterTest : public ProgramTest
     void OpenTester(int type = Subsets, const ov::Text& pattern = u"", const ov::Text& testString = u"")
     {
         if (!dialog)
-            Open(L"", L"");
+            OpenWithoutPages();
         Close();
         tester = std::make_unique<RegexTester>(dialog.get(), type, pattern, testString);
         ASSERT_TRUE(tester->Create(IDD_REGEX_TESTER, dialog.get()));
@@ -484,7 +484,7 @@ TEST_F(RegexTesterTest, NothingIsCutOrOverlapsAtTheSmallestSize)
 
 TEST_F(RegexTesterTest, TabVisitsEveryControlOnceInReadingOrder)
 {
-    Open(L"", L"");
+    OpenWithoutPages();
     ScriptedTester modal(dialog.get(), Dos, u"a", u"b");
     for (size_t i = 0; i < std::size(tabStops); ++i)
         modal.NoteFocus().PressKey(VK_TAB);
@@ -500,7 +500,7 @@ TEST_F(RegexTesterTest, TabVisitsEveryControlOnceInReadingOrder)
 
 TEST_F(RegexTesterTest, EnterIsOkEverywhereButOnTheButton)
 {
-    Open(L"", L"");
+    OpenWithoutPages();
     for (const int id : tabStops) {
         ScriptedTester modal(dialog.get(), Dos, u"a*", u"abc");
         std::wstring result;
@@ -516,7 +516,7 @@ TEST_F(RegexTesterTest, EnterIsOkEverywhereButOnTheButton)
 
 TEST_F(RegexTesterTest, ControlEnterBeginsANewLine)
 {
-    Open(L"", L"");
+    OpenWithoutPages();
     for (const int id : {11057, 11063}) {
         ScriptedTester modal(dialog.get(), Dos, u"", u"");
         std::wstring text;
@@ -530,7 +530,7 @@ TEST_F(RegexTesterTest, ControlEnterBeginsANewLine)
 
 TEST_F(RegexTesterTest, EscapeAndTheCloseBoxCancel)
 {
-    Open(L"", L"");
+    OpenWithoutPages();
     for (const int id : tabStops) {
         ScriptedTester modal(dialog.get(), Dos, u"", u"");
         modal.FocusOn(id).PressKey(VK_ESCAPE).Then([] {});
@@ -543,7 +543,7 @@ TEST_F(RegexTesterTest, EscapeAndTheCloseBoxCancel)
 
 TEST_F(RegexTesterTest, AHundredRoundsDoNotGrow)
 {
-    Open(L"", L"");
+    OpenWithoutPages();
     const auto openAndClose = [&](int rounds) {
         for (int round = 0; round < rounds; ++round) {
             ScriptedTester modal(dialog.get(), Perl, u"b+", u"abc");
