@@ -2,6 +2,10 @@
 
 IMPLEMENT_DYNAMIC(CPrefListCtrl, CListCtrl)
 
+BEGIN_MESSAGE_MAP(CPrefListCtrl, CListCtrl)
+    ON_MESSAGE(WM_NCCALCSIZE, &CPrefListCtrl::OnNcCalcSize)
+END_MESSAGE_MAP()
+
 namespace
 {
 int CALLBACK ComparePlaces(LPARAM first, LPARAM second, LPARAM)
@@ -44,4 +48,13 @@ void CPrefListCtrl::ArrangeRows(std::span<const std::size_t> places)
     for (std::size_t row = 0; row < places.size(); ++row)
         SetItemData(static_cast<int>(row), places[row]);
     SortItems(&ComparePlaces, 0);
+}
+
+LRESULT CPrefListCtrl::OnNcCalcSize(WPARAM, LPARAM)
+{
+    // The list gives itself the style whenever its columns are wider than it is.
+    if (const auto style = static_cast<LONG_PTR>(GetStyle());
+        !m_hasHorizontalBar && (style & WS_HSCROLL) != 0)
+        ::SetWindowLongPtrW(m_hWnd, GWL_STYLE, style & ~LONG_PTR{WS_HSCROLL});
+    return Default();
 }

@@ -35,6 +35,15 @@ class CPrefListCtrl : public CListCtrl
     /// their rows. The rows' data is used for it.
     void ArrangeRows(std::span<const std::size_t> places);
 
+    /// For a column whose texts fit beside a vertical bar: then its few pixels
+    /// under that bar are no reason for a horizontal one.
+    void ShowNoHorizontalBar() { m_hasHorizontalBar = false; }
+
+  protected:
+    LRESULT OnNcCalcSize(WPARAM, LPARAM);
+    DECLARE_MESSAGE_MAP()
+
   private:
     bool m_sortAscending = false;
+    bool m_hasHorizontalBar = true;
 };

@@ -20,6 +20,20 @@ int FirstOfGroup(HWND button)
     return button != nullptr ? ::GetDlgCtrlID(button) : 0;
 }
 
+CRect RectOn(HWND page, HWND control)
+{
+    CRect rect;
+    ::GetWindowRect(control, &rect);
+    ::MapWindowPoints(nullptr, page, reinterpret_cast<POINT*>(&rect), 2);
+    return rect;
+}
+
+bool IsFrame(HWND control)
+{
+    return AfxIsOfClass(control, WC_BUTTONW) &&
+           (::GetWindowLongPtrW(control, GWL_STYLE) & BS_TYPEMASK) == BS_GROUPBOX;
+}
+
 /// Whether a control of that kind reports a change by that notification.
 bool IsChange(ov::ControlKind control, int code)
 {
@@ -82,9 +96,63 @@ BOOL CSettingsPage::OnInitDialog()
     FillLists();
     SetUpSpins();
     CWizardPage::OnInitDialog();
+    m_narrowestWidth = NarrowestWidth();
     LoadSettings(TakePendingSelector());
     RegisterTooltips();
     return TRUE;
+}
+
+CRect CSettingsPage::GetClientRectangle() const
+{
+    CRect client = CWizardPage::GetClientRectangle();
+    if (client.Width() < m_narrowestWidth)
+        client.right = std::min<LONG>(m_narrowestWidth, ReachableSize().cx);
+    return client;
+}
+
+/// Whether the control goes with the page's right edge.
+bool CSettingsPage::Follows(HWND control) const
+{
+    return std::ranges::any_of(m_rows.layout, [id = ::GetDlgCtrlID(control)](const ov::LayoutRow& row) {
+        return row.controlId == id &&
+               (row.layoutFlags & (ov::LayoutStretchWidth | ov::LayoutAnchorRight)) != 0;
+    });
+}
+
+/// How narrow a stretched control may become.
+int CSettingsPage::NarrowestWidth(HWND control, const CRect& units) const
+{
+    const CRect rect = RectOn(m_hWnd, control);
+    if (IsFrame(control)) {
+        int width = 0;
+        for (HWND member = ::GetWindow(m_hWnd, GW_CHILD); member != nullptr;
+             member = ::GetWindow(member, GW_HWNDNEXT)) {
+            const CRect inner = RectOn(m_hWnd, member);
+            if (member != control && rect.PtInRect(inner.TopLeft()) && !Follows(member))
+                width = std::max<int>(width, inner.right + units.left - rect.left);
+        }
+        return width;
+    }
+    // The captions of labels and boxes have lines broken for the template's width.
+    const bool hasCaption = AfxIsOfClass(control, WC_STATICW) || AfxIsOfClass(control, WC_BUTTONW);
+    return hasCaption ? rect.Width() : std::min<int>(rect.Width(), units.right);
+}
+
+/// The width of the page at which the first stretched control is as narrow as it may become.
+int CSettingsPage::NarrowestWidth() const
+{
+    // The margin in a frame, and what still shows a word of an edit's text.
+    CRect units(7, 0, 50, 0);
+    ::MapDialogRect(m_hWnd, &units);
+    CRect client;
+    GetClientRect(&client);
+    int spare = client.Width();
+    for (const ov::LayoutRow& row : m_rows.layout) {
+        const HWND control = ::GetDlgItem(m_hWnd, row.controlId);
+        if ((row.layoutFlags & ov::LayoutStretchWidth) != 0 && control != nullptr)
+            spare = std::min(spare, RectOn(m_hWnd, control).Width() - NarrowestWidth(control, units));
+    }
+    return client.Width() - std::max(spare, 0);
 }
 
 void CSettingsPage::FillLists()

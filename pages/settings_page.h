@@ -42,11 +42,18 @@ class CSettingsPage : public CWizardPage
     void Browse(const ov::BrowseRow& row);
     void Browse(int buttonId);
 
+    /// Never so narrow that controls would lie over each other: a page that has
+    /// less room scrolls.
+    CRect GetClientRectangle() const override;
+
     ov::PageValues& Values() { return m_values; }
 
   private:
     void FillLists();
     void SetUpSpins();
+    bool Follows(HWND control) const;
+    int NarrowestWidth(HWND control, const CRect& units) const;
+    int NarrowestWidth() const;
     bool ReportsChange(int id, int code) const;
     bool IsDependedOn(int id) const;
     int GroupOf(int id) const;
@@ -54,4 +61,5 @@ class CSettingsPage : public CWizardPage
 
     const ov::PageRows& m_rows;
     ov::PageValues m_values;
+    int m_narrowestWidth = 0;
 };

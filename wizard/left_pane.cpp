@@ -17,6 +17,7 @@ constexpr int columnMargin = 5;
 IMPLEMENT_DYNAMIC(CLeftPane, CWizardPage)
 
 BEGIN_MESSAGE_MAP(CLeftPane, CWizardPage)
+    ON_WM_SIZE()
     ON_NOTIFY(LVN_ITEMCHANGED, IDC_LEFT_PANE_LIST, &CLeftPane::OnItemChanged)
 END_MESSAGE_MAP()
 
@@ -46,6 +47,7 @@ void CLeftPane::RegisterTooltips()
 BOOL CLeftPane::OnInitDialog()
 {
     CWizardPage::OnInitDialog();
+    m_list.ShowNoHorizontalBar();
     if (m_list.GetColumnCount() == 0) {
         CRect rectangle;
         m_list.GetWindowRect(&rectangle);
@@ -55,6 +57,14 @@ BOOL CLeftPane::OnInitDialog()
     FillList();
     RegisterTooltips();
     return TRUE;
+}
+
+void CLeftPane::OnSize(UINT type, int width, int height)
+{
+    // The list fills the pane at every size and scrolls its rows itself. A bar of
+    // the pane's would cover the list's, and scroll nothing into view.
+    CResizableDlg::OnSize(type, width, height);
+    Invalidate(TRUE);
 }
 
 void CLeftPane::FillList()

@@ -2,8 +2,32 @@
 
 CPageScroller::CPageScroller(CWnd& page, CSize displaySize) : m_page(page)
 {
+    SetDisplaySize(displaySize);
+}
+
+void CPageScroller::SetDisplaySize(CSize displaySize)
+{
     m_horizontal.displaySize = displaySize.cx;
     m_vertical.displaySize = displaySize.cy;
+}
+
+CSize CPageScroller::AvailableSize() const
+{
+    CRect window;
+    CRect client;
+    m_page.GetWindowRect(&window);
+    m_page.GetClientRect(&client);
+    return {ov::AvailableSize(window.Width(), client.Width(), ::GetSystemMetrics(SM_CXVSCROLL)),
+            ov::AvailableSize(window.Height(), client.Height(), ::GetSystemMetrics(SM_CYHSCROLL))};
+}
+
+CSize CPageScroller::ReachableSize() const
+{
+    CRect client;
+    m_page.GetClientRect(&client);
+    const CSize available = AvailableSize();
+    return {ov::ReachableSize(m_horizontal, available.cx, client.Width()),
+            ov::ReachableSize(m_vertical, available.cy, client.Height())};
 }
 
 void CPageScroller::OnSize()
@@ -28,14 +52,9 @@ void CPageScroller::ScrollToOrigin()
 
 void CPageScroller::UpdateScrollBars()
 {
-    CRect window;
-    CRect client;
-    m_page.GetWindowRect(&window);
-    m_page.GetClientRect(&client);
-    const int width = ov::AvailableSize(window.Width(), client.Width(), ::GetSystemMetrics(SM_CXVSCROLL));
-    const int height = ov::AvailableSize(window.Height(), client.Height(), ::GetSystemMetrics(SM_CYHSCROLL));
-    const int dx = UpdateScrollBar(SB_HORZ, m_horizontal, width);
-    const int dy = UpdateScrollBar(SB_VERT, m_vertical, height);
+    const CSize available = AvailableSize();
+    const int dx = UpdateScrollBar(SB_HORZ, m_horizontal, available.cx);
+    const int dy = UpdateScrollBar(SB_VERT, m_vertical, available.cy);
     if (dx != 0 || dy != 0)
         ScrollContent(dx, dy);
 }

@@ -11,6 +11,12 @@ class CPageScroller
     /// `displaySize` is the size of the page's whole content in pixels.
     CPageScroller(CWnd& page, CSize displaySize);
 
+    /// Size of the whole content from the next size of the page on.
+    void SetDisplaySize(CSize displaySize);
+
+    /// The part of the page, from its origin, that can be brought into view.
+    CSize ReachableSize() const;
+
     /// After a new size of the page: back to the origin, bars fitted.
     void OnSize();
 
@@ -31,6 +37,7 @@ class CPageScroller
     BOOL OnMouseWheel(short delta);
 
   private:
+    CSize AvailableSize() const;
     void UpdateScrollBars();
     int UpdateScrollBar(int bar, ov::ScrollAxis& axis, int available);
     bool Request(int bar, ov::ScrollRequest request);

@@ -14,6 +14,9 @@
 namespace
 {
 constexpr int pageColour = COLOR_MENU;
+// Pixels of four horizontal and eight vertical dialog units at 96 dpi, for which
+// the sizes of the pages' contents are given.
+constexpr SIZE usualUnits{6, 13};
 
 ov::KeyTarget TargetOf(const CWnd* window)
 {
@@ -42,11 +45,21 @@ END_MESSAGE_MAP()
 
 CWizardPage::CWizardPage(CPreferencesWizard* owner, UINT pageId, CSize scrollSize, UINT templateId)
     : CResizableDlg(templateId, nullptr, false, ov::DesignWidth, ov::DesignHeight), m_templateId(templateId),
-      m_pageId(pageId), m_owner(owner), m_scroller(*this, scrollSize)
+      m_pageId(pageId), m_owner(owner), m_contentSize(scrollSize), m_scroller(*this, scrollSize)
 {
 }
 
 CWizardPage::~CWizardPage() = default;
+
+BOOL CWizardPage::OnInitDialog()
+{
+    // The template's units grow with the resolution, and the content with them.
+    CRect units(0, 0, 4, 8);
+    ::MapDialogRect(m_hWnd, &units);
+    m_scroller.SetDisplaySize(CSize(ov::SizeInUnits(m_contentSize.cx, units.Width(), usualUnits.cx),
+                                    ov::SizeInUnits(m_contentSize.cy, units.Height(), usualUnits.cy)));
+    return CResizableDlg::OnInitDialog();
+}
 
 BOOL CWizardPage::PreTranslateMessage(MSG* message)
 {

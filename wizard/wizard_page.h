@@ -71,6 +71,11 @@ class CWizardPage : public CResizableDlg
     void SetPendingSelector(int selector) { m_pendingSelector = selector; }
 
   protected:
+    BOOL OnInitDialog() override;
+
+    /// The part of the page, from its origin, that scrolling brings into view.
+    CSize ReachableSize() const { return m_scroller.ReachableSize(); }
+
     /// Back to the origin first: the places that the layout gives are those of
     /// an unscrolled page.
     void LayoutPass() override;
@@ -94,5 +99,6 @@ class CWizardPage : public CResizableDlg
     UINT m_templateId;
     UINT m_pageId;
     CPreferencesWizard* m_owner;
+    CSize m_contentSize;
     CPageScroller m_scroller;
 };

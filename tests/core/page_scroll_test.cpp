@@ -257,4 +257,44 @@ TEST(PageScrollResize, EnlargingWhileScrolledToTheBottomReturnsToTheTop)
     EXPECT_EQ(axis.position, 0);
 }
 
+TEST(PageScrollReach, ContentThatFitsIsReachedAsFarAsThePageGoes)
+{
+    const ScrollAxis axis{0, 290, 0};
+    EXPECT_EQ(ReachableSize(axis, 386, 386), 386);
+    EXPECT_EQ(ReachableSize(axis, 386, 369), 369); // beside the other axis's bar
+}
+
+TEST(PageScrollReach, BarOfTheOtherAxisCoversTheEndOfAScrolledContent)
+{
+    const ScrollAxis axis{386, 440, 0};
+    EXPECT_EQ(ReachableSize(axis, 386, 386), 440);
+    EXPECT_EQ(ReachableSize(axis, 386, 369), 423);
+}
+
+TEST(PageScrollReach, IsAsFarAsTheLastPositionShows)
+{
+    ScrollAxis axis{0, 440, 0};
+    UpdateAxis(axis, 386, 0);
+    Scroll(axis, ScrollRequest::ThumbPosition, 1000);
+    EXPECT_EQ(ReachableSize(axis, 386, 369), axis.position + 369);
+}
+
+TEST(PageScrollUnits, SizesStandAtTheUsualResolution)
+{
+    EXPECT_EQ(SizeInUnits(290, 6, 6), 290);
+    EXPECT_EQ(SizeInUnits(750, 13, 13), 750);
+}
+
+TEST(PageScrollUnits, SizesGrowWithTheUnitsAndAreRoundedUp)
+{
+    EXPECT_EQ(SizeInUnits(290, 12, 6), 580);
+    EXPECT_EQ(SizeInUnits(290, 7, 6), 339);   // 338.3
+    EXPECT_EQ(SizeInUnits(750, 16, 13), 924); // 923.1
+}
+
+TEST(PageScrollUnits, SmallerUnitsLeaveTheSize)
+{
+    EXPECT_EQ(SizeInUnits(290, 5, 6), 290);
+}
+
 } // namespace

@@ -179,4 +179,29 @@ TEST_F(PaneTest, PaneFillsItsPlaceholderAndTheListItsHeight)
     Cancel();
 }
 
+TEST_F(PaneTest, OnlyTheListScrollsAndOnlyDownwards)
+{
+    ASSERT_TRUE(Open());
+    Resize(Dialog(), 580, 400);
+    const auto hasBar = [](HWND window, LONG_PTR bar) {
+        return (GetWindowLongPtrW(window, GWL_STYLE) & bar) != 0;
+    };
+    HWND pane = GetParent(List());
+    EXPECT_FALSE(hasBar(pane, WS_VSCROLL | WS_HSCROLL));
+    EXPECT_TRUE(hasBar(List(), WS_VSCROLL));
+    EXPECT_FALSE(hasBar(List(), WS_HSCROLL));
+    // The longest title ends before the bar.
+    RECT client = {};
+    GetClientRect(List(), &client);
+    int widest = 0;
+    for (const std::wstring& title : BuiltTitles()) {
+        const auto width =
+            SendMessageW(List(), LVM_GETSTRINGWIDTHW, 0, reinterpret_cast<LPARAM>(title.c_str()));
+        widest = std::max(widest, static_cast<int>(width));
+    }
+    constexpr int textMargins = 12;
+    EXPECT_LE(widest + textMargins, client.right);
+    Cancel();
+}
+
 } // namespace

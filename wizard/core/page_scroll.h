@@ -68,6 +68,15 @@ ScrollUpdate UpdateAxis(ScrollAxis& axis, std::int32_t available, std::int32_t b
 /// where the thumb is being held; only the two thumb requests look at it.
 std::int32_t Scroll(ScrollAxis& axis, ScrollRequest request, std::int32_t trackPosition);
 
+/// How much of the content can be brought into view: what is visible, and what
+/// scrolling to the end adds. `available` is as UpdateAxis takes it, `visible` what
+/// the scroll bars leave of that. A bar covers as much at the content's end.
+std::int32_t ReachableSize(const ScrollAxis& axis, std::int32_t available, std::int32_t visible);
+
+/// A size given in pixels for the usual unit of a dialog, on a screen where the
+/// unit is `unit` instead of `usualUnit` pixels. Never less than that size.
+std::int32_t SizeInUnits(std::int32_t size, std::int32_t unit, std::int32_t usualUnit);
+
 /// Where to scroll so that the content from `begin` to `end` comes into view:
 /// the shortest way, or to the origin where that shows it. Of what is longer
 /// than the view, as much as fills three quarters of it. `visible` is what the
