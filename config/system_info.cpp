@@ -1,6 +1,5 @@
 #include "config/system_info.h"
 
-#include <stdexcept>
 #include <vector>
 
 #include "framework/afxwin.h"
@@ -32,9 +31,18 @@ ov::Text GetMachineName()
 
 std::tm GetLocalTimeNow()
 {
-    const std::time_t now = std::time(nullptr);
+    // Not the C library's: it takes the time zone from a variable of the
+    // environment that other programs spell in ways it does not know.
+    SYSTEMTIME now{};
+    ::GetLocalTime(&now);
     std::tm local{};
-    if (now == static_cast<std::time_t>(-1) || localtime_s(&local, &now) != 0)
-        throw std::invalid_argument("The current time cannot be converted to local time.");
+    local.tm_year = now.wYear - 1900;
+    local.tm_mon = now.wMonth - 1;
+    local.tm_mday = now.wDay;
+    local.tm_wday = now.wDayOfWeek;
+    local.tm_hour = now.wHour;
+    local.tm_min = now.wMinute;
+    local.tm_sec = now.wSecond;
+    local.tm_isdst = -1;
     return local;
 }

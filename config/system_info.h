@@ -10,6 +10,6 @@ ov::Text GetLogonUserName();
 /// The computer's name; empty when the system does not tell.
 ov::Text GetMachineName();
 
-/// The local time now. Throws std::invalid_argument when the system's time
-/// cannot be expressed as local time.
+/// The local time now, in the system's time zone. Whether daylight saving is in
+/// force and the day of the year are left open.
 std::tm GetLocalTimeNow();
