@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cstdlib>
 #include <string>
+#include <system_error>
 
 namespace ov
 {
@@ -26,8 +28,9 @@ double LeadingReal(TextView text)
         text.remove_prefix(1);
     const std::string bytes = Utf8FromText(text);
     double value = 0;
-    std::from_chars(bytes.data(), bytes.data() + bytes.size(), value);
-    return value;
+    const std::errc error = std::from_chars(bytes.data(), bytes.data() + bytes.size(), value).ec;
+    // What no double holds leaves the value alone, whether too large or too small.
+    return error == std::errc::result_out_of_range ? std::strtod(bytes.c_str(), nullptr) : value;
 }
 } // namespace
 

@@ -166,11 +166,22 @@ TEST(Encoding, ScaleFactorIsHeldInItsRangeAndLeftAsTypedWithinIt)
     const struct {
         const char16_t* typed;
         const char16_t* result;
-    } cases[] = {
-        {u"", u"1.00000"},           {u"2", u"1.25000"}, {u"1.25", u"1.25"},     {u"1.1", u"1.1"},
-        {u"1.2500001", u"1.25000"},  {u"0.75", u"0.75"}, {u"0.749", u"0.75000"}, {u"-1", u"0.75000"},
-        {u"+1.2", u"+1.2"},          {u" 1.2", u" 1.2"}, {u"one", u"0.75000"},   {u"1e1", u"1.25000"},
-        {u"1.2 or so", u"1.2 or so"}};
+    } cases[] = {{u"", u"1.00000"},
+                 {u"2", u"1.25000"},
+                 {u"1.25", u"1.25"},
+                 {u"1.1", u"1.1"},
+                 {u"1.2500001", u"1.25000"},
+                 {u"0.75", u"0.75"},
+                 {u"0.749", u"0.75000"},
+                 {u"-1", u"0.75000"},
+                 {u"+1.2", u"+1.2"},
+                 {u" 1.2", u" 1.2"},
+                 {u"one", u"0.75000"},
+                 {u"1e1", u"1.25000"},
+                 {u"1.2 or so", u"1.2 or so"},
+                 {u"1e999", u"1.25000"},
+                 {u"-1e999", u"0.75000"},
+                 {u"1e-999", u"0.75000"}};
     for (const auto& item : cases)
         EXPECT_EQ(ov::Utf8FromText(ov::ClampedScaleFactor(item.typed)), ov::Utf8FromText(item.result))
             << ov::Utf8FromText(item.typed);
