@@ -1,7 +1,10 @@
 // The two sample files, read as the program reads them.
 #include "config/core/config_reader.h"
+#include "config/core/setting_comment.h"
+#include "controls/core/tooltip_markup.h"
 #include "pages/core/all_page_rows.h"
 #include "pages/core/page_values.h"
+#include "pages/core/string_table.h"
 #include "tests/pages/expected_pages.h"
 
 #include <gtest/gtest.h>
@@ -9,6 +12,7 @@
 #include <filesystem>
 #include <fstream>
 #include <map>
+#include <regex>
 #include <set>
 #include <sstream>
 #include <string>
@@ -99,6 +103,26 @@ TEST_F(Samples, DefaultsHaveAValueAndACommentForEveryVariable)
         ASSERT_TRUE(record) << name;
         EXPECT_FALSE(record->value.empty()) << name;
         EXPECT_NE(ov::Text(record->comment).find_first_not_of(u"# \n"), ov::Text::npos) << name;
+    }
+}
+
+/// Without the blanks at the ends of its lines, which the samples do not carry.
+std::string WithoutTrailingBlanks(const ov::Text& comment)
+{
+    return std::regex_replace(ov::Utf8FromText(comment), std::regex(" +\n"), "\n");
+}
+
+// The comments are the help texts, in the form in which a new variable gets them.
+TEST_F(Samples, DefaultsExplainEveryVariableByItsHelp)
+{
+    for (const expected::Page& page : expected::Pages()) {
+        for (const expected::Setting& setting : page.settings) {
+            const auto record = store.FindSetting(ov::TextFromUtf8(setting.variable), kDefaultTable);
+            ASSERT_TRUE(record) << setting.variable;
+            const ov::Text block = ov::MakeCommentBlock(ov::Description(ov::FindString(setting.helpId)));
+            EXPECT_EQ(WithoutTrailingBlanks(ov::Text(record->comment)), WithoutTrailingBlanks(block))
+                << setting.variable;
+        }
     }
 }
 
