@@ -11,11 +11,9 @@ BOOL CAbstractFontDlg::OnInitDialog()
     const BOOL result = CDialog::OnInitDialog();
     if (const CFont* font = GetSharedDialogFont()) {
         const auto handle = reinterpret_cast<WPARAM>(font->GetSafeHandle());
-        // As a rule nothing is visible yet.
-        const LPARAM redraw = ::IsWindowVisible(m_hWnd);
         for (HWND child = ::GetWindow(m_hWnd, GW_CHILD); child != nullptr;
              child = ::GetWindow(child, GW_HWNDNEXT))
-            ::SendMessageW(child, WM_SETFONT, handle, redraw);
+            ::SendMessageW(child, WM_SETFONT, handle, TRUE);
     }
     return result;
 }

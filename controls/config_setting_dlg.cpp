@@ -22,6 +22,7 @@ constexpr UINT showSelectionMessage = WM_APP + 1;
 IMPLEMENT_DYNAMIC(CConfigSettingDlg, CResizableDlg)
 
 BEGIN_MESSAGE_MAP(CConfigSettingDlg, CResizableDlg)
+    ON_WM_DESTROY()
     ON_WM_GETMINMAXINFO()
     ON_MESSAGE(showSelectionMessage, &CConfigSettingDlg::OnShowSelection)
     ON_EN_CHANGE(IDC_CONFIG_SETTING_VALUE, &CConfigSettingDlg::OnValueChanged)
@@ -71,6 +72,7 @@ BOOL CConfigSettingDlg::OnInitDialog()
 {
     CResizableDlg::OnInitDialog();
     RegisterTooltips();
+    m_valueEdit.SetLimitText();
     if (m_list.GetColumnCount() == 0)
         CreateColumns();
     // What an earlier window of this dialog posted went with it.
@@ -133,6 +135,17 @@ void CConfigSettingDlg::SetMoveIcon(CButton& button, UINT iconId)
     // A shared icon needs no destroying.
     button.SetIcon(static_cast<HICON>(::LoadImageW(AfxGetResourceHandle(), MAKEINTRESOURCEW(iconId),
                                                    IMAGE_ICON, moveIconSize, moveIconSize, LR_SHARED)));
+}
+
+// The dialog is opened again and again over one tooltip window.
+void CConfigSettingDlg::OnDestroy()
+{
+    if (CToolTipControl* tips = GetToolTipControl()) {
+        for (HWND child = ::GetWindow(m_hWnd, GW_CHILD); child != nullptr;
+             child = ::GetWindow(child, GW_HWNDNEXT))
+            tips->DelTool(CWnd::FromHandle(child));
+    }
+    CResizableDlg::OnDestroy();
 }
 
 void CConfigSettingDlg::OnGetMinMaxInfo(MINMAXINFO* info)
@@ -206,10 +219,10 @@ void CConfigSettingDlg::OnInsert()
 {
     ShowSelection();
     UpdateData(TRUE);
-    const ov::TextView entry = ov::Trim(m_valueText);
-    if (entry.empty())
+    if (ov::Trim(m_valueText).empty())
         return;
-    ShowInsertedRow(m_rows.Insert(m_rows.Count(), entry));
+    // As typed: only reading the fields takes blanks off.
+    ShowInsertedRow(m_rows.Insert(m_rows.Count(), m_valueText));
     ShowValue({});
     UpdateButtons();
 }

@@ -30,6 +30,7 @@ class CConfigSettingDlg : public CResizableDlg
     void InitControlLayout() override;
     void OnOK() override;
 
+    void OnDestroy();
     void OnGetMinMaxInfo(MINMAXINFO* info);
     void OnValueChanged();
     void OnInsert();

@@ -117,6 +117,11 @@ void CToolTipControl::AddTool(const CWnd* control, UINT textId)
     SetEntry(control, AfxLoadString(textId), std::move(icon));
 }
 
+void CToolTipControl::DelTool(const CWnd* control)
+{
+    m_entries.erase(AfxSafeHwnd(control));
+}
+
 void CToolTipControl::SetEntry(const CWnd* control, ov::Text text, ToolTipIcon icon)
 {
     if (AfxSafeHwnd(control) == nullptr)

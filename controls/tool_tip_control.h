@@ -59,6 +59,9 @@ class CToolTipControl : public CWnd
     /// RegisterControl with a text of the string table and the tooltips' icon.
     void AddTool(const CWnd* control, UINT textId);
 
+    /// Forgets the control, for windows that come and go while the tooltip stays.
+    void DelTool(const CWnd* control);
+
     /// The configuration variable that the control edits; empty when the control
     /// has no window, no entry or no such section.
     ov::Text GetVariableName(const CWnd* control) const;

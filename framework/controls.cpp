@@ -10,9 +10,19 @@ HICON CButton::SetIcon(HICON icon)
     return reinterpret_cast<HICON>(SendMessage(BM_SETIMAGE, IMAGE_ICON, reinterpret_cast<LPARAM>(icon)));
 }
 
+void CEdit::SetLimitText(UINT count)
+{
+    SendMessage(EM_SETLIMITTEXT, count);
+}
+
 BOOL CScrollBar::Create(DWORD style, const RECT& rectangle, CWnd* parent, UINT id)
 {
     return CWnd::Create(L"SCROLLBAR", nullptr, style, rectangle, parent, id);
+}
+
+void CSpinButtonCtrl::SetRange(short lower, short upper)
+{
+    SendMessage(UDM_SETRANGE, 0, MAKELPARAM(upper, lower));
 }
 
 void CSpinButtonCtrl::SetRange32(int lower, int upper)

@@ -60,9 +60,8 @@ void RegexTester::InitControlLayout()
 BOOL RegexTester::OnInitDialog()
 {
     CResizableDlg::OnInitDialog();
-    // An edit on its own account takes some 30,000 characters from a person.
-    m_templateEdit.SendMessage(EM_SETLIMITTEXT);
-    m_testStringEdit.SendMessage(EM_SETLIMITTEXT);
+    m_templateEdit.SetLimitText();
+    m_testStringEdit.SetLimitText();
     FillTypes();
     UpdateData(FALSE);
     OnTextChanged();

@@ -80,6 +80,7 @@ bool CPageScanPeriod::LoadSettings(int selector)
         CSettingsPage::LoadSettings(selector);
         ShowToday();
     } catch (const ov::ImpossibleDate& error) {
+        ShowToday();
         UpdateData(FALSE);
         RefreshControls();
         SetModified(true);

@@ -95,6 +95,7 @@ BOOL CSettingsPage::OnInitDialog()
 {
     FillLists();
     SetUpSpins();
+    LiftTextLimits();
     CWizardPage::OnInitDialog();
     m_narrowestWidth = NarrowestWidth();
     LoadSettings(TakePendingSelector());
@@ -172,13 +173,25 @@ void CSettingsPage::SetUpSpins()
         CSpinButtonCtrl spin;
         spin.Attach(GetDlgItem(row.controlId)->m_hWnd);
         spin.SetBuddy(GetDlgItem(row.buddyId));
-        spin.SetRange32(row.lowest, row.highest);
+        if (row.lowest >= UD_MINVAL && row.highest <= UD_MAXVAL)
+            spin.SetRange(static_cast<short>(row.lowest), static_cast<short>(row.highest));
+        else
+            spin.SetRange32(row.lowest, row.highest);
         std::vector<UDACCEL> steps;
         for (const ov::SpinStep& step : row.steps)
             steps.push_back({step.seconds, step.increment});
         if (!steps.empty())
             spin.SetAccel(static_cast<int>(steps.size()), steps.data());
         spin.Detach();
+    }
+}
+
+// A list in one line may be longer than an edit takes on its own account.
+void CSettingsPage::LiftTextLimits()
+{
+    for (const ov::SettingRow& row : m_rows.settings) {
+        if (row.control == ov::ControlKind::Edit)
+            GetDlgItem(row.controlId)->SendMessage(EM_SETLIMITTEXT);
     }
 }
 

@@ -51,6 +51,7 @@ class CSettingsPage : public CWizardPage
   private:
     void FillLists();
     void SetUpSpins();
+    void LiftTextLimits();
     bool Follows(HWND control) const;
     int NarrowestWidth(HWND control, const CRect& units) const;
     int NarrowestWidth() const;

@@ -531,6 +531,24 @@ TEST_F(ConfigSetting, ManySelectedRowsAreShownOnce)
     static_cast<CEdit*>(bound)->SubclassWindow(edit);
 }
 
+TEST_F(ConfigSetting, ValueOf64KilobytesIsTakenAndTypedOn)
+{
+    OpenEditor(u"a");
+    const std::wstring value(64 * 1024, L'v');
+    TypeValue(value.c_str());
+    EXPECT_EQ(Value(), value);
+    ::SendMessageW(Item(IDC_CONFIG_SETTING_VALUE), WM_CHAR, L'w', 1);
+    EXPECT_EQ(Value(), value + L'w');
+}
+
+TEST_F(ConfigSetting, InsertComparesTheValueAsTyped)
+{
+    OpenEditor(u"a;b;c");
+    Insert(L" b");
+    EXPECT_EQ(Shown(), (Rows{{L"a"}, {L"b"}, {L"c"}, {L"b"}}));
+    EXPECT_EQ(Accept(), u"a;b;c;b");
+}
+
 TEST_F(ConfigSetting, InsertTakesTheValueOfTheRowSelectedLast)
 {
     OpenEditor(u"a;b;c");

@@ -102,6 +102,16 @@ TEST_F(Controls, SpinMovesItsBuddysNumber)
     EXPECT_EQ(5u, read.nInc);
 }
 
+TEST_F(Controls, SpinTakesItsRangeOf16Bits)
+{
+    CSpinButtonCtrl spin;
+    ASSERT_TRUE(spin.Create(UPDOWN_CLASSW, L"", 0, CRect(50, 0, 60, 20), &m_parent, 2));
+    spin.SetRange(-1, 99);
+    const auto range = static_cast<DWORD>(spin.SendMessage(UDM_GETRANGE));
+    EXPECT_EQ(99, static_cast<short>(LOWORD(range)));
+    EXPECT_EQ(-1, static_cast<short>(HIWORD(range)));
+}
+
 TEST_F(Controls, ButtonShowsAnIcon)
 {
     CButton button;

@@ -1,5 +1,6 @@
 // What every page does: scrolling, the wheel, edits that hold no value.
 #include "tests/ui/dialog_session.h"
+#include "tests/ui/expected_file.h"
 
 #include <algorithm>
 #include <set>
@@ -25,6 +26,9 @@ class WheelLines
   private:
     UINT m_before = 3;
 };
+
+/// So long that an edit on its own account would take no more of it.
+constexpr std::size_t longText = 64 * 1024;
 
 class PageBaseTest : public DialogSession
 {
@@ -300,6 +304,21 @@ TEST_F(PageBaseTest, ScrolledPageKeepsItsEdits)
     Wheel(10);
     EXPECT_EQ(L"Scratch", PageText(IDC_CONFORMING_IGNORED_LEVELS));
     Abandon();
+}
+
+TEST_F(PageBaseTest, LongTextIsShownTypedOnAndSaved)
+{
+    UseCurrent("_ORTHOVAL_CHECK_IGNORED_LEVELS = " + std::string(longText, 'a') + "\r\n");
+    ASSERT_TRUE(Open());
+    ASSERT_TRUE(ShowPage(L"Conforming"));
+    const HWND edit = PageControl(IDC_CONFORMING_IGNORED_LEVELS);
+    EXPECT_EQ(std::wstring(longText, L'a'), GetText(edit));
+    Send(edit, EM_SETSEL, longText, longText);
+    Send(edit, WM_CHAR, L'b', 1);
+    EXPECT_EQ(std::wstring(longText, L'a') + L'b', GetText(edit));
+    Save();
+    EXPECT_EQ("_ORTHOVAL_CHECK_IGNORED_LEVELS = \"" + std::string(longText, 'a') + "b\"",
+              AssignmentOf(CurrentBytes(), "_ORTHOVAL_CHECK_IGNORED_LEVELS"));
 }
 
 } // namespace
