@@ -1,0 +1,148 @@
+// What the dialog answers to messages that no visible control sends.
+#include "resources/ids.h"
+#include "tests/app/program.h"
+#include "tests/support/process.h"
+#include "tests/support/window_search.h"
+#include "wizard/messages.h"
+
+namespace
+{
+constexpr int conformingPage = 6;
+constexpr char simpleFile[] = "#\n\n_ORTHOVAL_CHECK_CELLS = 1\n";
+
+/// Counts the pages of a dialog that come into view.
+class ShownPages
+{
+  public:
+    explicit ShownPages(HWND dialog) : m_dialog(dialog)
+    {
+        s_counter = this;
+        m_hook = ::SetWindowsHookExW(WH_CALLWNDPROC, &OnMessage, nullptr, ::GetCurrentThreadId());
+    }
+    ~ShownPages() { ::UnhookWindowsHookEx(m_hook); }
+    ShownPages(const ShownPages&) = delete;
+    ShownPages& operator=(const ShownPages&) = delete;
+
+    int count = 0;
+
+  private:
+    static LRESULT CALLBACK OnMessage(int code, WPARAM wParam, LPARAM lParam)
+    {
+        const auto& message = *reinterpret_cast<const CWPSTRUCT*>(lParam);
+        if (code >= 0 && message.message == WM_SHOWWINDOW && message.wParam != 0 &&
+            ::GetParent(message.hwnd) == s_counter->m_dialog &&
+            dynamic_cast<CWizardPage*>(CWnd::FromHandlePermanent(message.hwnd)) != nullptr)
+            ++s_counter->count;
+        return ::CallNextHookEx(nullptr, code, wParam, lParam);
+    }
+
+    static inline ShownPages* s_counter = nullptr;
+    HWND m_dialog;
+    HHOOK m_hook;
+};
+
+/// Handles what has been posted to the thread, as the modal loop does.
+void Pump(HWND top)
+{
+    MSG message{};
+    while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+        if (!CWnd::WalkPreTranslateTree(top, &message)) {
+            ::TranslateMessage(&message);
+            ::DispatchMessageW(&message);
+        }
+    }
+}
+} // namespace
+
+using Wizard = ProgramTest;
+
+TEST_F(Wizard, APageReportsItselfModifiedOrNot)
+{
+    Open(L"", MakeFile(L"office.cfg", simpleFile));
+    ASSERT_FALSE(IsEnabled(IDC_PREFERENCES_SAVE));
+    const auto page = reinterpret_cast<WPARAM>(Page().m_hWnd);
+    EXPECT_EQ(WM_PAGE_MODIFIED, 0x5F4u);
+    EXPECT_EQ(dialog->SendMessage(WM_PAGE_MODIFIED, page, 1), 1);
+    EXPECT_TRUE(IsEnabled(IDC_PREFERENCES_SAVE));
+    EXPECT_EQ(dialog->SendMessage(WM_PAGE_MODIFIED, page, 0), 1);
+    EXPECT_FALSE(IsEnabled(IDC_PREFERENCES_SAVE));
+    EXPECT_EQ(dialog->SendMessage(WM_PAGE_MODIFIED, page, 2), 1);
+    EXPECT_TRUE(IsEnabled(IDC_PREFERENCES_SAVE));
+}
+
+TEST_F(Wizard, TheDialogIsDraggedUnderItsIcon)
+{
+    Open(L"", L"");
+    const LRESULT icon = dialog->SendMessage(WM_QUERYDRAGICON);
+    EXPECT_NE(icon, 0);
+    EXPECT_EQ(dialog->SendMessage(WM_GETICON, ICON_BIG), icon);
+    EXPECT_EQ(dialog->SendMessage(WM_GETICON, ICON_SMALL), icon);
+}
+
+TEST_F(Wizard, OpeningNotFromDiskWritesTheFile)
+{
+    const std::wstring path = MakeFile(L"office.cfg", simpleFile);
+    Open(L"", path);
+    dialog->Store().SetSetting(u"_ORTHOVAL_CHECK_CELLS", u"0", 4, u"", 0);
+    dialog->SendMessage(WM_PAGE_MODIFIED, 0, 1);
+    EXPECT_TRUE(dialog->OpenConfigFile(false));
+    EXPECT_NE(uidriver::ReadBytes(path).value_or("").find("_ORTHOVAL_CHECK_CELLS = 0\r\n"),
+              std::string::npos);
+    EXPECT_FALSE(IsEnabled(IDC_PREFERENCES_SAVE));
+}
+
+TEST_F(Wizard, EachNewlySelectedRowSwitchesPagesOnce)
+{
+    Open(L"", L"");
+    const HWND list = uidriver::FindControl(dialog->m_hWnd, IDC_LEFT_PANE_LIST);
+    ::SetFocus(list);
+    const ShownPages shown(dialog->m_hWnd);
+    HWND before = Page().m_hWnd;
+    // The first press lets the keyboard take up the row that is selected already.
+    ::PostMessageW(list, WM_KEYDOWN, VK_HOME, 1);
+    Pump(dialog->m_hWnd);
+    EXPECT_EQ(shown.count, 0);
+    EXPECT_EQ(Page().m_hWnd, before);
+    for (int press = 1; press <= 3; ++press) {
+        ::PostMessageW(list, WM_KEYDOWN, VK_DOWN, 1);
+        Pump(dialog->m_hWnd);
+        EXPECT_EQ(shown.count, press);
+        EXPECT_NE(Page().m_hWnd, before);
+        before = Page().m_hWnd;
+    }
+    ::PostMessageW(list, WM_KEYDOWN, VK_END, 1);
+    Pump(dialog->m_hWnd);
+    EXPECT_EQ(shown.count, 4);
+    ::PostMessageW(list, WM_KEYDOWN, VK_END, 1);
+    Pump(dialog->m_hWnd);
+    EXPECT_EQ(shown.count, 4);
+}
+
+TEST_F(Wizard, EnterBreaksTheLineInAMultiLineEditOfAPage)
+{
+    Open(L"", L"");
+    dialog->SelectPage(conformingPage);
+    CEdit edit;
+    ASSERT_TRUE(edit.Create(L"EDIT", L"ab", WS_CHILD | WS_VISIBLE | WS_TABSTOP | ES_MULTILINE | ES_WANTRETURN,
+                            CRect(0, 0, 100, 60), &Page(), 4999));
+    ::SetFocus(edit.m_hWnd);
+    edit.SendMessage(EM_SETSEL, 1, 1);
+    ::PostMessageW(edit.m_hWnd, WM_KEYDOWN, VK_RETURN, 1);
+    Pump(dialog->m_hWnd);
+    EXPECT_EQ(edit.GetWindowText(), u"a\r\nb");
+    EXPECT_TRUE(dialog->IsWindowVisible());
+    edit.DestroyWindow();
+}
+
+TEST_F(Wizard, APageWithoutAWindowLoadsTheDefaultsWhenItGetsOne)
+{
+    Open(MakeFile(L"defaults.cfg", "#\n\n_ORTHOVAL_CHECK_CELLS = 1\n"),
+         MakeFile(L"office.cfg", "#\n\n_ORTHOVAL_CHECK_CELLS = 0\n"));
+    dialog->SelectPage(conformingPage);
+    CWizardPage& page = Page();
+    EXPECT_EQ(::SendMessageW(Control(IDC_CONFORMING_CHECK_CELLS), BM_GETCHECK, 0, 0), BST_UNCHECKED);
+    page.DestroyWindow();
+    dialog->LoadAllPages(1);
+    ASSERT_TRUE(page.CreateOrShow(dialog.get(), CRect(0, 0, 300, 300)));
+    EXPECT_EQ(::SendMessageW(Control(IDC_CONFORMING_CHECK_CELLS), BM_GETCHECK, 0, 0), BST_CHECKED);
+}
