@@ -17,7 +17,6 @@ constexpr int columnMargin = 5;
 IMPLEMENT_DYNAMIC(CLeftPane, CWizardPage)
 
 BEGIN_MESSAGE_MAP(CLeftPane, CWizardPage)
-    ON_WM_SIZE()
     ON_NOTIFY(LVN_ITEMCHANGED, IDC_LEFT_PANE_LIST, &CLeftPane::OnItemChanged)
 END_MESSAGE_MAP()
 
@@ -57,14 +56,6 @@ BOOL CLeftPane::OnInitDialog()
     FillList();
     RegisterTooltips();
     return TRUE;
-}
-
-void CLeftPane::OnSize(UINT type, int width, int height)
-{
-    // The list fills the pane at every size and scrolls its rows itself. A bar of
-    // the pane's would cover the list's, and scroll nothing into view.
-    CResizableDlg::OnSize(type, width, height);
-    Invalidate(TRUE);
 }
 
 void CLeftPane::FillList()

@@ -23,7 +23,6 @@ class CLeftPane : public CWizardPage
     void InitControlLayout() override;
     virtual void RegisterTooltips();
 
-    void OnSize(UINT type, int width, int height);
     void OnItemChanged(NMHDR* header, LRESULT* result);
     DECLARE_MESSAGE_MAP()
 

@@ -179,20 +179,23 @@ TEST_F(PaneTest, PaneFillsItsPlaceholderAndTheListItsHeight)
     Cancel();
 }
 
-TEST_F(PaneTest, OnlyTheListScrollsAndOnlyDownwards)
+// Lower than its content the pane has a bar as every page has, over the list's.
+TEST_F(PaneTest, PaneScrollsLikeAPageWhereTheDialogIsLow)
 {
     ASSERT_TRUE(Open());
-    Resize(Dialog(), 580, 400);
     const auto hasBar = [](HWND window, LONG_PTR bar) {
         return (GetWindowLongPtrW(window, GWL_STYLE) & bar) != 0;
     };
     HWND pane = GetParent(List());
     EXPECT_FALSE(hasBar(pane, WS_VSCROLL | WS_HSCROLL));
-    EXPECT_TRUE(hasBar(List(), WS_VSCROLL));
+    EXPECT_FALSE(hasBar(List(), WS_HSCROLL));
+    Resize(Dialog(), 580, 400);
+    EXPECT_TRUE(hasBar(pane, WS_VSCROLL));
+    EXPECT_FALSE(hasBar(pane, WS_HSCROLL));
     EXPECT_FALSE(hasBar(List(), WS_HSCROLL));
     // The longest title ends before the bar.
     RECT client = {};
-    GetClientRect(List(), &client);
+    GetClientRect(pane, &client);
     int widest = 0;
     for (const std::wstring& title : BuiltTitles()) {
         const auto width =
