@@ -28,12 +28,12 @@ constexpr CompanionRow companions[] = {
     {ControlKind::CheckBox, IDC_SCAN_PERIOD_FIXED, 1},
     {ControlKind::DropDownList, IDC_SCAN_PERIOD_SEGMENT_1, 1},
     {ControlKind::DropDownList, IDC_SCAN_PERIOD_MODE_1, 0},
-    {ControlKind::DatePicker, IDC_SCAN_PERIOD_DATE_1, 0, u"1970-01-01"},
+    {ControlKind::DatePicker, IDC_SCAN_PERIOD_DATE_1},
     {ControlKind::CheckBox, IDC_SCAN_PERIOD_SECOND, 0},
     {ControlKind::DropDownList, IDC_SCAN_PERIOD_OPERATOR, 2},
     {ControlKind::DropDownList, IDC_SCAN_PERIOD_SEGMENT_2, 0},
     {ControlKind::DropDownList, IDC_SCAN_PERIOD_MODE_2, 0},
-    {ControlKind::DatePicker, IDC_SCAN_PERIOD_DATE_2, 0, u"1970-01-01"},
+    {ControlKind::DatePicker, IDC_SCAN_PERIOD_DATE_2},
     {ControlKind::DropDownList, IDC_SCAN_PERIOD_OR_SELECTOR, 0},
 };
 
@@ -122,11 +122,23 @@ bool CanShow(const ScanPeriod& period)
     return CanShow(period.dateOne) && CanShow(period.dateTwo);
 }
 
+ScanDate LocalDay(std::time_t time, const ScanDate& otherwise)
+{
+    const std::tm* day = std::localtime(&time);
+    return day != nullptr ? ScanDate{day->tm_mday, day->tm_mon + 1, day->tm_year + 1900} : otherwise;
+}
+
 ScanDate Today()
 {
-    const std::time_t now = std::time(nullptr);
-    const std::tm* day = std::localtime(&now);
-    return day != nullptr ? ScanDate{day->tm_mday, day->tm_mon + 1, day->tm_year + 1900} : kSecondDate;
+    return LocalDay(std::time(nullptr), kSecondDate);
+}
+
+// Before anything was loaded, the beginning of time: the first day of 1970, or
+// the day before where clocks are behind Greenwich.
+ScanDate ShownDate(PageValues& values, int picker)
+{
+    const Text& day = values.CompanionTextOf(picker);
+    return day.empty() ? LocalDay(0, {1, 1, 1970}) : DateOfPicker(day);
 }
 
 ScanPeriod Shown(PageValues& values)
@@ -135,12 +147,12 @@ ScanPeriod Shown(PageValues& values)
     period.dateOneActive = values.CompanionNumberOf(IDC_SCAN_PERIOD_FIXED) != 0;
     period.segmentOne = values.CompanionNumberOf(IDC_SCAN_PERIOD_SEGMENT_1);
     period.modeOne = values.CompanionNumberOf(IDC_SCAN_PERIOD_MODE_1);
-    period.dateOne = DateOfPicker(values.CompanionTextOf(IDC_SCAN_PERIOD_DATE_1));
+    period.dateOne = ShownDate(values, IDC_SCAN_PERIOD_DATE_1);
     period.dateTwoActive = values.CompanionNumberOf(IDC_SCAN_PERIOD_SECOND) != 0;
     period.operation = values.CompanionNumberOf(IDC_SCAN_PERIOD_OPERATOR);
     period.segmentTwo = values.CompanionNumberOf(IDC_SCAN_PERIOD_SEGMENT_2);
     period.modeTwo = values.CompanionNumberOf(IDC_SCAN_PERIOD_MODE_2);
-    period.dateTwo = DateOfPicker(values.CompanionTextOf(IDC_SCAN_PERIOD_DATE_2));
+    period.dateTwo = ShownDate(values, IDC_SCAN_PERIOD_DATE_2);
     period.orSelector = values.CompanionNumberOf(IDC_SCAN_PERIOD_OR_SELECTOR);
     return period;
 }

@@ -145,6 +145,32 @@ TEST_F(ScanPeriodPage, UnseenPageLeavesWhatIsThere)
     EXPECT_EQ(Stored(kAllowUser), "yes");
 }
 
+TEST_F(ScanPeriodPage, UnseenPageAddsTheFixedPeriodThatItStartsWith)
+{
+    // Both dates start at the beginning of time, which is the day before where
+    // clocks are behind Greenwich.
+    for (const auto& [zone, day] :
+         {std::pair{"UTC0", "1, 1, 1970"}, {"AAA-9", "1, 1, 1970"}, {"BBB5", "31, 12, 1969"}}) {
+        const Zone inZone(zone);
+        ov::SettingStore empty;
+        ov::PageValues unseen{ov::ScanPeriodRows()};
+        unseen.Save(empty, false, [](int) { return ov::Text(); });
+        EXPECT_EQ(ov::Utf8FromText(empty.GetSettingValue(kAllowUser, kCurrentTable)), "1");
+        EXPECT_EQ(ov::Utf8FromText(empty.GetSettingValue(kSettings, kCurrentTable)),
+                  std::string("1, 1, 0, ") + day + ", 0, 2, 0, 0, " + day + ", 0")
+            << zone;
+        EXPECT_FALSE(empty.HasSetting(kOlder, kCurrentTable));
+    }
+}
+
+TEST_F(ScanPeriodPage, UnseenPageAddsOnlyWhatIsAbsent)
+{
+    Put(kSettings, u"1, 0");
+    Save(false);
+    EXPECT_EQ(Stored(kAllowUser), "1");
+    EXPECT_EQ(Stored(kSettings), "1, 0");
+}
+
 TEST_F(ScanPeriodPage, AllFourteenNumbersComeBackIdentically)
 {
     EXPECT_EQ(SavedPeriod(u"1, 1, 1, 1, 8, 2007, 0, 2, 1, 3, 6, 5, 2016, 0"),

@@ -15,6 +15,8 @@
 #include <ctime>
 #include <map>
 #include <set>
+#include <utility>
+#include <vector>
 
 namespace
 {
@@ -260,6 +262,57 @@ TEST(AllRows, FillTheirListsWithWhatIsExpected)
                 << control.id;
         }
     });
+}
+
+TEST(AllRows, OpenBehindEachButtonWhatIsExpected)
+{
+    std::size_t buttons = 0;
+    ForEachPage([&](const PageRows& page) {
+        buttons += page.browses.size();
+        for (const expected::BrowseButton& button : expected::BrowseButtons()) {
+            if (button.pageId != page.pageId)
+                continue;
+            SCOPED_TRACE(button.id);
+            const auto row = std::ranges::find(page.browses, button.id, &ov::BrowseRow::buttonId);
+            ASSERT_NE(row, page.browses.end());
+            EXPECT_EQ(ov::Utf8FromText(row->variable), button.variable);
+            EXPECT_EQ(row->kind, button.opens == expected::Opens::File     ? ov::BrowseKind::File
+                                 : button.opens == expected::Opens::Folder ? ov::BrowseKind::Folder
+                                                                           : ov::BrowseKind::List);
+            if (button.opens != expected::Opens::List)
+                continue;
+            EXPECT_EQ(row->browsing, button.browsing);
+            EXPECT_EQ(row->separator, static_cast<char16_t>(button.separator));
+            EXPECT_EQ(row->fieldSeparator, static_cast<char16_t>(button.fieldSeparator));
+            EXPECT_EQ(row->fieldCount, button.fields);
+            EXPECT_EQ(row->focusOnRefusal, button.focus);
+        }
+    });
+    EXPECT_EQ(buttons, expected::BrowseButtons().size());
+}
+
+TEST(AllRows, SetUpEachUpDownControlAsExpected)
+{
+    std::size_t controls = 0;
+    ForEachPage([&](const PageRows& page) {
+        controls += page.spins.size();
+        for (const expected::UpDownRow& wanted : expected::UpDowns()) {
+            if (wanted.pageId != page.pageId)
+                continue;
+            SCOPED_TRACE(wanted.id);
+            const auto row = std::ranges::find(page.spins, wanted.id, &ov::SpinRow::controlId);
+            ASSERT_NE(row, page.spins.end());
+            EXPECT_EQ(row->buddyId, wanted.edit);
+            EXPECT_EQ(row->lowest, wanted.lowest);
+            EXPECT_EQ(row->highest, wanted.highest);
+            std::vector<std::pair<unsigned, unsigned>> steps;
+            for (const ov::SpinStep& step : row->steps)
+                steps.emplace_back(step.seconds, step.increment);
+            const std::vector<std::pair<unsigned, unsigned>> faster = {{0, 1}, {3, 5}, {6, 10}};
+            EXPECT_EQ(steps, wanted.accelerates ? faster : decltype(faster){});
+        }
+    });
+    EXPECT_EQ(controls, expected::UpDowns().size());
 }
 
 TEST(AllRows, NameEachVariableOnce)

@@ -526,7 +526,101 @@ std::vector<ControlPage> MakePages()
 }
 // clang-format on
 
+BrowseButton File(int page, int id, const char* variable)
+{
+    return {page, id, variable, Opens::File};
+}
+BrowseButton Folder(int page, int id, const char* variable)
+{
+    return {page, id, variable, Opens::Folder};
+}
+BrowseButton List(int page, int id, const char* variable, char separator, int focus)
+{
+    return {page, id, variable, Opens::List, 0, separator, '\0', 1, focus};
+}
+/// A list of files.
+BrowseButton Files(int page, int id, const char* variable, int focus = kStays)
+{
+    return {page, id, variable, Opens::List, 1, ';', '\0', 1, focus};
+}
+
+// clang-format off
+std::vector<BrowseButton> MakeBrowseButtons()
+{
+    return {
+        {2, 11002, "_ORTHOVAL_BRANDING_RENAME_TABLES", Opens::List, 0, ';', ':', 2, 11001},
+        List(4, 3326, "_ORTHOVAL_CERTIFY_PREWATERMARK_KEYIN", ';', kStays),
+        List(4, 3332, "_ORTHOVAL_CERTIFY_POSTWATERMARK_KEYIN", ';', 3330),
+        Files(5, 9329, "_ORTHOVAL_COLOURTABLES"),
+        List(6, 11016, "_ORTHOVAL_CHECK_IGNORED_LEVELS", ',', kRemoved),
+        {7, 11049, "_ORTHOVAL_REPORT_CUSTOM_COMMANDS", Opens::List, 0, ';', ',', 4, kStays},
+        Files(7, 11054, "_ORTHOVAL_REPORT_CUSTOM_MVBA"),
+        List(9, 2207, "_ORTHOVAL_DRAWINGSCALE_VALUES", ',', 2201),
+        List(9, 2214, "_ORTHOVAL_DRAWINGSCALE_COMMAND", ';', 2211),
+        List(10, 9388, "_ORTHOVAL_ALLOWED_TABLE_NAMES", ',', kStays),
+        List(10, 9395, "_ORTHOVAL_DISALLOWED_TABLE_NAMES", ',', kStays),
+        List(15, 2905, "_ORTHOVAL_CONVENTION_FILENAME", ';', 2901),
+        List(15, 2911, "_ORTHOVAL_CONVENTION_FILENAME_DESCR", ';', 2903),
+        File(15, 2907, "_ORTHOVAL_CONVENTION_FILENAME_HELP_FILE"),
+        // Not its own edit, as on the page of models.
+        List(15, 2912, "_ORTHOVAL_CONVENTION_FILENAME_HELP_STRING", ';', 2903),
+        Folder(11, 2402, "_ORTHOVAL_DICT_DIR"),
+        Folder(11, 2405, "_ORTHOVAL_DOCS_DIR"),
+        Folder(11, 2408, "_ORTHOVAL_FILEDSN_DIR"),
+        Folder(11, 2433, "_ORTHOVAL_REPORT_FILEDSN_DIR"),
+        Folder(11, 2436, "_ORTHOVAL_REPORT_TEMPLATE_JET_DSN_XLS"),
+        Folder(11, 2442, "_ORTHOVAL_REPORT_TEMPLATE_ACE_DSN_XLS"),
+        File(11, 2411, "_ORTHOVAL_README_FILE"),
+        Folder(11, 2414, "_ORTHOVAL_SCRIPTS"),
+        File(11, 2419, "_ORTHOVAL_USERS_FILE"),
+        Folder(11, 2439, "_ORTHOVAL_REPORT_DISCIPLINES_DIR"),
+        Folder(11, 2427, "_ORTHOVAL_HTMLEXPORT_OUTDIR"),
+        File(11, 2430, "_ORTHOVAL_HTMLEXPORT_EXEFILE"),
+        List(12, 2713, "_ORTHOVAL_BILINGUAL_TEXT_KEYIN_1", ';', 2704),
+        List(12, 2714, "_ORTHOVAL_BILINGUAL_TEXT_KEYIN_2", ';', 2706),
+        List(12, 2715, "_ORTHOVAL_BILINGUAL_TEXT_INITIAL_KEYIN", ';', 2711),
+        File(12, 2710, "_ORTHOVAL_BILINGUAL_TEXT_TEMPLATE_FILE"),
+        List(17, 2904, "_ORTHOVAL_CONVENTION_MODELNAME", ';', 2903),
+        List(17, 2910, "_ORTHOVAL_CONVENTION_MODELNAME_DESCR", ';', 2909),
+        File(17, 9346, "_ORTHOVAL_CONVENTION_MODELNAME_HELP_FILE"),
+        List(17, 2912, "_ORTHOVAL_CONVENTION_MODELNAME_HELP_STRING", ';', 9349),
+        {18, 3005, "_ORTHOVAL_BORDERSHEETS", Opens::List, 1, ';', ',', 2, 3002},
+        List(18, 3007, "_ORTHOVAL_PLACE_BORDER_KEYIN", ';', 3006),
+        List(18, 3011, "_ORTHOVAL_BORDERSHEETS_PLOT_SHAPE", ';', 3010),
+        Files(19, 11017, "_ORTHOVAL_REPORT_IGNORED_REFFILES", kRemoved),
+        Files(21, 9500, "_ORTHOVAL_SIGNATURECELL_CELLLIBS"),
+        List(21, 9498, "_ORTHOVAL_SIGNATURECELL_CELLS", ';', 9497),
+        Files(22, 9493, "_ORTHOVAL_TITLEBLOCK_CELLLIBS"),
+        List(22, 9391, "_ORTHOVAL_TITLEBLOCK_CELLS", ';', 9488),
+        List(22, 9392, "_ORTHOVAL_TITLEBLOCK_TAGSETS", ';', 9489),
+        List(22, 9393, "_ORTHOVAL_TITLEBLOCK_TAGDEFS", ';', 9494),
+        List(22, 9496, "_ORTHOVAL_TITLEBLOCK_TAGVALUES", ';', kStays),
+        List(22, 9394, "_ORTHOVAL_TITLEBLOCK_TAGSPELLCHECK", ';', 9495),
+        List(25, 11000, "_ORTHOVAL_USERS_CURRENT_GROUP", ';', 9398),
+        List(27, 3317, "_ORTHOVAL_WATERMARK_CELL_EXCLUSIONS", ',', 3313),
+        List(27, 3327, "_ORTHOVAL_WATERMARK_LEVEL_EXCLUSIONS", ',', kRemoved),
+        List(28, 3321, "_ORTHOVAL_WATERMARK_CROSS", ';', 3302),
+    };
+}
+// clang-format on
+
 } // namespace
+
+const std::vector<BrowseButton>& BrowseButtons()
+{
+    static const std::vector<BrowseButton> buttons = MakeBrowseButtons();
+    return buttons;
+}
+
+const std::vector<UpDownRow>& UpDowns()
+{
+    static const std::vector<UpDownRow> controls = {
+        {6, 2024, 2019, 0, 10000, true},    {10, 11023, 11024, 0, 10000, true},
+        {14, 3112, 3111, 0, 102400, false}, {19, 3105, 3103, 1, 10000, false},
+        {19, 3108, 3107, -1, 99, false},
+    };
+    return controls;
+}
 
 const std::vector<ControlPage>& ControlPages()
 {

@@ -3,6 +3,7 @@
 /// they have. Portable, for the tests with and without windows.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <vector>
@@ -49,6 +50,38 @@ struct ControlPage {
     int width = 0; ///< of the template, in dialog units; 0: left open
     int height = 0;
 };
+
+/// What a "..." button opens.
+enum class Opens { File, Folder, List };
+
+/// Where the focus goes when a list is refused, if to no control.
+constexpr int kStays = 0;
+constexpr int kRemoved = -1;
+
+struct BrowseButton {
+    int pageId;
+    int id;
+    const char* variable;
+    Opens opens;
+    // Of lists only.
+    unsigned browsing = 0; ///< 1: the entries are files
+    char separator = ';';
+    char fieldSeparator = '\0';
+    std::size_t fields = 1;
+    int focus = kStays;
+};
+
+struct UpDownRow {
+    int pageId;
+    int id;
+    int edit;
+    int lowest;
+    int highest;
+    bool accelerates; ///< steps of 1, after three seconds of 5, after six of 10
+};
+
+const std::vector<BrowseButton>& BrowseButtons();
+const std::vector<UpDownRow>& UpDowns();
 
 /// All 27 pages, from the top of the category list to its bottom.
 const std::vector<ControlPage>& ControlPages();

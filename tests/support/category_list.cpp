@@ -70,7 +70,7 @@ class RemoteItem
 
 } // namespace
 
-std::vector<std::wstring> ListViewTexts(HWND listView)
+std::vector<std::wstring> ListViewTexts(HWND listView, int column)
 {
     RemoteItem remote(listView);
     std::vector<std::wstring> texts;
@@ -79,6 +79,7 @@ std::vector<std::wstring> ListViewTexts(HWND listView)
         LVITEMW item = {};
         item.mask = LVIF_TEXT;
         item.iItem = row;
+        item.iSubItem = column;
         texts.push_back(remote.SendItem(LVM_GETITEMW, 0, item) ? remote.Text(item) : std::wstring());
     }
     return texts;

@@ -10,8 +10,8 @@
 namespace uidriver
 {
 
-/// The texts of a list view's first column, from top to bottom.
-std::vector<std::wstring> ListViewTexts(HWND listView);
+/// The texts of a list view's column, from top to bottom.
+std::vector<std::wstring> ListViewTexts(HWND listView, int column = 0);
 
 /// The index of a list view's selected row, -1 for none.
 int ListViewSelection(HWND listView);

@@ -1,8 +1,5 @@
 // The Feature Tables page in the dialog.
-#include "tests/ui/dialog_session.h"
-#include "tests/ui/expected_file.h"
-
-#include <commctrl.h>
+#include "tests/ui/page_session.h"
 
 #include "resources/page_ids.h"
 
@@ -11,10 +8,8 @@ using namespace uidriver;
 namespace
 {
 
-class FeatureTablesPageTest : public DialogSession
+class FeatureTablesPageTest : public PageSession
 {
-  protected:
-    std::string Saved(const std::string& variable) { return AssignmentOf(CurrentBytes(), variable); }
 };
 
 TEST_F(FeatureTablesPageTest, BoxesAndTextsAreSaved)
@@ -87,6 +82,32 @@ TEST_F(FeatureTablesPageTest, BackupsTakeDigitsAndArrows)
     EXPECT_EQ(L"10000", PageText(IDC_FEATURE_TABLES_BACKUP_MAX));
     Save();
     EXPECT_NE(std::string::npos, Saved("_ORTHOVAL_TABLE_BACKUP_MAX").find("10000"));
+}
+
+TEST_F(FeatureTablesPageTest, ArrowsOfTheBackupsGoFasterWhenHeld)
+{
+    ASSERT_TRUE(Open());
+    ASSERT_TRUE(ShowPage(L"Feature Tables"));
+    EXPECT_EQ(std::pair(0, 10000),
+              RangeOfSpin(IDC_FEATURE_TABLES_BACKUP_MAX_SPIN, IDC_FEATURE_TABLES_BACKUP_MAX));
+    UDACCEL steps[4] = {};
+    ASSERT_EQ(3, SendMessageW(PageControl(IDC_FEATURE_TABLES_BACKUP_MAX_SPIN), UDM_GETACCEL, 4,
+                              reinterpret_cast<LPARAM>(steps)));
+    constexpr UDACCEL expected[] = {{0, 1}, {3, 5}, {6, 10}};
+    for (std::size_t i = 0; i < std::size(expected); ++i) {
+        EXPECT_EQ(expected[i].nSec, steps[i].nSec);
+        EXPECT_EQ(expected[i].nInc, steps[i].nInc);
+    }
+    Cancel();
+}
+
+TEST_F(FeatureTablesPageTest, BackupsTakeNoOtherCharacterThanADigit)
+{
+    ASSERT_TRUE(Open());
+    ASSERT_TRUE(ShowPage(L"Feature Tables"));
+    TypeText(PageControl(IDC_FEATURE_TABLES_BACKUP_MAX), L"-1x2 .3");
+    EXPECT_EQ(L"123", PageText(IDC_FEATURE_TABLES_BACKUP_MAX));
+    Abandon();
 }
 
 } // namespace

@@ -17,7 +17,8 @@ class PageSession : public DialogSession
   protected:
     /// What the multi-entry editor shows.
     struct Editor {
-        std::vector<std::wstring> rows; ///< the first field of each
+        std::vector<std::wstring> rows;    ///< the first field of each
+        std::vector<std::wstring> seconds; ///< the second one
         int fields = 0;
         bool browses = false; ///< offers to choose files
     };
@@ -68,6 +69,7 @@ class PageSession : public DialogSession
             return editor;
         const HWND list = GetDlgItem(window, IDC_CONFIG_SETTING_LIST);
         editor.rows = uidriver::ListViewTexts(list);
+        editor.seconds = uidriver::ListViewTexts(list, 1);
         const auto header = reinterpret_cast<HWND>(uidriver::Send(list, LVM_GETHEADER));
         editor.fields = static_cast<int>(uidriver::Send(header, HDM_GETITEMCOUNT));
         editor.browses = uidriver::IsShown(GetDlgItem(window, IDC_CONFIG_SETTING_BROWSE));

@@ -1,22 +1,20 @@
 // The two pages: what their controls read, show and save.
-#include "tests/ui/dialog_session.h"
-#include "tests/ui/expected_file.h"
-#include "tests/ui/focus_removal.h"
+#include "tests/ui/page_session.h"
 
-#include <commctrl.h>
+#include <algorithm>
+#include <mutex>
+#include <tuple>
 
 using namespace uidriver;
 
 namespace
 {
 
-class PagesTest : public DialogSession
+class PagesTest : public PageSession
 {
   protected:
     static constexpr const wchar_t* QualifierText =
         L"Text qualifier is missing.\nPlease verify the value again.";
-
-    std::string Saved(const std::string& variable) { return AssignmentOf(CurrentBytes(), variable); }
 
     /// Makes the dialog modified without changing a value.
     void Touch()
@@ -138,7 +136,7 @@ TEST_F(PagesTest, NumbersAreKeptAsTyped)
     EXPECT_EQ("_ORTHOVAL_MIN_MU_ERRORSCALE =  very little ", Saved("_ORTHOVAL_MIN_MU_ERRORSCALE"));
 }
 
-TEST_F(PagesTest, LoadingDoesNotMarkThePagesModified)
+TEST_F(PagesTest, LoadingLeavesTheDialogUnmodified)
 {
     UseCurrent("_ORTHOVAL_CHECK_CELLS = 1\r\n_ORTHOVAL_MAX_ERROR_UORS = 3\r\n"
                "_ORTHOVAL_BRANDING_RENAME_TABLES = a:b\r\n");
@@ -209,6 +207,155 @@ TEST_F(PagesTest, ArrowKeysStepTheMaximumErrorWithinItsRange)
     EXPECT_EQ(L"10000", PageText(IDC_CONFORMING_MAX_ERROR)); // no thousands separator
     Save();
     EXPECT_EQ("_ORTHOVAL_MAX_ERROR_UORS = 10000", Saved("_ORTHOVAL_MAX_ERROR_UORS"));
+}
+
+/// What an up-down control does while its arrow is held: the positions that it
+/// reports and the rounds of its timer.
+class HeldArrow
+{
+  public:
+    struct Step {
+        int position;
+        ULONGLONG time; ///< milliseconds since the press
+    };
+
+    HeldArrow(HWND upDown, bool upper) : m_upDown(upDown)
+    {
+        s_upDown = upDown;
+        {
+            const std::lock_guard lock(s_lock);
+            s_steps.clear();
+            s_rounds = 0;
+            s_pressed = GetTickCount64();
+        }
+        const DWORD thread = GetWindowThreadProcessId(upDown, nullptr);
+        m_sent = SetWindowsHookExW(WH_CALLWNDPROC, SeeSent, nullptr, thread);
+        m_fetched = SetWindowsHookExW(WH_GETMESSAGE, SeeFetched, nullptr, thread);
+        RECT client = {};
+        GetClientRect(upDown, &client);
+        m_point = MAKELPARAM(client.right / 2, upper ? client.bottom / 4 : client.bottom * 3 / 4);
+        PostMessageW(upDown, WM_LBUTTONDOWN, MK_LBUTTON, m_point);
+    }
+    ~HeldArrow()
+    {
+        PostMessageW(m_upDown, WM_LBUTTONUP, 0, m_point);
+        Settle(m_upDown);
+        UnhookWindowsHookEx(m_sent);
+        UnhookWindowsHookEx(m_fetched);
+    }
+    HeldArrow(const HeldArrow&) = delete;
+    HeldArrow& operator=(const HeldArrow&) = delete;
+
+    std::vector<Step> Steps() const
+    {
+        const std::lock_guard lock(s_lock);
+        return s_steps;
+    }
+    /// Waits until the arrow has had that many more chances to step.
+    bool AwaitRounds(int more) const
+    {
+        const int before = Rounds();
+        return Await([&] { return Rounds() >= before + more; });
+    }
+
+  private:
+    int Rounds() const
+    {
+        const std::lock_guard lock(s_lock);
+        return s_rounds;
+    }
+
+    static LRESULT CALLBACK SeeSent(int code, WPARAM wParam, LPARAM lParam)
+    {
+        const auto& message = *reinterpret_cast<const CWPSTRUCT*>(lParam);
+        if (code == HC_ACTION && message.message == WM_VSCROLL &&
+            message.lParam == reinterpret_cast<LPARAM>(s_upDown) &&
+            LOWORD(message.wParam) == SB_THUMBPOSITION) {
+            const std::lock_guard lock(s_lock);
+            s_steps.push_back({static_cast<short>(HIWORD(message.wParam)), GetTickCount64() - s_pressed});
+        }
+        return CallNextHookEx(nullptr, code, wParam, lParam);
+    }
+    static LRESULT CALLBACK SeeFetched(int code, WPARAM removed, LPARAM lParam)
+    {
+        const auto& message = *reinterpret_cast<const MSG*>(lParam);
+        if (code == HC_ACTION && removed == PM_REMOVE && message.message == WM_TIMER &&
+            message.hwnd == s_upDown) {
+            const std::lock_guard lock(s_lock);
+            ++s_rounds;
+        }
+        return CallNextHookEx(nullptr, code, removed, lParam);
+    }
+
+    static inline std::mutex s_lock;
+    static inline HWND s_upDown = nullptr;
+    static inline std::vector<Step> s_steps;
+    static inline int s_rounds = 0;
+    static inline ULONGLONG s_pressed = 0;
+
+    HWND m_upDown;
+    LPARAM m_point = 0;
+    HHOOK m_sent = nullptr;
+    HHOOK m_fetched = nullptr;
+};
+
+TEST_F(PagesTest, HeldArrowStepsByOneThenByFiveAfterThreeSecondsThenByTenAfterSix)
+{
+    ASSERT_TRUE(Open());
+    ASSERT_TRUE(ShowPage(L"Conforming"));
+    TypeOnPage(IDC_CONFORMING_MAX_ERROR, L"0");
+    std::vector<HeldArrow::Step> steps;
+    {
+        const HeldArrow arrow(PageControl(IDC_CONFORMING_MAX_ERROR_SPIN), true);
+        EXPECT_TRUE(Await([&] {
+            steps = arrow.Steps();
+            return steps.size() >= 2 && steps.back().position - steps[steps.size() - 2].position >= 10;
+        }));
+    }
+    ASSERT_FALSE(steps.empty());
+    EXPECT_EQ(1, steps.front().position);
+    int width = 1;
+    for (std::size_t i = 1; i < steps.size(); ++i) {
+        const int next = steps[i].position - steps[i - 1].position;
+        EXPECT_TRUE(next == 1 || next == 5 || next == 10) << next;
+        EXPECT_GE(next, width) << "at " << steps[i].time << " ms";
+        width = std::max(width, next);
+        // A busy machine may be late with a step, never early.
+        EXPECT_GE(steps[i].time, next == 10 ? 6000U : next == 5 ? 3000U : 0U) << "a step of " << next;
+    }
+    EXPECT_EQ(10, width);
+    Abandon();
+}
+
+TEST_F(PagesTest, HeldArrowStopsAtTheEndsOfTheRange)
+{
+    ASSERT_TRUE(Open());
+    ASSERT_TRUE(ShowPage(L"Conforming"));
+    const HWND spin = PageControl(IDC_CONFORMING_MAX_ERROR_SPIN);
+    for (const auto& [start, upper, end] : {std::tuple{L"9998", true, L"10000"}, {L"2", false, L"0"}}) {
+        TypeOnPage(IDC_CONFORMING_MAX_ERROR, start);
+        const HeldArrow arrow(spin, upper);
+        EXPECT_TRUE(Await([&, end = end] { return PageText(IDC_CONFORMING_MAX_ERROR) == end; }));
+        EXPECT_TRUE(arrow.AwaitRounds(1));
+        EXPECT_EQ(end, PageText(IDC_CONFORMING_MAX_ERROR));
+        for (const HeldArrow::Step& step : arrow.Steps())
+            EXPECT_TRUE(0 <= step.position && step.position <= 10000) << step.position;
+    }
+    Abandon();
+}
+
+TEST_F(PagesTest, RenamedBrandingOpensAsPairsBetweenSemicolons)
+{
+    ASSERT_TRUE(Open());
+    TypeOnPage(IDC_BRANDING_RENAME, L"Old:New; a,b : \"c;d:e\" ");
+    const Editor editor = UseEditor(IDC_BRANDING_RENAME_BROWSE, IDOK, L"x:y");
+    EXPECT_EQ(2, editor.fields);
+    EXPECT_EQ((std::vector<std::wstring>{L"Old", L"a,b"}), editor.rows);
+    EXPECT_EQ((std::vector<std::wstring>{L"New", L"c;d:e"}), editor.seconds);
+    EXPECT_FALSE(editor.browses);
+    EXPECT_EQ(L"Old:New;a,b:\"c;d:e\";x:y", PageText(IDC_BRANDING_RENAME));
+    EXPECT_TRUE(CanSave());
+    Abandon();
 }
 
 TEST_F(PagesTest, LoneQuoteInTheIgnoredLevelsIsRefusedAndNoWindowKeepsTheFocus)

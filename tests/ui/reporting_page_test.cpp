@@ -197,6 +197,16 @@ TEST_F(ReportingPageTest, ArrowsStepWithinTheirRanges)
     Abandon();
 }
 
+TEST_F(ReportingPageTest, NumbersTakeNoOtherCharacterThanADigit)
+{
+    ASSERT_TRUE(OpenPage());
+    for (const int edit : {IDC_REPORTING_MAX_ERRORS, IDC_REPORTING_NEST_LEVEL}) {
+        TypeText(PageControl(edit), L"-1x2 .3");
+        EXPECT_EQ(L"123", PageText(edit)) << edit;
+    }
+    Abandon();
+}
+
 TEST_F(ReportingPageTest, FilesToIgnoreAreEditedAsFiles)
 {
     ASSERT_TRUE(OpenPage());
