@@ -68,6 +68,24 @@ void CConfigSettingDlg::InitControlLayout()
         AddLayout(button, LayoutKeepTop | LayoutAnchorRight);
 }
 
+UINT CConfigSettingDlg::AccessibleNameId(int controlId) const
+{
+    switch (controlId) {
+    case IDC_CONFIG_SETTING_LIST:
+        return IDS_CONFIG_SETTING_COLUMN;
+    case IDC_CONFIG_SETTING_VALUE:
+        return IDS_NAME_VALUE;
+    case IDC_CONFIG_SETTING_MOVE_UP:
+        return IDS_NAME_MOVE_UP;
+    case IDC_CONFIG_SETTING_MOVE_DOWN:
+        return IDS_NAME_MOVE_DOWN;
+    case IDC_CONFIG_SETTING_BROWSE:
+        return IDS_NAME_BROWSE_FILE;
+    default:
+        return 0;
+    }
+}
+
 BOOL CConfigSettingDlg::OnInitDialog()
 {
     CResizableDlg::OnInitDialog();

@@ -28,6 +28,7 @@ class CConfigSettingDlg : public CResizableDlg
   protected:
     void DoDataExchange(CDataExchange* exchange) override;
     void InitControlLayout() override;
+    UINT AccessibleNameId(int controlId) const override;
     void OnOK() override;
 
     void OnDestroy();

@@ -1,5 +1,11 @@
 #include "controls/resizable_dlg.h"
 
+#include <cwchar>
+#include <optional>
+
+#include "controls/core/accessible_names.h"
+#include "resources/ids.h"
+
 namespace
 {
 
@@ -64,6 +70,48 @@ class DialogControls : public ov::LayoutControls
     std::uint16_t m_foundId = 0;
 };
 
+// The longest name that a class can have, with its end; no caption is longer.
+using ShortText = wchar_t[257];
+
+ov::ControlRole RoleOfButton(HWND button)
+{
+    switch (::GetWindowLongPtrW(button, GWL_STYLE) & BS_TYPEMASK) {
+    case BS_GROUPBOX:
+        return ov::ControlRole::Frame;
+    case BS_AUTOCHECKBOX:
+        return ov::ControlRole::Box;
+    case BS_AUTORADIOBUTTON:
+        return ov::ControlRole::Radio;
+    default:
+        return ov::ControlRole::Button;
+    }
+}
+
+// None for what is no control: a page, the size grip.
+std::optional<ov::ControlRole> RoleOf(HWND window)
+{
+    ShortText name;
+    ::GetClassNameW(window, name, static_cast<int>(std::size(name)));
+    const auto is = [&](const wchar_t* windowClass) { return ::_wcsicmp(name, windowClass) == 0; };
+    if (is(WC_BUTTONW))
+        return RoleOfButton(window);
+    if (is(WC_STATICW))
+        return ov::ControlRole::Label;
+    if (is(UPDOWN_CLASSW))
+        return ov::ControlRole::UpDown;
+    if (is(WC_EDITW) || is(WC_COMBOBOXW) || is(WC_LISTVIEWW) || is(DATETIMEPICK_CLASSW) ||
+        is(TRACKBAR_CLASSW))
+        return ov::ControlRole::Input;
+    return std::nullopt;
+}
+
+ov::Text CaptionOf(HWND window)
+{
+    ShortText caption;
+    const int length = ::GetWindowTextW(window, caption, static_cast<int>(std::size(caption)));
+    return FromWide({caption, static_cast<size_t>(length)});
+}
+
 } // namespace
 
 IMPLEMENT_DYNAMIC(CResizableDlg, CAbstractFontDlg)
@@ -88,7 +136,48 @@ BOOL CResizableDlg::OnInitDialog()
     const CRect client = GetClientRectangle();
     DialogControls controls(m_hWnd);
     ov::CaptureControls(m_controlLayout, controls, client.Width(), client.Height());
+    NameControls();
     return result;
+}
+
+UINT CResizableDlg::AccessibleNameId(int) const
+{
+    return 0;
+}
+
+void CResizableDlg::NameControls()
+{
+    std::vector<HWND> windows;
+    std::vector<ov::ControlToName> controls;
+    for (HWND window = ::GetWindow(m_hWnd, GW_CHILD); window != nullptr;
+         window = ::GetWindow(window, GW_HWNDNEXT)) {
+        const std::optional<ov::ControlRole> role = RoleOf(window);
+        if (!role)
+            continue;
+        ov::ControlToName control{*role, {}, {}};
+        // What an input shows is its value.
+        if (*role != ov::ControlRole::Input)
+            control.caption = CaptionOf(window);
+        UINT given = AccessibleNameId(::GetDlgCtrlID(window));
+        if (given == 0 && *role == ov::ControlRole::Button)
+            given = IDS_NAME_BROWSE;
+        if (given != 0)
+            control.given = AfxLoadString(given);
+        windows.push_back(window);
+        controls.push_back(std::move(control));
+    }
+    const std::vector<ov::Text> names = ov::NamesToGive(controls);
+    for (size_t i = 0; i < names.size(); ++i) {
+        if (!names[i].empty())
+            Names().Set(windows[i], names[i]);
+    }
+}
+
+CWindowNames& CResizableDlg::Names()
+{
+    CWnd* const root = CWnd::FromHandlePermanent(::GetAncestor(m_hWnd, GA_ROOT));
+    CResizableDlg* const dialog = DYNAMIC_DOWNCAST(CResizableDlg, root);
+    return dialog != nullptr ? dialog->m_names : m_names;
 }
 
 void CResizableDlg::AddLayout(UINT controlId, std::uint32_t flags)
@@ -153,6 +242,7 @@ void CResizableDlg::OnDestroy()
 {
     // Sizes that still arrive while the window goes down find nothing to lay out.
     m_designWidth = 0;
+    m_names.Clear();
     CAbstractFontDlg::OnDestroy();
 }
 

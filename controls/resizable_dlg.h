@@ -6,10 +6,12 @@
 #include "controls/abstract_font_dlg.h"
 #include "controls/core/layout.h"
 #include "controls/grippie.h"
+#include "framework/window_names.h"
 
 /// A dialog whose listed controls follow its size, optionally with a size grip.
-/// Where a control stood when the dialog opened is what every later size starts
-/// from, so that resizing again and again never adds up rounding errors.
+/// Screen readers are told what controls are whose captions do not say it. Where a control stood when the
+/// dialog opened is what every later size starts from, so that resizing again and again never adds up
+/// rounding errors.
 class CResizableDlg : public CAbstractFontDlg
 {
     DECLARE_DYNAMIC(CResizableDlg)
@@ -25,6 +27,11 @@ class CResizableDlg : public CAbstractFontDlg
     /// Lists the controls by AddLayout. A derived class calls its own from its
     /// constructor.
     virtual void InitControlLayout() {}
+
+    /// The string that names the control to screen readers, 0 where what stands
+    /// around it does. "%1" in the string stands for the name of the input
+    /// before the control.
+    virtual UINT AccessibleNameId(int controlId) const;
 
     /// Places every listed control for the current size.
     virtual void LayoutPass();
@@ -49,9 +56,13 @@ class CResizableDlg : public CAbstractFontDlg
     DECLARE_MESSAGE_MAP()
 
   private:
+    void NameControls();
+    CWindowNames& Names();
+
     bool m_sizeGrip;
     CGrippie m_grip;
     std::vector<ov::CDlgControlInfo> m_controlLayout;
     UINT m_designWidth;
     UINT m_designHeight;
+    CWindowNames m_names; ///< those of the dialogs inside this one, too
 };

@@ -6,6 +6,7 @@
 
 #include "controls/application.h"
 #include "controls/tool_tip_control.h"
+#include "resources/ids.h"
 #include "wizard/preferences_wizard.h"
 
 namespace
@@ -89,6 +90,17 @@ void CSettingsPage::InitControlLayout()
 {
     for (const ov::LayoutRow& row : m_rows.layout)
         AddLayout(static_cast<UINT>(row.controlId), row.layoutFlags);
+}
+
+UINT CSettingsPage::AccessibleNameId(int controlId) const
+{
+    const auto name = std::ranges::find(m_rows.names, controlId, &ov::NameRow::controlId);
+    if (name != m_rows.names.end())
+        return name->stringId;
+    const bool editsList = std::ranges::any_of(m_rows.browses, [&](const ov::BrowseRow& row) {
+        return row.buttonId == controlId && row.kind == ov::BrowseKind::List;
+    });
+    return editsList ? IDS_NAME_EDIT_LIST : 0;
 }
 
 BOOL CSettingsPage::OnInitDialog()

@@ -27,6 +27,7 @@ class CSettingsPage : public CWizardPage
   protected:
     void DoDataExchange(CDataExchange* exchange) override;
     void InitControlLayout() override;
+    UINT AccessibleNameId(int controlId) const override;
 
     /// Notifications that no message-map entry takes: "..." buttons, and the
     /// control of a row by the notification with which that kind of control

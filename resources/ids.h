@@ -187,6 +187,14 @@
 #define IDS_REGEX_MATCH 5129
 #define IDS_REGEX_NO_MATCH 5130
 
+// Names for screen readers. %1 stands for the name of the input before.
+#define IDS_NAME_BROWSE 5440
+#define IDS_NAME_EDIT_LIST 5441
+#define IDS_NAME_VALUE 5442
+#define IDS_NAME_MOVE_UP 5443
+#define IDS_NAME_MOVE_DOWN 5444
+#define IDS_NAME_BROWSE_FILE 5445
+
 // The launcher
 #define IDS_HOST_LIBRARY_MISSING 5200
 #define IDS_HOST_EXPORT_MISSING 5201

@@ -37,6 +37,11 @@ void CLeftPane::InitControlLayout()
     AddLayout(IDC_LEFT_PANE_LIST, ov::LayoutStretchHeight);
 }
 
+UINT CLeftPane::AccessibleNameId(int) const
+{
+    return IDS_PANE_COLUMN; // the list shows no header
+}
+
 void CLeftPane::RegisterTooltips()
 {
     if (CToolTipControl* tips = GetToolTipControl())

@@ -21,6 +21,7 @@ class CLeftPane : public CWizardPage
   protected:
     void DoDataExchange(CDataExchange* exchange) override;
     void InitControlLayout() override;
+    UINT AccessibleNameId(int controlId) const override;
     virtual void RegisterTooltips();
 
     void OnItemChanged(NMHDR* header, LRESULT* result);

@@ -87,6 +87,18 @@ constexpr EntriesRow entries[] = {
     {IDC_SCAN_PERIOD_MODE_2, modes},       {IDC_SCAN_PERIOD_OR_SELECTOR, orSelectors},
 };
 
+constexpr NameRow names[] = {
+    {IDC_SCAN_PERIOD_SEGMENT_1, IDS_SCAN_PERIOD_NAME_SEGMENT_1},
+    {IDC_SCAN_PERIOD_MODE_1, IDS_SCAN_PERIOD_NAME_MODE_1},
+    {IDC_SCAN_PERIOD_DATE_1, IDS_SCAN_PERIOD_NAME_DATE_1},
+    {IDC_SCAN_PERIOD_SECOND, IDS_SCAN_PERIOD_NAME_SECOND},
+    {IDC_SCAN_PERIOD_OPERATOR, IDS_SCAN_PERIOD_NAME_OPERATOR},
+    {IDC_SCAN_PERIOD_SEGMENT_2, IDS_SCAN_PERIOD_NAME_SEGMENT_2},
+    {IDC_SCAN_PERIOD_MODE_2, IDS_SCAN_PERIOD_NAME_MODE_2},
+    {IDC_SCAN_PERIOD_DATE_2, IDS_SCAN_PERIOD_NAME_DATE_2},
+    {IDC_SCAN_PERIOD_OR_SELECTOR, IDS_SCAN_PERIOD_NAME_OR_SELECTOR},
+};
+
 constexpr Condition fixed = IsOn(IDC_SCAN_PERIOD_FIXED);
 constexpr Condition second = IsOn(IDC_SCAN_PERIOD_SECOND);
 
@@ -230,6 +242,7 @@ constexpr PageRows rows = {
     .companions = companions,
     .entries = entries,
     .dependencies = dependencies,
+    .names = names,
     .loadMarksModified = true,
     .afterLoad = TakePeriod,
     .refresh = ForgetSecondDate,

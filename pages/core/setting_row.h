@@ -156,6 +156,12 @@ struct HelpRow {
     unsigned helpId;
 };
 
+/// What screen readers call a control that nothing around it explains in words.
+struct NameRow {
+    int controlId;
+    unsigned stringId;
+};
+
 /// How a control follows its page's size; flags as in controls/core/layout.h.
 struct LayoutRow {
     int controlId;
@@ -282,6 +288,7 @@ struct PageRows {
     std::span<const DependencyRow> dependencies = {};
     std::span<const BrowseRow> browses = {};
     std::span<const SpinRow> spins = {};
+    std::span<const NameRow> names = {};
 
     /// Loading reads the controls back and marks the dialog modified.
     bool loadMarksModified = false;

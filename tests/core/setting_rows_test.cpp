@@ -443,6 +443,21 @@ TEST(AllRows, LayOutEachControlOnceAndEveryControlThatTheyName)
             expectLaidOut(row.controlId);
             expectLaidOut(row.buddyId);
         }
+        for (const ov::NameRow& row : page.names)
+            expectLaidOut(row.controlId);
+    });
+}
+
+TEST(AllRows, NameEachControlOnceAndNoTwoAlike)
+{
+    ForEachPage([](const PageRows& page) {
+        std::set<int> named;
+        std::set<ov::TextView> names;
+        for (const ov::NameRow& row : page.names) {
+            EXPECT_TRUE(named.insert(row.controlId).second) << row.controlId;
+            EXPECT_FALSE(ov::FindString(row.stringId).empty()) << row.stringId;
+            EXPECT_TRUE(names.insert(ov::FindString(row.stringId)).second) << row.stringId;
+        }
     });
 }
 

@@ -1,0 +1,81 @@
+#include "controls/core/accessible_names.h"
+
+namespace ov
+{
+namespace
+{
+
+/// A caption as it is read: without the mark of its key and the colon at its end.
+Text Spoken(TextView caption)
+{
+    Text spoken;
+    for (std::size_t i = 0; i < caption.size(); ++i) {
+        const bool doubled = caption.substr(i).starts_with(u"&&");
+        if (caption[i] != u'&' || doubled)
+            spoken += caption[i];
+        i += doubled ? 1 : 0;
+    }
+    if (spoken.ends_with(u':'))
+        spoken.pop_back();
+    return Text(Trim(spoken));
+}
+
+bool SaysNothing(TextView caption)
+{
+    return caption.empty() || caption == u"...";
+}
+
+Text WithInput(Text given, TextView input)
+{
+    constexpr TextView place = u"%1";
+    if (const std::size_t found = given.find(place); found != Text::npos)
+        given.replace(found, place.size(), input);
+    return given;
+}
+
+} // namespace
+
+std::vector<Text> NamesToGive(std::span<const ControlToName> controls)
+{
+    std::vector<Text> names;
+    Text frame;
+    Text input; // what the input that comes or came last is called
+    bool labelled = false;
+    for (const ControlToName& control : controls) {
+        Text name = WithInput(control.given, input);
+        bool labels = false;
+        switch (control.role) {
+        case ControlRole::Label:
+            input = Spoken(control.caption);
+            labels = true;
+            break;
+        case ControlRole::Frame:
+            input = frame = Spoken(control.caption);
+            break;
+        case ControlRole::Box:
+            input = SaysNothing(control.caption) ? name : Spoken(control.caption);
+            break;
+        case ControlRole::Radio:
+            input = frame.empty() ? Spoken(control.caption) : frame;
+            break;
+        case ControlRole::Button:
+            if (!SaysNothing(control.caption))
+                name.clear();
+            break;
+        case ControlRole::Input:
+            if (!name.empty())
+                input = name;
+            else if (!labelled)
+                name = input;
+            break;
+        case ControlRole::UpDown:
+            name = input;
+            break;
+        }
+        labelled = labels;
+        names.push_back(std::move(name));
+    }
+    return names;
+}
+
+} // namespace ov
