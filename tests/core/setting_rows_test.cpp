@@ -599,6 +599,45 @@ TEST(AllRows, SaveWhatTheirMeaningSays)
     });
 }
 
+TEST(AllRows, AddWhatTheirPageStartsWithWhenNobodyOpensIt)
+{
+    std::size_t starts = 0;
+    ForEachPage([&](const PageRows& page) {
+        ov::SettingStore store;
+        ov::PageValues values(page);
+        values.Save(store, false, [](int) { return ov::Text(); });
+        for (const expected::Setting& setting : expected::PageOf(page.pageId).settings) {
+            SCOPED_TRACE(setting.variable);
+            const ov::Text variable = ov::TextFromUtf8(setting.variable);
+            EXPECT_EQ(store.HasSetting(variable, ov::kCurrentTable), !expected::StaysOutWhenUnseen(setting));
+            const auto start = expected::StartOf(setting);
+            if (!start || expected::StaysOutWhenUnseen(setting))
+                continue;
+            ++starts;
+            EXPECT_EQ(ov::Utf8FromText(store.GetSettingValue(variable, ov::kCurrentTable)), *start);
+        }
+    });
+    EXPECT_GT(starts, 140u);
+}
+
+TEST(AllRows, LeaveWhatIsThereWhenNobodyOpensTheirPage)
+{
+    ForEachPage([](const PageRows& page) {
+        ov::SettingStore store;
+        for (const expected::Setting& setting : expected::PageOf(page.pageId).settings) {
+            store.SetSetting(ov::TextFromUtf8(setting.variable), u" as it is ", ov::SettingKindText, u"",
+                             ov::kCurrentTable);
+        }
+        ov::PageValues values(page);
+        values.Save(store, false, [](int) { return ov::Text(); });
+        for (const expected::Setting& setting : expected::PageOf(page.pageId).settings) {
+            EXPECT_EQ(store.GetSettingValue(ov::TextFromUtf8(setting.variable), ov::kCurrentTable),
+                      u" as it is ")
+                << setting.variable;
+        }
+    });
+}
+
 TEST(AllRows, StartWithWhatIsSelectedBeforeAnythingIsRead)
 {
     ForEachPage([](const PageRows& page) {

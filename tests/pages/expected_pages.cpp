@@ -467,4 +467,46 @@ std::optional<std::string> AfterSave(const Setting& setting, const Table& table,
     return found != table.end() ? std::optional(found->second) : std::nullopt;
 }
 
+std::optional<std::string> StartOf(const Setting& setting)
+{
+    static const Table starts = {
+        {"_ORTHOVAL_BRANDING_AUTO", "1"},
+        {"_ORTHOVAL_BRANDING_OVERRIDE", "1"},
+        {"_ORTHOVAL_BRANDING_CERTIFY", "1"},
+        {"_ORTHOVAL_CERTIFY_CHECK_REFERENCE_MARKERCELLS", "1"},
+        {"_ORTHOVAL_CERTIFY_CHECK_REFERENCE_WATERMARKS", "-1"},
+        {"_ORTHOVAL_CHECK_MULTILINE_DIMS", "1"},
+        {"_ORTHOVAL_CHECK_CONTINUOUSISZERO", "1"},
+        {"_ORTHOVAL_MAX_ERROR_UORS", "1"},
+        {"_ORTHOVAL_MIN_MU_ERRORSCALE", "0.01"},
+        {"_ORTHOVAL_DRAWINGSCALE_USE_DEFAULT", "0"},
+        {"_ORTHOVAL_LOG_FILE_DEBUGLEVEL", "0"},
+        {"_ORTHOVAL_WILDCARD_TYPE", "3"},
+        {"_ORTHOVAL_AUTOLOGIN_USERDEFINED", "1"},
+        {"_ORTHOVAL_AUTOLOGIN_DEFAULTVALUE", "1"},
+        {"_ORTHOVAL_SCANPERIOD_ALLOWUSER", "1"},
+        {"_ORTHOVAL_WARN_MAJOR_UPGRADE", "1"},
+    };
+    // A flag without a box.
+    static const std::vector<std::string> open = {"_ORTHOVAL_CERTIFY_NO_DIFFERING_STGS"};
+    if (const auto start = starts.find(setting.variable); start != starts.end())
+        return start->second;
+    if (std::ranges::find(open, setting.variable) != open.end())
+        return {};
+    if (setting.meaning == Meaning::Flag)
+        return "0";
+    if (setting.meaning == Meaning::Text)
+        return "";
+    return {};
+}
+
+bool StaysOutWhenUnseen(const Setting& setting)
+{
+    // The lists of who decides are written by a page that shows them.
+    static const std::vector<std::string> lists = {"_ORTHOVAL_WATERMARKS_CHECK_RASTER",
+                                                   "_ORTHOVAL_WATERMARKS_CHECK_METADATA",
+                                                   "_ORTHOVAL_WATERMARKS_OVERWRITE"};
+    return setting.meaning == Meaning::LeftAlone || std::ranges::find(lists, setting.variable) != lists.end();
+}
+
 } // namespace expected

@@ -70,4 +70,11 @@ using Table = std::map<std::string, std::string>;
 std::optional<std::string> AfterSave(const Setting& setting, const Table& table,
                                      const std::string& today = {});
 
+/// What a page that never had a window adds to a table without the variable:
+/// what it starts with. Nothing where nobody relies on it.
+std::optional<std::string> StartOf(const Setting& setting);
+
+/// Whether such a page leaves the variable out of the table.
+bool StaysOutWhenUnseen(const Setting& setting);
+
 } // namespace expected
