@@ -13,22 +13,25 @@ namespace
 class DialogControls : public ov::LayoutControls
 {
   public:
-    explicit DialogControls(HWND dialog) : m_dialog(dialog), m_visible(::IsWindowVisible(dialog) != FALSE) {}
+    explicit DialogControls(const CWnd& dialog)
+        : m_dialog(dialog), m_visible(::IsWindowVisible(dialog.m_hWnd) != FALSE)
+    {
+    }
 
     std::optional<ov::Rect> ControlRect(std::uint16_t controlId) override
     {
-        const HWND control = Find(controlId);
+        const HWND control = m_dialog.FindControl(controlId);
         if (control == nullptr)
             return std::nullopt;
         RECT rect;
         ::GetWindowRect(control, &rect);
-        ::MapWindowPoints(HWND_DESKTOP, m_dialog, reinterpret_cast<POINT*>(&rect), 2);
+        ::MapWindowPoints(HWND_DESKTOP, m_dialog.m_hWnd, reinterpret_cast<POINT*>(&rect), 2);
         return ov::Rect{rect.left, rect.top, rect.right, rect.bottom};
     }
 
     std::int32_t ListColumns(std::uint16_t controlId) override
     {
-        const HWND control = Find(controlId);
+        const HWND control = m_dialog.FindControl(controlId);
         if (!AfxIsOfClass(control, WC_LISTVIEWW))
             return 0;
         const HWND header = ListView_GetHeader(control);
@@ -37,14 +40,14 @@ class DialogControls : public ov::LayoutControls
 
     void SetListColumnWidths(std::uint16_t controlId, std::int32_t width) override
     {
-        const HWND control = Find(controlId);
+        const HWND control = m_dialog.FindControl(controlId);
         for (std::int32_t column = ListColumns(controlId) - 1; column >= 0; --column)
             ListView_SetColumnWidth(control, column, width);
     }
 
     void MoveControl(std::uint16_t controlId, const ov::Rect& rect) override
     {
-        const HWND control = Find(controlId);
+        const HWND control = m_dialog.FindControl(controlId);
         if (ControlRect(controlId) != rect)
             ::MoveWindow(control, rect.left, rect.top, rect.Width(), rect.Height(), m_visible);
         if (m_visible)
@@ -52,22 +55,9 @@ class DialogControls : public ov::LayoutControls
     }
 
   private:
-    // The layout asks for one control several times in a row, and the system
-    // looks through all of them each time.
-    HWND Find(std::uint16_t controlId)
-    {
-        if (m_found == nullptr || m_foundId != controlId) {
-            m_found = ::GetDlgItem(m_dialog, controlId);
-            m_foundId = controlId;
-        }
-        return m_found;
-    }
-
-    HWND m_dialog;
+    const CWnd& m_dialog;
     // A hidden dialog is drawn as a whole when it is shown.
     bool m_visible;
-    HWND m_found = nullptr;
-    std::uint16_t m_foundId = 0;
 };
 
 // The longest name that a class can have, with its end; no caption is longer.
@@ -134,7 +124,7 @@ BOOL CResizableDlg::OnInitDialog()
 {
     const BOOL result = CAbstractFontDlg::OnInitDialog();
     const CRect client = GetClientRectangle();
-    DialogControls controls(m_hWnd);
+    DialogControls controls(*this);
     ov::CaptureControls(m_controlLayout, controls, client.Width(), client.Height());
     NameControls();
     return result;
@@ -201,7 +191,7 @@ void CResizableDlg::LayoutPass()
     if (!ov::IsLayoutActive(m_designWidth, m_designHeight))
         return;
     const CRect client = GetClientRectangle();
-    DialogControls controls(m_hWnd);
+    DialogControls controls(*this);
     ov::ApplyLayout(m_controlLayout, controls, m_designWidth, m_designHeight, client.Width(),
                     client.Height());
     RepositionCurrentPage();

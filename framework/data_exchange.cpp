@@ -5,6 +5,7 @@
 
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 namespace
 {
@@ -37,17 +38,6 @@ void SetTextOf(HWND control, const ov::Text& text)
         ::SetWindowTextW(control, Wide(text));
 }
 
-// The system looks through all the children each time, and data is exchanged
-// often.
-HWND FindControl(HWND dialog, int id)
-{
-    HWND& control = AfxGetThreadState().exchangedControls[dialog][id];
-    if (control == nullptr || !::IsWindow(control) || ::GetParent(control) != dialog ||
-        ::GetDlgCtrlID(control) != id)
-        control = ::GetDlgItem(dialog, id);
-    return control;
-}
-
 bool IsRadioButton(HWND control)
 {
     return (::SendMessageW(control, WM_GETDLGCODE, 0, 0) & DLGC_RADIOBUTTON) != 0;
@@ -73,7 +63,7 @@ CDataExchange::CDataExchange(CWnd* window, BOOL saveAndValidate)
 
 HWND CDataExchange::PrepareCtrl(int id)
 {
-    const HWND control = FindControl(m_pDlgWnd->m_hWnd, id);
+    const HWND control = m_pDlgWnd->FindControl(id);
     if (control == nullptr)
         throw std::runtime_error("The dialog has no control " + std::to_string(id) + ".");
     m_lastControl = control;
@@ -113,33 +103,48 @@ void DDX_Text(CDataExchange* exchange, int id, ov::Text& text)
         SetTextOf(control, text);
 }
 
+// What a control shows already is not set again: it would be drawn again, and of
+// radio buttons each would look through the whole group.
 void DDX_Check(CDataExchange* exchange, int id, int& value)
 {
     const HWND control = exchange->PrepareCtrl(id);
+    const int shown = static_cast<int>(::SendMessageW(control, BM_GETCHECK, 0, 0));
     if (exchange->m_bSaveAndValidate)
-        value = static_cast<int>(::SendMessageW(control, BM_GETCHECK, 0, 0));
-    else
+        value = shown;
+    else if (shown != value)
         ::SendMessageW(control, BM_SETCHECK, static_cast<WPARAM>(value), 0);
 }
 
 void DDX_Radio(CDataExchange* exchange, int id, int& value)
 {
+    std::vector<HWND> buttons;
     HWND control = exchange->PrepareCtrl(id);
-    if (exchange->m_bSaveAndValidate)
-        value = -1;
-    int index = 0;
     do {
         // Other controls may stand within the group; they are not counted.
-        if (IsRadioButton(control)) {
-            if (!exchange->m_bSaveAndValidate) {
-                ::SendMessageW(control, BM_SETCHECK, index == value ? BST_CHECKED : BST_UNCHECKED, 0);
-            } else if (::SendMessageW(control, BM_GETCHECK, 0, 0) == BST_CHECKED) {
-                value = index;
-            }
-            ++index;
-        }
+        if (IsRadioButton(control))
+            buttons.push_back(control);
         control = ::GetWindow(control, GW_HWNDNEXT);
     } while (control != nullptr && (::GetWindowLongPtrW(control, GWL_STYLE) & WS_GROUP) == 0);
+
+    const int count = static_cast<int>(buttons.size());
+    int chosen = -1;
+    int chosenCount = 0;
+    for (int index = 0; index < count; ++index) {
+        if (::SendMessageW(buttons[static_cast<std::size_t>(index)], BM_GETCHECK, 0, 0) == BST_CHECKED) {
+            chosen = index;
+            ++chosenCount;
+        }
+    }
+    if (exchange->m_bSaveAndValidate) {
+        value = chosen;
+        return;
+    }
+    // Nothing chosen is set all the same: which button Tab stops at depends on it.
+    if (chosen == value && chosenCount == 1)
+        return;
+    for (int index = 0; index < count; ++index)
+        ::SendMessageW(buttons[static_cast<std::size_t>(index)], BM_SETCHECK,
+                       index == value ? BST_CHECKED : BST_UNCHECKED, 0);
 }
 
 void DDX_CBIndex(CDataExchange* exchange, int id, int& index)

@@ -84,8 +84,8 @@ struct AFX_EXCHANGE_LOCK {
 
 struct AFX_THREAD_STATE {
     std::unordered_map<HWND, CWnd*> permanentWindows;
-    /// The controls that data has been exchanged with, by dialog and id.
-    std::unordered_map<HWND, std::unordered_map<int, HWND>> exchangedControls;
+    /// The controls that have been asked for, by dialog and id.
+    std::unordered_map<HWND, std::unordered_map<int, HWND>> foundControls;
     AFX_TEMP_MAPS temporary;
     MSG currentMessage{};
     CCreationHook* creation = nullptr; ///< waits for its window

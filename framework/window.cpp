@@ -46,7 +46,7 @@ HWND CWnd::Detach()
     const HWND window = m_hWnd;
     if (window != nullptr && FromHandlePermanent(window) == this) {
         AfxGetThreadState().permanentWindows.erase(window);
-        AfxGetThreadState().exchangedControls.erase(window);
+        AfxGetThreadState().foundControls.erase(window);
     }
     m_hWnd = nullptr;
     m_superWndProc = nullptr;
@@ -80,6 +80,18 @@ HWND CWnd::UnsubclassWindow()
         ::GetWindowLongPtrW(m_hWnd, GWLP_WNDPROC) == reinterpret_cast<LONG_PTR>(&AfxWndProc))
         ::SetWindowLongPtrW(m_hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(m_superWndProc));
     return Detach();
+}
+
+HWND CWnd::FindControl(int id) const
+{
+    // Nobody would tell when the window of a temporary object goes.
+    if (FromHandlePermanent(m_hWnd) == nullptr)
+        return ::GetDlgItem(m_hWnd, id);
+    HWND& control = AfxGetThreadState().foundControls[m_hWnd][id];
+    if (control == nullptr || !::IsWindow(control) || ::GetParent(control) != m_hWnd ||
+        ::GetDlgCtrlID(control) != id)
+        control = ::GetDlgItem(m_hWnd, id);
+    return control;
 }
 
 void CWnd::SetWindowText(const ov::Text& text)

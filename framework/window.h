@@ -77,7 +77,10 @@ class CWnd : public CCmdTarget
 
     // --- the tree ------------------------------------------------------------
     CWnd* GetParent() const { return FromHandle(::GetParent(m_hWnd)); }
-    CWnd* GetDlgItem(int id) const { return FromHandle(::GetDlgItem(m_hWnd, id)); }
+    CWnd* GetDlgItem(int id) const { return FromHandle(FindControl(id)); }
+    /// The child window of that id, or null. What was found is remembered, since the
+    /// system looks through all the children each time.
+    HWND FindControl(int id) const;
 
     // --- painting --------------------------------------------------------------
     void Invalidate(BOOL erase = TRUE) { ::InvalidateRect(m_hWnd, nullptr, erase); }

@@ -171,7 +171,7 @@ int CSettingsPage::NarrowestWidth() const
 void CSettingsPage::FillLists()
 {
     for (const ov::EntriesRow& row : m_rows.entries) {
-        const HWND list = GetDlgItem(row.controlId)->m_hWnd;
+        const HWND list = FindControl(row.controlId);
         for (const unsigned id : row.stringIds) {
             const ov::Text entry = AfxLoadString(id);
             ::SendMessageW(list, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(Wide(entry)));
@@ -301,11 +301,12 @@ void CSettingsPage::RefreshControls()
     if (m_rows.refresh != nullptr && m_rows.refresh(m_values))
         UpdateData(FALSE);
     for (const ov::DependencyRow& row : m_rows.dependencies) {
-        const HWND control = GetDlgItem(row.controlId)->m_hWnd;
+        const HWND control = FindControl(row.controlId);
+        const bool holds = m_values.Holds(row);
         if (row.effect == ov::Effect::Enable)
-            ::EnableWindow(control, m_values.Holds(row) ? TRUE : FALSE);
-        else
-            ::ShowWindow(control, m_values.Holds(row) ? SW_SHOW : SW_HIDE);
+            ::EnableWindow(control, holds ? TRUE : FALSE);
+        else if (((::GetWindowLongPtrW(control, GWL_STYLE) & WS_VISIBLE) != 0) != holds)
+            ::ShowWindow(control, holds ? SW_SHOW : SW_HIDE);
     }
 }
 
@@ -364,7 +365,7 @@ BOOL CSettingsPage::OnCmdMsg(UINT id, int code, NMHDR* notify, LRESULT* result)
 
 int CSettingsPage::GroupOf(int id) const
 {
-    const HWND control = ::GetDlgItem(m_hWnd, id);
+    const HWND control = FindControl(id);
     const bool isRadioButton = (::SendMessageW(control, WM_GETDLGCODE, 0, 0) & DLGC_RADIOBUTTON) != 0;
     return isRadioButton ? FirstOfGroup(control) : id;
 }

@@ -192,8 +192,11 @@ void CPreferencesWizard::SelectPage(UINT pageId)
         return;
     m_currentPage = index;
     CWizardPage& page = **found;
+    const bool isNew = page.GetSafeHwnd() == nullptr;
     if (page.CreateOrShow(this, PlaceholderRect(IDC_PREFERENCES_PAGE_AREA))) {
-        PlaceAfter(page, IDC_PREFERENCES_PAGE_AREA);
+        // It stays there: of the pages in between none is visible.
+        if (isNew)
+            PlaceAfter(page, IDC_PREFERENCES_PAGE_AREA);
         page.OnPostShow();
     }
     for (const auto& other : m_pages) {

@@ -86,7 +86,11 @@ bool CWizardPage::CreateOrShow(CWnd* parent, const CRect& rectangle)
     if (GetSafeHwnd() == nullptr && !Create(GetTemplateId(), parent))
         return false;
     if (parent != nullptr) {
-        MoveToRect(rectangle);
+        CRect present;
+        GetWindowRect(&present);
+        parent->ScreenToClient(&present);
+        if (present != rectangle)
+            MoveToRect(rectangle);
         ShowWindow(SW_SHOW);
     }
     return true;

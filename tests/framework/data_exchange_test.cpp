@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 namespace
 {
 class CFields : public CDialog
@@ -48,6 +50,26 @@ BEGIN_MESSAGE_MAP(CFields, CDialog)
     ON_EN_CHANGE(IDC_FIELDS_EDIT, &CFields::OnTextChanged)
     ON_NOTIFY(NM_CLICK, IDC_FIELDS_EDIT, &CFields::OnNotified)
 END_MESSAGE_MAP()
+
+/// A control that counts how often it is told to be checked or not.
+class CheckCounter : public CWnd
+{
+  public:
+    explicit CheckCounter(HWND control) { SubclassWindow(control); }
+    ~CheckCounter() override { UnsubclassWindow(); }
+
+    int Count() { return std::exchange(m_count, 0); }
+
+  protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        m_count += message == BM_SETCHECK ? 1 : 0;
+        return CWnd::WindowProc(message, wParam, lParam);
+    }
+
+  private:
+    int m_count = 0;
+};
 
 class DataExchange : public testing::Test
 {
@@ -114,6 +136,37 @@ TEST_F(DataExchange, MovesChecks)
         m_dialog.UpdateData();
         EXPECT_EQ(value, m_dialog.m_check);
     }
+}
+
+TEST_F(DataExchange, EqualChecksAreNotSetAgain)
+{
+    CheckCounter check(::GetDlgItem(m_dialog, IDC_FIELDS_CHECK));
+    CheckCounter radio(::GetDlgItem(m_dialog, IDC_FIELDS_RADIO_2));
+    m_dialog.m_check = BST_CHECKED;
+    m_dialog.m_radio = 1;
+    m_dialog.UpdateData(FALSE);
+    EXPECT_EQ(1, check.Count());
+    EXPECT_EQ(1, radio.Count());
+    m_dialog.UpdateData(FALSE);
+    EXPECT_EQ(0, check.Count());
+    EXPECT_EQ(0, radio.Count());
+    m_dialog.m_radio = -1;
+    m_dialog.UpdateData(FALSE);
+    EXPECT_EQ(0, check.Count());
+    EXPECT_EQ(1, radio.Count());
+    EXPECT_EQ(0u, ::IsDlgButtonChecked(m_dialog, IDC_FIELDS_RADIO_2));
+}
+
+// Two of a group can be checked from outside only.
+TEST_F(DataExchange, SecondCheckedButtonOfAGroupIsCleared)
+{
+    m_dialog.m_radio = 1;
+    m_dialog.UpdateData(FALSE);
+    ::CheckDlgButton(m_dialog, IDC_FIELDS_RADIO_1, BST_CHECKED);
+    ::CheckDlgButton(m_dialog, IDC_FIELDS_RADIO_2, BST_CHECKED);
+    m_dialog.UpdateData(FALSE);
+    EXPECT_EQ(0u, ::IsDlgButtonChecked(m_dialog, IDC_FIELDS_RADIO_1));
+    EXPECT_EQ(1u, ::IsDlgButtonChecked(m_dialog, IDC_FIELDS_RADIO_2));
 }
 
 TEST_F(DataExchange, RadioIsAnIndexWithinItsGroup)

@@ -67,6 +67,40 @@ TEST_F(WindowMap, DeletingTemporariesLeavesTheirWindows)
     EXPECT_EQ(plain, CWnd::FromHandle(plain)->m_hWnd);
 }
 
+TEST_F(WindowMap, ControlsAreFoundWhateverBecomesOfThem)
+{
+    constexpr int firstId = 7;
+    constexpr int secondId = 8;
+    const auto make = [&](HWND parent) {
+        return ::CreateWindowExW(0, L"STATIC", L"", WS_CHILD, 0, 0, 10, 10, parent,
+                                 reinterpret_cast<HMENU>(static_cast<INT_PTR>(firstId)), nullptr, nullptr);
+    };
+    EXPECT_EQ(nullptr, m_window.FindControl(firstId));
+    EXPECT_EQ(nullptr, m_window.GetDlgItem(firstId));
+    const HWND first = make(m_window);
+    EXPECT_EQ(first, m_window.FindControl(firstId));
+    EXPECT_EQ(first, m_window.GetDlgItem(firstId)->m_hWnd);
+    // Another one takes its place.
+    ::DestroyWindow(first);
+    EXPECT_EQ(nullptr, m_window.FindControl(firstId));
+    const HWND second = make(m_window);
+    EXPECT_EQ(second, m_window.FindControl(firstId));
+    // It gets another number, or another parent.
+    ::SetWindowLongPtrW(second, GWLP_ID, secondId);
+    EXPECT_EQ(nullptr, m_window.FindControl(firstId));
+    EXPECT_EQ(second, m_window.FindControl(secondId));
+    CWnd other;
+    ASSERT_TRUE(other.CreateEx(0, nullptr, L"", WS_POPUP, CRect(0, 0, 100, 100), nullptr, 0));
+    ::SetParent(second, other);
+    EXPECT_EQ(nullptr, m_window.FindControl(secondId));
+    EXPECT_EQ(second, other.FindControl(secondId));
+    // So does an object that is not the window's own.
+    CWnd foreign;
+    foreign.m_hWnd = other;
+    EXPECT_EQ(second, foreign.FindControl(secondId));
+    foreign.m_hWnd = nullptr;
+}
+
 TEST_F(WindowMap, AttachAndDetachDoNotTouchTheWindow)
 {
     const HWND plain =
