@@ -140,6 +140,13 @@ void DialogSession::TypeOnPage(int id, const std::wstring& text)
     EXPECT_EQ(text, PageText(id));
 }
 
+void DialogSession::TakeMarkBack()
+{
+    constexpr UINT pageModified = 0x5F4;
+    EXPECT_EQ(1, Send(m_dialog, pageModified, reinterpret_cast<WPARAM>(Page()), 0));
+    EXPECT_FALSE(CanSave());
+}
+
 void DialogSession::ExpectClosed()
 {
     Await([this] { return m_ended || FindBox(); });

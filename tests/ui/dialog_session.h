@@ -74,6 +74,9 @@ class DialogSession : public testing::Test
 
     /// Presses a button of the dialog.
     void Press(int id) { uidriver::Click(Control(id)); }
+    /// The page that is shown tells the dialog that nothing is modified, after which
+    /// Save must be disabled: the next change has to mark the dialog again.
+    void TakeMarkBack();
     /// Waits until the call has returned, which must be with 0 and without a
     /// message box.
     void ExpectClosed();

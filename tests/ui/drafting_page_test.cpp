@@ -35,14 +35,15 @@ TEST_F(DraftingPageTest, EachBoxMarksTheDialogModifiedAndIsSaved)
               AssignmentOf(saved, "_ORTHOVAL_DRAFT_MENUS_ORDERBYDESCRIPTION"));
     EXPECT_EQ("_ORTHOVAL_TEXT_FORCECOLOUROVERRIDEMATCH = 0",
               AssignmentOf(saved, "_ORTHOVAL_TEXT_FORCECOLOUROVERRIDEMATCH"));
+    ASSERT_TRUE(Open());
+    ASSERT_TRUE(ShowPage(L"Drafting"));
+    EXPECT_FALSE(CanSave());
     for (const int box : {2101, 2102}) {
-        ASSERT_TRUE(Open());
-        ASSERT_TRUE(ShowPage(L"Drafting"));
-        EXPECT_FALSE(CanSave());
         ClickOnPage(box);
         EXPECT_TRUE(CanSave()) << box;
-        Abandon();
+        TakeMarkBack();
     }
+    Cancel();
 }
 
 } // namespace

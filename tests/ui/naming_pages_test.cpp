@@ -67,17 +67,18 @@ TEST_P(NamingPagesTest, EveryControlIsSavedAndShownAgain)
 TEST_P(NamingPagesTest, EveryControlMarksTheDialogModified)
 {
     UseCurrent(page.variable + "_PROMPT = 0\r\n");
+    ASSERT_TRUE(OpenPage());
+    EXPECT_FALSE(CanSave());
     for (const int id : {page.prompt, page.templates, page.descriptions, page.document, page.text}) {
         SCOPED_TRACE(id);
-        ASSERT_TRUE(OpenPage());
-        EXPECT_FALSE(CanSave());
         if (id == page.prompt)
             ClickOnPage(id);
         else
             TypeOnPage(id, L"x");
         EXPECT_TRUE(CanSave());
-        Abandon();
+        TakeMarkBack();
     }
+    Cancel();
 }
 
 TEST_P(NamingPagesTest, TemplatesBetweenSemicolonsOpenInTheEditor)

@@ -42,19 +42,20 @@ class PageSession : public DialogSession
         return {low, high};
     }
 
-    /// Opens the dialog anew for each change, expects the change to mark it
-    /// modified and leaves it.
+    /// Expects each change, one after the other on the page, to mark the dialog
+    /// modified. What a change disables or hides has to come before it.
     void ExpectEachMarksModified(const std::wstring& title, const std::vector<std::function<void()>>& changes)
     {
+        ASSERT_TRUE(Open());
+        ASSERT_TRUE(ShowPage(title));
+        EXPECT_FALSE(CanSave());
         for (std::size_t index = 0; index < changes.size(); ++index) {
             SCOPED_TRACE(index);
-            ASSERT_TRUE(Open());
-            ASSERT_TRUE(ShowPage(title));
-            EXPECT_FALSE(CanSave());
             changes[index]();
             EXPECT_TRUE(CanSave());
-            Abandon();
+            TakeMarkBack();
         }
+        Cancel();
     }
 
     /// Presses the "..." button and closes the editor that it opens by `answer`,

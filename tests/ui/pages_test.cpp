@@ -150,21 +150,22 @@ TEST_F(PagesTest, LoadingLeavesTheDialogUnmodified)
 TEST_F(PagesTest, EveryControlThatEditsMarksTheDialogModified)
 {
     UseCurrent("_ORTHOVAL_CHECK_CELLS = 1\r\n");
+    ASSERT_TRUE(Open());
     for (const auto& [title, settings] :
          {std::pair{L"Branding", &BrandingSettings()}, {L"Conforming", &ConformingSettings()}}) {
+        ASSERT_TRUE(ShowPage(title));
+        EXPECT_FALSE(CanSave());
         for (const auto& setting : *settings) {
             SCOPED_TRACE(setting.variable);
-            ASSERT_TRUE(Open());
-            ASSERT_TRUE(ShowPage(title));
-            EXPECT_FALSE(CanSave());
             if (setting.kind == PageSetting::Flag)
                 ClickOnPage(setting.control);
             else
                 TypeOnPage(setting.control, L"1");
             EXPECT_TRUE(CanSave());
-            Abandon();
+            TakeMarkBack();
         }
     }
+    Cancel();
 }
 
 TEST_F(PagesTest, UpDownControlHasItsRangeAndItsSteps)

@@ -238,10 +238,10 @@ TEST_F(ReportingPageTest, EachChangeMarksModified)
                                               [&] { TypeOnPage(IDC_REPORTING_IGNORED, L"a"); },
                                               [&] { SelectOnPage(IDC_REPORTING_MODELS, 1); },
                                               [&] { ClickOnPage(IDC_REPORTING_MODELS_USER_DEFINABLE); },
-                                              [&] { ClickOnPage(IDC_REPORTING_NAME_USER_FILE); },
                                               [&] { TypeOnPage(IDC_REPORTING_NAME, L"a"); },
-                                              [&] { ClickOnPage(IDC_REPORTING_FOLDER_STANDARD); },
+                                              [&] { ClickOnPage(IDC_REPORTING_NAME_USER_FILE); },
                                               [&] { TypeOnPage(IDC_REPORTING_FOLDER, L"a"); },
+                                              [&] { ClickOnPage(IDC_REPORTING_FOLDER_STANDARD); },
                                           });
 }
 
