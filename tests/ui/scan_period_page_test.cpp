@@ -221,6 +221,28 @@ TEST_F(ScanPeriodPageTest, WhatAPersonChoosesIsSavedAndShownAgain)
     Cancel();
 }
 
+// The picker's own keys: Right goes to a field of the date, Up to its next value.
+TEST_F(ScanPeriodPageTest, DayThatKeysChangeIsSaved)
+{
+    UseCurrent(std::string(Settings) + " = \"1, 0, 0, 15, 6, 2020, 0, 0, 0, 0, 28, 3, 2021, 0\"\r\n");
+    ASSERT_TRUE(OpenPage());
+    EXPECT_FALSE(CanSave());
+    const HWND picker = PageControl(IDC_SCAN_PERIOD_DATE_1);
+    Focus(picker);
+    PostKey(Dialog(), VK_RIGHT);
+    PostKey(Dialog(), VK_UP);
+    SYSTEMTIME day = {};
+    ASSERT_EQ(GDT_VALID, SendMessageW(picker, DTM_GETSYSTEMTIME, 0, reinterpret_cast<LPARAM>(&day)));
+    // Whichever field comes first in the system's way of writing dates.
+    EXPECT_EQ(1, (day.wDay - 15) + (day.wMonth - 6) + (day.wYear - 2020));
+    EXPECT_TRUE(CanSave());
+    Save();
+    EXPECT_EQ(std::string(Settings) + " = \"1, 0, 0, " + std::to_string(day.wDay) + ", " +
+                  std::to_string(day.wMonth) + ", " + std::to_string(day.wYear) +
+                  ", 0, 0, 0, 0, 28, 3, 2021, 0\"",
+              Saved(Settings));
+}
+
 /// Hours by which the clock here is ahead of universal time.
 int HoursAhead()
 {
