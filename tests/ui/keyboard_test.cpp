@@ -1,7 +1,11 @@
 // The dialog without a mouse.
+#include "tests/ui/built_pages.h"
 #include "tests/ui/dialog_session.h"
 #include "tests/ui/expected_file.h"
 #include "tests/ui/tab_walk.h"
+#include "tests/ui/value_editor.h"
+
+#include <set>
 
 using namespace uidriver;
 
@@ -115,6 +119,39 @@ TEST_F(KeyboardTest, EscapeAsksWhenTheDialogIsModified)
     PostKey(Dialog(), VK_ESCAPE);
     AnswerAbandonQuestion(IDYES);
     ExpectClosed();
+}
+
+TEST_F(KeyboardTest, ArrowKeysGoThroughAllCategories)
+{
+    ASSERT_TRUE(Open());
+    const auto titles = BuiltTitles();
+    Focus(List());
+    PostKey(Dialog(), VK_HOME);
+    std::set<HWND> pages;
+    for (int row = 0; row < static_cast<int>(titles.size()); ++row) {
+        EXPECT_EQ(row, ListViewSelection(List()));
+        EXPECT_TRUE(pages.insert(Page()).second) << row;
+        EXPECT_EQ(List(), FocusIn(Dialog()));
+        PostKey(Dialog(), VK_DOWN);
+    }
+    for (int row = static_cast<int>(titles.size()) - 1; row >= 0; --row) {
+        EXPECT_EQ(row, ListViewSelection(List()));
+        PostKey(Dialog(), VK_UP);
+    }
+    Cancel();
+}
+
+TEST_F(KeyboardTest, EnterAndSpacePressAButtonOfAPage)
+{
+    ASSERT_TRUE(Open());
+    for (const WORD key : {WORD{VK_RETURN}, WORD{VK_SPACE}}) {
+        Focus(PageControl(IDC_BRANDING_RENAME_BROWSE));
+        PostKey(Dialog(), key);
+        HWND editor = AwaitTopWindow(L"Multi-Entry Values", GetCurrentProcessId());
+        ASSERT_TRUE(editor) << key;
+        CloseValueEditor(editor, IDCANCEL);
+    }
+    Cancel();
 }
 
 TEST_F(KeyboardTest, EnterTogglesACheckBox)

@@ -3,6 +3,7 @@
 #include "tests/support/window_search.h"
 
 #include <algorithm>
+#include <utility>
 
 using namespace uidriver;
 
@@ -24,7 +25,12 @@ std::vector<HWND> InReadingOrder(HWND parent, std::vector<HWND> windows)
         const auto next = std::find_if(row, windows.end(), [&](HWND window) {
             return rectOf(window).top >= (first.top + first.bottom) / 2;
         });
-        std::sort(row, next, [&](HWND one, HWND other) { return rectOf(one).left < rectOf(other).left; });
+        // What stands below one another beside a high window is read downwards.
+        std::sort(row, next, [&](HWND one, HWND other) {
+            const RECT a = rectOf(one);
+            const RECT b = rectOf(other);
+            return std::pair(a.left, a.top) < std::pair(b.left, b.top);
+        });
         row = next;
     }
     return windows;

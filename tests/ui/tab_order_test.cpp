@@ -1,10 +1,10 @@
 // Tab and Shift and Tab through every window.
+#include "resources/page_ids.h"
 #include "tests/ui/built_pages.h"
 #include "tests/ui/dialog_session.h"
+#include "tests/ui/reading_order.h"
 #include "tests/ui/tab_walk.h"
-
-#include <algorithm>
-#include <set>
+#include "tests/ui/value_editor.h"
 
 using namespace uidriver;
 
@@ -87,6 +87,58 @@ TEST_F(TabOrderTest, EveryPageAtItsSmallestIsWalkedThroughOnceAndSeen)
         ExpectTabCycle(Dialog(), List(), [this](HWND control) { ExpectInView(control); });
     }
     Abandon();
+}
+
+TEST_F(TabOrderTest, TheListEditorIsWalkedThroughOnce)
+{
+    UseCurrent("_ORTHOVAL_CHECK_IGNORED_LEVELS = a,b,c\r\n_ORTHOVAL_TITLEBLOCK_CELLLIBS = a;b;c\r\n");
+    ASSERT_TRUE(Open());
+    struct Case {
+        const wchar_t* page;
+        int button;
+        bool browses;
+    };
+    for (const Case& c : {Case{L"Conforming", IDC_CONFORMING_IGNORED_LEVELS_BROWSE, false},
+                          Case{L"Title Blocks", IDC_TITLE_BLOCK_LIBRARY_BROWSE, true}}) {
+        SCOPED_TRACE(c.browses ? "with browsing" : "without browsing");
+        ASSERT_TRUE(ShowPage(c.page));
+        HWND editor = OpenValueEditor(PageControl(c.button));
+        ASSERT_TRUE(editor);
+        HWND list = GetDlgItem(editor, IDC_CONFIG_SETTING_LIST);
+        EXPECT_EQ(list, FocusIn(editor));
+        // The row in the middle can be moved both ways: every button is enabled.
+        SelectOnly(list, 1);
+        EXPECT_EQ(c.browses ? 9u : 8u, TabStopsInReadingOrder(editor).size());
+        ExpectTabCycle(editor, list);
+        // Without a row there is nothing to move or to delete, without a value nothing to insert.
+        for (int row = 0; row < 3; ++row) {
+            SelectOnly(list, 0);
+            Click(GetDlgItem(editor, IDC_CONFIG_SETTING_DELETE));
+        }
+        SetText(GetDlgItem(editor, IDC_CONFIG_SETTING_VALUE), L"");
+        Settle(editor);
+        EXPECT_EQ(c.browses ? 5u : 4u, TabStopsInReadingOrder(editor).size());
+        ExpectTabCycle(editor, list);
+        CloseValueEditor(editor, IDCANCEL);
+    }
+    Cancel();
+}
+
+TEST_F(TabOrderTest, ThePatternTesterIsWalkedThroughOnce)
+{
+    ASSERT_TRUE(Open());
+    ASSERT_TRUE(ShowPage(L"Miscellaneous"));
+    ClickOnPage(IDC_MISC_WILDCARD_TEST);
+    HWND tester = AwaitTopWindow(L"Regular Expression Tester", GetCurrentProcessId());
+    ASSERT_TRUE(tester);
+    HWND type = GetDlgItem(tester, IDC_REGEX_TESTER_TYPE);
+    EXPECT_EQ(type, FocusIn(tester));
+    EXPECT_EQ(5u, TabStopsInReadingOrder(tester).size());
+    ExpectTabCycle(tester, type);
+    PostKey(tester, VK_ESCAPE);
+    EXPECT_TRUE(AwaitGone(tester));
+    Settle(Dialog());
+    Cancel();
 }
 
 } // namespace

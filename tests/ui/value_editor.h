@@ -3,6 +3,8 @@
 
 #include "tests/ui/dialog_session.h"
 
+#include <commctrl.h>
+
 /// Presses the "..." button.
 /// @return the editor; null when it does not come up.
 inline HWND OpenValueEditor(HWND button)
@@ -14,6 +16,16 @@ inline HWND OpenValueEditor(HWND button)
 inline std::vector<std::wstring> ValueEditorRows(HWND editor)
 {
     return uidriver::ListViewTexts(GetDlgItem(editor, IDC_CONFIG_SETTING_LIST));
+}
+
+/// Selects the row and no other; the dialog has seen to it then.
+inline void SelectOnly(HWND list, int row)
+{
+    LVITEMW none = {};
+    none.stateMask = LVIS_SELECTED;
+    SendMessageW(list, LVM_SETITEMSTATE, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(&none));
+    EXPECT_TRUE(uidriver::SelectListViewRow(list, row));
+    uidriver::Settle(list);
 }
 
 /// Types a value and inserts it at the end.
