@@ -12,13 +12,15 @@ drive() {
     }
 }
 
-# Takes the screen until two pictures in a row are alike: then it is painted.
-# Around the dialog there is nothing. What a theme paints in many shades takes 64
+# take_picture FILE [CAPTION]: takes the screen, or the window of that caption,
+# until two pictures in a row are alike: then it is painted. Around the dialog
+# there is nothing. What a theme paints in many shades takes 64
 # colours without a visible difference.
 take_picture() {
-    local tries
+    local tries window=(-window root)
+    [ "$#" -eq 1 ] || window=(-frame -window "$2")
     for tries in 1 2 3 4 5 6 7 8 9 10; do
-        import -window root "$folder/screen-$((tries % 2)).ppm"
+        import "${window[@]}" "$folder/screen-$((tries % 2)).ppm"
         [ "$tries" = 1 ] || ! cmp -s "$folder/screen-0.ppm" "$folder/screen-1.ppm" || break
     done
     convert "$folder/screen-$((tries % 2)).ppm" -trim +repage -strip +dither -colors 64 \

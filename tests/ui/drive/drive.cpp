@@ -17,7 +17,8 @@ using namespace uidriver;
 namespace
 {
 
-constexpr const wchar_t* DialogCaption = L"Preferences";
+// What the commands drive; "in" names another one.
+const wchar_t* dialogCaption = L"Preferences";
 constexpr const wchar_t* BoxCaption = L"Orthoval for MicroStation Preferences";
 
 // Controls come with their page, which the commands have waited for.
@@ -37,6 +38,8 @@ constexpr const char* Usage = R"(usage: ovDrive COMMAND
   wait-close [ID]          wait until the host has ended, after pressing button
                            ID, and print its exit code when it can still be had
   answer BUTTON-ID         print a message box's text and press its button
+  in CAPTION COMMAND       one of click, type, text, state and size in another
+                           window than the Preferences dialog
 )";
 
 using Arguments = std::span<wchar_t*>;
@@ -64,9 +67,9 @@ int ToInt(const wchar_t* text)
 // The dialog, waited for; says so when it does not come up.
 HWND OpenDialog()
 {
-    HWND dialog = AwaitTopWindow(DialogCaption);
+    HWND dialog = AwaitTopWindow(dialogCaption);
     if (!dialog)
-        Fail("no window \"" + Utf8(DialogCaption) + "\" came up");
+        Fail("no window \"" + Utf8(dialogCaption) + "\" came up");
     return dialog;
 }
 
@@ -86,7 +89,7 @@ int Start(Arguments arguments)
         return Fail("cannot start " + Utf8(arguments[0]));
     HWND dialog = nullptr;
     Await([&] {
-        dialog = FindTopWindow(DialogCaption, host.Id());
+        dialog = FindTopWindow(dialogCaption, host.Id());
         return dialog || !host.IsRunning();
     });
     if (!dialog && !host.IsRunning())
@@ -189,7 +192,7 @@ int Size(Arguments arguments)
 
 int WaitClose(Arguments arguments)
 {
-    HWND dialog = FindTopWindow(DialogCaption);
+    HWND dialog = FindTopWindow(dialogCaption);
     if (!dialog)
         return 0;
     DWORD processId = 0;
@@ -246,7 +249,11 @@ constexpr Command Commands[] = {
 
 int wmain(int count, wchar_t** texts)
 {
-    const Arguments all(texts, static_cast<std::size_t>(count));
+    Arguments all(texts, static_cast<std::size_t>(count));
+    if (all.size() >= 4 && std::wcscmp(all[1], L"in") == 0) {
+        dialogCaption = all[2];
+        all = all.subspan(2);
+    }
     if (all.size() >= 2) {
         const auto arguments = all.subspan(2);
         for (const auto& command : Commands) {
