@@ -4,6 +4,7 @@ IMPLEMENT_DYNAMIC(CPrefListCtrl, CListCtrl)
 
 BEGIN_MESSAGE_MAP(CPrefListCtrl, CListCtrl)
     ON_MESSAGE(WM_NCCALCSIZE, &CPrefListCtrl::OnNcCalcSize)
+    ON_MESSAGE(WM_SYSCOLORCHANGE, &CPrefListCtrl::OnSysColorChange)
 END_MESSAGE_MAP()
 
 namespace
@@ -57,4 +58,14 @@ LRESULT CPrefListCtrl::OnNcCalcSize(WPARAM, LPARAM)
         !m_hasHorizontalBar && (style & WS_HSCROLL) != 0)
         ::SetWindowLongPtrW(m_hWnd, GWL_STYLE, style & ~LONG_PTR{WS_HSCROLL});
     return Default();
+}
+
+LRESULT CPrefListCtrl::OnSysColorChange(WPARAM, LPARAM)
+{
+    const LRESULT result = Default();
+    // Not every list asks for these again by itself.
+    SendMessage(LVM_SETBKCOLOR, 0, static_cast<LPARAM>(::GetSysColor(COLOR_WINDOW)));
+    SendMessage(LVM_SETTEXTBKCOLOR, 0, static_cast<LPARAM>(::GetSysColor(COLOR_WINDOW)));
+    SendMessage(LVM_SETTEXTCOLOR, 0, static_cast<LPARAM>(::GetSysColor(COLOR_WINDOWTEXT)));
+    return result;
 }

@@ -41,6 +41,7 @@ class CPrefListCtrl : public CListCtrl
 
   protected:
     LRESULT OnNcCalcSize(WPARAM, LPARAM);
+    LRESULT OnSysColorChange(WPARAM, LPARAM);
     DECLARE_MESSAGE_MAP()
 
   private:

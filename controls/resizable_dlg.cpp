@@ -9,6 +9,9 @@
 namespace
 {
 
+// Larger than any template at any resolution.
+constexpr LONG largestSize = 30000;
+
 // The controls of a dialog, as the layout arithmetic sees them.
 class DialogControls : public ov::LayoutControls
 {
@@ -126,6 +129,7 @@ BOOL CResizableDlg::OnInitDialog()
     const CRect client = GetClientRectangle();
     DialogControls controls(*this);
     ov::CaptureControls(m_controlLayout, controls, client.Width(), client.Height());
+    m_isCaptured = true;
     NameControls();
     return result;
 }
@@ -206,6 +210,10 @@ void CResizableDlg::ApplyMinimumSize(MINMAXINFO* info)
     }
     RepositionCurrentPage();
     info->ptMinTrackSize = {minimum->width, minimum->height};
+    // A window that is made smaller than its template, for it would be larger than
+    // the screen, would be captured with controls outside of it.
+    if (!m_isCaptured)
+        info->ptMaxTrackSize = {largestSize, largestSize};
 }
 
 int CResizableDlg::OnCreate(CREATESTRUCTW* create)

@@ -65,4 +65,5 @@ class CResizableDlg : public CAbstractFontDlg
     UINT m_designWidth;
     UINT m_designHeight;
     CWindowNames m_names; ///< those of the dialogs inside this one, too
+    bool m_isCaptured = false;
 };

@@ -11,6 +11,9 @@ IMPLEMENT_DYNAMIC(CDialog, CWnd)
 
 BEGIN_MESSAGE_MAP(CDialog, CWnd)
     ON_MESSAGE(WM_INITDIALOG, &CDialog::HandleInitDialog)
+    ON_MESSAGE(WM_SYSCOLORCHANGE, &CDialog::OnSystemChange)
+    ON_MESSAGE(WM_SETTINGCHANGE, &CDialog::OnSystemChange)
+    ON_MESSAGE(WM_THEMECHANGED, &CDialog::OnSystemChange)
     ON_COMMAND(IDOK, &CDialog::OnOK)
     ON_COMMAND(IDCANCEL, &CDialog::OnCancel)
 END_MESSAGE_MAP()
@@ -134,6 +137,18 @@ BOOL CDialog::OnInitDialog()
         return FALSE;
     }
     return TRUE;
+}
+
+LRESULT CDialog::OnSystemChange(WPARAM wParam, LPARAM lParam)
+{
+    // The system tells only top-level windows of new colours and settings.
+    const UINT message = AfxGetThreadState().currentMessage.message;
+    const LRESULT result = Default();
+    if ((GetStyle() & WS_CHILD) == 0) {
+        SendMessageToDescendants(m_hWnd, message, wParam, lParam);
+        RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
+    }
+    return result;
 }
 
 void CDialog::OnOK()

@@ -48,6 +48,7 @@ class CDialog : public CWnd
 
   private:
     LRESULT HandleInitDialog(WPARAM wParam, LPARAM lParam);
+    LRESULT OnSystemChange(WPARAM wParam, LPARAM lParam);
     BOOL Initialise();
     bool CreateWindowFromTemplate(UINT templateId, HWND parent);
     bool IsChildPage() const;

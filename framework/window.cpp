@@ -169,6 +169,14 @@ void CWnd::CenterWindow()
     SetWindowPos(nullptr, x, y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
+void CWnd::SendMessageToDescendants(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    for (HWND child = ::GetTopWindow(window); child != nullptr; child = ::GetWindow(child, GW_HWNDNEXT)) {
+        ::SendMessageW(child, message, wParam, lParam);
+        SendMessageToDescendants(child, message, wParam, lParam);
+    }
+}
+
 BOOL CWnd::RedrawWindow(LPCRECT rectangle, CRgn* region, UINT flags)
 {
     return ::RedrawWindow(m_hWnd, rectangle, region != nullptr ? static_cast<HRGN>(*region) : nullptr, flags);

@@ -84,6 +84,8 @@ class CWnd : public CCmdTarget
 
     // --- painting --------------------------------------------------------------
     void Invalidate(BOOL erase = TRUE) { ::InvalidateRect(m_hWnd, nullptr, erase); }
+    /// Sends the message to the window's children, to theirs, and so on.
+    static void SendMessageToDescendants(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
     BOOL RedrawWindow(LPCRECT rectangle = nullptr, CRgn* region = nullptr,
                       UINT flags = RDW_INVALIDATE | RDW_UPDATENOW | RDW_ERASE);
     void SetRedraw(BOOL redraw = TRUE) { SendMessage(WM_SETREDRAW, static_cast<WPARAM>(redraw), 0); }

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "controls/core/layout.h"
+#include "controls/dropped_list.h"
 #include "match/core/pattern_match.h"
 #include "resources/ids.h"
 
@@ -74,6 +75,15 @@ void RegexTester::FillTypes()
         const ov::Text text = AfxLoadString(name);
         m_typeCombo.SendMessage(CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(Wide(text)));
     }
+    FitDroppedWidth(m_typeCombo.m_hWnd);
+}
+
+void RegexTester::LayoutPass()
+{
+    CResizableDlg::LayoutPass();
+    // A list forgets a width that it had anyway when it was set.
+    if (m_typeCombo.m_hWnd != nullptr)
+        FitDroppedWidth(m_typeCombo.m_hWnd);
 }
 
 BOOL RegexTester::PreTranslateMessage(MSG* message)

@@ -22,6 +22,7 @@ class RegexTester : public CResizableDlg
 
   protected:
     void DoDataExchange(CDataExchange* exchange) override;
+    void LayoutPass() override;
     void InitControlLayout() override;
 
     void OnGetMinMaxInfo(MINMAXINFO* info);

@@ -5,6 +5,7 @@
 #include <stdexcept>
 
 #include "controls/application.h"
+#include "controls/dropped_list.h"
 #include "controls/tool_tip_control.h"
 #include "resources/ids.h"
 #include "wizard/preferences_wizard.h"
@@ -109,7 +110,10 @@ BOOL CSettingsPage::OnInitDialog()
     SetUpSpins();
     LiftTextLimits();
     CWizardPage::OnInitDialog();
+    for (const ov::EntriesRow& row : m_rows.entries)
+        FitDroppedWidth(GetDlgItem(row.controlId)->m_hWnd);
     m_narrowestWidth = NarrowestWidth();
+    ReserveContent(CSize(m_narrowestWidth, ContentHeight()));
     LoadSettings(TakePendingSelector());
     RegisterTooltips();
     return TRUE;
@@ -151,7 +155,8 @@ int CSettingsPage::NarrowestWidth(HWND control, const CRect& units) const
     return hasCaption ? rect.Width() : std::min<int>(rect.Width(), units.right);
 }
 
-/// The width of the page at which the first stretched control is as narrow as it may become.
+/// The width of the page at which the first stretched control is as narrow as it
+/// may become; what does not follow is not cut either.
 int CSettingsPage::NarrowestWidth() const
 {
     // The margin in a frame, and what still shows a word of an edit's text.
@@ -160,12 +165,25 @@ int CSettingsPage::NarrowestWidth() const
     CRect client;
     GetClientRect(&client);
     int spare = client.Width();
+    int fixed = 0;
     for (const ov::LayoutRow& row : m_rows.layout) {
         const HWND control = ::GetDlgItem(m_hWnd, row.controlId);
-        if ((row.layoutFlags & ov::LayoutStretchWidth) != 0 && control != nullptr)
-            spare = std::min(spare, RectOn(m_hWnd, control).Width() - NarrowestWidth(control, units));
+        const CRect rect = RectOn(m_hWnd, control);
+        if ((row.layoutFlags & ov::LayoutStretchWidth) != 0)
+            spare = std::min(spare, rect.Width() - NarrowestWidth(control, units));
+        else if (!Follows(control))
+            fixed = std::max<int>(fixed, rect.right);
     }
-    return client.Width() - std::max(spare, 0);
+    return std::max(client.Width() - std::max(spare, 0), fixed);
+}
+
+int CSettingsPage::ContentHeight() const
+{
+    int bottom = 0;
+    for (HWND control = ::GetWindow(m_hWnd, GW_CHILD); control != nullptr;
+         control = ::GetWindow(control, GW_HWNDNEXT))
+        bottom = std::max<int>(bottom, RectOn(m_hWnd, control).bottom);
+    return bottom;
 }
 
 void CSettingsPage::FillLists()

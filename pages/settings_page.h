@@ -56,6 +56,7 @@ class CSettingsPage : public CWizardPage
     bool Follows(HWND control) const;
     int NarrowestWidth(HWND control, const CRect& units) const;
     int NarrowestWidth() const;
+    int ContentHeight() const;
     bool ReportsChange(int id, int code) const;
     bool IsDependedOn(int id) const;
     int GroupOf(int id) const;

@@ -69,6 +69,13 @@ use_prefix() {
     touch "$WINEPREFIX/.complete"
 }
 
+# use_resolution DPI: of all programs that begin in the prefix from now on.
+use_resolution() {
+    wine reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d "$1" /f >/dev/null 2>&1
+    wineserver -k || true
+    wineserver -w
+}
+
 # The path as Windows programs know it.
 windows_path() {
     local path

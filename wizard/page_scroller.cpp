@@ -1,5 +1,7 @@
 #include "wizard/page_scroller.h"
 
+#include <algorithm>
+
 CPageScroller::CPageScroller(CWnd& page, CSize displaySize) : m_page(page)
 {
     SetDisplaySize(displaySize);
@@ -9,6 +11,14 @@ void CPageScroller::SetDisplaySize(CSize displaySize)
 {
     m_horizontal.displaySize = displaySize.cx;
     m_vertical.displaySize = displaySize.cy;
+}
+
+void CPageScroller::Reserve(CSize size)
+{
+    m_horizontal.displaySize =
+        std::max<int>(m_horizontal.displaySize, size.cx + ::GetSystemMetrics(SM_CXVSCROLL));
+    m_vertical.displaySize =
+        std::max<int>(m_vertical.displaySize, size.cy + ::GetSystemMetrics(SM_CYHSCROLL));
 }
 
 CSize CPageScroller::AvailableSize() const

@@ -14,6 +14,10 @@ class CPageScroller
     /// Size of the whole content from the next size of the page on.
     void SetDisplaySize(CSize displaySize);
 
+    /// Makes the content at least so large that the given size can be brought
+    /// into view beside both bars.
+    void Reserve(CSize size);
+
     /// The part of the page, from its origin, that can be brought into view.
     CSize ReachableSize() const;
 

@@ -73,6 +73,10 @@ class CWizardPage : public CResizableDlg
   protected:
     BOOL OnInitDialog() override;
 
+    /// Where fine type leaves the page's size too small for what lies on it, the
+    /// page scrolls over that much.
+    void ReserveContent(CSize size) { m_scroller.Reserve(size); }
+
     /// The part of the page, from its origin, that scrolling brings into view.
     CSize ReachableSize() const { return m_scroller.ReachableSize(); }
 

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <vector>
+
 namespace
 {
 class CRefusingDialog : public CScriptDialog
@@ -18,6 +20,21 @@ class CRefusingDialog : public CScriptDialog
         ++m_exchanges;
         if (m_refuse)
             exchange->Fail();
+    }
+};
+
+/// A child that notes what it is told of the system's appearance.
+class CListeningWindow : public CWnd
+{
+  public:
+    std::vector<UINT> m_heard;
+
+  protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message == WM_SYSCOLORCHANGE || message == WM_SETTINGCHANGE || message == WM_THEMECHANGED)
+            m_heard.push_back(message);
+        return CWnd::WindowProc(message, wParam, lParam);
     }
 };
 
@@ -162,4 +179,34 @@ TEST(Dialog, DeletingTheObjectDestroysTheWindow)
         window = dialog.m_hWnd;
     }
     EXPECT_FALSE(::IsWindow(window));
+}
+
+TEST(Dialog, TellsEveryDescendantOfTheSystemsAppearanceOnce)
+{
+    CDialog dialog(IDD_SMALL);
+    ASSERT_TRUE(dialog.Create(IDD_SMALL));
+    CListeningWindow child;
+    CListeningWindow grandchild;
+    const CRect place(0, 0, 10, 10);
+    ASSERT_TRUE(child.Create(L"STATIC", nullptr, WS_CHILD | WS_VISIBLE, place, &dialog, 1));
+    ASSERT_TRUE(grandchild.Create(L"STATIC", nullptr, WS_CHILD | WS_VISIBLE, place, &child, 1));
+    const std::vector<UINT> changes = {WM_SYSCOLORCHANGE, WM_SETTINGCHANGE, WM_THEMECHANGED};
+    for (const UINT change : changes)
+        dialog.SendMessage(change);
+    EXPECT_EQ(changes, child.m_heard);
+    EXPECT_EQ(changes, grandchild.m_heard);
+}
+
+TEST(Dialog, ThatIsAChildLeavesTellingToTheOutermost)
+{
+    CDialog dialog(IDD_SMALL);
+    ASSERT_TRUE(dialog.Create(IDD_SMALL));
+    CDialog page(IDD_INNER);
+    ASSERT_TRUE(page.Create(IDD_INNER, &dialog));
+    CListeningWindow control;
+    ASSERT_TRUE(control.Create(L"STATIC", nullptr, WS_CHILD, CRect(0, 0, 10, 10), &page, 1));
+    dialog.SendMessage(WM_SYSCOLORCHANGE);
+    EXPECT_EQ((std::vector<UINT>{WM_SYSCOLORCHANGE}), control.m_heard);
+    page.SendMessage(WM_SYSCOLORCHANGE);
+    EXPECT_EQ(1u, control.m_heard.size());
 }

@@ -1,11 +1,14 @@
-// Every page that is built, as it lies in the dialog at several sizes.
+// Every window of the program, as its controls lie in it at several sizes. What
+// is said here holds at every resolution: ./test runs it at four.
 #include "pages/core/page_catalogue.h"
+#include "resources/page_ids.h"
 #include "tests/ui/built_pages.h"
 #include "tests/ui/dialog_session.h"
 
 #include <commctrl.h>
 
 #include <algorithm>
+#include <utility>
 
 using namespace uidriver;
 
@@ -17,7 +20,7 @@ static void PrintTo(const RECT& rect, std::ostream* stream)
 namespace
 {
 
-/// A visible control and where it lies on its page, which is not scrolled.
+/// A visible control and where it lies in its window, which is not scrolled.
 struct Placed {
     int id;
     HWND window;
@@ -37,119 +40,286 @@ bool Contains(const RECT& outer, const RECT& inner)
            outer.bottom >= inner.bottom;
 }
 
-class PageGeometryTest : public DialogSession
+/// A length at the usual resolution in the pixels of this one.
+LONG Scaled(LONG length)
+{
+    HDC screen = GetDC(nullptr);
+    const LONG scaled = MulDiv(static_cast<int>(length), GetDeviceCaps(screen, LOGPIXELSX), 96);
+    ReleaseDC(nullptr, screen);
+    return scaled;
+}
+
+std::vector<Placed> ControlsOf(HWND window)
+{
+    std::vector<Placed> controls;
+    for (HWND child : Children(window)) {
+        if (!IsWindowVisible(child))
+            continue;
+        Placed control = {GetDlgCtrlID(child),
+                          child,
+                          RectIn(child, window),
+                          ClassOf(child),
+                          static_cast<DWORD>(GetWindowLongPtrW(child, GWL_STYLE)),
+                          {}};
+        if (control.windowClass == L"Button" || control.windowClass == L"Static")
+            control.caption = GetText(child);
+        controls.push_back(std::move(control));
+    }
+    return controls;
+}
+
+/// What a bar lets see beyond what is visible.
+LONG Scrollable(HWND window, int bar)
+{
+    SCROLLINFO info = {};
+    info.cbSize = sizeof info;
+    info.fMask = SIF_RANGE | SIF_PAGE;
+    GetScrollInfo(window, bar, &info);
+    return info.nMax > 0 ? info.nMax + 1 - static_cast<LONG>(info.nPage) : 0;
+}
+
+/// Within what the window shows or scrolls to.
+void ExpectReachable(HWND window, const std::vector<Placed>& controls)
+{
+    RECT content = {};
+    GetClientRect(window, &content);
+    content.right += Scrollable(window, SB_HORZ);
+    content.bottom += Scrollable(window, SB_VERT);
+    for (const Placed& control : controls) {
+        EXPECT_TRUE(Contains(content, control.rect))
+            << control.id << " (" << testing::PrintToString(control.rect) << ") lies outside of "
+            << testing::PrintToString(content);
+    }
+}
+
+/// An up-down control's edge covers that of its edit.
+bool IsBuddy(const Placed& spin, const Placed& edit)
+{
+    return spin.windowClass == L"msctls_updown32" &&
+           reinterpret_cast<HWND>(Send(spin.window, UDM_GETBUDDY)) == edit.window;
+}
+
+/// A frame and what it surrounds, with a distance from its edges.
+bool Surrounds(const Placed& frame, const Placed& member)
+{
+    RECT inside = frame.rect;
+    InflateRect(&inside, static_cast<int>(-Scaled(8)), 0);
+    inside.bottom -= Scaled(8);
+    return frame.IsFrame() && Contains(inside, member.rect);
+}
+
+/// Whether the size grip may lie over the control: its corner is the dialog's.
+bool IsGrip(const Placed& control)
+{
+    return control.windowClass == L"ScrollBar";
+}
+
+void ExpectApart(const std::vector<Placed>& controls)
+{
+    for (auto one = controls.begin(); one != controls.end(); ++one) {
+        for (auto other = one + 1; other != controls.end(); ++other) {
+            RECT both = {};
+            const bool belongs = Surrounds(*one, *other) || Surrounds(*other, *one) ||
+                                 IsBuddy(*one, *other) || IsBuddy(*other, *one) || IsGrip(*one) ||
+                                 IsGrip(*other);
+            EXPECT_FALSE(!belongs && IntersectRect(&both, &one->rect, &other->rect))
+                << one->id << " (" << testing::PrintToString(one->rect) << ") and " << other->id << " ("
+                << testing::PrintToString(other->rect) << ")";
+        }
+    }
+}
+
+/// Measures as the control draws: in its font and on its screen, where letters
+/// may have other widths than in memory.
+class Measure
+{
+  public:
+    explicit Measure(HWND control) : m_control(control), m_context(GetDC(control))
+    {
+        m_before = SelectObject(m_context, reinterpret_cast<HFONT>(Send(control, WM_GETFONT)));
+    }
+    ~Measure()
+    {
+        SelectObject(m_context, m_before);
+        ReleaseDC(m_control, m_context);
+    }
+    Measure(const Measure&) = delete;
+    Measure& operator=(const Measure&) = delete;
+
+    SIZE Of(const std::wstring& text, LONG width, UINT format) const
+    {
+        RECT needed = {0, 0, width, 0};
+        DrawTextW(m_context, text.c_str(), -1, &needed, DT_CALCRECT | format);
+        return {needed.right, needed.bottom};
+    }
+
+  private:
+    HWND m_control;
+    HDC m_context;
+    HGDIOBJ m_before;
+};
+
+/// Measured, the longest of all captions takes more than the smallest dialog has.
+/// Drawn, it fits: letters are measured up to an eighth wider than they are drawn.
+bool IsDrawnNarrower(const Placed& control)
+{
+    return control.id == IDC_DRAWING_SCALES_IGNORE_ANNOTATION_LOCK;
+}
+
+/// Every caption is shown whole.
+void ExpectUncut(const std::vector<Placed>& controls)
+{
+    // What a box takes with its distance from the caption, a frame's and a button's edges.
+    const LONG boxWidth = Scaled(16);
+    const LONG frameEdges = Scaled(18);
+    const LONG buttonEdges = Scaled(6);
+    for (const Placed& control : controls) {
+        if (control.caption.empty())
+            continue;
+        const LONG taken = control.IsBox()                    ? boxWidth
+                           : control.IsFrame()                ? frameEdges
+                           : control.windowClass == L"Button" ? buttonEdges
+                                                              : 0;
+        const LONG width = control.rect.right - control.rect.left - taken;
+        const LONG measured = IsDrawnNarrower(control) ? width * 9 / 8 : width;
+        const LONG height = control.rect.bottom - control.rect.top;
+        const bool breaks = control.windowClass == L"Static" || (control.style & BS_MULTILINE) != 0;
+        const SIZE needed =
+            Measure(control.window).Of(control.caption, width, breaks ? DT_WORDBREAK : DT_SINGLELINE);
+        EXPECT_TRUE(needed.cx <= measured && needed.cy <= height)
+            << control.id << " " << testing::PrintToString(control.caption) << " takes " << needed.cx
+            << " by " << needed.cy << " and has " << width << " by " << height;
+    }
+}
+
+/// Every entry of a drop-down list is shown whole once it is open.
+void ExpectEntriesUncut(const std::vector<Placed>& controls)
+{
+    const LONG edges = Scaled(8);
+    for (const Placed& control : controls) {
+        if (control.windowClass != L"ComboBox")
+            continue;
+        const auto dropped = static_cast<LONG>(Send(control.window, CB_GETDROPPEDWIDTH));
+        for (const std::wstring& entry : ComboTexts(control.window)) {
+            const SIZE needed = Measure(control.window).Of(entry, 0, DT_SINGLELINE | DT_NOPREFIX);
+            EXPECT_LE(needed.cx + edges, dropped) << control.id << " " << testing::PrintToString(entry);
+        }
+    }
+}
+
+void ExpectWell(
+    HWND window, bool (*except)(const Placed&) = [](const Placed&) { return false; })
+{
+    auto controls = ControlsOf(window);
+    std::erase_if(controls, except);
+    ExpectReachable(window, controls);
+    ExpectApart(controls);
+    ExpectUncut(controls);
+    ExpectEntriesUncut(controls);
+}
+
+/// The smallest size is a number of pixels, whatever the resolution. At twice the
+/// usual one, what keeps its size in the dialog, the editor or the tester takes
+/// more than that by itself; their pages, which scroll, are well even then.
+bool HoldsSmallestSize()
+{
+    return Scaled(96) <= 144;
+}
+
+/// This field keeps its width, which the smallest size has only at 96 dpi.
+bool KeepsItsWidth(const Placed& control)
+{
+    return Scaled(96) > 96 && control.id == IDC_PREFERENCES_VARIABLE_NAME;
+}
+
+class GeometryTest : public DialogSession
 {
   protected:
-    std::vector<Placed> Controls()
-    {
-        std::vector<Placed> controls;
-        for (HWND child : Children(Page())) {
-            if (!IsWindowVisible(child))
-                continue;
-            Placed control = {GetDlgCtrlID(child),
-                              child,
-                              RectIn(child, Page()),
-                              ClassOf(child),
-                              static_cast<DWORD>(GetWindowLongPtrW(child, GWL_STYLE)),
-                              {}};
-            if (control.windowClass == L"Button" || control.windowClass == L"Static")
-                control.caption = GetText(child);
-            controls.push_back(std::move(control));
-        }
-        return controls;
-    }
-
-    /// Within what the page shows or scrolls to.
-    void ExpectReachable(const std::vector<Placed>& controls, const ov::PageInfo& info)
-    {
-        RECT client = {};
-        GetClientRect(Page(), &client);
-        const RECT content = {0, 0, std::max<LONG>(client.right, info.scrollWidth),
-                              std::max<LONG>(client.bottom, info.scrollHeight)};
-        for (const Placed& control : controls) {
-            EXPECT_TRUE(Contains(content, control.rect))
-                << control.id << " (" << testing::PrintToString(control.rect) << ") lies outside of "
-                << testing::PrintToString(content);
-        }
-    }
-
-    /// An up-down control's edge covers that of its edit.
-    static bool IsBuddy(const Placed& spin, const Placed& edit)
-    {
-        return spin.windowClass == L"msctls_updown32" &&
-               reinterpret_cast<HWND>(Send(spin.window, UDM_GETBUDDY)) == edit.window;
-    }
-
-    static void ExpectApart(const std::vector<Placed>& controls)
-    {
-        for (auto one = controls.begin(); one != controls.end(); ++one) {
-            for (auto other = one + 1; other != controls.end(); ++other) {
-                RECT both = {};
-                const bool isFrame = (one->IsFrame() && Contains(one->rect, other->rect)) ||
-                                     (other->IsFrame() && Contains(other->rect, one->rect));
-                const bool belongs = IsBuddy(*one, *other) || IsBuddy(*other, *one);
-                EXPECT_FALSE(!isFrame && !belongs && IntersectRect(&both, &one->rect, &other->rect))
-                    << one->id << " (" << testing::PrintToString(one->rect) << ") and " << other->id << " ("
-                    << testing::PrintToString(other->rect) << ")";
-            }
-        }
-    }
-
-    /// Every caption is shown whole.
-    static void ExpectUncut(const std::vector<Placed>& controls)
-    {
-        // What a box takes with its distance from the caption, and a frame's and a button's edges.
-        constexpr LONG boxWidth = 16;
-        constexpr LONG frameEdges = 18;
-        constexpr LONG buttonEdges = 6;
-        HDC screen = CreateCompatibleDC(nullptr);
-        for (const Placed& control : controls) {
-            if (control.caption.empty())
-                continue;
-            SelectObject(screen, reinterpret_cast<HFONT>(Send(control.window, WM_GETFONT)));
-            const LONG taken = control.IsBox()                    ? boxWidth
-                               : control.IsFrame()                ? frameEdges
-                               : control.windowClass == L"Button" ? buttonEdges
-                                                                  : 0;
-            const LONG width = control.rect.right - control.rect.left - taken;
-            const LONG height = control.rect.bottom - control.rect.top;
-            const bool breaks = control.windowClass == L"Static" || (control.style & BS_MULTILINE) != 0;
-            RECT needed = {0, 0, width, 0};
-            DrawTextW(screen, control.caption.c_str(), -1, &needed,
-                      static_cast<UINT>(DT_CALCRECT | (breaks ? DT_WORDBREAK : DT_SINGLELINE)));
-            EXPECT_TRUE(needed.right <= width && needed.bottom <= height)
-                << control.id << " " << testing::PrintToString(control.caption) << " takes " << needed.right
-                << " by " << needed.bottom << " and has " << width << " by " << height;
-        }
-        DeleteDC(screen);
-    }
-
     void ExpectAllPagesWell()
     {
-        for (const expected::Page* page : BuiltPages()) {
-            SCOPED_TRACE(page->title);
-            const std::string title = page->title;
-            ASSERT_TRUE(ShowPage({title.begin(), title.end()}));
-            const auto controls = Controls();
-            ExpectReachable(controls, *ov::FindPage(page->pageId));
-            ExpectApart(controls);
-            ExpectUncut(controls);
+        for (const std::wstring& title : BuiltTitles()) {
+            SCOPED_TRACE(testing::PrintToString(title));
+            ASSERT_TRUE(ShowPage(title));
+            ExpectWell(Page());
         }
+    }
+
+    /// A window that a page's button opens, at its first and at its smallest size.
+    void ExpectWellAndClose(HWND window)
+    {
+        ASSERT_TRUE(window);
+        ExpectWell(window);
+        if (HoldsSmallestSize()) {
+            Resize(window, 1, 1);
+            ExpectWell(window);
+        }
+        PostMessageW(window, WM_COMMAND, IDCANCEL, 0);
+        EXPECT_TRUE(AwaitGone(window));
     }
 };
 
-TEST_F(PageGeometryTest, EveryPageIsWellAtItsFirstSize)
+TEST_F(GeometryTest, EveryPageIsWellAtItsFirstSize)
 {
     ASSERT_TRUE(Open());
+    ExpectWell(Dialog());
     ExpectAllPagesWell();
     Cancel();
 }
 
-TEST_F(PageGeometryTest, EveryPageIsWellInALargeDialog)
+TEST_F(GeometryTest, EveryPageIsWellInALargeDialog)
 {
     ASSERT_TRUE(Open());
     Resize(Dialog(), 1250, 980);
     ExpectAllPagesWell();
+    Cancel();
+}
+
+TEST_F(GeometryTest, EveryPageIsWellInTheSmallestDialog)
+{
+    ASSERT_TRUE(Open());
+    Resize(Dialog(), 580, 400);
+    if (HoldsSmallestSize())
+        ExpectWell(Dialog(), KeepsItsWidth);
+    ExpectAllPagesWell();
+    Cancel();
+}
+
+TEST_F(GeometryTest, ValueEditorIsWell)
+{
+    ASSERT_TRUE(Open());
+    ASSERT_TRUE(ShowPage(L"Branding"));
+    ClickOnPage(IDC_BRANDING_RENAME_BROWSE);
+    ExpectWellAndClose(AwaitTopWindow(L"Multi-Entry Values", GetCurrentProcessId()));
+    Cancel();
+}
+
+TEST_F(GeometryTest, TesterIsWell)
+{
+    ASSERT_TRUE(Open());
+    ASSERT_TRUE(ShowPage(L"Miscellaneous"));
+    ClickOnPage(IDC_MISC_WILDCARD_TEST);
+    ExpectWellAndClose(AwaitTopWindow(L"Regular Expression Tester", GetCurrentProcessId()));
+    Cancel();
+}
+
+/// What holds at the usual resolution alone: finer type takes more room than the
+/// smallest dialog has.
+class UsualGeometryTest : public GeometryTest
+{
+};
+
+TEST_F(UsualGeometryTest, WidePagesAloneHaveAHorizontalBarInTheSmallestDialog)
+{
+    ASSERT_TRUE(Open());
+    Resize(Dialog(), 580, 400);
+    for (const expected::Page* page : BuiltPages()) {
+        SCOPED_TRACE(page->title);
+        const std::string title = page->title;
+        ASSERT_TRUE(ShowPage({title.begin(), title.end()}));
+        const RECT area = RectIn(Page(), Dialog());
+        const bool isWide = ov::FindPage(page->pageId)->scrollWidth > area.right - area.left;
+        EXPECT_EQ(isWide, (GetWindowLongPtrW(Page(), GWL_STYLE) & WS_HSCROLL) != 0);
+    }
     Cancel();
 }
 

@@ -449,7 +449,7 @@ TEST(Templates, GiveControlsTheHeightOfTheirKind)
                 control.windowClass == L"sysdatetimepick32") {
                 EXPECT_EQ(editHeight, height);
             } else if (IsCheckBox(control) || IsRadioButton(control)) {
-                EXPECT_EQ((control.style & BS_MULTILINE) ? 18 : 10, height);
+                EXPECT_EQ(10, height);
             } else if (IsLabel(control)) {
                 EXPECT_EQ(0, height % 8);
             } else if (control.windowClass == L"ComboBox") {
@@ -480,8 +480,7 @@ TEST(Templates, GiveCaptionsTheRoomThatTheyTake)
             if (control.text.empty() || page.IsStretched(control.id))
                 continue;
             const bool isBox = IsCheckBox(control) || IsRadioButton(control);
-            const bool breaks =
-                isBox ? (control.style & BS_MULTILINE) != 0 : IsLabel(control) && control.Height() > 8;
+            const bool breaks = IsLabel(control) && control.Height() > 8;
             const int taken = isBox                   ? boxWidth
                               : IsPushButton(control) ? buttonEdges
                               : IsGroupBox(control)   ? frameEdges
@@ -495,33 +494,22 @@ TEST(Templates, GiveCaptionsTheRoomThatTheyTake)
     });
 }
 
-/// A box for two lines shows a single one in its middle, four units below its top.
-LONG TopOfOneLine(const TemplateControl& control)
-{
-    const bool forTwoLines =
-        (IsCheckBox(control) || IsRadioButton(control)) && (control.style & BS_MULTILINE);
-    return control.rect.top + (forTwoLines ? 4 : 0);
-}
-
 TEST(Templates, KeepTheMarginsOfAPageAndOfItsFrames)
 {
     static constexpr LONG margin = 7;
     static constexpr LONG topOfFrame = 11;
-    // Pages that have always been this low have no room for the margin at their top.
-    static constexpr int lowPage = 70;
-    static constexpr LONG marginOfLowPage = 2;
     ForEachPage([](const BuiltPage& page) {
         const auto& controls = page.dialog.controls;
         for (const TemplateControl& control : controls) {
             SCOPED_TRACE(control.id);
             EXPECT_GE(control.rect.left, margin);
-            EXPECT_GE(TopOfOneLine(control), page.info.scrollHeight <= lowPage ? marginOfLowPage : margin);
+            EXPECT_GE(control.rect.top, margin);
             EXPECT_LE(control.rect.right, page.dialog.size.cx - margin);
             for (const TemplateControl& frame : controls) {
                 if (!IsGroupBox(frame) || &frame == &control || !Contains(frame.rect, Closed(control)))
                     continue;
                 EXPECT_GE(control.rect.left, frame.rect.left + margin);
-                EXPECT_GE(TopOfOneLine(control), frame.rect.top + topOfFrame);
+                EXPECT_GE(control.rect.top, frame.rect.top + topOfFrame);
                 EXPECT_LE(control.rect.right, frame.rect.right - margin);
                 EXPECT_LE(Closed(control).bottom, frame.rect.bottom - margin);
             }

@@ -1,0 +1,6 @@
+#pragma once
+
+#include "framework/afxwin.h"
+
+/// Makes a drop-down list, while it is open, at least as wide as its longest entry.
+void FitDroppedWidth(HWND comboBox);

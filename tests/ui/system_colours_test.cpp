@@ -1,0 +1,91 @@
+// New system colours while the dialog is open, as when a person turns a
+// high-contrast theme on: looked at in the pixels.
+#include "tests/ui/dialog_session.h"
+
+#include <array>
+
+using namespace uidriver;
+
+namespace
+{
+
+/// Other system colours, put back at the end.
+class SystemColours
+{
+  public:
+    SystemColours(std::array<INT, 4> elements, std::array<COLORREF, 4> colours) : m_elements(elements)
+    {
+        for (std::size_t i = 0; i < elements.size(); ++i)
+            m_before[i] = GetSysColor(elements[i]);
+        Set(colours);
+    }
+    ~SystemColours() { Set(m_before); }
+    SystemColours(const SystemColours&) = delete;
+    SystemColours& operator=(const SystemColours&) = delete;
+
+  private:
+    void Set(const std::array<COLORREF, 4>& colours)
+    {
+        SetSysColors(static_cast<int>(m_elements.size()), m_elements.data(), colours.data());
+    }
+
+    std::array<INT, 4> m_elements;
+    std::array<COLORREF, 4> m_before{};
+};
+
+class SystemColoursTest : public DialogSession
+{
+  protected:
+    static COLORREF PixelAt(HWND window, int x, int y)
+    {
+        HDC context = GetDC(window);
+        const COLORREF pixel = GetPixel(context, x, y);
+        ReleaseDC(window, context);
+        return pixel;
+    }
+    /// The background, in the corner where nothing lies.
+    static COLORREF Corner(HWND window)
+    {
+        RECT client = {};
+        GetClientRect(window, &client);
+        return PixelAt(window, client.right - 4, client.bottom - 4);
+    }
+    /// Whether a control shows that colour anywhere.
+    static bool Shows(HWND window, COLORREF colour)
+    {
+        RECT client = {};
+        GetClientRect(window, &client);
+        for (int y = 0; y < client.bottom; ++y) {
+            for (int x = 0; x < client.right; ++x) {
+                if (PixelAt(window, x, y) == colour)
+                    return true;
+            }
+        }
+        return false;
+    }
+};
+
+TEST_F(SystemColoursTest, AreThoseOfTheMomentOnceTheDialogIsTold)
+{
+    constexpr COLORREF black = RGB(0, 0, 0);
+    constexpr COLORREF blue = RGB(0, 0, 96);
+    constexpr COLORREF yellow = RGB(255, 255, 0);
+    constexpr COLORREF green = RGB(0, 255, 0);
+    ASSERT_TRUE(Open());
+    ASSERT_TRUE(ShowPage(L"Branding"));
+    HWND label = PageControl(IDC_BRANDING_RENAME_LABEL);
+    const SystemColours colours({COLOR_MENU, COLOR_MENUTEXT, COLOR_WINDOW, COLOR_WINDOWTEXT},
+                                {black, yellow, blue, green});
+    PostMessageW(Dialog(), WM_SYSCOLORCHANGE, 0, 0);
+    EXPECT_TRUE(Await([&] {
+        return Corner(Page()) == black && Corner(label) == black && Shows(label, yellow) &&
+               Corner(List()) == blue && Shows(List(), green);
+    }));
+    EXPECT_EQ(black, Corner(Page()));
+    EXPECT_EQ(black, Corner(label));
+    EXPECT_EQ(blue, Corner(List()));
+    EXPECT_EQ(blue, Corner(PageControl(IDC_BRANDING_RENAME)));
+    Cancel();
+}
+
+} // namespace
