@@ -118,22 +118,6 @@ TEST_F(Wizard, EachNewlySelectedRowSwitchesPagesOnce)
     EXPECT_EQ(shown.count, 4);
 }
 
-TEST_F(Wizard, EnterBreaksTheLineInAMultiLineEditOfAPage)
-{
-    Open(L"", L"");
-    dialog->SelectPage(conformingPage);
-    CEdit edit;
-    ASSERT_TRUE(edit.Create(L"EDIT", L"ab", WS_CHILD | WS_VISIBLE | WS_TABSTOP | ES_MULTILINE | ES_WANTRETURN,
-                            CRect(0, 0, 100, 60), &Page(), 4999));
-    ::SetFocus(edit.m_hWnd);
-    edit.SendMessage(EM_SETSEL, 1, 1);
-    ::PostMessageW(edit.m_hWnd, WM_KEYDOWN, VK_RETURN, 1);
-    Pump(dialog->m_hWnd);
-    EXPECT_EQ(edit.GetWindowText(), u"a\r\nb");
-    EXPECT_TRUE(dialog->IsWindowVisible());
-    edit.DestroyWindow();
-}
-
 TEST_F(Wizard, APageWithoutAWindowLoadsTheDefaultsWhenItGetsOne)
 {
     Open(MakeFile(L"defaults.cfg", "#\n\n_ORTHOVAL_CHECK_CELLS = 1\n"),
