@@ -74,8 +74,8 @@ bool Settle(HWND window, unsigned deadline)
     PostThreadMessageW(threadId, WM_NULL, Marker, reinterpret_cast<LPARAM>(seen));
     // The marker is fetched after what precedes it was handled. A window that
     // is destroyed meanwhile may end the loop that would have fetched it.
-    const bool settled =
-        Await([&] { return WaitForSingleObject(seen, 0) == WAIT_OBJECT_0 || !IsWindow(window); }, deadline);
+    const bool settled = Await(
+        [&] { return WaitForSingleObject(seen, 0) == WAIT_OBJECT_0 || !IsWindow(window); }, deadline, seen);
     UnhookWindowsHookEx(hook);
     CloseHandle(seen);
     return settled;

@@ -6,6 +6,9 @@
 #include "tests/ui/tab_walk.h"
 #include "tests/ui/value_editor.h"
 
+#include <set>
+#include <utility>
+
 using namespace uidriver;
 
 namespace
@@ -53,6 +56,24 @@ class TabOrderTest : public DialogSession
         }
     }
 
+    /// Walks once around, the focus always in view.
+    void ExpectPageCycle()
+    {
+        ExpectTabCycle(Dialog(), List(), [this](HWND control) { ExpectInView(control); });
+    }
+
+    /// The page's tab stops that Tab passes, for being hidden or disabled.
+    std::set<int> PassedStops()
+    {
+        std::set<int> passed;
+        for (HWND control : Children(Page())) {
+            const bool isStop = (GetWindowLongPtrW(control, GWL_STYLE) & WS_TABSTOP) != 0;
+            if (isStop && !(IsWindowVisible(control) && IsWindowEnabled(control)))
+                passed.insert(GetDlgCtrlID(control));
+        }
+        return passed;
+    }
+
     /// The control is where the person sees it, or its beginning is, if it is
     /// wider than what the scroll bars leave of the page.
     void ExpectInView(HWND control)
@@ -80,12 +101,47 @@ TEST_F(TabOrderTest, EveryPageAtItsSmallestIsWalkedThroughOnceAndSeen)
     ASSERT_TRUE(Open());
     Resize(Dialog(), 580, 400);
     ASSERT_FALSE(BuiltTitles().empty());
+    std::set<std::pair<std::wstring, int>> passed;
     for (const std::wstring& title : BuiltTitles()) {
         SCOPED_TRACE(testing::PrintToString(title));
         ASSERT_TRUE(ShowPage(title));
         TickEverything();
-        ExpectTabCycle(Dialog(), List(), [this](HWND control) { ExpectInView(control); });
+        for (const int id : PassedStops())
+            passed.insert({title, id});
+        ExpectPageCycle();
     }
+    const std::set<std::pair<std::wstring, int>> expected = {
+        // For a value of the file that is not edited here.
+        {L"Logging", IDC_LOGGING_TRACKING},
+        {L"Signature Cells", IDC_SIGNATURE_CELL_COUNT_FIELDS},
+        {L"Title Blocks", IDC_TITLE_BLOCK_COUNT_FIELDS},
+        // Walked through in the next test.
+        {L"Drawing Scales", IDC_DRAWING_SCALES_VALUES},
+        {L"Drawing Scales", IDC_DRAWING_SCALES_VALUES_BROWSE},
+        {L"Scan Period", IDC_SCAN_PERIOD_OR_SELECTOR},
+    };
+    EXPECT_EQ(expected, passed);
+    Abandon();
+}
+
+TEST_F(TabOrderTest, WhatTicksSwitchOffIsReachedWithoutThem)
+{
+    UseCurrent("_ORTHOVAL_CHECK_CELLS = 1\r\n");
+    ASSERT_TRUE(Open());
+    Resize(Dialog(), 580, 400);
+    ASSERT_TRUE(ShowPage(L"Drawing Scales"));
+    for (HWND box : BoxesOfPage(BS_AUTOCHECKBOX)) {
+        if (IsTicked(box))
+            Click(box);
+    }
+    EXPECT_EQ(std::set<int>{}, PassedStops());
+    ExpectPageCycle();
+    ASSERT_TRUE(ShowPage(L"Scan Period"));
+    TickEverything();
+    SelectComboEntry(PageControl(IDC_SCAN_PERIOD_OPERATOR), 0);
+    Settle(Dialog());
+    EXPECT_EQ(std::set<int>{}, PassedStops());
+    ExpectPageCycle();
     Abandon();
 }
 
