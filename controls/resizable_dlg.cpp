@@ -196,8 +196,10 @@ void CResizableDlg::LayoutPass()
         return;
     const CRect client = GetClientRectangle();
     DialogControls controls(*this);
-    ov::ApplyLayout(m_controlLayout, controls, m_designWidth, m_designHeight, client.Width(),
-                    client.Height());
+    // Its first size reaches a window before its controls are made.
+    if (::GetWindow(m_hWnd, GW_CHILD) != nullptr)
+        ov::ApplyLayout(m_controlLayout, controls, m_designWidth, m_designHeight, client.Width(),
+                        client.Height());
     RepositionCurrentPage();
 }
 

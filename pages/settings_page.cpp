@@ -167,7 +167,7 @@ int CSettingsPage::NarrowestWidth() const
     int spare = client.Width();
     int fixed = 0;
     for (const ov::LayoutRow& row : m_rows.layout) {
-        const HWND control = ::GetDlgItem(m_hWnd, row.controlId);
+        const HWND control = FindControl(row.controlId);
         const CRect rect = RectOn(m_hWnd, control);
         if ((row.layoutFlags & ov::LayoutStretchWidth) != 0)
             spare = std::min(spare, rect.Width() - NarrowestWidth(control, units));
