@@ -8,7 +8,7 @@ void FitDroppedWidth(HWND comboBox)
     const HDC context = ::GetDC(comboBox);
     const HGDIOBJ before =
         ::SelectObject(context, reinterpret_cast<HFONT>(::SendMessageW(comboBox, WM_GETFONT, 0, 0)));
-    LONG widest = 0;
+    WPARAM widest = 0;
     const LRESULT count = ::SendMessageW(comboBox, CB_GETCOUNT, 0, 0);
     for (LRESULT index = 0; index < count; ++index) {
         const auto entry = static_cast<WPARAM>(index);
@@ -17,11 +17,11 @@ void FitDroppedWidth(HWND comboBox)
         ::SendMessageW(comboBox, CB_GETLBTEXT, entry, reinterpret_cast<LPARAM>(text.data()));
         SIZE size{};
         ::GetTextExtentPoint32W(context, text.c_str(), static_cast<int>(text.size()), &size);
-        widest = std::max(widest, size.cx);
+        widest = std::max(widest, static_cast<WPARAM>(size.cx));
     }
     ::SelectObject(context, before);
     ::ReleaseDC(comboBox, context);
     // The list's borders, the space beside its entries, and a bar should it need one.
     const int edges = 4 * ::GetSystemMetrics(SM_CXEDGE) + ::GetSystemMetrics(SM_CXVSCROLL);
-    ::SendMessageW(comboBox, CB_SETDROPPEDWIDTH, static_cast<WPARAM>(widest + edges), 0);
+    ::SendMessageW(comboBox, CB_SETDROPPEDWIDTH, widest + static_cast<WPARAM>(edges), 0);
 }
