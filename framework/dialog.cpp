@@ -141,7 +141,8 @@ BOOL CDialog::OnInitDialog()
 
 LRESULT CDialog::OnSystemChange(WPARAM wParam, LPARAM lParam)
 {
-    // The system tells only top-level windows of new colours and settings.
+    // The system tells only top-level windows of new colours and settings. Of a new
+    // theme it tells every window; opening it once more does no harm.
     const UINT message = AfxGetThreadState().currentMessage.message;
     const LRESULT result = Default();
     if ((GetStyle() & WS_CHILD) == 0) {

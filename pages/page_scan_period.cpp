@@ -1,6 +1,5 @@
 #include "pages/page_scan_period.h"
 
-#include <algorithm>
 #include <commctrl.h>
 
 #include "pages/core/scan_period_rows.h"
@@ -10,7 +9,6 @@
 namespace
 {
 constexpr int pickers[] = {IDC_SCAN_PERIOD_DATE_1, IDC_SCAN_PERIOD_DATE_2};
-constexpr int modeLists[] = {IDC_SCAN_PERIOD_MODE_1, IDC_SCAN_PERIOD_MODE_2};
 
 ov::Text MessageOf(const ov::ImpossibleDate& error)
 {
@@ -21,27 +19,6 @@ ov::Text MessageOf(const ov::ImpossibleDate& error)
     return text;
 }
 
-/// As wide as the longest entry, when the list is open.
-void WidenOpenList(HWND list)
-{
-    const HDC context = ::GetDC(list);
-    const HGDIOBJ before =
-        ::SelectObject(context, reinterpret_cast<HGDIOBJ>(::SendMessageW(list, WM_GETFONT, 0, 0)));
-    LONG width = 0;
-    const LRESULT count = ::SendMessageW(list, CB_GETCOUNT, 0, 0);
-    for (LRESULT i = 0; i < count; ++i) {
-        std::vector<wchar_t> entry(
-            static_cast<size_t>(::SendMessageW(list, CB_GETLBTEXTLEN, static_cast<WPARAM>(i), 0)) + 1);
-        ::SendMessageW(list, CB_GETLBTEXT, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(entry.data()));
-        SIZE size = {};
-        ::GetTextExtentPoint32W(context, entry.data(), static_cast<int>(entry.size() - 1), &size);
-        width = std::max(width, size.cx);
-    }
-    ::SelectObject(context, before);
-    ::ReleaseDC(list, context);
-    width += 2 * ::GetSystemMetrics(SM_CXEDGE) + ::GetSystemMetrics(SM_CXVSCROLL);
-    ::SendMessageW(list, CB_SETDROPPEDWIDTH, static_cast<WPARAM>(width), 0);
-}
 } // namespace
 
 IMPLEMENT_DYNAMIC(CPageScanPeriod, CSettingsPage)
@@ -63,10 +40,7 @@ BOOL CPageScanPeriod::OnInitDialog()
     limits[1].wDay = 31;
     for (const int id : pickers)
         GetDlgItem(id)->SendMessage(DTM_SETRANGE, GDTR_MIN | GDTR_MAX, reinterpret_cast<LPARAM>(limits));
-    const BOOL result = CSettingsPage::OnInitDialog();
-    for (const int id : modeLists)
-        WidenOpenList(GetDlgItem(id)->m_hWnd);
-    return result;
+    return CSettingsPage::OnInitDialog();
 }
 
 bool CPageScanPeriod::LoadSettings(int selector)

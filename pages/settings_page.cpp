@@ -168,6 +168,8 @@ int CSettingsPage::NarrowestWidth() const
     int fixed = 0;
     for (const ov::LayoutRow& row : m_rows.layout) {
         const HWND control = FindControl(row.controlId);
+        if (control == nullptr)
+            continue;
         const CRect rect = RectOn(m_hWnd, control);
         if ((row.layoutFlags & ov::LayoutStretchWidth) != 0)
             spare = std::min(spare, rect.Width() - NarrowestWidth(control, units));
@@ -221,7 +223,7 @@ void CSettingsPage::LiftTextLimits()
 {
     for (const ov::SettingRow& row : m_rows.settings) {
         if (row.control == ov::ControlKind::Edit)
-            GetDlgItem(row.controlId)->SendMessage(EM_SETLIMITTEXT);
+            ::SendMessageW(FindControl(row.controlId), EM_SETLIMITTEXT, 0, 0);
     }
 }
 

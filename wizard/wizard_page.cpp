@@ -56,9 +56,16 @@ BOOL CWizardPage::OnInitDialog()
     // The template's units grow with the resolution, and the content with them.
     CRect units(0, 0, 4, 8);
     ::MapDialogRect(m_hWnd, &units);
+    m_hasUsualUnits = units.Width() == usualUnits.cx && units.Height() == usualUnits.cy;
     m_scroller.SetDisplaySize(CSize(ov::SizeInUnits(m_contentSize.cx, units.Width(), usualUnits.cx),
                                     ov::SizeInUnits(m_contentSize.cy, units.Height(), usualUnits.cy)));
     return CResizableDlg::OnInitDialog();
+}
+
+void CWizardPage::ReserveContent(CSize size)
+{
+    if (!m_hasUsualUnits)
+        m_scroller.Reserve(size);
 }
 
 BOOL CWizardPage::PreTranslateMessage(MSG* message)

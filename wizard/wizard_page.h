@@ -73,9 +73,9 @@ class CWizardPage : public CResizableDlg
   protected:
     BOOL OnInitDialog() override;
 
-    /// Where fine type leaves the page's size too small for what lies on it, the
-    /// page scrolls over that much.
-    void ReserveContent(CSize size) { m_scroller.Reserve(size); }
+    /// The page scrolls over at least that much, unless its resolution is the
+    /// usual one: at others a page grows by its units, and its texts not quite so.
+    void ReserveContent(CSize size);
 
     /// The part of the page, from its origin, that scrolling brings into view.
     CSize ReachableSize() const { return m_scroller.ReachableSize(); }
@@ -104,5 +104,6 @@ class CWizardPage : public CResizableDlg
     UINT m_pageId;
     CPreferencesWizard* m_owner;
     CSize m_contentSize;
+    bool m_hasUsualUnits = true;
     CPageScroller m_scroller;
 };

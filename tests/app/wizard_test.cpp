@@ -1,4 +1,5 @@
 // What the dialog answers to messages that no visible control sends.
+#include "pages/core/page_catalogue.h"
 #include "resources/ids.h"
 #include "tests/app/program.h"
 #include "tests/support/process.h"
@@ -129,4 +130,22 @@ TEST_F(Wizard, APageWithoutAWindowLoadsTheDefaultsWhenItGetsOne)
     dialog->LoadAllPages(1);
     ASSERT_TRUE(page.CreateOrShow(dialog.get(), CRect(0, 0, 300, 300)));
     EXPECT_EQ(::SendMessageW(Control(IDC_CONFORMING_CHECK_CELLS), BM_GETCHECK, 0, 0), BST_CHECKED);
+}
+
+// At the usual resolution; at others the content grows with its controls.
+TEST_F(Wizard, EveryPageScrollsOverTheSizeOfTheCatalogue)
+{
+    Open(L"", L"");
+    for (const ov::PageInfo& info : ov::PageCatalogue()) {
+        SCOPED_TRACE(info.pageId);
+        dialog->SelectPage(static_cast<UINT>(info.pageId));
+        Page().MoveToRect(CRect(0, 0, 60, 50));
+        SCROLLINFO range{};
+        EXPECT_TRUE(Page().GetScrollInfo(SB_HORZ, &range, SIF_RANGE));
+        EXPECT_EQ(range.nMax, info.scrollWidth - 1);
+        EXPECT_TRUE(Page().GetScrollInfo(SB_VERT, &range, SIF_RANGE));
+        EXPECT_EQ(range.nMax, info.scrollHeight - 1);
+        Page().MoveToRect(CRect(0, 0, info.scrollWidth + 2, info.scrollHeight + 2));
+        EXPECT_EQ(::GetWindowLongPtrW(Page().m_hWnd, GWL_STYLE) & (WS_HSCROLL | WS_VSCROLL), 0);
+    }
 }

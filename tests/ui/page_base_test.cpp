@@ -1,11 +1,8 @@
 // What every page does: scrolling, the wheel, edits that hold no value.
-#include "pages/core/page_catalogue.h"
-#include "tests/ui/built_pages.h"
 #include "tests/ui/dialog_session.h"
 #include "tests/ui/expected_file.h"
 
 #include <algorithm>
-#include <cstring>
 #include <set>
 
 using namespace uidriver;
@@ -275,32 +272,6 @@ TEST_F(PageBaseTest, ResizingReturnsAScrolledPageToItsOrigin)
         ExpectScrolled(0);
         EXPECT_EQ(0, Position(SB_HORZ));
         EXPECT_EQ(left, LeftOf(IDC_CONFORMING_CHECK_CELLS));
-    }
-    Cancel();
-}
-
-// At the usual resolution; at higher ones the content grows with its controls.
-TEST_F(PageBaseTest, EveryPageScrollsOverTheContentOfTheCatalogue)
-{
-    ASSERT_TRUE(Open());
-    Resize(Dialog(), 580, 400);
-    for (const expected::Page* page : BuiltPages()) {
-        SCOPED_TRACE(page->title);
-        ASSERT_TRUE(ShowPage(std::wstring(page->title, page->title + std::strlen(page->title))));
-        RECT window = {};
-        GetWindowRect(Page(), &window);
-        const ov::PageInfo* const info = ov::FindPage(page->pageId);
-        ASSERT_TRUE(info);
-        const auto expectBar = [&](int bar, int content, int room) {
-            // A border of the page is no room.
-            if (content > room) {
-                EXPECT_EQ(content - 1, Scroll(bar).nMax);
-            } else if (content < room - 4) {
-                EXPECT_EQ(0, Scroll(bar).nMax);
-            }
-        };
-        expectBar(SB_HORZ, info->scrollWidth, window.right - window.left);
-        expectBar(SB_VERT, info->scrollHeight, window.bottom - window.top);
     }
     Cancel();
 }

@@ -79,7 +79,8 @@ TEST_F(SystemColoursTest, AreThoseOfTheMomentOnceTheDialogIsTold)
     PostMessageW(Dialog(), WM_SYSCOLORCHANGE, 0, 0);
     EXPECT_TRUE(Await([&] {
         return Corner(Page()) == black && Corner(label) == black && Shows(label, yellow) &&
-               Corner(List()) == blue && Shows(List(), green);
+               Corner(List()) == blue && Shows(List(), green) &&
+               Corner(PageControl(IDC_BRANDING_RENAME)) == blue;
     }));
     EXPECT_EQ(black, Corner(Page()));
     EXPECT_EQ(black, Corner(label));
