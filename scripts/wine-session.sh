@@ -28,8 +28,10 @@ has_display() {
 }
 
 # A virtual display of its own with a window manager, both ended by
-# end_session. The server itself picks a free display number.
+# end_session. The server itself picks a free display number. In a subshell the
+# session is another one: ending it leaves the outer one's display.
 start_display() {
+    session_display_pids=()
     session_work=$(mktemp -d)
     session_own_display=true
     unset XAUTHORITY WAYLAND_DISPLAY
@@ -51,12 +53,17 @@ has_window_manager() {
     xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'
 }
 
-# use_prefix FOLDER: makes the Wine prefix once. No questions about Mono and
-# Gecko: nothing here needs them.
+# use_prefix FOLDER [MODEL]: makes the Wine prefix once; as a copy of another,
+# in which nothing may be running, it takes a moment only. No questions
+# about Mono and Gecko: nothing here needs them.
 use_prefix() {
     export WINEPREFIX="$1" WINEARCH=win64 WINEDEBUG=-all WINEDLLOVERRIDES="mscoree=;mshtml="
     [ -e "$WINEPREFIX/.complete" ] && return 0
-    rm -rf "$WINEPREFIX"
+    rm -rf "$WINEPREFIX" "$WINEPREFIX.part"
+    if [ -n "${2:-}" ]; then
+        cp -a "$2" "$WINEPREFIX.part" && mv "$WINEPREFIX.part" "$WINEPREFIX"
+        return
+    fi
     mkdir -p "$WINEPREFIX"
     if ! { wineboot -i && wineserver -w; } >"$WINEPREFIX/wineboot.log" 2>&1; then
         session_fail "Wine cannot be set up: $(tail -n 1 "$WINEPREFIX/wineboot.log")"
@@ -66,6 +73,7 @@ use_prefix() {
     # Without Tahoma every dialog would be a sixth too wide.
     ln -sf /usr/share/wine/fonts/* "$WINEPREFIX/drive_c/windows/Fonts/"
     wineserver -k || true
+    wineserver -w
     touch "$WINEPREFIX/.complete"
 }
 
