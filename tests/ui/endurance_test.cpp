@@ -40,7 +40,7 @@ TEST_F(EnduranceTest, OpeningAgainAndAgainDoesNotGrow)
 {
     constexpr int warmUp = 10;
     const char* const asked = std::getenv("OV_DIALOG_OPENINGS");
-    const int rounds = asked != nullptr ? std::max(std::atoi(asked), 40) : 40;
+    const int rounds = asked != nullptr ? std::max(std::atoi(asked), 25) : 25;
     // Anything that a round leaves behind adds up to as many handles or blocks.
     // The tolerances are for what the system keeps in reserve.
     constexpr unsigned handleTolerance = 5;
