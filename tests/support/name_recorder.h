@@ -12,7 +12,7 @@ namespace uidriver
 {
 
 /// What a program asks of the system's service for such names. The service
-/// itself is not everywhere more than a stub, so that this one stands in for it.
+/// itself does not take them everywhere, so that this one stands in for it.
 struct NameRequests {
     std::map<HWND, std::wstring> names; ///< as they are now
     std::vector<HWND> cleared;          ///< whose names were taken back
