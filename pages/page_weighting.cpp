@@ -4,11 +4,6 @@
 
 #include "pages/core/weighting_rows.h"
 
-namespace
-{
-constexpr int highestWeight = 20;
-} // namespace
-
 IMPLEMENT_DYNAMIC(CPageWeighting, CSettingsPage)
 
 BEGIN_MESSAGE_MAP(CPageWeighting, CSettingsPage)
@@ -22,8 +17,8 @@ CPageWeighting::CPageWeighting(CPreferencesWizard* owner, const ov::PageInfo& in
 
 BOOL CPageWeighting::OnInitDialog()
 {
-    for (const ov::SettingRow& row : Values().Rows())
-        GetDlgItem(row.commentControlId)->SendMessage(TBM_SETRANGE, TRUE, MAKELPARAM(0, highestWeight));
+    for (const ov::BarRow& bar : Rows().bars)
+        GetDlgItem(bar.controlId)->SendMessage(TBM_SETRANGE, TRUE, MAKELPARAM(0, bar.highest));
     return CSettingsPage::OnInitDialog();
 }
 
@@ -33,9 +28,9 @@ bool CPageWeighting::LoadSettings(int selector)
     if (GetParentWizard() == nullptr)
         return loaded;
     // A bar stops at its ends; the edit shows the text whatever it says.
-    for (size_t row = 0; row < Values().Rows().size(); ++row) {
-        GetDlgItem(Values().Rows()[row].commentControlId)
-            ->SendMessage(TBM_SETPOS, TRUE, ov::ToInteger(Values().String(row)));
+    for (const ov::BarRow& bar : Rows().bars) {
+        GetDlgItem(bar.controlId)
+            ->SendMessage(TBM_SETPOS, TRUE, ov::ToInteger(Values().TextOf(bar.variable)));
     }
     return loaded;
 }
@@ -47,9 +42,10 @@ void CPageWeighting::OnHScroll(UINT code, UINT position, CWnd* sender)
         CSettingsPage::OnHScroll(code, position, sender);
         return;
     }
-    for (size_t row = 0; row < Values().Rows().size(); ++row) {
-        if (sender->m_hWnd == GetDlgItem(Values().Rows()[row].commentControlId)->m_hWnd)
-            Values().String(row) = ov::FormatInteger(static_cast<int>(sender->SendMessage(TBM_GETPOS)));
+    for (const ov::BarRow& bar : Rows().bars) {
+        if (sender->m_hWnd == GetDlgItem(bar.controlId)->m_hWnd)
+            Values().TextOf(bar.variable) =
+                ov::FormatInteger(static_cast<int>(sender->SendMessage(TBM_GETPOS)));
     }
     UpdateData(FALSE);
     SetModified(true);

@@ -310,9 +310,7 @@ bool CSettingsPage::SaveSettings(CPreferencesWizard* wizard)
     const bool hasWindow = GetSafeHwnd() != nullptr;
     if (hasWindow)
         UpdateData(TRUE);
-    m_values.Save(wizard->Store(), hasWindow, [&](int controlId) {
-        return wizard->MakeSettingComment(hasWindow ? GetDlgItem(controlId) : nullptr);
-    });
+    m_values.Save(wizard->Store(), hasWindow);
     return true;
 }
 

@@ -48,6 +48,7 @@ class CSettingsPage : public CWizardPage
     CRect GetClientRectangle() const override;
 
     ov::PageValues& Values() { return m_values; }
+    const ov::PageRows& Rows() const { return m_rows; }
 
   private:
     void FillLists();

@@ -53,8 +53,9 @@ class CPreferencesWizard : public CResizableDlg
     /// The settings; the pages read and write them here.
     ov::SettingStore& Store() { return m_store; }
 
-    /// The comment block for the variable that `control` edits; empty when
-    /// there is no control.
+    /// The comment block made from the help text that is registered for
+    /// `control`; empty when there is no control. Pages that save make theirs from
+    /// their rows; this one is for whoever has only the control.
     ov::Text MakeSettingComment(const CWnd* control) const;
 
   protected:

@@ -14,15 +14,15 @@ namespace
 constexpr SettingRow settings[] = {
     FlagRow(u"_ORTHOVAL_MARKERCELL", IDC_CERTIFYING_CHECK_MARKER_CELLS,
             IDS_HELP_CERTIFYING_CHECK_MARKER_CELLS)
-        .CommentFrom(IDC_CERTIFYING_PLACE_MARKER_CELL)
+        .CommentFrom(IDS_HELP_CERTIFYING_PLACE_MARKER_CELL)
         .HelpNamesAnotherVariable(
             "two boxes show the flag; the second is read last and explains the next flag"),
     FlagRow(u"_ORTHOVAL_CERTIFY_CHECK_REFERENCE_MARKERCELLS", IDC_CERTIFYING_NO_DIFFERING,
             IDS_HELP_CERTIFYING_NO_DIFFERING, true)
-        .CommentFrom(IDC_CERTIFYING_CHECK_MARKER_CELLS)
+        .CommentFrom(IDS_HELP_CERTIFYING_CHECK_MARKER_CELLS)
         .HelpNamesAnotherVariable("the box that shows the flag explains the next one"),
     HiddenRow(u"_ORTHOVAL_CERTIFY_NO_DIFFERING_STGS", SettingKindFlag, Encoding::Flag,
-              IDC_CERTIFYING_NO_DIFFERING),
+              IDS_HELP_CERTIFYING_NO_DIFFERING),
     TextRow(u"_ORTHOVAL_CERTIFY_PREWATERMARK_KEYIN", SettingKindText, IDC_CERTIFYING_PRE_KEYIN,
             IDS_HELP_CERTIFYING_PRE_KEYIN),
     TextRow(u"_ORTHOVAL_CERTIFY_POSTWATERMARK_KEYIN", SettingKindText, IDC_CERTIFYING_POST_KEYIN,
@@ -30,7 +30,7 @@ constexpr SettingRow settings[] = {
     ChoiceRow(u"_ORTHOVAL_CERTIFY_CHECK_REFERENCE_WATERMARKS", Encoding::NeverAlwaysUser,
               ControlKind::RadioGroup, IDC_CERTIFYING_REFERENCES_NEED_NOT,
               IDS_HELP_CERTIFYING_REFERENCES_NEED_NOT, -1)
-        .CommentFrom(IDC_CERTIFYING_REFERENCES_FRAME),
+        .CommentFrom(IDS_HELP_CERTIFYING_REFERENCES),
 };
 
 constexpr HelpRow extraHelp[] = {

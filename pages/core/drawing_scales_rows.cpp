@@ -17,7 +17,7 @@ constexpr SettingRow settings[] = {
             IDS_HELP_DRAWING_SCALES_IGNORE_ANNOTATION_LOCK),
     // Both boxes of the companions in one number.
     HiddenRow(u"_ORTHOVAL_DRAWINGSCALE_USE_DEFAULT", SettingKindInteger, Encoding::Verbatim,
-              IDC_DRAWING_SCALES_USE_BUILT_IN),
+              IDS_HELP_DRAWING_SCALES_USE_BUILT_IN),
     TextRow(u"_ORTHOVAL_DRAWINGSCALE_VALUES", SettingKindText, IDC_DRAWING_SCALES_VALUES,
             IDS_HELP_DRAWING_SCALES_VALUES),
     TextRow(u"_ORTHOVAL_DRAWINGSCALE_DEFAULT_VALUE", SettingKindInteger, IDC_DRAWING_SCALES_DEFAULT,

@@ -10,13 +10,13 @@ namespace
 constexpr SettingRow settings[] = {
     ChoiceRow(u"_ORTHOVAL_WILDCARD_TYPE", Encoding::Number, ControlKind::RadioGroup, IDC_MISC_WILDCARD_NONE,
               IDS_HELP_MISC_WILDCARD_NONE, 3)
-        .CommentFrom(IDC_MISC_WILDCARD_LABEL),
+        .CommentFrom(IDS_HELP_MISC_WILDCARD_TYPE),
     FlagRow(u"_ORTHOVAL_TOOLS_REORDERALLWINDOWS", IDC_MISC_REORDER_WINDOWS, IDS_HELP_MISC_REORDER_WINDOWS),
     FlagRow(u"_ORTHOVAL_AUTOLOGIN_USERDEFINED", IDC_MISC_AUTO_LOGIN_USER_DEFINED,
             IDS_HELP_MISC_AUTO_LOGIN_USER_DEFINED, true),
     // A flag that two buttons show, Off before On.
     {u"_ORTHOVAL_AUTOLOGIN_DEFAULTVALUE", SettingKindFlag, Encoding::Flag, ControlKind::RadioGroup,
-     IDC_MISC_AUTO_LOGIN_OFF, IDC_MISC_AUTO_LOGIN_OFF, IDS_HELP_MISC_AUTO_LOGIN_DEFAULT, 1},
+     IDC_MISC_AUTO_LOGIN_OFF, IDS_HELP_MISC_AUTO_LOGIN_DEFAULT, IDS_HELP_MISC_AUTO_LOGIN_DEFAULT, 1},
 };
 
 constexpr HelpRow extraHelp[] = {

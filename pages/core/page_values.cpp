@@ -1,6 +1,7 @@
 #include "pages/core/page_values.h"
 
 #include "pages/core/encoding.h"
+#include "pages/core/help_texts.h"
 
 #include <algorithm>
 #include <stdexcept>
@@ -130,7 +131,7 @@ bool PageValues::IsSaved(const SettingRow& row, const SettingStore& store, bool 
     return false;
 }
 
-void PageValues::Save(SettingStore& store, bool hasWindow, const CommentOfControl& commentOf)
+void PageValues::Save(SettingStore& store, bool hasWindow)
 {
     if (m_rows.beforeSave != nullptr)
         m_rows.beforeSave(*this);
@@ -140,7 +141,10 @@ void PageValues::Save(SettingStore& store, bool hasWindow, const CommentOfContro
             continue;
         const Text value =
             row.HoldsText() ? m_values[i].text : NumberToStore(row.encoding, m_values[i].number);
-        store.SetSetting(row.variable, value, row.kind, commentOf(row.commentControlId), kCurrentTable);
+        // The store keeps the comment of a setting that it has.
+        const bool needsComment = hasWindow && !store.HasSetting(row.variable, kCurrentTable);
+        store.SetSetting(row.variable, value, row.kind, needsComment ? CommentOf(row) : Text(),
+                         kCurrentTable);
     }
 }
 

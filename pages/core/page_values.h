@@ -4,7 +4,6 @@
 #include "pages/core/setting_row.h"
 
 #include <cstddef>
-#include <functional>
 #include <span>
 #include <vector>
 
@@ -17,9 +16,6 @@ namespace ov
 class PageValues
 {
   public:
-    /// The comment that the setting shown by a control is given in the file.
-    using CommentOfControl = std::function<Text(int controlId)>;
-
     /// Starts with the rows' built-in values. What the rows refer to stays theirs.
     explicit PageValues(const PageRows& rows);
 
@@ -58,8 +54,9 @@ class PageValues
 
     /// Lets the page's hook work out the settings from the companions and
     /// writes them into the current table, new ones with their comment. A page
-    /// without a window leaves settings alone that are there.
-    void Save(SettingStore& store, bool hasWindow, const CommentOfControl& commentOf);
+    /// without a window leaves existing settings alone, and those that it adds
+    /// get no comment.
+    void Save(SettingStore& store, bool hasWindow);
 
   private:
     struct Value {

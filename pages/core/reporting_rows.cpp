@@ -27,11 +27,9 @@ constexpr SettingRow settings[] = {
             IDS_HELP_REPORTING_NEST_LEVEL),
     FlagRow(u"_ORTHOVAL_REPORT_REFS_LEGACY_NESTING", IDC_REPORTING_LEGACY_NESTING,
             IDS_HELP_REPORTING_LEGACY_NESTING),
-    TextRow(nameVariable, SettingKindText, IDC_REPORTING_NAME, IDS_HELP_REPORTING_NAME)
-        .CommentFrom(IDC_REPORTING_NAME_FRAME),
-    TextRow(folderVariable, SettingKindText, IDC_REPORTING_FOLDER, IDS_HELP_REPORTING_FOLDER)
-        .CommentFrom(IDC_REPORTING_FOLDER_FRAME),
-    HiddenRow(modelsVariable, SettingKindInteger, Encoding::Verbatim, IDC_REPORTING_MODELS_LABEL),
+    TextRow(nameVariable, SettingKindText, IDC_REPORTING_NAME, IDS_HELP_REPORTING_NAME),
+    TextRow(folderVariable, SettingKindText, IDC_REPORTING_FOLDER, IDS_HELP_REPORTING_FOLDER),
+    HiddenRow(modelsVariable, SettingKindInteger, Encoding::Verbatim, IDS_HELP_REPORTING_MODELS),
 };
 
 // The buttons of a group are explained by what they choose.

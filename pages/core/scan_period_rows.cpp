@@ -21,7 +21,7 @@ constexpr ScanDate kSecondDate = {6, 5, 2016};
 constexpr SettingRow settings[] = {
     FlagRow(u"_ORTHOVAL_SCANPERIOD_ALLOWUSER", IDC_SCAN_PERIOD_ALLOW_USER, IDS_HELP_SCAN_PERIOD_ALLOW_USER,
             true),
-    HiddenRow(kScanPeriodVariable, SettingKindText, Encoding::Verbatim, IDC_SCAN_PERIOD_FRAME),
+    HiddenRow(kScanPeriodVariable, SettingKindText, Encoding::Verbatim, IDS_HELP_SCAN_PERIOD_SETTINGS),
 };
 
 constexpr CompanionRow companions[] = {

@@ -62,9 +62,9 @@ struct SettingRow {
     SettingKind kind;
     Encoding encoding;
     ControlKind control;
-    int controlId;        ///< for a radio group its first button; 0 when there is no control
-    int commentControlId; ///< the control whose help becomes the setting's comment in the file
-    unsigned helpId;      ///< string id of the control's help text; 0 for none
+    int controlId;          ///< for a radio group its first button; 0 when there is no control
+    unsigned helpId;        ///< string id of the control's help text; 0 for none
+    unsigned commentHelpId; ///< string id of the help text that becomes the setting's comment in the file
     int initialNumber = 0;
     const char16_t* initialText = u"";
 
@@ -102,11 +102,11 @@ struct SettingRow {
         row.reason = why;
         return row;
     }
-    /// Another control's help is the comment: a label's, a button's, a frame's.
-    constexpr SettingRow CommentFrom(int otherControlId) const
+    /// The comment is the help text of another control: a label, a button, a frame.
+    constexpr SettingRow CommentFrom(unsigned otherHelpId) const
     {
         SettingRow row = *this;
-        row.commentControlId = otherControlId;
+        row.commentHelpId = otherHelpId;
         return row;
     }
 };
@@ -115,14 +115,14 @@ struct SettingRow {
 constexpr SettingRow FlagRow(const char16_t* variable, int controlId, unsigned helpId, bool initial = false)
 {
     return {variable,  SettingKindFlag, Encoding::Flag, ControlKind::CheckBox,
-            controlId, controlId,       helpId,         initial ? 1 : 0};
+            controlId, helpId,          helpId,         initial ? 1 : 0};
 }
 
 /// An edit field whose text is kept as typed.
 constexpr SettingRow TextRow(const char16_t* variable, SettingKind kind, int controlId, unsigned helpId,
                              const char16_t* initial = u"")
 {
-    return {variable, kind, Encoding::Verbatim, ControlKind::Edit, controlId, controlId, helpId, 0, initial};
+    return {variable, kind, Encoding::Verbatim, ControlKind::Edit, controlId, helpId, helpId, 0, initial};
 }
 
 /// A drop-down list or a radio group whose index is the setting, in one of the
@@ -130,15 +130,16 @@ constexpr SettingRow TextRow(const char16_t* variable, SettingKind kind, int con
 constexpr SettingRow ChoiceRow(const char16_t* variable, Encoding encoding, ControlKind control,
                                int controlId, unsigned helpId, int initial)
 {
-    return {variable, SettingKindInteger, encoding, control, controlId, controlId, helpId, initial};
+    return {variable, SettingKindInteger, encoding, control, controlId, helpId, helpId, initial};
 }
 
-/// A setting without a control; its value is kept, or worked out by the page's
-/// hooks. The comment comes from `commentControlId`.
+/// A setting without a control; its value is kept, or computed by the page's
+/// hooks. The comment is the help text `commentHelpId`.
 constexpr SettingRow HiddenRow(const char16_t* variable, SettingKind kind, Encoding encoding,
-                               int commentControlId, int initialNumber = 0, const char16_t* initialText = u"")
+                               unsigned commentHelpId, int initialNumber = 0,
+                               const char16_t* initialText = u"")
 {
-    return {variable, kind, encoding, ControlKind::None, 0, commentControlId, 0, initialNumber, initialText};
+    return {variable, kind, encoding, ControlKind::None, 0, 0, commentHelpId, initialNumber, initialText};
 }
 
 /// A control that shows what no variable holds by itself: half of a value, or
@@ -276,6 +277,14 @@ struct SpinRow {
     std::span<const SpinStep> steps = {};
 };
 
+/// A track bar, from 0 to `highest`, and the setting that it edits: one that
+/// holds a text.
+struct BarRow {
+    int controlId;
+    const char16_t* variable;
+    int highest;
+};
+
 /// A page as data. The hooks are for what rows cannot say; they see values and
 /// no window, and stand beside the rows.
 struct PageRows {
@@ -289,6 +298,7 @@ struct PageRows {
     std::span<const BrowseRow> browses = {};
     std::span<const SpinRow> spins = {};
     std::span<const NameRow> names = {};
+    std::span<const BarRow> bars = {};
 
     /// Loading reads the controls back and marks the dialog modified.
     bool loadMarksModified = false;

@@ -30,7 +30,7 @@ constexpr SettingRow settings[] = {
     TextRow(u"_ORTHOVAL_TITLEBLOCK_TAGDEFS", SettingKindText, IDC_TITLE_BLOCK_TAGS, IDS_HELP_TITLE_BLOCK_TAGS)
         .HelpNamesAnotherVariable(checkNamedInHelp),
     HiddenRow(u"_ORTHOVAL_TITLEBLOCK_TAGVALUES", SettingKindText, Encoding::Verbatim,
-              IDC_TITLE_BLOCK_USE_TAG_VALUES)
+              IDS_HELP_TITLE_BLOCK_USE_TAG_VALUES)
         .HelpNamesAnotherVariable(checkNamedInHelp),
     TextRow(u"_ORTHOVAL_TITLEBLOCK_TAGSPELLCHECK", SettingKindText, IDC_TITLE_BLOCK_SPELL_CHECK,
             IDS_HELP_TITLE_BLOCK_SPELL_CHECK)

@@ -1,7 +1,11 @@
 // What the dialog answers to messages that no visible control sends.
+#include "config/core/setting_comment.h"
+#include "controls/core/tooltip_markup.h"
 #include "pages/core/page_catalogue.h"
+#include "pages/core/string_table.h"
 #include "resources/ids.h"
 #include "tests/app/program.h"
+#include "tests/pages/expected_pages.h"
 #include "tests/support/process.h"
 #include "tests/support/window_search.h"
 #include "wizard/messages.h"
@@ -130,6 +134,22 @@ TEST_F(Wizard, APageWithoutAWindowLoadsTheDefaultsWhenItGetsOne)
     dialog->LoadAllPages(1);
     ASSERT_TRUE(page.CreateOrShow(dialog.get(), CRect(0, 0, 300, 300)));
     EXPECT_EQ(::SendMessageW(Control(IDC_CONFORMING_CHECK_CELLS), BM_GETCHECK, 0, 0), BST_CHECKED);
+}
+
+TEST_F(Wizard, TheCommentOfAControlIsTheOneOfTheRowsThatItExplains)
+{
+    Open(L"", L"");
+    EXPECT_EQ(dialog->MakeSettingComment(nullptr), u"");
+    for (const expected::Page& page : expected::Pages()) {
+        dialog->SelectPage(static_cast<UINT>(page.pageId));
+        for (const expected::Setting& setting : page.settings) {
+            SCOPED_TRACE(setting.variable);
+            const ov::Text help(ov::FindString(setting.helpId));
+            const CWnd* control = Page().GetDlgItem(setting.commentId);
+            ASSERT_NE(control, nullptr);
+            EXPECT_EQ(dialog->MakeSettingComment(control), ov::MakeCommentBlock(ov::Description(help)));
+        }
+    }
 }
 
 // At the usual resolution; at others the content grows with its controls.

@@ -59,7 +59,7 @@ void OpenAndSave(ov::SettingStore& store)
             rows->refresh(values);
     }
     for (ov::PageValues& values : pages)
-        values.Save(store, true, [](int) { return ov::Text(); });
+        values.Save(store, true);
 }
 
 TEST(CatalogueProperty, RandomTablesAreSavedAsTheirMeaningSays)

@@ -48,7 +48,7 @@ std::string SavedAfterLoading(const char16_t* variable, const char16_t* stored)
         store.SetSetting(variable, stored, ov::SettingKindText, u"", kCurrentTable);
     PageValues values(ov::CertifyingRows());
     values.Load(store, kCurrentTable);
-    values.Save(store, true, [](int) { return Text(); });
+    values.Save(store, true);
     return ov::Utf8FromText(store.GetSettingValue(variable, kCurrentTable));
 }
 
@@ -61,9 +61,9 @@ TEST(CertifyingPage, BoxesAreShiftedAgainstTheirFlags)
 
 TEST(CertifyingPage, CommentsComeFromTheBoxesWhoseCaptionsFit)
 {
-    EXPECT_EQ(RowOf(markerCell).commentControlId, 3301);
-    EXPECT_EQ(RowOf(referenceMarkerCells).commentControlId, 3302);
-    EXPECT_EQ(RowOf(noDiffering).commentControlId, 3303);
+    EXPECT_EQ(RowOf(markerCell).commentHelpId, 9301u);
+    EXPECT_EQ(RowOf(referenceMarkerCells).commentHelpId, 9333u);
+    EXPECT_EQ(RowOf(noDiffering).commentHelpId, 2038u);
     EXPECT_EQ(ov::VariableName(HelpOf(3301)), markerCell);
     EXPECT_EQ(ov::VariableName(HelpOf(3302)), referenceMarkerCells);
     EXPECT_EQ(ov::VariableName(HelpOf(3303)), noDiffering);
@@ -93,7 +93,7 @@ TEST(CertifyingPage, NeverShownAddsWhatThePageHoldsBeforeItLoads)
 {
     SettingStore store;
     PageValues values(ov::CertifyingRows());
-    values.Save(store, false, [](int) { return Text(); });
+    values.Save(store, false);
     EXPECT_EQ(store.GetSettingValue(markerCell, kCurrentTable), u"0");
     EXPECT_EQ(store.GetSettingValue(referenceMarkerCells, kCurrentTable), u"1");
     EXPECT_EQ(store.GetSettingValue(references, kCurrentTable), u"-1");

@@ -21,7 +21,7 @@ TEST(ColourTablePage, UserIsPromptedUnlessTheFileSaysOtherwise)
     store.SetSetting(kRemap, u"1 of them", ov::SettingKindText, u"", kCurrentTable);
     values.Load(store, kCurrentTable);
     EXPECT_EQ(values.NumberOf(kRemap), 1);
-    values.Save(store, true, [](int) { return ov::Text(); });
+    values.Save(store, true);
     EXPECT_EQ(store.GetSettingValue(kRemap, kCurrentTable), u"1");
     values.Load(store, ov::kDefaultTable);
     EXPECT_EQ(values.NumberOf(kRemap), 1);

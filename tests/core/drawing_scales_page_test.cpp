@@ -25,10 +25,7 @@ class DrawingScalesPage : public testing::Test
         m_store.SetSetting(variable, value, ov::SettingKindText, u"", table);
     }
     void Load(int table = kCurrentTable) { m_values.Load(m_store, table); }
-    void Save(bool hasWindow = true)
-    {
-        m_values.Save(m_store, hasWindow, [](int) { return Text(); });
-    }
+    void Save(bool hasWindow = true) { m_values.Save(m_store, hasWindow); }
     Text Saved(ov::TextView variable) { return m_store.GetSettingValue(variable, kCurrentTable); }
     bool BuiltIn() { return m_values.CompanionNumberOf(IDC_DRAWING_SCALES_USE_BUILT_IN) != 0; }
     bool Others() { return m_values.CompanionNumberOf(IDC_DRAWING_SCALES_ALLOW_OTHERS) != 0; }

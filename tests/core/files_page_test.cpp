@@ -16,11 +16,6 @@ using ov::Text;
 constexpr const char16_t* jet = u"_ORTHOVAL_REPORT_TEMPLATE_JET_DSN_XLS";
 constexpr const char16_t* older = u"_ORTHOVAL_REPORT_TEMPLATE_DSN_XLS";
 
-Text NoComment(int)
-{
-    return {};
-}
-
 void Put(SettingStore& store, ov::TextView variable, ov::TextView value, int table = kCurrentTable)
 {
     store.SetSetting(variable, value, ov::SettingKindPath, u"", table);
@@ -40,7 +35,7 @@ TEST(FilesPage, OlderDataSourceIsShownAsJetAndSavedUnderBothNames)
     PageValues values(ov::FilesRows());
     values.Load(store, kCurrentTable);
     EXPECT_EQ(values.TextOf(jet), u"P:\\Excel.dsn");
-    values.Save(store, true, NoComment);
+    values.Save(store, true);
     EXPECT_EQ(store.GetSettingValue(jet, kCurrentTable), u"P:\\Excel.dsn");
     EXPECT_EQ(store.GetSettingValue(older, kCurrentTable), u"P:\\Excel.dsn");
 }
@@ -70,7 +65,7 @@ TEST(FilesPage, NewerDataSourceDoesNotTouchTheOlderOne)
     PageValues values(ov::FilesRows());
     values.Load(store, kCurrentTable);
     values.TextOf(jet) = u"new.dsn";
-    values.Save(store, true, NoComment);
+    values.Save(store, true);
     EXPECT_EQ(store.GetSettingValue(jet, kCurrentTable), u"new.dsn");
     EXPECT_EQ(store.GetSettingValue(older, kCurrentTable), u"old.dsn");
 }

@@ -19,7 +19,7 @@ void Put(SettingStore& store, ov::TextView name, ov::TextView value, int table =
 
 void Save(PageValues& values, SettingStore& store, bool hasWindow)
 {
-    values.Save(store, hasWindow, [](int) { return Text(); });
+    values.Save(store, hasWindow);
 }
 
 TEST(LoggingPage, SizeOfTheLogFileHasNoUnderscoreInFrontOfItsName)

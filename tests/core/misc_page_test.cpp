@@ -20,7 +20,7 @@ std::string Saved(ov::TextView variable, const char16_t* stored)
         store.SetSetting(variable, stored, ov::SettingKindText, u"", ov::kCurrentTable);
     ov::PageValues values(ov::MiscRows());
     values.Load(store, ov::kCurrentTable);
-    values.Save(store, true, [](int) { return ov::Text(); });
+    values.Save(store, true);
     return ov::Utf8FromText(store.GetSettingValue(variable, ov::kCurrentTable));
 }
 

@@ -19,12 +19,11 @@ enum Control { Box = 1, OtherBox, Choice, List, Radio, Edit, Dependent };
 
 constexpr ov::SettingRow settings[] = {
     ov::FlagRow(u"FLAG", Box, 0),
-    {u"UNLESS", ov::SettingKindFlag, ov::Encoding::FlagUnlessZero, ov::ControlKind::CheckBox, OtherBox,
-     OtherBox, 0},
+    {u"UNLESS", ov::SettingKindFlag, ov::Encoding::FlagUnlessZero, ov::ControlKind::CheckBox, OtherBox, 0, 0},
     ov::ChoiceRow(u"LIST", ov::Encoding::AlwaysNeverUser, ov::ControlKind::DropDownList, List, 0, 2),
     ov::ChoiceRow(u"RADIO", ov::Encoding::NeverAlwaysUser, ov::ControlKind::RadioGroup, Radio, 0, -1),
-    {u"ZERO", ov::SettingKindInteger, ov::Encoding::VerbatimOrZero, ov::ControlKind::Edit, Edit, Edit, 0},
-    ov::HiddenRow(u"HIDDEN", ov::SettingKindText, ov::Encoding::Verbatim, Choice),
+    {u"ZERO", ov::SettingKindInteger, ov::Encoding::VerbatimOrZero, ov::ControlKind::Edit, Edit, 0, 0},
+    ov::HiddenRow(u"HIDDEN", ov::SettingKindText, ov::Encoding::Verbatim, 0),
 };
 
 constexpr ov::CompanionRow companions[] = {
@@ -70,7 +69,7 @@ std::string SavedAfterLoading(const char16_t* variable, const char16_t* stored)
         Put(store, variable, stored);
     PageValues values(plainPage);
     values.Load(store, kCurrentTable);
-    values.Save(store, true, [](int) { return Text(); });
+    values.Save(store, true);
     return ov::Utf8FromText(store.GetSettingValue(variable, kCurrentTable));
 }
 
@@ -113,7 +112,7 @@ TEST(PageHooks, ButtonsOfWhoDecidesAreTheFirstWhenAbsentAndTheLastWhenUnknown)
 TEST(PageHooks, ButtonsOfWhoDecidesOfAnUnseenPageAreWrittenAsTheUsers)
 {
     SettingStore store;
-    PageValues(plainPage).Save(store, false, [](int) { return Text(); });
+    PageValues(plainPage).Save(store, false);
     EXPECT_EQ(store.GetSettingValue(u"RADIO", kCurrentTable), u"-1");
 }
 
@@ -132,7 +131,7 @@ TEST(PageHooks, CompanionsStartWithTheirBuiltInValueAndAreNotStored)
     SettingStore store;
     values.Load(store, kCurrentTable);
     EXPECT_EQ(values.CompanionNumberOf(Choice), 4);
-    values.Save(store, true, [](int) { return Text(); });
+    values.Save(store, true);
     EXPECT_EQ(store.Count(kCurrentTable), std::size(settings));
 }
 
@@ -146,7 +145,7 @@ TEST(PageHooks, HooksWorkOutCompanionsAfterLoadingAndSettingsBeforeSaving)
     EXPECT_EQ(values.CompanionNumberOf(Choice), 3);
     EXPECT_EQ(values.TextOf(u"ZERO"), u"9");
     values.CompanionNumberOf(Choice) = 5;
-    values.Save(store, true, [](int) { return Text(); });
+    values.Save(store, true);
     EXPECT_EQ(store.GetSettingValue(u"HIDDEN", kCurrentTable), u"xxxxx");
 }
 

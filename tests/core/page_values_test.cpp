@@ -2,6 +2,7 @@
 
 #include "pages/core/branding_rows.h"
 #include "pages/core/conforming_rows.h"
+#include "resources/page_ids.h"
 
 #include <gtest/gtest.h>
 
@@ -19,11 +20,6 @@ using ov::Text;
 
 constexpr bool withWindow = true;
 constexpr bool withoutWindow = false;
-
-Text NoComment(int)
-{
-    return {};
-}
 
 void Put(SettingStore& store, ov::TextView name, ov::TextView value, int table = kCurrentTable)
 {
@@ -43,7 +39,7 @@ int KindOf(const SettingStore& store, ov::TextView name)
 
 constexpr ov::SettingRow sampleRows[] = {
     ov::FlagRow(u"FLAG", 1, 0, true),
-    {u"NUMBER", ov::SettingKindInteger, ov::Encoding::Number, ov::ControlKind::DropDownList, 2, 2, 0, 7},
+    {u"NUMBER", ov::SettingKindInteger, ov::Encoding::Number, ov::ControlKind::DropDownList, 2, 0, 0, 7},
     ov::TextRow(u"TEXT", ov::SettingKindText, 3, 0, u"built in"),
 };
 
@@ -79,7 +75,7 @@ TEST(PageValues, OnlyTheExactTextOneIsAFlag)
         PageValues values(samplePage);
         values.Load(store, kCurrentTable);
         EXPECT_EQ(values.Number(0), 0);
-        values.Save(store, withWindow, NoComment);
+        values.Save(store, withWindow);
         EXPECT_EQ(Stored(store, u"FLAG"), "0");
         EXPECT_EQ(KindOf(store, u"FLAG"), ov::SettingKindFlag);
     }
@@ -88,7 +84,7 @@ TEST(PageValues, OnlyTheExactTextOneIsAFlag)
     PageValues values(samplePage);
     values.Load(store, kCurrentTable);
     EXPECT_EQ(values.Number(0), 1);
-    values.Save(store, withWindow, NoComment);
+    values.Save(store, withWindow);
     EXPECT_EQ(Stored(store, u"FLAG"), "1");
 }
 
@@ -107,7 +103,7 @@ TEST(PageValues, NumberIsReadToItsLastDigitAndWrittenInDecimal)
     PageValues values(samplePage);
     values.Load(store, kCurrentTable);
     EXPECT_EQ(values.Number(1), 12);
-    values.Save(store, withWindow, NoComment);
+    values.Save(store, withWindow);
     EXPECT_EQ(Stored(store, u"NUMBER"), "12");
     EXPECT_EQ(KindOf(store, u"NUMBER"), ov::SettingKindInteger);
 }
@@ -138,7 +134,7 @@ TEST(PageValues, EmptyOrAbsentNumberKeepsThePreviousOne)
     Put(store, u"NUMBER", u"");
     values.Load(store, kCurrentTable);
     EXPECT_EQ(values.Number(1), 42);
-    values.Save(store, withWindow, NoComment);
+    values.Save(store, withWindow);
     EXPECT_EQ(Stored(store, u"NUMBER"), "42");
 }
 
@@ -148,7 +144,7 @@ TEST(PageValues, TextIsKeptAsEdited)
         SettingStore store;
         PageValues values(samplePage);
         values.String(2) = text;
-        values.Save(store, withWindow, NoComment);
+        values.Save(store, withWindow);
         EXPECT_EQ(Stored(store, u"TEXT"), ov::Utf8FromText(text));
         values.String(2) = u"other";
         values.Load(store, kCurrentTable);
@@ -191,7 +187,7 @@ TEST(PageValues, PageWithoutWindowLeavesPresentSettingsAndAddsAbsentOnes)
     Put(store, u"TEXT", u"");
     store.SetModified(false);
     PageValues values(samplePage);
-    values.Save(store, withoutWindow, NoComment);
+    values.Save(store, withoutWindow);
     EXPECT_EQ(Stored(store, u"FLAG"), "yes");
     EXPECT_EQ(KindOf(store, u"FLAG"), ov::SettingKindText);
     EXPECT_TRUE(store.HasSetting(u"TEXT", kCurrentTable));
@@ -205,7 +201,7 @@ TEST(PageValues, SavingWritesTheCurrentTableOnly)
     SettingStore store;
     PageValues values(samplePage);
     values.Load(store, kDefaultTable);
-    values.Save(store, withWindow, NoComment);
+    values.Save(store, withWindow);
     EXPECT_EQ(store.Count(kDefaultTable), 0u);
     EXPECT_EQ(store.Count(kCurrentTable), 3u);
 }
@@ -214,41 +210,51 @@ TEST(PageValues, SavingMarksTheStoreModifiedOnlyWhenAValueChanges)
 {
     SettingStore store;
     PageValues values(samplePage);
-    values.Save(store, withWindow, NoComment);
+    values.Save(store, withWindow);
     EXPECT_TRUE(store.IsModified());
     store.SetModified(false);
-    values.Save(store, withWindow, NoComment);
+    values.Save(store, withWindow);
     EXPECT_FALSE(store.IsModified());
     values.String(2) = u"changed";
-    values.Save(store, withWindow, NoComment);
+    values.Save(store, withWindow);
     EXPECT_TRUE(store.IsModified());
 }
 
-TEST(PageValues, CommentComesFromTheControlThatTheRowNames)
+constexpr char16_t supportComment[] = u"\n#\n# This sets the URL for Technical Support information.\n#\n";
+constexpr char16_t websiteComment[] = u"\n#\n# This sets the URL for Orthoval information on the web.\n#\n";
+
+constexpr ov::SettingRow commentedRows[] = {
+    ov::FlagRow(u"OWN", 10, IDS_HELP_URLS_TECH_SUPPORT),
+    ov::FlagRow(u"OTHER", 11, IDS_HELP_URLS_TECH_SUPPORT).CommentFrom(IDS_HELP_URLS_WEBSITE),
+    ov::HiddenRow(u"HIDDEN", ov::SettingKindText, ov::Encoding::Verbatim, IDS_HELP_URLS_WEBSITE),
+    ov::FlagRow(u"UNDESCRIBED", 12, 0),
+};
+
+TEST(PageValues, CommentIsTheHelpTextThatTheRowNames)
 {
-    static constexpr ov::SettingRow rows[] = {
-        ov::FlagRow(u"OWN", 10, 0),
-        {u"OTHER", ov::SettingKindInteger, ov::Encoding::Number, ov::ControlKind::DropDownList, 11, 99, 0},
-    };
     SettingStore store;
-    PageValues(PageOf(rows)).Save(store, withWindow, [](int control) {
-        return u"comment " + ov::FormatInteger(control);
-    });
-    EXPECT_EQ(store.FindSetting(u"OWN", kCurrentTable)->comment, u"comment 10");
-    EXPECT_EQ(store.FindSetting(u"OTHER", kCurrentTable)->comment, u"comment 99");
+    PageValues(PageOf(commentedRows)).Save(store, withWindow);
+    EXPECT_EQ(store.FindSetting(u"OWN", kCurrentTable)->comment, supportComment);
+    EXPECT_EQ(store.FindSetting(u"OTHER", kCurrentTable)->comment, websiteComment);
+    EXPECT_EQ(store.FindSetting(u"HIDDEN", kCurrentTable)->comment, websiteComment);
+    EXPECT_EQ(store.FindSetting(u"UNDESCRIBED", kCurrentTable)->comment, u"\n#\n# \n#\n");
 }
 
-TEST(PageValues, NoCommentIsAskedForASettingThatIsSkipped)
+TEST(PageValues, PageWithoutAWindowGivesNoComment)
 {
     SettingStore store;
-    Put(store, u"FLAG", u"1");
-    Put(store, u"NUMBER", u"1");
-    std::vector<int> asked;
-    PageValues(samplePage).Save(store, withoutWindow, [&](int control) {
-        asked.push_back(control);
-        return Text();
-    });
-    EXPECT_EQ(asked, std::vector<int>{3});
+    PageValues(PageOf(commentedRows)).Save(store, withoutWindow);
+    EXPECT_EQ(store.Count(kCurrentTable), 4u);
+    for (const ov::SettingRow& row : commentedRows)
+        EXPECT_EQ(store.FindSetting(row.variable, kCurrentTable)->comment, u"");
+}
+
+TEST(PageValues, CommentOfTheFileStays)
+{
+    SettingStore store;
+    store.SetSetting(u"OWN", u"1", ov::SettingKindFlag, u"# the office's\n", kCurrentTable);
+    PageValues(PageOf(commentedRows)).Save(store, withWindow);
+    EXPECT_EQ(store.FindSetting(u"OWN", kCurrentTable)->comment, u"# the office's\n");
 }
 
 TEST(PageValues, ExceptionsToTheRuleOfSaving)
@@ -260,9 +266,9 @@ TEST(PageValues, ExceptionsToTheRuleOfSaving)
         return result;
     }();
     SettingStore store;
-    PageValues(PageOf(rows)).Save(store, withoutWindow, NoComment);
+    PageValues(PageOf(rows)).Save(store, withoutWindow);
     EXPECT_EQ(store.Count(kCurrentTable), 0u);
-    PageValues(PageOf(rows)).Save(store, withWindow, NoComment);
+    PageValues(PageOf(rows)).Save(store, withWindow);
     EXPECT_TRUE(store.HasSetting(u"SHOWN", kCurrentTable));
     EXPECT_FALSE(store.HasSetting(u"NEVER", kCurrentTable));
 }
@@ -275,7 +281,7 @@ TEST(ConformingValues, CheckCellsStoredAsYesOrTrueIsOffAndSavedAsZero)
         PageValues values(ov::ConformingRows());
         values.Load(store, kCurrentTable);
         EXPECT_EQ(values.Number(values.FindRow(u"_ORTHOVAL_CHECK_CELLS")), 0);
-        values.Save(store, withWindow, NoComment);
+        values.Save(store, withWindow);
         EXPECT_EQ(Stored(store, u"_ORTHOVAL_CHECK_CELLS"), "0");
     }
 }
@@ -299,13 +305,13 @@ TEST(ConformingValues, BuiltInValuesShowBeforeAnythingIsLoaded)
 TEST(ConformingValues, PageNeverOpenedWritesAnAbsentMaximumErrorAndLeavesAPresentOne)
 {
     SettingStore absent;
-    PageValues(ov::ConformingRows()).Save(absent, withoutWindow, NoComment);
+    PageValues(ov::ConformingRows()).Save(absent, withoutWindow);
     EXPECT_EQ(Stored(absent, u"_ORTHOVAL_MAX_ERROR_UORS"), "1");
     EXPECT_EQ(KindOf(absent, u"_ORTHOVAL_MAX_ERROR_UORS"), ov::SettingKindReal);
 
     SettingStore present;
     Put(present, u"_ORTHOVAL_MAX_ERROR_UORS", u"25");
-    PageValues(ov::ConformingRows()).Save(present, withoutWindow, NoComment);
+    PageValues(ov::ConformingRows()).Save(present, withoutWindow);
     EXPECT_EQ(Stored(present, u"_ORTHOVAL_MAX_ERROR_UORS"), "25");
 }
 
@@ -316,7 +322,7 @@ TEST(ConformingValues, AbsentNumbersShowEmptyAndAreSavedEmpty)
     values.Load(store, kCurrentTable);
     EXPECT_EQ(values.String(values.FindRow(u"_ORTHOVAL_MAX_ERROR_UORS")), u"");
     EXPECT_EQ(values.String(values.FindRow(u"_ORTHOVAL_MIN_MU_ERRORSCALE")), u"");
-    values.Save(store, withWindow, NoComment);
+    values.Save(store, withWindow);
     EXPECT_TRUE(store.HasSetting(u"_ORTHOVAL_MAX_ERROR_UORS", kCurrentTable));
     EXPECT_EQ(Stored(store, u"_ORTHOVAL_MAX_ERROR_UORS"), "");
     EXPECT_EQ(Stored(store, u"_ORTHOVAL_MIN_MU_ERRORSCALE"), "");
@@ -327,7 +333,7 @@ TEST(ConformingValues, NumericEditsTakeAnyText)
     SettingStore store;
     PageValues values(ov::ConformingRows());
     values.String(values.FindRow(u"_ORTHOVAL_MAX_ERROR_UORS")) = u" about one ";
-    values.Save(store, withWindow, NoComment);
+    values.Save(store, withWindow);
     EXPECT_EQ(Stored(store, u"_ORTHOVAL_MAX_ERROR_UORS"), " about one ");
     EXPECT_EQ(KindOf(store, u"_ORTHOVAL_MAX_ERROR_UORS"), ov::SettingKindReal);
 }
@@ -352,7 +358,7 @@ TEST(BrandingValues, RenameListIsStoredAsText)
     PageValues values(ov::BrandingRows());
     values.String(values.FindRow(u"_ORTHOVAL_BRANDING_RENAME_TABLES")) =
         u"Civil 2004:Civil;Survey Old:Survey";
-    values.Save(store, withWindow, NoComment);
+    values.Save(store, withWindow);
     EXPECT_EQ(Stored(store, u"_ORTHOVAL_BRANDING_RENAME_TABLES"), "Civil 2004:Civil;Survey Old:Survey");
     EXPECT_EQ(KindOf(store, u"_ORTHOVAL_BRANDING_RENAME_TABLES"), ov::SettingKindText);
 }

@@ -25,7 +25,7 @@ class ReferenceFilesPage : public testing::Test
             store.SetSetting(variable, stored, ov::SettingKindText, u"", kCurrentTable);
         m_values.Load(store, kCurrentTable);
         m_rows.refresh(m_values);
-        m_values.Save(store, true, [](int) { return Text(); });
+        m_values.Save(store, true);
         return store.GetSettingValue(variable, kCurrentTable);
     }
 

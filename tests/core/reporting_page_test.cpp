@@ -34,7 +34,7 @@ class ReportingPage : public testing::Test
     void Refresh() { ov::ReportingRows().refresh(m_values); }
     std::string Saved(const char16_t* variable, bool hasWindow = true)
     {
-        m_values.Save(m_store, hasWindow, [](int) { return Text(); });
+        m_values.Save(m_store, hasWindow);
         return ov::Utf8FromText(m_store.GetSettingValue(variable, kCurrentTable));
     }
     int Shown(int controlId) { return m_values.CompanionNumberOf(controlId); }
@@ -111,7 +111,7 @@ TEST_F(ReportingPage, NeverShownKeepsTheModelsThatAreThereAndAddsSixOtherwise)
     EXPECT_EQ(Saved(models, false), "all of them");
     SettingStore empty;
     PageValues values(ov::ReportingRows());
-    values.Save(empty, false, [](int) { return Text(); });
+    values.Save(empty, false);
     EXPECT_EQ(empty.GetSettingValue(models, kCurrentTable), u"6");
 }
 

@@ -159,7 +159,7 @@ TEST_F(Samples, DefaultsPassThroughThePagesAsTheyAre)
         ov::SettingStore saved;
         ov::PageValues values(*page);
         values.Load(store, kDefaultTable);
-        values.Save(saved, true, [](int) { return ov::Text(); });
+        values.Save(saved, true);
         for (const ov::SettingRow& row : page->settings) {
             const auto record = saved.FindSetting(row.variable, kCurrentTable);
             if (!record)
@@ -274,7 +274,7 @@ TEST_F(Samples, SavingUntouchedPagesChangesNoValueThatIsThere)
         }
         ov::PageValues values(*page);
         values.Load(store, kCurrentTable);
-        values.Save(store, true, [](int) { return ov::Text(); });
+        values.Save(store, true);
         for (const auto& [variable, value] : before)
             EXPECT_EQ(store.GetSettingValue(variable, kCurrentTable), value) << ov::Utf8FromText(variable);
     }

@@ -67,10 +67,7 @@ class ScanPeriodPage : public testing::Test
         values.Load(store, table);
         ov::ScanPeriodRows().refresh(values);
     }
-    void Save(bool hasWindow = true)
-    {
-        values.Save(store, hasWindow, [](int) { return ov::Text(); });
-    }
+    void Save(bool hasWindow = true) { values.Save(store, hasWindow); }
     std::string Stored(ov::TextView variable)
     {
         EXPECT_TRUE(store.HasSetting(variable, kCurrentTable));
@@ -154,7 +151,7 @@ TEST_F(ScanPeriodPage, UnseenPageAddsTheFixedPeriodThatItStartsWith)
         const Zone inZone(zone);
         ov::SettingStore empty;
         ov::PageValues unseen{ov::ScanPeriodRows()};
-        unseen.Save(empty, false, [](int) { return ov::Text(); });
+        unseen.Save(empty, false);
         EXPECT_EQ(ov::Utf8FromText(empty.GetSettingValue(kAllowUser, kCurrentTable)), "1");
         EXPECT_EQ(ov::Utf8FromText(empty.GetSettingValue(kSettings, kCurrentTable)),
                   std::string("1, 1, 0, ") + day + ", 0, 2, 0, 0, " + day + ", 0")

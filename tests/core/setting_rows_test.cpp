@@ -2,6 +2,7 @@
 // that its rows exist.
 #include "controls/core/tooltip_markup.h"
 #include "pages/core/all_page_rows.h"
+#include "pages/core/help_texts.h"
 #include "pages/core/page_catalogue.h"
 #include "pages/core/page_values.h"
 #include "pages/core/string_table.h"
@@ -181,7 +182,6 @@ TEST(AllRows, AreTheSettingsOfTheirPage)
 TEST(AllRows, EqualWhatIsExpectedOfTheirSetting)
 {
     ForEachPage([](const PageRows& page) {
-        auto help = HelpByControl(page);
         for (const expected::Setting& setting : expected::PageOf(page.pageId).settings) {
             SCOPED_TRACE(setting.variable);
             const auto row = std::ranges::find(page.settings, setting.variable, [](const SettingRow& found) {
@@ -192,8 +192,8 @@ TEST(AllRows, EqualWhatIsExpectedOfTheirSetting)
             EXPECT_EQ(row->encoding, ExpectedEncoding(setting));
             EXPECT_EQ(row->control, ExpectedControl(setting.control));
             EXPECT_EQ(row->controlId, setting.controlId);
-            EXPECT_EQ(row->commentControlId, setting.commentId);
-            EXPECT_EQ(help[setting.commentId], setting.helpId);
+            EXPECT_EQ(ov::HelpOfControl(page, setting.commentId), setting.helpId);
+            EXPECT_EQ(row->commentHelpId, setting.helpId);
             EXPECT_EQ(row->saveRule == ov::SaveRule::Never, setting.meaning == expected::Meaning::LeftAlone);
         }
     });
@@ -225,10 +225,9 @@ TEST(ExpectedControls, HoldEveryControlOfTheExpectedSettings)
 TEST(AllRows, GiveEachControlTheHelpThatIsExpectedOrNone)
 {
     ForEachPage([](const PageRows& page) {
-        auto help = HelpByControl(page);
         for (const expected::ControlRow& control : expected::ControlsOf(page.pageId).controls) {
             if (control.id != expected::kAnyId && control.help != expected::kAnyHelp) {
-                EXPECT_EQ(help[control.id], control.help) << control.id;
+                EXPECT_EQ(ov::HelpOfControl(page, control.id), control.help) << control.id;
             }
         }
     });
@@ -375,10 +374,8 @@ TEST(AllRows, HelpTextsExistAndDescribe)
 
 TEST(AllRows, CommentsNameTheRowsVariable)
 {
-    ForEachSetting([](const PageRows& page, const SettingRow& row) {
-        auto help = HelpByControl(page);
-        ASSERT_NE(help[row.commentControlId], 0u);
-        const ov::TextView comment = ov::FindString(help[row.commentControlId]);
+    ForEachSetting([](const PageRows&, const SettingRow& row) {
+        const ov::TextView comment = ov::FindString(row.commentHelpId);
         const ov::TextView own = row.helpId != 0 ? ov::FindString(row.helpId) : comment;
         EXPECT_EQ(ov::VariableName(comment) != row.variable || ov::VariableName(own) != row.variable,
                   row.helpNamesAnotherVariable);
@@ -391,14 +388,14 @@ TEST(AllRows, ExtraHelpTextsNameAVariableOfTheirPage)
         if (HasTextsOfOld(page))
             return;
         std::set<ov::Text> variables;
-        std::set<int> exceptions;
+        std::set<unsigned> exceptions;
         for (const SettingRow& row : page.settings) {
             variables.insert(row.variable);
             if (row.helpNamesAnotherVariable)
-                exceptions.insert(row.commentControlId);
+                exceptions.insert(row.commentHelpId);
         }
         for (const ov::HelpRow& row : page.extraHelp) {
-            if (!exceptions.contains(row.controlId)) {
+            if (!exceptions.contains(row.helpId)) {
                 EXPECT_TRUE(variables.contains(ov::VariableName(ov::FindString(row.helpId)))) << row.helpId;
             }
         }
@@ -411,8 +408,7 @@ TEST(AllRows, HelpOfTheFlagsSaysWhatAMissingVariableMeans)
     ForEachSetting([](const PageRows& page, const SettingRow& row) {
         if (HasTextsOfOld(page) || row.kind != ov::SettingKindFlag)
             return;
-        auto help = HelpByControl(page);
-        const ov::Text description = ov::Description(ov::FindString(help[row.commentControlId]));
+        const ov::Text description = ov::Description(ov::FindString(row.commentHelpId));
         const ov::Text missing = u"If this variable is missing, the option is ";
         EXPECT_NE(description.find(missing + (row.encoding == Encoding::FlagUnlessZero ? u"ON." : u"OFF.")),
                   ov::Text::npos);
@@ -427,10 +423,10 @@ TEST(AllRows, LayOutEachControlOnceAndEveryControlThatTheyName)
         for (const ov::LayoutRow& row : page.layout)
             EXPECT_TRUE(laidOut.insert(row.controlId).second) << row.controlId;
         const auto expectLaidOut = [&](int control) { EXPECT_TRUE(laidOut.contains(control)) << control; };
-        for (const SettingRow& row : page.settings) {
+        for (const SettingRow& row : page.settings)
             expectLaidOut(row.controlId);
-            expectLaidOut(row.commentControlId);
-        }
+        for (const ov::BarRow& row : page.bars)
+            expectLaidOut(row.controlId);
         for (const ov::HelpRow& row : page.extraHelp)
             expectLaidOut(row.controlId);
         for (const ov::CompanionRow& row : page.companions)
@@ -574,7 +570,7 @@ void ExpectAfterSave(const PageRows& page, const expected::Table& table)
     values.Load(store, ov::kCurrentTable);
     if (page.refresh != nullptr)
         page.refresh(values);
-    values.Save(store, true, [](int) { return ov::Text(); });
+    values.Save(store, true);
     for (const expected::Setting& setting : expected::PageOf(page.pageId).settings) {
         SCOPED_TRACE(setting.variable);
         const auto expected = expected::AfterSave(setting, table, Today());
@@ -605,7 +601,7 @@ TEST(AllRows, AddWhatTheirPageStartsWithWhenNobodyOpensIt)
     ForEachPage([&](const PageRows& page) {
         ov::SettingStore store;
         ov::PageValues values(page);
-        values.Save(store, false, [](int) { return ov::Text(); });
+        values.Save(store, false);
         for (const expected::Setting& setting : expected::PageOf(page.pageId).settings) {
             SCOPED_TRACE(setting.variable);
             const ov::Text variable = ov::TextFromUtf8(setting.variable);
@@ -629,7 +625,7 @@ TEST(AllRows, LeaveWhatIsThereWhenNobodyOpensTheirPage)
                              ov::kCurrentTable);
         }
         ov::PageValues values(page);
-        values.Save(store, false, [](int) { return ov::Text(); });
+        values.Save(store, false);
         for (const expected::Setting& setting : expected::PageOf(page.pageId).settings) {
             EXPECT_EQ(store.GetSettingValue(ov::TextFromUtf8(setting.variable), ov::kCurrentTable),
                       u" as it is ")

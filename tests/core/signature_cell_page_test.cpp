@@ -18,11 +18,6 @@ using ov::Text;
 
 constexpr const char16_t* countFields = u"_ORTHOVAL_SIGNATURECELL_COUNT_EDF";
 
-Text NoComment(int)
-{
-    return {};
-}
-
 TEST(SignatureCellPage, EverythingElseIsEnabledWithItsFirstBox)
 {
     PageValues values(ov::SignatureCellRows());
@@ -51,7 +46,7 @@ TEST(SignatureCellPage, CountOfEnterDataFieldsStaysAsRead)
         PageValues values(ov::SignatureCellRows());
         values.Load(store, kCurrentTable);
         values.NumberOf(countFields) = 1 - values.NumberOf(countFields);
-        values.Save(store, true, NoComment);
+        values.Save(store, true);
         EXPECT_EQ(store.GetSettingValue(countFields, kCurrentTable), stored);
     }
 }
@@ -59,7 +54,7 @@ TEST(SignatureCellPage, CountOfEnterDataFieldsStaysAsRead)
 TEST(SignatureCellPage, CountOfEnterDataFieldsIsNotAddedWhereItIsAbsent)
 {
     SettingStore store;
-    PageValues(ov::SignatureCellRows()).Save(store, true, NoComment);
+    PageValues(ov::SignatureCellRows()).Save(store, true);
     EXPECT_FALSE(store.HasSetting(countFields, kCurrentTable));
 }
 

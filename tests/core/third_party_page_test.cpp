@@ -38,7 +38,7 @@ TEST(ThirdPartyPage, FlagsAreOffWhenAbsentWhateverTheHelpSays)
     for (std::size_t row = 0; row < values.Rows().size(); ++row)
         EXPECT_EQ(values.Number(row), 0);
     values.Load(store, ov::kCurrentTable);
-    values.Save(store, true, [](int) { return ov::Text(); });
+    values.Save(store, true);
     for (const ov::SettingRow& row : values.Rows())
         EXPECT_EQ(store.GetSettingValue(row.variable, ov::kCurrentTable), u"0");
 }

@@ -25,11 +25,6 @@ const std::map<int, const char16_t*> tagTexts = {
     {SpellCheck, u"_ORTHOVAL_TITLEBLOCK_TAGSPELLCHECK"},
 };
 
-Text NoComment(int)
-{
-    return {};
-}
-
 void Put(SettingStore& store, ov::TextView variable, ov::TextView value)
 {
     store.SetSetting(variable, value, ov::SettingKindText, u"", kCurrentTable);
@@ -95,7 +90,7 @@ TEST_F(TitleBlockPage, ClearingAllowedTagSetsUnchecksTheOtherTagBoxesAndKeepsThe
     EXPECT_EQ(CheckedBoxes().size(), 4u);
     EXPECT_TRUE(Set(TagSets, 0)); // the controls are to show it
     EXPECT_EQ(CheckedBoxes(), std::set<int>());
-    m_values.Save(m_store, true, NoComment);
+    m_values.Save(m_store, true);
     for (const auto& [box, variable] : tagTexts)
         EXPECT_EQ(m_store.GetSettingValue(variable, kCurrentTable), u"A;B");
 }
@@ -105,7 +100,7 @@ TEST_F(TitleBlockPage, TextThatWasSwitchedOffButNotEmptiedHasItsBoxTheNextTime)
     PutEveryTagText();
     Load();
     Set(Tags, 0);
-    m_values.Save(m_store, true, NoComment);
+    m_values.Save(m_store, true);
     PageValues next(ov::TitleBlockRows());
     next.Load(m_store, kCurrentTable);
     EXPECT_EQ(next.CompanionNumberOf(Tags), 1);
@@ -151,12 +146,12 @@ TEST_F(TitleBlockPage, EachTagBoxEnablesItsRow)
 TEST_F(TitleBlockPage, CountOfEnterDataFieldsStaysAsRead)
 {
     const char16_t* variable = u"_ORTHOVAL_TITLEBLOCK_COUNT_EDF";
-    m_values.Save(m_store, true, NoComment);
+    m_values.Save(m_store, true);
     EXPECT_FALSE(m_store.HasSetting(variable, kCurrentTable));
     Put(m_store, variable, u"1");
     Load();
     m_values.NumberOf(variable) = 0;
-    m_values.Save(m_store, true, NoComment);
+    m_values.Save(m_store, true);
     EXPECT_EQ(m_store.GetSettingValue(variable, kCurrentTable), u"1");
 }
 

@@ -23,7 +23,7 @@ TEST(UrlsPage, AddressesStartEmptyAndAreKeptAsTyped)
         EXPECT_EQ(values.TextOf(row.variable), u"");
     values.TextOf(u"_ORTHOVAL_WEBSITE_URL") = u" intranet/cad ";
     ov::SettingStore store;
-    values.Save(store, true, [](int) { return ov::Text(); });
+    values.Save(store, true);
     EXPECT_EQ(store.GetSettingValue(u"_ORTHOVAL_WEBSITE_URL", ov::kCurrentTable), u" intranet/cad ");
     EXPECT_EQ(store.GetSettingValue(u"_ORTHOVAL_TECHSUPPORT_URL", ov::kCurrentTable), u"");
 }

@@ -11,11 +11,6 @@ using ov::PageValues;
 using ov::SettingStore;
 using ov::Text;
 
-Text NoComment(int)
-{
-    return {};
-}
-
 TEST(VersionPage, ServerVersionStaysAsRead)
 {
     SettingStore store;
@@ -24,7 +19,7 @@ TEST(VersionPage, ServerVersionStaysAsRead)
     values.Load(store, kCurrentTable);
     EXPECT_EQ(values.TextOf(u"_ORTHOVAL_SERVER_VERSION"), u"v6.5.0");
     values.TextOf(u"_ORTHOVAL_SERVER_VERSION") = u"v7.0.0";
-    values.Save(store, true, NoComment);
+    values.Save(store, true);
     EXPECT_EQ(store.GetSettingValue(u"_ORTHOVAL_SERVER_VERSION", kCurrentTable), u"v6.5.0");
 }
 
@@ -32,7 +27,7 @@ TEST(VersionPage, ServerVersionIsNotAddedWhereItIsAbsent)
 {
     for (const bool hasWindow : {false, true}) {
         SettingStore store;
-        PageValues(ov::VersionRows()).Save(store, hasWindow, NoComment);
+        PageValues(ov::VersionRows()).Save(store, hasWindow);
         EXPECT_FALSE(store.HasSetting(u"_ORTHOVAL_SERVER_VERSION", kCurrentTable));
         EXPECT_EQ(store.Count(kCurrentTable), 2u);
     }
@@ -41,7 +36,7 @@ TEST(VersionPage, ServerVersionIsNotAddedWhereItIsAbsent)
 TEST(VersionPage, WarnsOfMajorVersionsOnlyBeforeAnythingIsRead)
 {
     SettingStore store;
-    PageValues(ov::VersionRows()).Save(store, false, NoComment);
+    PageValues(ov::VersionRows()).Save(store, false);
     EXPECT_EQ(store.GetSettingValue(u"_ORTHOVAL_WARN_MAJOR_UPGRADE", kCurrentTable), u"1");
     EXPECT_EQ(store.GetSettingValue(u"_ORTHOVAL_WARN_MINOR_UPGRADE", kCurrentTable), u"0");
 }

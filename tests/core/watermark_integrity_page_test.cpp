@@ -29,7 +29,7 @@ std::string SavedAfterLoading(const char16_t* variable, const char16_t* stored, 
     PageValues values(ov::WatermarkIntegrityRows());
     if (hasWindow)
         values.Load(store, kCurrentTable);
-    values.Save(store, hasWindow, [](int) { return Text(); });
+    values.Save(store, hasWindow);
     return store.HasSetting(variable, kCurrentTable)
                ? ov::Utf8FromText(store.GetSettingValue(variable, kCurrentTable))
                : "absent";

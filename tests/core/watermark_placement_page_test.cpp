@@ -33,7 +33,7 @@ TEST(WatermarkPlacementPage, LineSpacingIsKeptAsTyped)
     ov::PageValues values(ov::WatermarkPlacementRows());
     values.Load(store, ov::kCurrentTable);
     values.TextOf(u"_ORTHOVAL_REPLACETEXT_LINESPACING") = u" 0.5 ";
-    values.Save(store, true, [](int) { return ov::Text(); });
+    values.Save(store, true);
     EXPECT_EQ(store.GetSettingValue(u"_ORTHOVAL_REPLACETEXT_LINESPACING", ov::kCurrentTable), u" 0.5 ");
 }
 

@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
 #include <string>
 #include <vector>
 
@@ -28,14 +29,26 @@ TEST(WeightingPage, WritesTheTextStyleBeforeTheTextHeight)
 
 TEST(WeightingPage, TakesTheCommentsFromTheBars)
 {
-    ov::SettingStore store;
-    ov::PageValues values(ov::WeightingRows());
-    std::vector<int> asked;
-    values.Save(store, true, [&](int control) {
-        asked.push_back(control);
-        return ov::Text();
-    });
-    EXPECT_EQ(asked, (std::vector<int>{11025, 11033, 11038, 11029, 11027, 11042, 11045, 11048}));
+    std::vector<unsigned> comments;
+    for (const ov::SettingRow& row : ov::WeightingRows().settings)
+        comments.push_back(row.commentHelpId);
+    EXPECT_EQ(comments, (std::vector<unsigned>{9317, 9321, 9326, 9327, 9328, 9330, 9332, 9329}));
+}
+
+TEST(WeightingPage, HasABarForEachSetting)
+{
+    const std::map<std::string, int> expected = {
+        {"_ORTHOVAL_WEIGHTING_COLOUR", 11025},    {"_ORTHOVAL_WEIGHTING_WEIGHT", 11033},
+        {"_ORTHOVAL_WEIGHTING_STYLE", 11038},     {"_ORTHOVAL_WEIGHTING_LEVEL_NAME", 11029},
+        {"_ORTHOVAL_WEIGHTING_CELL_NAME", 11027}, {"_ORTHOVAL_WEIGHTING_TEXTHEIGHT", 11045},
+        {"_ORTHOVAL_WEIGHTING_TEXTSTYLE", 11042}, {"_ORTHOVAL_WEIGHTING_DIMENSIONSTYLE", 11048},
+    };
+    std::map<std::string, int> found;
+    for (const ov::BarRow& bar : ov::WeightingRows().bars) {
+        found[ov::Utf8FromText(bar.variable)] = bar.controlId;
+        EXPECT_EQ(bar.highest, 20);
+    }
+    EXPECT_EQ(found, expected);
 }
 
 TEST(WeightingPage, AbsentWeightIsSavedAsZero)
@@ -43,7 +56,7 @@ TEST(WeightingPage, AbsentWeightIsSavedAsZero)
     ov::SettingStore store;
     ov::PageValues values(ov::WeightingRows());
     values.Load(store, ov::kCurrentTable);
-    values.Save(store, true, [](int) { return ov::Text(); });
+    values.Save(store, true);
     EXPECT_EQ(store.Count(ov::kCurrentTable), 8u);
     for (const ov::SettingRow& row : ov::WeightingRows().settings)
         EXPECT_EQ(store.GetSettingValue(row.variable, ov::kCurrentTable), u"0");
@@ -56,7 +69,7 @@ TEST(WeightingPage, WeightBeyondTheBarIsSavedAsItStands)
     store.SetSetting(u"_ORTHOVAL_WEIGHTING_COLOUR", u"much", ov::SettingKindInteger, u"", ov::kCurrentTable);
     ov::PageValues values(ov::WeightingRows());
     values.Load(store, ov::kCurrentTable);
-    values.Save(store, true, [](int) { return ov::Text(); });
+    values.Save(store, true);
     EXPECT_EQ(store.GetSettingValue(u"_ORTHOVAL_WEIGHTING_STYLE", ov::kCurrentTable), u"25");
     EXPECT_EQ(store.GetSettingValue(u"_ORTHOVAL_WEIGHTING_COLOUR", ov::kCurrentTable), u"much");
 }

@@ -241,8 +241,9 @@ TEST(Templates, HaveTheControlOfEveryRowInItsKind)
         for (const ov::SettingRow& row : page.rows.settings) {
             if (row.controlId != 0)
                 ExpectKind(page, row.control, row.controlId);
-            EXPECT_TRUE(page.Find(row.commentControlId)) << row.commentControlId;
         }
+        for (const ov::BarRow& row : page.rows.bars)
+            EXPECT_TRUE(page.Find(row.controlId)) << row.controlId;
         for (const ov::CompanionRow& row : page.rows.companions)
             ExpectKind(page, row.control, row.controlId);
         for (const ov::HelpRow& row : page.rows.extraHelp)
