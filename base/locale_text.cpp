@@ -28,7 +28,23 @@ constexpr bool IsEscape(char32_t unit)
     return unit >= kEscapeBase + 0x80u && unit <= kEscapeBase + 0xFFu;
 }
 
-LocaleCoding CurrentCoding()
+// The characters of the bytes 0x80 to 0x9F in Windows code page 1252; all others have the byte's number.
+constexpr std::array<char16_t, 32> kWindows1252{
+    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178,
+};
+
+constexpr ByteTable MakeWindows1252Table()
+{
+    ByteTable table{};
+    for (std::size_t value = 0; value < table.size(); ++value)
+        table[value] = static_cast<char16_t>(value);
+    std::copy(kWindows1252.begin(), kWindows1252.end(), table.begin() + 0x80);
+    return table;
+}
+
+LocaleCoding LocaleCodingNow()
 {
     const char* name = std::setlocale(LC_CTYPE, nullptr);
     if (name == nullptr || std::strcmp(name, "C") == 0 || std::strcmp(name, "POSIX") == 0)
@@ -42,6 +58,19 @@ LocaleCoding CurrentCoding()
     if (std::mbtowc(&euro, "\xE2\x82\xAC", 3) == 3 && euro == 0x20AC)
         return LocaleCoding::Utf8;
     return LocaleCoding::MultiByte;
+}
+
+LocaleCoding CodingOf(Charset charset)
+{
+    switch (charset) {
+    case Charset::Utf8:
+        return LocaleCoding::Utf8;
+    case Charset::Windows1252:
+        return LocaleCoding::SingleByte;
+    case Charset::OfProcess:
+        break;
+    }
+    return LocaleCodingNow();
 }
 
 // The number of ASCII bytes at the front.
@@ -74,8 +103,10 @@ bool SpellsAsciiPlainly(LocaleCoding coding)
     return true;
 }
 
-ByteTable SingleByteTable()
+ByteTable SingleByteTable(Charset charset)
 {
+    if (charset == Charset::Windows1252)
+        return MakeWindows1252Table();
     std::mbtowc(nullptr, nullptr, 0);
     ByteTable table{};
     for (unsigned value = 0; value < table.size(); ++value) {
@@ -222,10 +253,27 @@ EncodeResult EncodeIdentity(TextView text, std::string& bytes)
 
 } // namespace
 
-LocaleDecoder::LocaleDecoder() : m_coding(CurrentCoding()), m_plainAscii(SpellsAsciiPlainly(m_coding))
+Charset DetectCharset(std::string_view bytes)
+{
+    bool ascii = true;
+    while (!bytes.empty()) {
+        bytes.remove_prefix(AsciiLength(bytes));
+        if (bytes.empty())
+            break;
+        const CodePoint c = ReadUtf8(bytes);
+        if (!c.valid)
+            return Charset::Windows1252;
+        ascii = false;
+        bytes.remove_prefix(c.length);
+    }
+    return ascii ? Charset::Windows1252 : Charset::Utf8;
+}
+
+LocaleDecoder::LocaleDecoder(Charset charset)
+    : m_coding(CodingOf(charset)), m_plainAscii(charset != Charset::OfProcess || SpellsAsciiPlainly(m_coding))
 {
     if (m_coding == LocaleCoding::SingleByte)
-        m_table = SingleByteTable();
+        m_table = SingleByteTable(charset);
 }
 
 void LocaleDecoder::Append(std::string_view bytes, Text& text) const
@@ -255,13 +303,14 @@ bool LocaleDecoder::IsPlain(std::string_view bytes) const
     return m_coding == LocaleCoding::Identity || (m_plainAscii && AsciiLength(bytes) == bytes.size());
 }
 
-LocaleEncoder::LocaleEncoder() : m_coding(CurrentCoding()), m_plainAscii(SpellsAsciiPlainly(m_coding))
+LocaleEncoder::LocaleEncoder(Charset charset)
+    : m_coding(CodingOf(charset)), m_plainAscii(charset != Charset::OfProcess || SpellsAsciiPlainly(m_coding))
 {
     if (m_coding != LocaleCoding::SingleByte)
         return;
     // Built from the decoding table, so that exactly what was read can be written.
     m_low.fill(kNoByte);
-    const ByteTable table = SingleByteTable();
+    const ByteTable table = SingleByteTable(charset);
     for (unsigned value = 0; value < table.size(); ++value) {
         const char16_t unit = table[value];
         if (unit < m_low.size())

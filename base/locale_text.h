@@ -13,6 +13,18 @@
 namespace ov
 {
 
+/// Which encoding the bytes of a file are in.
+enum class Charset {
+    OfProcess,   ///< The encoding of the C locale that is set at the time of the conversion.
+    Utf8,        ///< UTF-8, on every platform and in every locale.
+    Windows1252, ///< Windows code page 1252, on every platform. As in Windows, the five bytes that it
+                 ///< leaves undefined are the control characters of the same number.
+};
+
+/// The encoding that a file's bytes appear to be in: UTF-8 when they are valid UTF-8 and at least one
+/// of them is no ASCII character, else Windows-1252.
+Charset DetectCharset(std::string_view bytes);
+
 /// How the process's C locale spells characters as bytes.
 enum class LocaleCoding {
     Identity,   ///< The "C" locale: byte b is U+00b, on every platform.
@@ -24,15 +36,15 @@ enum class LocaleCoding {
 /// The characters of the 256 bytes of a single-byte code page.
 using ByteTable = std::array<char16_t, 256>;
 
-/// Turns bytes into text by the C locale that is set when the decoder is made.
+/// Turns bytes into text by a given encoding, or by the C locale that is set when the decoder is made.
 ///
-/// Nothing is lost: a byte that means no character in the locale becomes the lone
+/// Nothing is lost: a byte that means no character in the encoding becomes the lone
 /// surrogate U+DC00 + byte, which LocaleEncoder turns back into that byte. Every text
 /// of single bytes therefore survives decoding and encoding, and so does UTF-8, valid or not.
 class LocaleDecoder
 {
   public:
-    LocaleDecoder();
+    explicit LocaleDecoder(Charset charset = Charset::OfProcess);
 
     /// Appends the text of the bytes, which must not end inside a character.
     void Append(std::string_view bytes, Text& text) const;
@@ -54,13 +66,13 @@ struct EncodeResult {
     explicit operator bool() const { return ok; }
 };
 
-/// Turns text into bytes by the C locale that is set when the encoder is made.
+/// Turns text into bytes by a given encoding, or by the C locale that is set when the encoder is made.
 ///
-/// No character is replaced by a similar one: what the locale cannot write exactly is refused.
+/// No character is replaced by a similar one: what the encoding lacks is refused.
 class LocaleEncoder
 {
   public:
-    LocaleEncoder();
+    explicit LocaleEncoder(Charset charset = Charset::OfProcess);
 
     /// Appends the bytes of the text. On failure the bytes are left as they were.
     EncodeResult Append(TextView text, std::string& bytes) const;

@@ -1,6 +1,5 @@
 #include "config/core/config_reader.h"
 
-#include "base/locale_text.h"
 #include "config/core/text_lines.h"
 
 #include <algorithm>
@@ -99,7 +98,10 @@ SettingKind ClassifyJoined(CompactView first, SettingKind kind, CompactView seco
 class ConfigReader
 {
   public:
-    ConfigReader(SettingStore& store, int table) : m_store(store), m_table(table) {}
+    ConfigReader(SettingStore& store, int table, Charset charset)
+        : m_store(store), m_table(table), m_decoder(charset)
+    {
+    }
 
     void Feed(std::string_view block)
     {
@@ -267,9 +269,9 @@ SettingKind ClassifyValue(CompactView value)
     return point ? SettingKindReal : SettingKindInteger;
 }
 
-void ReadConfig(SettingStore& store, int table, std::string_view bytes)
+void ReadConfig(SettingStore& store, int table, std::string_view bytes, Charset charset)
 {
-    ConfigReader reader(store, table);
+    ConfigReader reader(store, table, charset);
     reader.Feed(bytes);
     reader.Finish();
 }
@@ -282,7 +284,7 @@ ReadResult ReadConfigFile(SettingStore& store, int table, const Text& path, File
     const FileKind kind = files.Kind(path);
     if (kind == FileKind::Absent || kind == FileKind::Other)
         return {ReadOutcome::NothingToRead};
-    ConfigReader reader(store, table);
+    ConfigReader reader(store, table, Charset::OfProcess);
     FileResult result = ReadBlocks(files, path, [&reader](std::string_view block) { reader.Feed(block); });
     if (!result)
         return {ReadOutcome::Failed, std::move(result.systemText)};

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/locale_text.h"
 #include "base/text.h"
 #include "config/core/file_port.h"
 #include "config/core/setting_store.h"
@@ -13,9 +14,9 @@ namespace ov
 /// with a decimal point.
 SettingKind ClassifyValue(CompactView value);
 
-/// Reads the bytes of a configuration file into a table of the store, by the process's locale.
-/// The table is replaced; no bytes at all leave it as it was.
-void ReadConfig(SettingStore& store, int table, std::string_view bytes);
+/// Reads the bytes of a configuration file into a table of the store. The table is replaced; no bytes
+/// at all leave it as it was.
+void ReadConfig(SettingStore& store, int table, std::string_view bytes, Charset charset = Charset::OfProcess);
 
 /// How the reading of a configuration file ended.
 enum class ReadOutcome {

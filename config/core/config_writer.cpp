@@ -1,6 +1,5 @@
 #include "config/core/config_writer.h"
 
-#include "base/locale_text.h"
 #include "config/core/text_lines.h"
 #include "match/core/tokens.h"
 
@@ -77,9 +76,9 @@ Text CharacterAt(TextView text, std::size_t index)
 class FileBytes
 {
   public:
-    explicit FileBytes(std::string& bytes) : m_bytes(bytes) { m_bytes.clear(); }
+    FileBytes(std::string& bytes, Charset charset) : m_encoder(charset), m_bytes(bytes) { m_bytes.clear(); }
 
-    // Gives the first character that the locale cannot write, nothing when all were written.
+    // Gives the first character that the encoding lacks, nothing when all were written.
     Text Append(TextView text)
     {
         m_encoded.clear();
@@ -112,7 +111,7 @@ class FileBytes
     Text m_joined;
 };
 
-// The setting's lines; nothing, or the first character that the locale cannot write.
+// The setting's lines; nothing, or the first character that the encoding lacks.
 Text AppendSetting(FileBytes& output, const SettingRecord& record, CompactView comment)
 {
     if (record.value.Contains(u';')) {
@@ -142,9 +141,9 @@ Text MakeHeader(const HeaderInfo& info)
     return header;
 }
 
-WriteResult WriteConfig(const SettingStore& store, TextView header, std::string& bytes)
+WriteResult WriteConfig(const SettingStore& store, TextView header, std::string& bytes, Charset charset)
 {
-    FileBytes output(bytes);
+    FileBytes output(bytes, charset);
     // Enough for nearly every file: one byte more for a line of 16, and the marks around a value.
     const std::size_t textBytes = store.TextBytes(kCurrentTable);
     bytes.reserve(header.size() * 2 + textBytes + textBytes / 16 + store.Count(kCurrentTable) * 8);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/locale_text.h"
 #include "base/text.h"
 #include "config/core/setting_store.h"
 
@@ -34,8 +35,9 @@ struct WriteResult {
 };
 
 /// Sets `bytes` to the file for the store's current table: the header, then every variable in name
-/// order under its comment, or under the default table's comment when its own is empty. Characters
-/// are written by the process's locale, lines end in CR LF. On failure `bytes` is of no use.
-WriteResult WriteConfig(const SettingStore& store, TextView header, std::string& bytes);
+/// order under its comment, or under the default table's comment when its own is empty. Lines end in
+/// CR LF. On failure `bytes` is of no use.
+WriteResult WriteConfig(const SettingStore& store, TextView header, std::string& bytes,
+                        Charset charset = Charset::OfProcess);
 
 } // namespace ov

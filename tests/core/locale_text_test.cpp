@@ -201,5 +201,70 @@ TEST(LocaleText, LoneSurrogateCannotBeWrittenInUtf8)
 
 #endif
 
+TEST(LocaleText, Utf8IsTheSameInEveryLocale)
+{
+    const test::ScopedLocale locale("C");
+    const std::string bytes = "a\xC3\xA4\xF0\x9F\x98\x80\xE4";
+    Text text;
+    LocaleDecoder(Charset::Utf8).Append(bytes, text);
+    EXPECT_EQ(text, Text(u"a\u00E4\U0001F600") + Text(1, static_cast<char16_t>(0xDCE4)));
+    std::string back;
+    ASSERT_TRUE(LocaleEncoder(Charset::Utf8).Append(text, back));
+    EXPECT_EQ(back, bytes);
+}
+
+TEST(LocaleText, Windows1252IsTheSameInEveryLocale)
+{
+    const test::ScopedLocale locale("C");
+    Text text;
+    LocaleDecoder(Charset::Windows1252).Append("A\x7F\x80\x85\x99\x9F\xA0\xE4\xFF", text);
+    EXPECT_EQ(text, u"A\u007F\u20AC\u2026\u2122\u0178\u00A0\u00E4\u00FF");
+}
+
+TEST(LocaleText, BytesThatWindows1252LeavesUndefinedAreControlCharacters)
+{
+    Text text;
+    LocaleDecoder(Charset::Windows1252).Append("\x81\x8D\x8F\x90\x9D", text);
+    EXPECT_EQ(text, u"\u0081\u008D\u008F\u0090\u009D");
+}
+
+TEST(LocaleText, AllBytesSurviveInWindows1252)
+{
+    Text text;
+    LocaleDecoder(Charset::Windows1252).Append(AllBytes(), text);
+    EXPECT_EQ(text.size(), 256u);
+    std::string back;
+    ASSERT_TRUE(LocaleEncoder(Charset::Windows1252).Append(text, back));
+    EXPECT_EQ(back, AllBytes());
+}
+
+TEST(LocaleText, CharacterThatWindows1252LacksIsRefused)
+{
+    std::string bytes;
+    const EncodeResult result = LocaleEncoder(Charset::Windows1252).Append(u"\u20AC\u0394", bytes);
+    EXPECT_FALSE(result);
+    EXPECT_EQ(result.position, 1u);
+    EXPECT_FALSE(LocaleEncoder(Charset::Windows1252).Append(u"\u0080", bytes));
+    EXPECT_EQ(bytes, "");
+}
+
+TEST(DetectCharset, Utf8NeedsACharacterBeyondAscii)
+{
+    EXPECT_EQ(DetectCharset(""), Charset::Windows1252);
+    EXPECT_EQ(DetectCharset("A = 1\r\n"), Charset::Windows1252);
+    EXPECT_EQ(DetectCharset(std::string_view("\0\x7F", 2)), Charset::Windows1252);
+    EXPECT_EQ(DetectCharset("A = \xC3\xA4\r\n"), Charset::Utf8);
+    EXPECT_EQ(DetectCharset("\xEF\xBB\xBF"), Charset::Utf8);
+}
+
+TEST(DetectCharset, OneInvalidByteMakesItWindows1252)
+{
+    EXPECT_EQ(DetectCharset("\xE4"), Charset::Windows1252);
+    EXPECT_EQ(DetectCharset("\xC3\xA4 \xE4"), Charset::Windows1252);
+    EXPECT_EQ(DetectCharset("\xC3\xA4\xC3"), Charset::Windows1252);
+    EXPECT_EQ(DetectCharset("12345678\xC0\x80"), Charset::Windows1252);
+    EXPECT_EQ(DetectCharset("\xED\xA0\x80"), Charset::Windows1252);
+}
+
 } // namespace
 } // namespace ov
