@@ -1,5 +1,5 @@
-# PCRE2 and GoogleTest come as the distribution's source packages, put in
-# place by scripts/setup. PCRE2 is built once per toolchain and kept outside
+# All dependencies are packages of the distribution, installed by scripts/setup.
+# PCRE2 and GoogleTest come as sources. PCRE2 is built once per toolchain and kept outside
 # the build folder, so that a clean build does not pay for it again.
 if(DEFINED ENV{XDG_CACHE_HOME})
   set(OV_DEPS_DEFAULT "$ENV{XDG_CACHE_HOME}/ovPreferences")
@@ -57,6 +57,20 @@ add_library(pcre2-8 STATIC IMPORTED GLOBAL)
 set_target_properties(
   pcre2-8 PROPERTIES IMPORTED_LOCATION "${OV_PCRE2_LIBRARY}" INTERFACE_INCLUDE_DIRECTORIES
                      "${OV_PCRE2_PREFIX}/include" INTERFACE_COMPILE_DEFINITIONS PCRE2_STATIC)
+
+# CLI11 and nlohmann-json are headers only. The cross compiler must not search
+# /usr/include, which has the headers of this machine's own C library: the two
+# folders are linked into a folder of their own.
+set(OV_HEADERS_DIR "${CMAKE_BINARY_DIR}/headers")
+file(MAKE_DIRECTORY "${OV_HEADERS_DIR}")
+foreach(FOLDER IN ITEMS CLI nlohmann)
+  if(NOT EXISTS "/usr/include/${FOLDER}")
+    message(FATAL_ERROR "The headers /usr/include/${FOLDER} are missing: run scripts/setup first")
+  endif()
+  file(CREATE_LINK "/usr/include/${FOLDER}" "${OV_HEADERS_DIR}/${FOLDER}" SYMBOLIC)
+endforeach()
+add_library(ov_headers INTERFACE)
+target_include_directories(ov_headers SYSTEM INTERFACE "${OV_HEADERS_DIR}")
 
 if(BUILD_TESTING)
   set(INSTALL_GTEST OFF)
