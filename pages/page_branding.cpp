@@ -1,6 +1,6 @@
 #include "pages/page_branding.h"
 
-#include "pages/core/branding_rows.h"
+#include "pages/branding/rows.h"
 
 IMPLEMENT_DYNAMIC(CPageBranding, CSettingsPage)
 

@@ -1,6 +1,6 @@
 #include "pages/page_cell_handling.h"
 
-#include "pages/core/cell_handling_rows.h"
+#include "pages/cell_handling/rows.h"
 
 IMPLEMENT_DYNAMIC(CPageCellHandling, CSettingsPage)
 

@@ -1,6 +1,6 @@
 #include "pages/page_colour_table.h"
 
-#include "pages/core/colour_table_rows.h"
+#include "pages/colour_table/rows.h"
 
 IMPLEMENT_DYNAMIC(CPageColourTable, CSettingsPage)
 

@@ -1,6 +1,6 @@
 #include "pages/page_conforming.h"
 
-#include "pages/core/conforming_rows.h"
+#include "pages/conforming/rows.h"
 
 IMPLEMENT_DYNAMIC(CPageConforming, CSettingsPage)
 

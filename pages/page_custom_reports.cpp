@@ -1,6 +1,6 @@
 #include "pages/page_custom_reports.h"
 
-#include "pages/core/custom_reports_rows.h"
+#include "pages/custom_reports/rows.h"
 
 IMPLEMENT_DYNAMIC(CPageCustomReports, CSettingsPage)
 

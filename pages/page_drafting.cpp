@@ -1,6 +1,6 @@
 #include "pages/page_drafting.h"
 
-#include "pages/core/drafting_rows.h"
+#include "pages/drafting/rows.h"
 
 IMPLEMENT_DYNAMIC(CPageDrafting, CSettingsPage)
 

@@ -1,6 +1,6 @@
 #include "pages/page_drawing_scales.h"
 
-#include "pages/core/drawing_scales_rows.h"
+#include "pages/drawing_scales/rows.h"
 
 IMPLEMENT_DYNAMIC(CPageDrawingScales, CSettingsPage)
 

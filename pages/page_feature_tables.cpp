@@ -1,6 +1,6 @@
 #include "pages/page_feature_tables.h"
 
-#include "pages/core/feature_tables_rows.h"
+#include "pages/feature_tables/rows.h"
 
 IMPLEMENT_DYNAMIC(CPageFeatureTables, CSettingsPage)
 

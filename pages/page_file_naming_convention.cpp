@@ -1,6 +1,6 @@
 #include "pages/page_file_naming_convention.h"
 
-#include "pages/core/file_naming_rows.h"
+#include "pages/file_naming/rows.h"
 
 IMPLEMENT_DYNAMIC(CPageFileNamingConvention, CSettingsPage)
 

@@ -1,6 +1,6 @@
 #include "pages/page_files.h"
 
-#include "pages/core/files_rows.h"
+#include "pages/files/rows.h"
 
 IMPLEMENT_DYNAMIC(CPageFiles, CSettingsPage)
 

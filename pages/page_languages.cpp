@@ -1,6 +1,6 @@
 #include "pages/page_languages.h"
 
-#include "pages/core/languages_rows.h"
+#include "pages/languages/rows.h"
 
 IMPLEMENT_DYNAMIC(CPageLanguages, CSettingsPage)
 

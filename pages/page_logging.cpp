@@ -1,6 +1,6 @@
 #include "pages/page_logging.h"
 
-#include "pages/core/logging_rows.h"
+#include "pages/logging/rows.h"
 
 IMPLEMENT_DYNAMIC(CPageLogging, CSettingsPage)
 

@@ -1,6 +1,6 @@
 #include "pages/page_model_naming_convention.h"
 
-#include "pages/core/model_naming_rows.h"
+#include "pages/model_naming/rows.h"
 
 IMPLEMENT_DYNAMIC(CPageModelNamingConvention, CSettingsPage)
 

@@ -1,6 +1,6 @@
 #include "pages/page_reporting.h"
 
-#include "pages/core/reporting_rows.h"
+#include "pages/reporting/rows.h"
 
 IMPLEMENT_DYNAMIC(CPageReporting, CSettingsPage)
 

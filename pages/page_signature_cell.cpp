@@ -1,6 +1,6 @@
 #include "pages/page_signature_cell.h"
 
-#include "pages/core/signature_cell_rows.h"
+#include "pages/signature_cell/rows.h"
 
 IMPLEMENT_DYNAMIC(CPageSignatureCell, CSettingsPage)
 

@@ -1,6 +1,6 @@
 #include "pages/page_third_party.h"
 
-#include "pages/core/third_party_rows.h"
+#include "pages/third_party/rows.h"
 
 IMPLEMENT_DYNAMIC(CPageThirdParty, CSettingsPage)
 

@@ -1,6 +1,6 @@
 #include "pages/page_title_block.h"
 
-#include "pages/core/title_block_rows.h"
+#include "pages/title_block/rows.h"
 
 IMPLEMENT_DYNAMIC(CPageTitleBlock, CSettingsPage)
 

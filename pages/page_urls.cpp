@@ -1,6 +1,6 @@
 #include "pages/page_urls.h"
 
-#include "pages/core/urls_rows.h"
+#include "pages/urls/rows.h"
 
 IMPLEMENT_DYNAMIC(CPageURLs, CSettingsPage)
 

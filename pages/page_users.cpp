@@ -1,6 +1,6 @@
 #include "pages/page_users.h"
 
-#include "pages/core/users_rows.h"
+#include "pages/users/rows.h"
 
 IMPLEMENT_DYNAMIC(CPageUsers, CSettingsPage)
 

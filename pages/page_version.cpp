@@ -1,6 +1,6 @@
 #include "pages/page_version.h"
 
-#include "pages/core/version_rows.h"
+#include "pages/version/rows.h"
 
 IMPLEMENT_DYNAMIC(CPageVersion, CSettingsPage)
 

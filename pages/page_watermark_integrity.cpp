@@ -1,6 +1,6 @@
 #include "pages/page_watermark_integrity.h"
 
-#include "pages/core/watermark_integrity_rows.h"
+#include "pages/watermark_integrity/rows.h"
 
 IMPLEMENT_DYNAMIC(CPageWatermarkIntegrity, CSettingsPage)
 

@@ -1,6 +1,6 @@
 #include "pages/page_watermark_placement.h"
 
-#include "pages/core/watermark_placement_rows.h"
+#include "pages/watermark_placement/rows.h"
 
 IMPLEMENT_DYNAMIC(CPageWatermarkPlacement, CSettingsPage)
 

@@ -1,6 +1,6 @@
 // Drawing Scales: brackets around the list and the code of the built-in scales.
-#include "pages/core/drawing_scales_rows.h"
 #include "pages/core/page_values.h"
+#include "pages/drawing_scales/rows.h"
 #include "resources/page_ids.h"
 
 #include <gtest/gtest.h>

@@ -1,9 +1,9 @@
 // The pages File Naming and Model Naming: two of a kind, but for one thing.
 #include "controls/core/tooltip_markup.h"
-#include "pages/core/file_naming_rows.h"
-#include "pages/core/model_naming_rows.h"
 #include "pages/core/page_values.h"
 #include "pages/core/string_table.h"
+#include "pages/file_naming/rows.h"
+#include "pages/model_naming/rows.h"
 #include "resources/page_ids.h"
 
 #include <gtest/gtest.h>

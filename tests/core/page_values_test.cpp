@@ -1,7 +1,7 @@
 #include "pages/core/page_values.h"
 
-#include "pages/core/branding_rows.h"
-#include "pages/core/conforming_rows.h"
+#include "pages/branding/rows.h"
+#include "pages/conforming/rows.h"
 #include "resources/page_ids.h"
 
 #include <gtest/gtest.h>

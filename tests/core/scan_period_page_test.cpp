@@ -1,6 +1,6 @@
 // The Scan Period page: one variable on ten controls, and what it does with
 // dates that do not exist.
-#include "pages/core/scan_period_rows.h"
+#include "pages/scan_period/rows.h"
 
 #include "pages/core/page_values.h"
 #include "pages/core/string_table.h"

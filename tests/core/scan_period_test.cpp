@@ -1,5 +1,5 @@
 // The texts of a fixed scan period: the 14 numbers, the older form, which dates are taken.
-#include "pages/core/scan_period.h"
+#include "pages/scan_period/scan_period.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
 // The Feature Tables, Languages and Users pages: what their buttons take apart,
 // what depends on what, and texts with oddities of old.
-#include "pages/core/feature_tables_rows.h"
-#include "pages/core/languages_rows.h"
 #include "pages/core/page_values.h"
 #include "pages/core/string_table.h"
-#include "pages/core/users_rows.h"
+#include "pages/feature_tables/rows.h"
+#include "pages/languages/rows.h"
+#include "pages/users/rows.h"
 #include "resources/page_ids.h"
 
 #include <gtest/gtest.h>

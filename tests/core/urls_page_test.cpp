@@ -1,7 +1,7 @@
 // URLs: the texts.
 #include "pages/core/page_values.h"
 #include "pages/core/string_table.h"
-#include "pages/core/urls_rows.h"
+#include "pages/urls/rows.h"
 
 #include <gtest/gtest.h>
 

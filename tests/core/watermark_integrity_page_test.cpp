@@ -1,6 +1,6 @@
 // What is peculiar to the Watermark Integrity page.
 #include "pages/core/page_values.h"
-#include "pages/core/watermark_integrity_rows.h"
+#include "pages/watermark_integrity/rows.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // The Score Weighting page: texts that bars move.
-#include "pages/core/weighting_rows.h"
+#include "pages/weighting/rows.h"
 
 #include "controls/core/tooltip_markup.h"
 #include "pages/core/page_values.h"

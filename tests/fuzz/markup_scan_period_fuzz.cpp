@@ -6,7 +6,7 @@
 #include "config/core/config_reader.h"
 #include "config/core/setting_comment.h"
 #include "controls/core/tooltip_markup.h"
-#include "pages/core/scan_period.h"
+#include "pages/scan_period/scan_period.h"
 #include "tests/fuzz/fuzz_input.h"
 
 #include <array>

@@ -1,0 +1,23 @@
+#include "pages/certifying/page.h"
+
+#include "pages/certifying/rows.h"
+#include "resources/page_ids.h"
+
+IMPLEMENT_DYNAMIC(CPageCertifying, CSettingsPage)
+
+BEGIN_MESSAGE_MAP(CPageCertifying, CSettingsPage)
+    ON_BN_CLICKED(IDC_CERTIFYING_PLACE_MARKER_CELL, &CPageCertifying::OnSettingChanged)
+END_MESSAGE_MAP()
+
+CPageCertifying::CPageCertifying(CPreferencesWizard* owner, const ov::PageInfo& info)
+    : CSettingsPage(owner, info, ov::CertifyingRows())
+{
+}
+
+// The first box shows the marker cell's flag too, but is read before the
+// second one, which therefore has the last word.
+void CPageCertifying::DoDataExchange(CDataExchange* exchange)
+{
+    DDX_Check(exchange, IDC_CERTIFYING_PLACE_MARKER_CELL, Values().NumberOf(u"_ORTHOVAL_MARKERCELL"));
+    CSettingsPage::DoDataExchange(exchange);
+}

@@ -1,0 +1,37 @@
+#include "pages/drafting/rows.h"
+
+#include "pages/core/layout_flags.h"
+#include "resources/page_ids.h"
+
+namespace ov
+{
+namespace
+{
+constexpr SettingRow settings[] = {
+    FlagRow(u"_ORTHOVAL_DRAFT_BY_RANGES", IDC_DRAFTING_BY_RANGES, IDS_HELP_DRAFTING_BY_RANGES),
+    FlagRow(u"_ORTHOVAL_DRAFT_MENUS_ORDERBYDESCRIPTION", IDC_DRAFTING_ORDER_BY_DESCRIPTION,
+            IDS_HELP_DRAFTING_ORDER_BY_DESCRIPTION),
+    FlagRow(u"_ORTHOVAL_TEXT_FORCECOLOUROVERRIDEMATCH", IDC_DRAFTING_FORCE_TEXT_COLOUR,
+            IDS_HELP_DRAFTING_FORCE_TEXT_COLOUR),
+};
+
+constexpr LayoutRow layout[] = {
+    {IDC_DRAFTING_BY_RANGES, kStretched},
+    {IDC_DRAFTING_ORDER_BY_DESCRIPTION, kStretched},
+    {IDC_DRAFTING_FORCE_TEXT_COLOUR, kStretched},
+};
+
+constexpr PageRows rows = {
+    .pageId = 8,
+    .settings = settings,
+    .extraHelp = {},
+    .layout = layout,
+};
+} // namespace
+
+const PageRows& DraftingRows()
+{
+    return rows;
+}
+
+} // namespace ov

@@ -1,0 +1,64 @@
+#include "pages/file_naming/rows.h"
+
+#include "pages/core/layout_flags.h"
+#include "resources/page_ids.h"
+
+namespace ov
+{
+namespace
+{
+constexpr SettingRow settings[] = {
+    FlagRow(u"_ORTHOVAL_CONVENTION_FILENAME_PROMPT", IDC_FILE_NAMING_PROMPT, IDS_HELP_FILE_NAMING_PROMPT),
+    TextRow(u"_ORTHOVAL_CONVENTION_FILENAME", SettingKindText, IDC_FILE_NAMING_TEMPLATES,
+            IDS_HELP_FILE_NAMING_TEMPLATES),
+    TextRow(u"_ORTHOVAL_CONVENTION_FILENAME_DESCR", SettingKindText, IDC_FILE_NAMING_DESCRIPTIONS,
+            IDS_HELP_FILE_NAMING_DESCRIPTIONS),
+    TextRow(u"_ORTHOVAL_CONVENTION_FILENAME_HELP_FILE", SettingKindText, IDC_FILE_NAMING_DOCUMENT,
+            IDS_HELP_FILE_NAMING_DOCUMENT),
+    TextRow(u"_ORTHOVAL_CONVENTION_FILENAME_HELP_STRING", SettingKindText, IDC_FILE_NAMING_TEXT,
+            IDS_HELP_FILE_NAMING_TEXT),
+};
+
+constexpr LayoutRow layout[] = {
+    {IDC_FILE_NAMING_PROMPT, kFixed},
+    {IDC_FILE_NAMING_TEMPLATES_LABEL, kFixed},
+    {IDC_FILE_NAMING_TEMPLATES, kStretched},
+    {IDC_FILE_NAMING_TEMPLATES_BROWSE, kTopRight},
+    {IDC_FILE_NAMING_DESCRIPTIONS_LABEL, kFixed},
+    {IDC_FILE_NAMING_DESCRIPTIONS, kStretched},
+    {IDC_FILE_NAMING_DESCRIPTIONS_BROWSE, kTopRight},
+    {IDC_FILE_NAMING_DOCUMENT_LABEL, kFixed},
+    {IDC_FILE_NAMING_DOCUMENT, kStretched},
+    {IDC_FILE_NAMING_DOCUMENT_BROWSE, kTopRight},
+    {IDC_FILE_NAMING_TEXT_LABEL, kFixed},
+    {IDC_FILE_NAMING_TEXT, kStretched},
+    {IDC_FILE_NAMING_TEXT_BROWSE, kTopRight},
+};
+
+// A refused help text hands the focus to the descriptions on this page, and to
+// the help text itself on the page of the models.
+constexpr BrowseRow browses[] = {
+    BrowseList(IDC_FILE_NAMING_TEMPLATES_BROWSE, u"_ORTHOVAL_CONVENTION_FILENAME", u';',
+               IDC_FILE_NAMING_TEMPLATES),
+    BrowseList(IDC_FILE_NAMING_DESCRIPTIONS_BROWSE, u"_ORTHOVAL_CONVENTION_FILENAME_DESCR", u';',
+               IDC_FILE_NAMING_DESCRIPTIONS),
+    BrowseFile(IDC_FILE_NAMING_DOCUMENT_BROWSE, u"_ORTHOVAL_CONVENTION_FILENAME_HELP_FILE"),
+    BrowseList(IDC_FILE_NAMING_TEXT_BROWSE, u"_ORTHOVAL_CONVENTION_FILENAME_HELP_STRING", u';',
+               IDC_FILE_NAMING_DESCRIPTIONS),
+};
+
+constexpr PageRows rows = {
+    .pageId = 15,
+    .settings = settings,
+    .extraHelp = {},
+    .layout = layout,
+    .browses = browses,
+};
+} // namespace
+
+const PageRows& FileNamingRows()
+{
+    return rows;
+}
+
+} // namespace ov

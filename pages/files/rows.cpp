@@ -1,0 +1,107 @@
+#include "pages/files/rows.h"
+
+#include "pages/core/layout_flags.h"
+#include "pages/core/page_values.h"
+#include "resources/page_ids.h"
+
+namespace ov
+{
+namespace
+{
+constexpr const char16_t* jetDataSource = u"_ORTHOVAL_REPORT_TEMPLATE_JET_DSN_XLS";
+
+constexpr SettingRow settings[] = {
+    TextRow(u"_ORTHOVAL_DICT_DIR", SettingKindPath, IDC_FILES_DICTIONARY, IDS_HELP_FILES_DICTIONARY),
+    TextRow(u"_ORTHOVAL_DOCS_DIR", SettingKindPath, IDC_FILES_DOCUMENTS, IDS_HELP_FILES_DOCUMENTS),
+    TextRow(u"_ORTHOVAL_FILEDSN_DIR", SettingKindPath, IDC_FILES_FEATURE_DSN, IDS_HELP_FILES_FEATURE_DSN),
+    TextRow(u"_ORTHOVAL_REPORT_FILEDSN_DIR", SettingKindPath, IDC_FILES_REPORT_DSN,
+            IDS_HELP_FILES_REPORT_DSN),
+    TextRow(jetDataSource, SettingKindPath, IDC_FILES_JET_DSN, IDS_HELP_FILES_JET_DSN),
+    TextRow(u"_ORTHOVAL_REPORT_TEMPLATE_ACE_DSN_XLS", SettingKindPath, IDC_FILES_ACE_DSN,
+            IDS_HELP_FILES_ACE_DSN),
+    TextRow(u"_ORTHOVAL_README_FILE", SettingKindPath, IDC_FILES_README, IDS_HELP_FILES_README),
+    TextRow(u"_ORTHOVAL_SCRIPTS", SettingKindPath, IDC_FILES_SCRIPTS, IDS_HELP_FILES_SCRIPTS),
+    TextRow(u"_ORTHOVAL_USERS_FILE", SettingKindPath, IDC_FILES_USERS, IDS_HELP_FILES_USERS),
+    TextRow(u"_ORTHOVAL_REPORT_DISCIPLINES_DIR", SettingKindPath, IDC_FILES_DISCIPLINES,
+            IDS_HELP_FILES_DISCIPLINES),
+    TextRow(u"_ORTHOVAL_HTMLEXPORT_OUTDIR", SettingKindPath, IDC_FILES_HTML_OUT, IDS_HELP_FILES_HTML_OUT),
+    TextRow(u"_ORTHOVAL_HTMLEXPORT_EXEFILE", SettingKindPath, IDC_FILES_HTML_EXE, IDS_HELP_FILES_HTML_EXE),
+};
+
+constexpr HelpRow extraHelp[] = {
+    {IDC_FILES_DICTIONARY_BROWSE, IDS_HELP_FILES_DICTIONARY_BROWSE},
+    {IDC_FILES_DOCUMENTS_BROWSE, IDS_HELP_FILES_DOCUMENTS_BROWSE},
+    {IDC_FILES_FEATURE_DSN_BROWSE, IDS_HELP_FILES_FEATURE_DSN_BROWSE},
+    {IDC_FILES_REPORT_DSN_BROWSE, IDS_HELP_FILES_REPORT_DSN_BROWSE},
+    {IDC_FILES_JET_DSN_BROWSE, IDS_HELP_FILES_JET_DSN_BROWSE},
+    {IDC_FILES_ACE_DSN_BROWSE, IDS_HELP_FILES_ACE_DSN_BROWSE},
+    {IDC_FILES_README_BROWSE, IDS_HELP_FILES_README_BROWSE},
+    {IDC_FILES_SCRIPTS_BROWSE, IDS_HELP_FILES_SCRIPTS_BROWSE},
+    {IDC_FILES_USERS_BROWSE, IDS_HELP_FILES_USERS_BROWSE},
+    {IDC_FILES_DISCIPLINES_BROWSE, IDS_HELP_FILES_DISCIPLINES_BROWSE},
+    {IDC_FILES_HTML_OUT_BROWSE, IDS_HELP_FILES_HTML_OUT_BROWSE},
+    {IDC_FILES_HTML_EXE_BROWSE, IDS_HELP_FILES_HTML_EXE_BROWSE},
+};
+
+constexpr LayoutRow layout[] = {
+    {IDC_FILES_DICTIONARY_LABEL, kFixed},      {IDC_FILES_DICTIONARY, kStretched},
+    {IDC_FILES_DICTIONARY_BROWSE, kTopRight},  {IDC_FILES_DOCUMENTS_LABEL, kFixed},
+    {IDC_FILES_DOCUMENTS, kStretched},         {IDC_FILES_DOCUMENTS_BROWSE, kTopRight},
+    {IDC_FILES_FEATURE_DSN_LABEL, kFixed},     {IDC_FILES_FEATURE_DSN, kStretched},
+    {IDC_FILES_FEATURE_DSN_BROWSE, kTopRight}, {IDC_FILES_REPORT_DSN_LABEL, kFixed},
+    {IDC_FILES_REPORT_DSN, kStretched},        {IDC_FILES_REPORT_DSN_BROWSE, kTopRight},
+    {IDC_FILES_JET_DSN_LABEL, kFixed},         {IDC_FILES_JET_DSN, kStretched},
+    {IDC_FILES_JET_DSN_BROWSE, kTopRight},     {IDC_FILES_ACE_DSN_LABEL, kFixed},
+    {IDC_FILES_ACE_DSN, kStretched},           {IDC_FILES_ACE_DSN_BROWSE, kTopRight},
+    {IDC_FILES_README_LABEL, kFixed},          {IDC_FILES_README, kStretched},
+    {IDC_FILES_README_BROWSE, kTopRight},      {IDC_FILES_SCRIPTS_LABEL, kFixed},
+    {IDC_FILES_SCRIPTS, kStretched},           {IDC_FILES_SCRIPTS_BROWSE, kTopRight},
+    {IDC_FILES_USERS_LABEL, kFixed},           {IDC_FILES_USERS, kStretched},
+    {IDC_FILES_USERS_BROWSE, kTopRight},       {IDC_FILES_DISCIPLINES_LABEL, kFixed},
+    {IDC_FILES_DISCIPLINES, kStretched},       {IDC_FILES_DISCIPLINES_BROWSE, kTopRight},
+    {IDC_FILES_HTML_OUT_LABEL, kFixed},        {IDC_FILES_HTML_OUT, kStretched},
+    {IDC_FILES_HTML_OUT_BROWSE, kTopRight},    {IDC_FILES_HTML_EXE_LABEL, kFixed},
+    {IDC_FILES_HTML_EXE, kStretched},          {IDC_FILES_HTML_EXE_BROWSE, kTopRight},
+};
+
+// The two Excel fields take a file, and yet the folder browser fills them.
+constexpr BrowseRow browses[] = {
+    BrowseFolder(IDC_FILES_DICTIONARY_BROWSE, u"_ORTHOVAL_DICT_DIR"),
+    BrowseFolder(IDC_FILES_DOCUMENTS_BROWSE, u"_ORTHOVAL_DOCS_DIR"),
+    BrowseFolder(IDC_FILES_FEATURE_DSN_BROWSE, u"_ORTHOVAL_FILEDSN_DIR"),
+    BrowseFolder(IDC_FILES_REPORT_DSN_BROWSE, u"_ORTHOVAL_REPORT_FILEDSN_DIR"),
+    BrowseFolder(IDC_FILES_JET_DSN_BROWSE, jetDataSource),
+    BrowseFolder(IDC_FILES_ACE_DSN_BROWSE, u"_ORTHOVAL_REPORT_TEMPLATE_ACE_DSN_XLS"),
+    BrowseFile(IDC_FILES_README_BROWSE, u"_ORTHOVAL_README_FILE"),
+    BrowseFolder(IDC_FILES_SCRIPTS_BROWSE, u"_ORTHOVAL_SCRIPTS"),
+    BrowseFile(IDC_FILES_USERS_BROWSE, u"_ORTHOVAL_USERS_FILE"),
+    BrowseFolder(IDC_FILES_DISCIPLINES_BROWSE, u"_ORTHOVAL_REPORT_DISCIPLINES_DIR"),
+    BrowseFolder(IDC_FILES_HTML_OUT_BROWSE, u"_ORTHOVAL_HTMLEXPORT_OUTDIR"),
+    BrowseFile(IDC_FILES_HTML_EXE_BROWSE, u"_ORTHOVAL_HTMLEXPORT_EXEFILE"),
+};
+
+// Files of long ago have one variable for all Excel drivers. Saving writes the
+// newer one and leaves the older line alone.
+void TakeOlderDataSource(PageValues& values, const SettingStore& store, int table)
+{
+    Text& path = values.TextOf(jetDataSource);
+    if (path.empty())
+        path = store.GetSettingValue(u"_ORTHOVAL_REPORT_TEMPLATE_DSN_XLS", table);
+}
+
+constexpr PageRows rows = {
+    .pageId = 11,
+    .settings = settings,
+    .extraHelp = extraHelp,
+    .layout = layout,
+    .browses = browses,
+    .afterLoad = TakeOlderDataSource,
+};
+} // namespace
+
+const PageRows& FilesRows()
+{
+    return rows;
+}
+
+} // namespace ov

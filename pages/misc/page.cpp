@@ -1,0 +1,28 @@
+#include "pages/misc/page.h"
+
+#include "match/regex_tester.h"
+#include "pages/misc/rows.h"
+#include "resources/page_ids.h"
+#include "wizard/preferences_wizard.h"
+
+IMPLEMENT_DYNAMIC(CPageMisc, CSettingsPage)
+
+BEGIN_MESSAGE_MAP(CPageMisc, CSettingsPage)
+    ON_BN_CLICKED(IDC_MISC_WILDCARD_TEST, &CPageMisc::OnTest)
+END_MESSAGE_MAP()
+
+CPageMisc::CPageMisc(CPreferencesWizard* owner, const ov::PageInfo& info)
+    : CSettingsPage(owner, info, ov::MiscRows())
+{
+}
+
+void CPageMisc::OnTest()
+{
+    UpdateData(TRUE);
+    RegexTester tester(GetParentWizard(), Values().NumberOf(u"_ORTHOVAL_WILDCARD_TYPE"), u"", u"");
+    // The type that was tried last stays the tester's; the page keeps its own.
+    if (tester.DoModal() != IDOK)
+        return;
+    SetModified(true);
+    UpdateData(FALSE);
+}

@@ -1,0 +1,180 @@
+#include "pages/reporting/rows.h"
+
+#include "pages/core/encoding.h"
+#include "pages/core/layout_flags.h"
+#include "pages/core/page_values.h"
+#include "resources/page_ids.h"
+
+#include <iterator>
+
+namespace ov
+{
+namespace
+{
+constexpr char16_t nameVariable[] = u"_ORTHOVAL_REPORT_NAMING";
+constexpr char16_t folderVariable[] = u"_ORTHOVAL_REPORT_OUTPUT_DEFAULT_NAME";
+constexpr char16_t modelsVariable[] = u"_ORTHOVAL_REPORT_AUTOGETMODELS";
+
+constexpr SettingRow settings[] = {
+    FlagRow(u"_ORTHOVAL_REPORT_PROMPTMAXLOG", IDC_REPORTING_PROMPT_MAX_ERRORS,
+            IDS_HELP_REPORTING_PROMPT_MAX_ERRORS),
+    FlagRow(u"_ORTHOVAL_REPORT_AUTOGETREFS", IDC_REPORTING_ADD_REFERENCES, IDS_HELP_REPORTING_ADD_REFERENCES),
+    TextRow(u"_ORTHOVAL_REPORT_MAXLOGGABLE", SettingKindInteger, IDC_REPORTING_MAX_ERRORS,
+            IDS_HELP_REPORTING_MAX_ERRORS),
+    TextRow(u"_ORTHOVAL_REPORT_IGNORED_REFFILES", SettingKindText, IDC_REPORTING_IGNORED,
+            IDS_HELP_REPORTING_IGNORED),
+    TextRow(u"_ORTHOVAL_REPORT_REFS_NESTLEVEL", SettingKindInteger, IDC_REPORTING_NEST_LEVEL,
+            IDS_HELP_REPORTING_NEST_LEVEL),
+    FlagRow(u"_ORTHOVAL_REPORT_REFS_LEGACY_NESTING", IDC_REPORTING_LEGACY_NESTING,
+            IDS_HELP_REPORTING_LEGACY_NESTING),
+    TextRow(nameVariable, SettingKindText, IDC_REPORTING_NAME, IDS_HELP_REPORTING_NAME),
+    TextRow(folderVariable, SettingKindText, IDC_REPORTING_FOLDER, IDS_HELP_REPORTING_FOLDER),
+    HiddenRow(modelsVariable, SettingKindInteger, Encoding::Verbatim, IDS_HELP_REPORTING_MODELS),
+};
+
+// The buttons of a group are explained by what they choose.
+constexpr HelpRow extraHelp[] = {
+    {IDC_REPORTING_IGNORED_BROWSE, IDS_HELP_REPORTING_IGNORED_BROWSE},
+    {IDC_REPORTING_MODELS_LABEL, IDS_HELP_REPORTING_MODELS},
+    {IDC_REPORTING_MODELS, IDS_HELP_REPORTING_MODELS},
+    {IDC_REPORTING_MODELS_USER_DEFINABLE, IDS_HELP_REPORTING_MODELS},
+    {IDC_REPORTING_NAME_FRAME, IDS_HELP_REPORTING_NAME},
+    {IDC_REPORTING_NAME_NONE, IDS_HELP_REPORTING_NAME},
+    {IDC_REPORTING_NAME_USER_FILE, IDS_HELP_REPORTING_NAME},
+    {IDC_REPORTING_NAME_INITIALS_FILE, IDS_HELP_REPORTING_NAME},
+    {IDC_REPORTING_NAME_INITIALS_MODEL_FILE, IDS_HELP_REPORTING_NAME},
+    {IDC_REPORTING_NAME_USER_DEFINED, IDS_HELP_REPORTING_NAME},
+    {IDC_REPORTING_FOLDER_FRAME, IDS_HELP_REPORTING_FOLDER},
+    {IDC_REPORTING_FOLDER_NONE, IDS_HELP_REPORTING_FOLDER},
+    {IDC_REPORTING_FOLDER_STANDARD, IDS_HELP_REPORTING_FOLDER},
+    {IDC_REPORTING_FOLDER_DISCIPLINE, IDS_HELP_REPORTING_FOLDER},
+    {IDC_REPORTING_FOLDER_USER_DEFINED, IDS_HELP_REPORTING_FOLDER},
+};
+
+// The two numbers keep their width, with their arrows. The one button whose
+// caption is long wraps where the page is narrow.
+constexpr LayoutRow layout[] = {
+    {IDC_REPORTING_MAX_ERRORS_LABEL, kFixed},
+    {IDC_REPORTING_MAX_ERRORS, kFixed},
+    {IDC_REPORTING_MAX_ERRORS_SPIN, kFixed},
+    {IDC_REPORTING_PROMPT_MAX_ERRORS, kFixed},
+    {IDC_REPORTING_ADD_REFERENCES, kFixed},
+    {IDC_REPORTING_NEST_LEVEL_LABEL, kFixed},
+    {IDC_REPORTING_NEST_LEVEL, kFixed},
+    {IDC_REPORTING_NEST_LEVEL_SPIN, kFixed},
+    {IDC_REPORTING_LEGACY_NESTING, kFixed},
+    {IDC_REPORTING_IGNORED_LABEL, kFixed},
+    {IDC_REPORTING_IGNORED, kStretched},
+    {IDC_REPORTING_IGNORED_BROWSE, kTopRight},
+    {IDC_REPORTING_MODELS_LABEL, kFixed},
+    {IDC_REPORTING_MODELS, kStretched},
+    {IDC_REPORTING_MODELS_USER_DEFINABLE, kFixed},
+    {IDC_REPORTING_NAME_FRAME, kStretched},
+    {IDC_REPORTING_NAME_NONE, kFixed},
+    {IDC_REPORTING_NAME_USER_FILE, kFixed},
+    {IDC_REPORTING_NAME_INITIALS_FILE, kFixed},
+    {IDC_REPORTING_NAME_INITIALS_MODEL_FILE, kStretched},
+    {IDC_REPORTING_NAME_USER_DEFINED, kFixed},
+    {IDC_REPORTING_NAME, kStretched},
+    {IDC_REPORTING_FOLDER_FRAME, kStretched},
+    {IDC_REPORTING_FOLDER_NONE, kFixed},
+    {IDC_REPORTING_FOLDER_STANDARD, kFixed},
+    {IDC_REPORTING_FOLDER_DISCIPLINE, kFixed},
+    {IDC_REPORTING_FOLDER_USER_DEFINED, kFixed},
+    {IDC_REPORTING_FOLDER, kStretched},
+};
+
+constexpr int promptTheUser = 5;
+
+constexpr CompanionRow companions[] = {
+    {ControlKind::DropDownList, IDC_REPORTING_MODELS, promptTheUser},
+    {ControlKind::CheckBox, IDC_REPORTING_MODELS_USER_DEFINABLE, 1},
+    {ControlKind::RadioGroup, IDC_REPORTING_NAME_NONE},
+    {ControlKind::RadioGroup, IDC_REPORTING_FOLDER_NONE},
+};
+
+constexpr unsigned models[] = {IDS_REPORTING_ALL_MODELS,         IDS_REPORTING_ACTIVE_MODEL,
+                               IDS_REPORTING_DESIGN_MODELS,      IDS_REPORTING_SHEET_MODELS,
+                               IDS_REPORTING_MODELS_WITH_BORDER, IDS_REPORTING_PROMPT_USER,
+                               IDS_REPORTING_DEFAULT_MODEL};
+
+constexpr EntriesRow entries[] = {
+    {IDC_REPORTING_MODELS, models},
+};
+
+constexpr const char16_t* namePresets[] = {
+    u"$$USERFULLNAME$$-$$CURRENTFILE$$",
+    u"$$USERINITIALS$$-$$CURRENTFILE$$",
+    u"$$USERINITIALS$$-$$CURRENTMODEL$$-$$CURRENTFILE$$",
+};
+constexpr const char16_t* folderPresets[] = {
+    u"$(ORTHOVAL_CURRENT_STANDARD)",
+    u"$(ORTHOVAL_CURRENT_DISCIPLINE)",
+};
+
+// The last button of a group leaves the text to the user.
+constexpr DependencyRow dependencies[] = {
+    EnabledWhen(IDC_REPORTING_NAME, {IDC_REPORTING_NAME_NONE, 4}),
+    EnabledWhen(IDC_REPORTING_FOLDER, {IDC_REPORTING_FOLDER_NONE, 3}),
+};
+
+// A refusal takes the keyboard focus away altogether: this page has always
+// handed it to an edit that stands for no control.
+constexpr BrowseRow browses[] = {
+    BrowseFiles(IDC_REPORTING_IGNORED_BROWSE, u"_ORTHOVAL_REPORT_IGNORED_REFFILES", kFocusRemoved),
+};
+
+constexpr SpinRow spins[] = {
+    {IDC_REPORTING_MAX_ERRORS_SPIN, IDC_REPORTING_MAX_ERRORS, 1, 10000},
+    {IDC_REPORTING_NEST_LEVEL_SPIN, IDC_REPORTING_NEST_LEVEL, -1, 99},
+};
+
+void WorkOutChoices(PageValues& values, const SettingStore&, int)
+{
+    const LockableChoice choice = ReadLockableChoice(values.TextOf(modelsVariable), promptTheUser);
+    const bool isInList = choice.index < static_cast<int>(std::size(models));
+    values.CompanionNumberOf(IDC_REPORTING_MODELS) = isInList ? choice.index : -1;
+    values.CompanionNumberOf(IDC_REPORTING_MODELS_USER_DEFINABLE) = choice.userDefinable ? 1 : 0;
+    values.CompanionNumberOf(IDC_REPORTING_NAME_NONE) =
+        PresetChoice(values.TextOf(nameVariable), namePresets);
+    values.CompanionNumberOf(IDC_REPORTING_FOLDER_NONE) =
+        PresetChoice(values.TextOf(folderVariable), folderPresets);
+}
+
+bool PutPresets(PageValues& values)
+{
+    ApplyPreset(values.CompanionNumberOf(IDC_REPORTING_NAME_NONE), namePresets, values.TextOf(nameVariable));
+    ApplyPreset(values.CompanionNumberOf(IDC_REPORTING_FOLDER_NONE), folderPresets,
+                values.TextOf(folderVariable));
+    return true;
+}
+
+void PutModels(PageValues& values)
+{
+    values.TextOf(modelsVariable) =
+        WriteLockableChoice({values.CompanionNumberOf(IDC_REPORTING_MODELS),
+                             values.CompanionNumberOf(IDC_REPORTING_MODELS_USER_DEFINABLE) != 0});
+}
+
+constexpr PageRows rows = {
+    .pageId = 19,
+    .settings = settings,
+    .extraHelp = extraHelp,
+    .layout = layout,
+    .companions = companions,
+    .entries = entries,
+    .dependencies = dependencies,
+    .browses = browses,
+    .spins = spins,
+    .afterLoad = WorkOutChoices,
+    .refresh = PutPresets,
+    .beforeSave = PutModels,
+};
+} // namespace
+
+const PageRows& ReportingRows()
+{
+    return rows;
+}
+
+} // namespace ov

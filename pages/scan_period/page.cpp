@@ -1,0 +1,86 @@
+#include "pages/scan_period/page.h"
+
+#include <commctrl.h>
+
+#include "pages/scan_period/rows.h"
+#include "resources/page_ids.h"
+#include "wizard/preferences_wizard.h"
+
+namespace
+{
+constexpr int pickers[] = {IDC_SCAN_PERIOD_DATE_1, IDC_SCAN_PERIOD_DATE_2};
+
+ov::Text MessageOf(const ov::ImpossibleDate& error)
+{
+    ov::Text text = AfxLoadString(IDS_SCAN_PERIOD_IMPOSSIBLE_DATE);
+    // The value last: it may hold anything.
+    text.replace(text.find(u"%1"), 2, error.Variable());
+    text.replace(text.find(u"%2"), 2, error.Value());
+    return text;
+}
+
+} // namespace
+
+IMPLEMENT_DYNAMIC(CPageScanPeriod, CSettingsPage)
+
+CPageScanPeriod::CPageScanPeriod(CPreferencesWizard* owner, const ov::PageInfo& info)
+    : CSettingsPage(owner, info, ov::ScanPeriodRows())
+{
+}
+
+BOOL CPageScanPeriod::OnInitDialog()
+{
+    // Nobody chooses a day that could not be read back.
+    SYSTEMTIME limits[2] = {};
+    limits[0].wYear = 1969;
+    limits[0].wMonth = 12;
+    limits[0].wDay = 31;
+    limits[1].wYear = 9999;
+    limits[1].wMonth = 12;
+    limits[1].wDay = 31;
+    for (const int id : pickers)
+        GetDlgItem(id)->SendMessage(DTM_SETRANGE, GDTR_MIN | GDTR_MAX, reinterpret_cast<LPARAM>(limits));
+    return CSettingsPage::OnInitDialog();
+}
+
+bool CPageScanPeriod::LoadSettings(int selector)
+{
+    if (GetParentWizard() == nullptr)
+        return true;
+    // What a text does not reach stays as the person sees it.
+    UpdateData(TRUE);
+    RefreshControls();
+    try {
+        CSettingsPage::LoadSettings(selector);
+        ShowToday();
+    } catch (const ov::ImpossibleDate& error) {
+        ShowToday();
+        UpdateData(FALSE);
+        RefreshControls();
+        SetModified(true);
+        AfxShowMessageBox(m_hWnd, MessageOf(error), AfxLoadString(IDS_APP_CAPTION),
+                          MB_OK | MB_ICONEXCLAMATION | MB_SETFOREGROUND | MB_TOPMOST);
+    }
+    return true;
+}
+
+// The C library takes the time zone from a variable that others spell in ways
+// it does not know; the system always knows the day.
+void CPageScanPeriod::ShowToday()
+{
+    if (!Values().TextOf(ov::kScanPeriodVariable).empty())
+        return;
+    SYSTEMTIME now = {};
+    ::GetLocalTime(&now);
+    Values().CompanionTextOf(IDC_SCAN_PERIOD_DATE_2) = ov::PickerText({now.wDay, now.wMonth, now.wYear});
+    UpdateData(FALSE);
+}
+
+BOOL CPageScanPeriod::OnCmdMsg(UINT id, int code, NMHDR* notify, LRESULT* result)
+{
+    const BOOL handled = CSettingsPage::OnCmdMsg(id, code, notify, result);
+    // From here on the fixed period is what the person says.
+    if (handled && id != IDC_SCAN_PERIOD_ALLOW_USER)
+        Values().HoldBack(ov::kScanPeriodVariable, false);
+    return handled;
+}

@@ -1,0 +1,59 @@
+#include "pages/users/rows.h"
+
+#include "pages/core/layout_flags.h"
+#include "resources/page_ids.h"
+
+namespace ov
+{
+namespace
+{
+constexpr SettingRow settings[] = {
+    FlagRow(u"_ORTHOVAL_USERS_ALLOW_GROUPS", IDC_USERS_ALLOW_GROUPS, IDS_HELP_USERS_ALLOW_GROUPS),
+    FlagRow(u"_ORTHOVAL_WINDOWS_AUTHENTICATION", IDC_USERS_WINDOWS_AUTHENTICATION,
+            IDS_HELP_USERS_WINDOWS_AUTHENTICATION),
+    TextRow(u"_ORTHOVAL_USERS_CURRENT_GROUP", SettingKindText, IDC_USERS_CURRENT_GROUP,
+            IDS_HELP_USERS_CURRENT_GROUP),
+};
+
+constexpr HelpRow extraHelp[] = {
+    {IDC_USERS_CURRENT_GROUP_BROWSE, IDS_HELP_USERS_CURRENT_GROUP_BROWSE},
+};
+
+constexpr LayoutRow layout[] = {
+    {IDC_USERS_ALLOW_GROUPS, kFixed},
+    {IDC_USERS_WINDOWS_AUTHENTICATION, kStretched},
+    {IDC_USERS_CURRENT_GROUP_LABEL, kFixed},
+    {IDC_USERS_CURRENT_GROUP, kStretched},
+    {IDC_USERS_CURRENT_GROUP_BROWSE, kTopRight},
+};
+
+// Windows authentication goes with the groups, although the checker knows it
+// on its own account too.
+constexpr DependencyRow dependencies[] = {
+    EnabledWhen(IDC_USERS_WINDOWS_AUTHENTICATION, IsOn(IDC_USERS_ALLOW_GROUPS)),
+    EnabledWhen(IDC_USERS_CURRENT_GROUP_LABEL, IsOn(IDC_USERS_ALLOW_GROUPS)),
+    EnabledWhen(IDC_USERS_CURRENT_GROUP, IsOn(IDC_USERS_ALLOW_GROUPS)),
+    EnabledWhen(IDC_USERS_CURRENT_GROUP_BROWSE, IsOn(IDC_USERS_ALLOW_GROUPS)),
+};
+
+constexpr BrowseRow browses[] = {
+    BrowseList(IDC_USERS_CURRENT_GROUP_BROWSE, u"_ORTHOVAL_USERS_CURRENT_GROUP", u';',
+               IDC_USERS_CURRENT_GROUP),
+};
+
+constexpr PageRows rows = {
+    .pageId = 25,
+    .settings = settings,
+    .extraHelp = extraHelp,
+    .layout = layout,
+    .dependencies = dependencies,
+    .browses = browses,
+};
+} // namespace
+
+const PageRows& UsersRows()
+{
+    return rows;
+}
+
+} // namespace ov

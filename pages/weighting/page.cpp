@@ -1,0 +1,52 @@
+#include "pages/weighting/page.h"
+
+#include <commctrl.h>
+
+#include "pages/weighting/rows.h"
+
+IMPLEMENT_DYNAMIC(CPageWeighting, CSettingsPage)
+
+BEGIN_MESSAGE_MAP(CPageWeighting, CSettingsPage)
+    ON_WM_HSCROLL()
+END_MESSAGE_MAP()
+
+CPageWeighting::CPageWeighting(CPreferencesWizard* owner, const ov::PageInfo& info)
+    : CSettingsPage(owner, info, ov::WeightingRows())
+{
+}
+
+BOOL CPageWeighting::OnInitDialog()
+{
+    for (const ov::BarRow& bar : Rows().bars)
+        GetDlgItem(bar.controlId)->SendMessage(TBM_SETRANGE, TRUE, MAKELPARAM(0, bar.highest));
+    return CSettingsPage::OnInitDialog();
+}
+
+bool CPageWeighting::LoadSettings(int selector)
+{
+    const bool loaded = CSettingsPage::LoadSettings(selector);
+    if (GetParentWizard() == nullptr)
+        return loaded;
+    // A bar stops at its ends; the edit shows the text whatever it says.
+    for (const ov::BarRow& bar : Rows().bars) {
+        GetDlgItem(bar.controlId)
+            ->SendMessage(TBM_SETPOS, TRUE, ov::ToInteger(Values().TextOf(bar.variable)));
+    }
+    return loaded;
+}
+
+void CPageWeighting::OnHScroll(UINT code, UINT position, CWnd* sender)
+{
+    if (sender == nullptr) {
+        // The page's own scroll bar.
+        CSettingsPage::OnHScroll(code, position, sender);
+        return;
+    }
+    for (const ov::BarRow& bar : Rows().bars) {
+        if (sender->m_hWnd == GetDlgItem(bar.controlId)->m_hWnd)
+            Values().TextOf(bar.variable) =
+                ov::FormatInteger(static_cast<int>(sender->SendMessage(TBM_GETPOS)));
+    }
+    UpdateData(FALSE);
+    SetModified(true);
+}
