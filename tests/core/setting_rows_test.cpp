@@ -412,7 +412,11 @@ TEST(AllRows, HelpOfTheFlagsSaysWhatAMissingVariableMeans)
         const ov::Text missing = u"If this variable is missing, the option is ";
         EXPECT_NE(description.find(missing + (row.encoding == Encoding::FlagUnlessZero ? u"ON." : u"OFF.")),
                   ov::Text::npos);
-        EXPECT_EQ(description.find(u"default"), ov::Text::npos);
+        // A value "by default" would be a second word for the one of a missing variable. A design
+        // file's default model is something else.
+        for (std::size_t at = description.find(u"default"); at != ov::Text::npos;
+             at = description.find(u"default", at + 1))
+            EXPECT_TRUE(description.substr(at).starts_with(u"default model")) << at;
     });
 }
 
