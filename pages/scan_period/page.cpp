@@ -47,21 +47,26 @@ bool CPageScanPeriod::LoadSettings(int selector)
 {
     if (GetParentWizard() == nullptr)
         return true;
-    // What a text does not reach stays as the person sees it.
+    // What a text does not reach keeps what the controls show.
     UpdateData(TRUE);
-    RefreshControls();
+    UpdateScanPeriodControls();
     try {
         CSettingsPage::LoadSettings(selector);
         ShowToday();
     } catch (const ov::ImpossibleDate& error) {
         ShowToday();
         UpdateData(FALSE);
-        RefreshControls();
+        UpdateScanPeriodControls();
         SetModified(true);
         AfxShowMessageBox(m_hWnd, MessageOf(error), AfxLoadString(IDS_APP_CAPTION),
                           MB_OK | MB_ICONEXCLAMATION | MB_SETFOREGROUND | MB_TOPMOST);
     }
     return true;
+}
+
+void CPageScanPeriod::UpdateScanPeriodControls()
+{
+    CSettingsPage::RefreshControls();
 }
 
 // The C library takes the time zone from a variable that others spell in ways

@@ -12,11 +12,16 @@ class CPageScanPeriod : public CSettingsPage
 
     BOOL OnInitDialog() override;
 
-    /// Tells the person about a date that does not exist, and loads the rest.
+    /// Shows a message about a date that does not exist, and loads the rest.
     bool LoadSettings(int selector) override;
+
+    /// Shows, hides, enables and disables the controls of the fixed period from
+    /// the members; without a fixed period there is no second date.
+    void UpdateScanPeriodControls();
 
   protected:
     BOOL OnCmdMsg(UINT id, int code, NMHDR* notify, LRESULT* result) override;
+    void RefreshControls() override { UpdateScanPeriodControls(); }
 
   private:
     void ShowToday();

@@ -4,6 +4,8 @@
 #include "resources/page_ids.h"
 #include "tests/ui/built_pages.h"
 #include "tests/ui/dialog_session.h"
+#include "tests/ui/dialog_template.h"
+#include "tests/ui/library.h"
 
 #include <commctrl.h>
 
@@ -170,7 +172,7 @@ bool IsDrawnNarrower(const Placed& control)
 void ExpectUncut(const std::vector<Placed>& controls)
 {
     // What a box takes with its distance from the caption, a frame's and a button's edges.
-    const LONG boxWidth = Scaled(16);
+    const LONG boxWidth = Scaled(18);
     const LONG frameEdges = Scaled(18);
     const LONG buttonEdges = Scaled(6);
     for (const Placed& control : controls) {
@@ -244,6 +246,26 @@ class GeometryTest : public DialogSession
         }
     }
 
+    /// An up-down control lies in the end of its field, where the template has it.
+    void ExpectUpDownControlsInPlace()
+    {
+        for (const expected::Page* page : BuiltPages()) {
+            SCOPED_TRACE(page->title);
+            const auto dialog = ReadDialogTemplate(Library::Get().Module(), page->templateId);
+            ASSERT_TRUE(dialog);
+            for (const TemplateControl& control : dialog->controls) {
+                if (control.windowClass != L"msctls_updown32")
+                    continue;
+                const std::string title = page->title;
+                ASSERT_TRUE(ShowPage({title.begin(), title.end()}));
+                RECT wanted = control.rect;
+                MapDialogRect(Page(), &wanted);
+                const RECT shown = RectIn(PageControl(control.id), Page());
+                EXPECT_NEAR(wanted.right, shown.right, Scaled(3)) << control.id;
+            }
+        }
+    }
+
     /// A window that a page's button opens, at its first and at its smallest size.
     void ExpectWellAndClose(HWND window)
     {
@@ -263,6 +285,7 @@ TEST_F(GeometryTest, EveryPageIsWellAtItsFirstSize)
     ASSERT_TRUE(Open());
     ExpectWell(Dialog());
     ExpectAllPagesWell();
+    ExpectUpDownControlsInPlace();
     Cancel();
 }
 

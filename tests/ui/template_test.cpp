@@ -153,6 +153,13 @@ struct BuiltPage {
         return buttons;
     }
 
+    /// The edit whose number the up-down control changes.
+    const TemplateControl* EditOf(const TemplateControl& spin) const
+    {
+        const auto row = std::ranges::find(rows.spins, spin.id, &ov::SpinRow::controlId);
+        return row != rows.spins.end() ? Find(row->buddyId) : nullptr;
+    }
+
     bool IsStretched(int id) const
     {
         constexpr std::uint32_t stretch = 0x100;
@@ -432,10 +439,27 @@ TEST(Templates, DoNotLetControlsOverlap)
                 const RECT other = Closed(controls[k]);
                 const bool isFrame = (IsGroupBox(controls[i]) && Contains(one, other)) ||
                                      (IsGroupBox(controls[k]) && Contains(other, one));
-                EXPECT_FALSE(!isFrame && Overlap(one, other))
+                const bool isSpin = IsSpin(controls[k]) && page.EditOf(controls[k]) == &controls[i];
+                EXPECT_FALSE(!isFrame && !isSpin && Overlap(one, other))
                     << controls[i].id << " (" << testing::PrintToString(one) << ") and " << controls[k].id
                     << " (" << testing::PrintToString(other) << ")";
             }
+        }
+    });
+}
+
+// An up-down control takes its width from the right end of its edit.
+TEST(Templates, PlaceUpDownControlsAtTheEndOfTheirEdits)
+{
+    ForEachPage([](const BuiltPage& page) {
+        for (const TemplateControl& control : page.dialog.controls) {
+            if (!IsSpin(control))
+                continue;
+            SCOPED_TRACE(control.id);
+            const TemplateControl* edit = page.EditOf(control);
+            ASSERT_TRUE(edit);
+            EXPECT_EQ(edit->rect.right, control.rect.right);
+            EXPECT_EQ(edit->rect.top, control.rect.top);
         }
     });
 }
@@ -472,7 +496,7 @@ TEST(Templates, GiveCaptionsTheRoomThatTheyTake)
 {
     const DialogFont font;
     // What a box takes with its distance from the caption, a button's and a frame's edges.
-    constexpr int boxWidth = 16;
+    constexpr int boxWidth = 18;
     constexpr int buttonEdges = 6;
     constexpr int frameEdges = 18;
     ForEachPage([&](const BuiltPage& page) {
