@@ -5,21 +5,6 @@ namespace ov
 namespace
 {
 
-/// A caption as it is read: without the mark of its key and the colon at its end.
-Text Spoken(TextView caption)
-{
-    Text spoken;
-    for (std::size_t i = 0; i < caption.size(); ++i) {
-        const bool doubled = caption.substr(i).starts_with(u"&&");
-        if (caption[i] != u'&' || doubled)
-            spoken += caption[i];
-        i += doubled ? 1 : 0;
-    }
-    if (spoken.ends_with(u':'))
-        spoken.pop_back();
-    return Text(Trim(spoken));
-}
-
 bool SaysNothing(TextView caption)
 {
     return caption.empty() || caption == u"...";
@@ -35,6 +20,20 @@ Text WithInput(Text given, TextView input)
 
 } // namespace
 
+Text SpokenCaption(TextView caption)
+{
+    Text spoken;
+    for (std::size_t i = 0; i < caption.size(); ++i) {
+        const bool doubled = caption.substr(i).starts_with(u"&&");
+        if (caption[i] != u'&' || doubled)
+            spoken += caption[i];
+        i += doubled ? 1 : 0;
+    }
+    if (spoken.ends_with(u':'))
+        spoken.pop_back();
+    return Text(Trim(spoken));
+}
+
 std::vector<Text> NamesToGive(std::span<const ControlToName> controls)
 {
     std::vector<Text> names;
@@ -46,17 +45,17 @@ std::vector<Text> NamesToGive(std::span<const ControlToName> controls)
         bool labels = false;
         switch (control.role) {
         case ControlRole::Label:
-            input = Spoken(control.caption);
+            input = SpokenCaption(control.caption);
             labels = true;
             break;
         case ControlRole::Frame:
-            input = frame = Spoken(control.caption);
+            input = frame = SpokenCaption(control.caption);
             break;
         case ControlRole::Box:
-            input = SaysNothing(control.caption) ? name : Spoken(control.caption);
+            input = SaysNothing(control.caption) ? name : SpokenCaption(control.caption);
             break;
         case ControlRole::Radio:
-            input = frame.empty() ? Spoken(control.caption) : frame;
+            input = frame.empty() ? SpokenCaption(control.caption) : frame;
             break;
         case ControlRole::Button:
             if (!SaysNothing(control.caption))

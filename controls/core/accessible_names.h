@@ -28,6 +28,9 @@ struct ControlToName {
     Text given;
 };
 
+/// A caption as it is read: without the mark of its key and the colon at its end.
+Text SpokenCaption(TextView caption);
+
 /// What each control has to be called, in the same order; empty where a screen
 /// reader finds the name by itself: in the control's caption or, for an input,
 /// in the label directly before it. An input after a box is called as the box

@@ -1,0 +1,62 @@
+#pragma once
+
+// Stands in for the system's header of this name, so that the C++ compiler reads
+// the same dialog templates as the resource compiler. Each word of a template
+// becomes a part of one expression: the arguments of ov::ReadTemplate, of which
+// the last is a list with an element for each control. page_template.cpp is the
+// only source that sees it.
+
+// NOLINTBEGIN(cppcoreguidelines-macro-usage, bugprone-macro-parentheses)
+
+#define LANGUAGE
+#define LANG_ENGLISH 0
+#define SUBLANG_ENGLISH_UK 0,
+#define DIALOGEX ,
+#define STYLE ,
+#define EXSTYLE ,
+#define FONT ,
+#define BEGIN , { {
+#define END } }
+
+// Each control ends the one before it.
+#define LTEXT }, {ov::TemplateKind::Label,
+#define GROUPBOX }, {ov::TemplateKind::Frame,
+#define AUTOCHECKBOX }, {ov::TemplateKind::CheckBox,
+#define AUTORADIOBUTTON }, {ov::TemplateKind::RadioButton,
+#define PUSHBUTTON }, {ov::TemplateKind::Button,
+#define EDITTEXT }, {ov::TemplateKind::Edit, "",
+#define COMBOBOX }, {ov::TemplateKind::List, "",
+#define CONTROL }, {
+
+// Styles: only that a group begins, and that an edit is read-only, is looked at.
+// "NOT" takes a style away.
+#define NOT 0 *
+#define WS_GROUP 0x1
+#define ES_READONLY 0x2
+
+#define CBS_DROPDOWNLIST 0
+#define CBS_SORT 0
+#define DS_CONTROL 0
+#define DS_SETFONT 0
+#define DTS_SHORTDATECENTURYFORMAT 0
+#define ES_AUTOHSCROLL 0
+#define ES_NUMBER 0
+#define ES_WANTRETURN 0
+#define TBS_BOTH 0
+#define TBS_HORZ 0
+#define TBS_NOTICKS 0
+#define UDS_ALIGNRIGHT 0
+#define UDS_ARROWKEYS 0
+#define UDS_NOTHOUSANDS 0
+#define UDS_SETBUDDYINT 0
+#define WS_BORDER 0
+#define WS_CHILD 0
+#define WS_CLIPCHILDREN 0
+#define WS_DISABLED 0
+#define WS_EX_CONTROLPARENT 0
+#define WS_EX_TRANSPARENT 0
+#define WS_TABSTOP 0
+#define WS_VISIBLE 0
+#define WS_VSCROLL 0
+
+// NOLINTEND(cppcoreguidelines-macro-usage, bugprone-macro-parentheses)
