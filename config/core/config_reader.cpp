@@ -1,5 +1,6 @@
 #include "config/core/config_reader.h"
 
+#include "config/core/config_line.h"
 #include "config/core/text_lines.h"
 
 #include <algorithm>
@@ -12,73 +13,8 @@ namespace ov
 namespace
 {
 
-// Lines are cut as bytes, and only what is stored is decoded. In every locale that a process runs in
-// the marks below are single bytes of ASCII, and none of them is a later byte of another character:
-// those are 0x80 and above in UTF-8 and EUC, 0x40 and above, or digits, in the other encodings.
-
-constexpr bool IsBlank(char c)
-{
-    return c == ' ' || c == '\t';
-}
-
-constexpr bool IsSpace(char c)
-{
-    return IsWhiteSpace(static_cast<unsigned char>(c));
-}
-
-std::string_view TrimBytes(std::string_view line)
-{
-    while (!line.empty() && IsSpace(line.front()))
-        line.remove_prefix(1);
-    while (!line.empty() && IsSpace(line.back()))
-        line.remove_suffix(1);
-    return line;
-}
-
-// An assignment line cut at its blanks. Exactly one separator after the operator belongs to no part.
-struct Assignment {
-    std::string_view name;
-    std::string_view operatorToken;
-    std::string_view value;
-};
-
-Assignment SplitAssignment(std::string_view line)
-{
-    const auto nameEnd = std::find_if(line.begin(), line.end(), IsBlank);
-    const auto start = std::find_if_not(nameEnd, line.end(), IsBlank);
-    const auto end = std::find_if(start, line.end(), IsBlank);
-    return {{line.begin(), nameEnd}, {start, end}, {end == line.end() ? end : end + 1, line.end()}};
-}
-
-// The character that decides what an operator token does; 0 when it holds none.
-char OperatorOf(std::string_view token)
-{
-    for (const char c : std::string_view("=><+:")) {
-        if (token.find(c) != std::string_view::npos)
-            return c;
-    }
-    return '\0';
-}
-
 // What stands between the items of a list.
 constexpr CompactView kSeparator = CompactView::OfBytes(";");
-
-// A value in quotes without them and without what follows a "#". `room` takes the value when quotes
-// stand inside it.
-template <typename Unit>
-std::basic_string_view<Unit> Unquoted(std::basic_string_view<Unit> value, std::basic_string<Unit>& room)
-{
-    constexpr Unit kQuote = '"';
-    constexpr Unit kNumberSign = '#';
-    value = value.size() == 1 ? value.substr(1) : value.substr(1, value.size() - 2);
-    if (value.find(kQuote) != value.npos) {
-        room.assign(value);
-        std::erase(room, kQuote);
-        value = room;
-    }
-    const std::size_t end = value.find(kNumberSign);
-    return end != value.npos && end > 0 ? value.substr(0, end) : value;
-}
 
 // The kind of two values joined without a separator, when the first has the given kind.
 SettingKind ClassifyJoined(CompactView first, SettingKind kind, CompactView second)
@@ -122,34 +58,41 @@ class ConfigReader
     void AddLine(std::string_view bytes)
     {
         m_anyLine = true;
-        const std::string_view line = TrimBytes(bytes);
-        if (line.empty() || line.front() == '#') {
-            // What stands above the first empty line is the header that the writer makes anew.
-            if (m_inHeader && line.empty()) {
+        const ConfigLine line = ParseConfigLine(bytes);
+        switch (line.kind) {
+        case LineKind::Blank:
+            // Above the first empty line is the header, which the writer makes again.
+            if (m_inHeader)
                 m_comment.clear();
-                m_inHeader = false;
-            }
-            m_comment.append(line).push_back('\n');
-        } else if (line.front() != '%') {
             m_inHeader = false;
-            Assign(SplitAssignment(line));
+            m_comment.push_back('\n');
+            break;
+        case LineKind::Comment:
+            m_comment.append(line.text).push_back('\n');
+            break;
+        case LineKind::Directive:
+            break;
+        case LineKind::Assignment:
+            m_inHeader = false;
+            Assign(line);
+            break;
+        case LineKind::Ignored:
+            m_inHeader = false;
+            break;
         }
     }
 
-    void Assign(const Assignment& parts)
+    void Assign(const ConfigLine& line)
     {
-        const char operation = OperatorOf(parts.operatorToken);
-        if (operation == '\0')
-            return;
-        const CompactView name = Decoded(parts.name, m_name);
-        const CompactView value = ValueOf(parts.value);
+        const CompactView name = Decoded(line.name, m_name);
+        const CompactView value = ValueOf(line.value);
         const SettingTable::Index index = m_records.Find(name);
         if (index == SettingTable::kNone)
-            Insert(name, operation, value);
-        else if (operation == '=' || !ForCurrent())
-            Replace(index, operation, value);
+            Insert(name, line.operation, value);
+        else if (line.operation == '=' || !ForCurrent())
+            Replace(index, line.operation, value);
         else
-            Combine(index, operation, value);
+            Combine(index, line.operation, value);
         m_comment.clear();
     }
 
@@ -160,7 +103,7 @@ class ConfigReader
     CompactView ValueOf(std::string_view bytes)
     {
         const CompactView value = Decoded(bytes, m_value);
-        if (bytes.empty() || bytes.front() != '"' || bytes.back() != '"')
+        if (!IsQuoted(bytes))
             return value;
         return value.IsNarrow() ? CompactView::OfBytes(Unquoted(value.Narrow(), m_unquoted))
                                 : CompactView(Unquoted(value.Wide(), m_unquotedText));
