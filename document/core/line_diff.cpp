@@ -1,0 +1,255 @@
+#include "document/core/line_diff.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <limits>
+#include <unordered_map>
+
+namespace ov
+{
+namespace
+{
+
+constexpr std::size_t kNone = std::numeric_limits<std::size_t>::max();
+
+// Beyond this many differing lines a gap without lines that occur once is taken as replaced as a whole.
+constexpr std::size_t kMostDifferences = 400;
+
+// A part of both texts, ends excluded.
+struct Range {
+    std::size_t oldStart;
+    std::size_t oldEnd;
+    std::size_t newStart;
+    std::size_t newEnd;
+};
+
+// A line that is kept: its positions in both texts.
+struct Match {
+    std::size_t oldLine;
+    std::size_t newLine;
+};
+
+// The longest run of matches that ascends in both texts; the given ones ascend in the new text.
+std::vector<Match> LongestAscending(const std::vector<Match>& matches)
+{
+    std::vector<std::size_t> ends;                            // For each length the best last match.
+    std::vector<std::size_t> previous(matches.size(), kNone); // The match before, in the best run.
+    for (std::size_t i = 0; i < matches.size(); ++i) {
+        const auto place =
+            std::lower_bound(ends.begin(), ends.end(), matches[i].oldLine,
+                             [&](std::size_t end, std::size_t line) { return matches[end].oldLine < line; });
+        if (place != ends.begin())
+            previous[i] = *(place - 1);
+        if (place == ends.end())
+            ends.push_back(i);
+        else
+            *place = i;
+    }
+    std::vector<Match> run(ends.size());
+    std::size_t at = ends.empty() ? kNone : ends.back();
+    for (auto match = run.rbegin(); match != run.rend(); ++match) {
+        *match = matches[at];
+        at = previous[at];
+    }
+    return run;
+}
+
+class LineDiffer
+{
+  public:
+    LineDiffer(std::span<const std::string_view> oldLines, std::span<const std::string_view> newLines)
+        : m_oldKept(oldLines.size()), m_newKept(newLines.size())
+    {
+        std::unordered_map<std::string_view, std::uint32_t> numbers;
+        const auto number = [&numbers](std::string_view line) {
+            return numbers.try_emplace(line, static_cast<std::uint32_t>(numbers.size())).first->second;
+        };
+        std::transform(oldLines.begin(), oldLines.end(), std::back_inserter(m_old), number);
+        std::transform(newLines.begin(), newLines.end(), std::back_inserter(m_new), number);
+        m_uses.resize(numbers.size());
+    }
+
+    std::vector<LineChange> Run()
+    {
+        std::vector<Range> open{{0, m_old.size(), 0, m_new.size()}};
+        while (!open.empty()) {
+            const Range range = KeepEnds(open.back());
+            open.pop_back();
+            if (range.oldStart == range.oldEnd || range.newStart == range.newEnd)
+                continue;
+            const std::vector<Match> anchors = LongestAscending(UniqueMatches(range));
+            if (anchors.empty())
+                KeepFewDifferences(range);
+            else
+                Divide(range, anchors, open);
+        }
+        return Changes();
+    }
+
+  private:
+    // How often a line occurs in a range, and where in the old text.
+    struct Uses {
+        std::uint32_t oldCount = 0;
+        std::uint32_t newCount = 0;
+        std::size_t oldLine = 0;
+    };
+
+    void Keep(std::size_t oldLine, std::size_t newLine)
+    {
+        m_oldKept[oldLine] = true;
+        m_newKept[newLine] = true;
+    }
+
+    // Keeps what both parts begin and end with; gives what is between.
+    Range KeepEnds(Range range)
+    {
+        while (range.oldStart < range.oldEnd && range.newStart < range.newEnd &&
+               m_old[range.oldStart] == m_new[range.newStart])
+            Keep(range.oldStart++, range.newStart++);
+        while (range.oldStart < range.oldEnd && range.newStart < range.newEnd &&
+               m_old[range.oldEnd - 1] == m_new[range.newEnd - 1])
+            Keep(--range.oldEnd, --range.newEnd);
+        return range;
+    }
+
+    // The lines that occur exactly once in both parts, in the order of the new text.
+    std::vector<Match> UniqueMatches(const Range& range)
+    {
+        for (std::size_t i = range.oldStart; i < range.oldEnd; ++i) {
+            ++m_uses[m_old[i]].oldCount;
+            m_uses[m_old[i]].oldLine = i;
+        }
+        for (std::size_t i = range.newStart; i < range.newEnd; ++i)
+            ++m_uses[m_new[i]].newCount;
+        std::vector<Match> matches;
+        for (std::size_t i = range.newStart; i < range.newEnd; ++i) {
+            const Uses& uses = m_uses[m_new[i]];
+            if (uses.oldCount == 1 && uses.newCount == 1)
+                matches.push_back({uses.oldLine, i});
+        }
+        for (std::size_t i = range.oldStart; i < range.oldEnd; ++i)
+            m_uses[m_old[i]] = {};
+        for (std::size_t i = range.newStart; i < range.newEnd; ++i)
+            m_uses[m_new[i]] = {};
+        return matches;
+    }
+
+    // Keeps the anchors and leaves what is between them open.
+    void Divide(Range range, const std::vector<Match>& anchors, std::vector<Range>& open)
+    {
+        for (const Match& anchor : anchors) {
+            Keep(anchor.oldLine, anchor.newLine);
+            open.push_back({range.oldStart, anchor.oldLine, range.newStart, anchor.newLine});
+            range.oldStart = anchor.oldLine + 1;
+            range.newStart = anchor.newLine + 1;
+        }
+        open.push_back(range);
+    }
+
+    // Finds the fewest differences by extending paths of 0, 1, 2, ... differences as far as they go.
+    // Each round's furthest positions are kept for the way back.
+    void KeepFewDifferences(const Range& range)
+    {
+        const std::size_t oldCount = range.oldEnd - range.oldStart;
+        const std::size_t newCount = range.newEnd - range.newStart;
+        const std::size_t most = std::min(oldCount + newCount, kMostDifferences);
+        // On diagonal k the old position is k higher than the new one; `reach[k + most + 1]` is the old one.
+        std::vector<std::size_t> reach(2 * most + 3);
+        std::vector<std::vector<std::size_t>> rounds;
+        for (std::size_t differences = 0; differences <= most; ++differences) {
+            rounds.push_back(reach);
+            for (std::size_t step = 0; step <= differences; ++step) {
+                const std::size_t at = most + 1 + 2 * step - differences;
+                std::size_t x = step == 0 || (step < differences && reach[at - 1] < reach[at + 1])
+                                    ? reach[at + 1]
+                                    : reach[at - 1] + 1;
+                // The new position; beyond either end where the diagonal leaves both texts.
+                std::size_t y = x + most + 1 - at;
+                while (x < oldCount && y < newCount &&
+                       m_old[range.oldStart + x] == m_new[range.newStart + y]) {
+                    ++x;
+                    ++y;
+                }
+                reach[at] = x;
+                if (x == oldCount && y == newCount) {
+                    WalkBack(range, rounds, most);
+                    return;
+                }
+            }
+        }
+    }
+
+    void WalkBack(const Range& range, const std::vector<std::vector<std::size_t>>& rounds, std::size_t most)
+    {
+        std::size_t x = range.oldEnd - range.oldStart;
+        std::size_t y = range.newEnd - range.newStart;
+        for (std::size_t differences = rounds.size() - 1; differences > 0; --differences) {
+            const std::vector<std::size_t>& reach = rounds[differences];
+            const std::size_t at = most + 1 + x - y;
+            const std::size_t lowest = most + 1 - differences;
+            const bool inserted =
+                at == lowest || (at < most + 1 + differences && reach[at - 1] < reach[at + 1]);
+            const std::size_t from = inserted ? at + 1 : at - 1;
+            const std::size_t fromX = reach[from];
+            const std::size_t fromY = fromX + most + 1 - from;
+            const std::size_t startX = inserted ? fromX : fromX + 1;
+            for (; x > startX; --x, --y)
+                Keep(range.oldStart + x - 1, range.newStart + y - 1);
+            x = fromX;
+            y = fromY;
+        }
+        for (; x > 0 && y > 0; --x, --y)
+            Keep(range.oldStart + x - 1, range.newStart + y - 1);
+    }
+
+    std::vector<LineChange> Changes() const
+    {
+        std::vector<LineChange> changes;
+        std::size_t oldLine = 0;
+        std::size_t newLine = 0;
+        while (oldLine < m_old.size() || newLine < m_new.size()) {
+            LineChange change{oldLine, 0, newLine, 0};
+            while (oldLine < m_old.size() && !m_oldKept[oldLine])
+                ++oldLine;
+            while (newLine < m_new.size() && !m_newKept[newLine])
+                ++newLine;
+            change.oldCount = oldLine - change.oldStart;
+            change.newCount = newLine - change.newStart;
+            if (change.oldCount > 0 || change.newCount > 0)
+                changes.push_back(change);
+            if (oldLine < m_old.size()) {
+                ++oldLine;
+                ++newLine;
+            }
+        }
+        return changes;
+    }
+
+    std::vector<std::uint32_t> m_old; // A number for each line: equal lines have equal ones.
+    std::vector<std::uint32_t> m_new;
+    std::vector<bool> m_oldKept;
+    std::vector<bool> m_newKept;
+    std::vector<Uses> m_uses; // By number; empty between two uses.
+};
+
+} // namespace
+
+std::vector<std::string_view> LinesWithEnds(std::string_view bytes)
+{
+    std::vector<std::string_view> lines;
+    while (!bytes.empty()) {
+        const std::size_t end = bytes.find('\n');
+        const std::size_t length = end == std::string_view::npos ? bytes.size() : end + 1;
+        lines.push_back(bytes.substr(0, length));
+        bytes.remove_prefix(length);
+    }
+    return lines;
+}
+
+std::vector<LineChange> DiffLines(std::span<const std::string_view> oldLines,
+                                  std::span<const std::string_view> newLines)
+{
+    return LineDiffer(oldLines, newLines).Run();
+}
+
+} // namespace ov
