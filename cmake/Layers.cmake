@@ -1,6 +1,20 @@
 # ov_layer(NAME SOURCES ... [DEPENDS ...]): one library per folder. DEPENDS is
-# the architecture diagram. Who may include whom follows from it and is checked
-# by scripts/check-style: one search path serves all folders.
+# the architecture diagram: one search path serves all folders, so
+# scripts/check-layers compares the includes, and the diagram in
+# docs/architecture.md, with what is recorded here. Each line of layers.txt is
+# "layer NAME DEPENDS...", "source NAME FILE" or "folder NAME FOLDER".
+set(OV_LAYERS_FILE "${CMAKE_BINARY_DIR}/layers.txt")
+file(WRITE "${OV_LAYERS_FILE}" "")
+
+# ov_headers_of(NAME FOLDER): headers without sources that layers may include
+# when they name them under DEPENDS.
+function(ov_headers_of NAME FOLDER)
+  add_library(${NAME} INTERFACE)
+  file(APPEND "${OV_LAYERS_FILE}" "layer ${NAME}\nfolder ${NAME} ${FOLDER}\n")
+endfunction()
+ov_headers_of(ov_resource_ids resources)
+ov_headers_of(ov_public_header include)
+
 add_library(ov_options INTERFACE)
 target_link_libraries(ov_options INTERFACE ov_warnings)
 target_include_directories(ov_options INTERFACE "${CMAKE_SOURCE_DIR}")
@@ -29,6 +43,15 @@ function(ov_layer NAME)
   cmake_parse_arguments(LAYER "" "" "SOURCES;DEPENDS" ${ARGN})
   add_library(${NAME} STATIC ${LAYER_SOURCES})
   target_link_libraries(${NAME} PUBLIC ov_options ${LAYER_DEPENDS})
+  set(DEPENDS "${LAYER_DEPENDS}")
+  list(TRANSFORM DEPENDS REPLACE "^\\$<\\$<PLATFORM_ID:Windows>:(.*)>$" "\\1")
+  list(JOIN DEPENDS " " DEPENDS)
+  file(APPEND "${OV_LAYERS_FILE}" "layer ${NAME} ${DEPENDS}\n")
+  foreach(SOURCE IN LISTS LAYER_SOURCES)
+    cmake_path(ABSOLUTE_PATH SOURCE BASE_DIRECTORY "${CMAKE_CURRENT_SOURCE_DIR}" NORMALIZE)
+    cmake_path(RELATIVE_PATH SOURCE BASE_DIRECTORY "${CMAKE_SOURCE_DIR}")
+    file(APPEND "${OV_LAYERS_FILE}" "source ${NAME} ${SOURCE}\n")
+  endforeach()
   if(OV_FUZZ)
     # The counters that steer the fuzzer are in the product's code, not in the harnesses'.
     target_compile_options(${NAME} PRIVATE -fsanitize=fuzzer-no-link)
