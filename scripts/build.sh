@@ -1,7 +1,8 @@
 # Sourced by the scripts that build.
 # shellcheck shell=bash
 
-root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+# shellcheck source=scripts/script.sh
+. "${BASH_SOURCE[0]%/*}/script.sh"
 
 # build_preset PRESET [TARGET...]: configures where necessary and builds as
 # much as can be built, quietly; prints the errors and fails when there are any.

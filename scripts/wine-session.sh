@@ -53,15 +53,17 @@ has_window_manager() {
     xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'
 }
 
-# use_prefix FOLDER [MODEL]: makes the Wine prefix once; as a copy of another,
-# in which nothing may be running, it takes a moment only. No questions
-# about Mono and Gecko: nothing here needs them.
+# use_prefix FOLDER [MODEL]: makes the Wine prefix once, quickly as a copy of
+# another one in which nothing may be running. The copies share the system's
+# files, 700 MB, by hard links; only the registry is written to later. No
+# questions about Mono and Gecko: nothing here needs them.
 use_prefix() {
     export WINEPREFIX="$1" WINEARCH=win64 WINEDEBUG=-all WINEDLLOVERRIDES="mscoree=;mshtml="
     [ -e "$WINEPREFIX/.complete" ] && return 0
     rm -rf "$WINEPREFIX" "$WINEPREFIX.part"
     if [ -n "${2:-}" ]; then
-        cp -a "$2" "$WINEPREFIX.part" && mv "$WINEPREFIX.part" "$WINEPREFIX"
+        cp -al "$2" "$WINEPREFIX.part" && cp -a --remove-destination "$2"/*.reg "$WINEPREFIX.part" &&
+            mv "$WINEPREFIX.part" "$WINEPREFIX"
         return
     fi
     mkdir -p "$WINEPREFIX"

@@ -1,0 +1,24 @@
+# Sourced by the scripts that check something: counts checks and reports the
+# ones that fail.
+# shellcheck shell=bash
+
+passed=0
+failed=0
+
+# check NAME COMMAND...: one check; the command's output explains a failure.
+check() {
+    local name="$1" output
+    shift
+    if output=$("$@" 2>&1); then
+        passed=$((passed + 1))
+    else
+        failed=$((failed + 1))
+        printf '%s: %s\n%s\n' "${0##*/}" "$name" "$output"
+    fi
+}
+
+# Prints the last line of a suite, and returns its success.
+report_checks() {
+    printf '%d passed, %d failed\n' "$passed" "$failed"
+    [ "$failed" -eq 0 ]
+}

@@ -1,0 +1,44 @@
+# Sourced by the scripts that take pictures of the dialog with the samples open:
+# the first argument is a Windows build, and the other programs are found there.
+# shellcheck shell=bash
+
+# shellcheck source=scripts/script.sh
+. "${BASH_SOURCE[0]%/*}/script.sh"
+# shellcheck source=scripts/wine-session.sh
+. "$scripts/wine-session.sh"
+# shellcheck source=scripts/dialog.sh
+. "$scripts/dialog.sh"
+
+# begin_pictures BUILD: a display and a prefix. Wine wants absolute paths.
+begin_pictures() {
+    local build
+    build=$(realpath -- "$1")
+    bin="$build/bin"
+    [ -f "$bin/ovPreferencesHost.exe" ] || fail "no Windows build: $1"
+    folder=$(mktemp -d)
+    trap 'end_session; rm -rf "$folder"' EXIT
+    # There is nothing around the dialog. The many shades of a theme fit into 64
+    # colours without a visible difference.
+    # shellcheck disable=SC2034 # used by take_screenshot
+    picture_options=(-trim +repage -strip +dither -colors 64 -define png:compression-level=9)
+    start_display
+    use_prefix "${WINEPREFIX:-$build/wine}"
+}
+
+# open_samples [WIDTH HEIGHT]: opens the dialog on copies of the samples, with
+# that outer size in pixels. The copies are where an office would keep them,
+# since the pictures show the path.
+open_samples() {
+    local standards="$WINEPREFIX/drive_c/Standards"
+    mkdir -p "$standards"
+    cp "$root/samples/office.cfg" "$root/samples/defaults.cfg" "$standards"
+    drive start "$(windows_path "$bin/ovPreferencesHost.exe")" 'DEFAULT:C:\Standards\defaults.cfg' \
+        'CURRENT:C:\Standards\office.cfg' "USER:J. Whitfield" >/dev/null
+    [ "$#" -eq 0 ] || drive size "$1" "$2" >/dev/null
+}
+
+# show_page TITLE: the page of that category; the help of its first control is shown.
+show_page() {
+    drive select "$1"
+    drive focus
+}

@@ -1,0 +1,45 @@
+# Sourced by every script of the project: where it is, its help, how it fails.
+# shellcheck shell=bash
+
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+# The sourcing scripts call each other by this.
+# shellcheck disable=SC2034
+scripts="$root/scripts"
+
+# The comment at the top of the script is its help.
+usage() {
+    sed -n '2,/^[^#]/{/^[^#]/d;s/^# \{0,1\}//;p}' "$0"
+}
+
+# help_if_asked "$@"
+help_if_asked() {
+    case "${1:-}" in
+    -h | --help)
+        usage
+        exit 0
+        ;;
+    esac
+}
+
+# fail MESSAGE...: ends the script, exit code 1.
+fail() {
+    printf '%s: %s\n' "${0##*/}" "$*" >&2
+    exit 1
+}
+
+# misused MESSAGE...: ends the script because of its arguments, exit code 2.
+misused() {
+    printf '%s: %s; see %s --help\n' "${0##*/}" "$*" "$0" >&2
+    exit 2
+}
+
+as_root() {
+    if [ "$(id -u)" = 0 ]; then
+        "$@"
+    elif command -v sudo >/dev/null; then
+        sudo "$@"
+    else
+        printf "%s: '%s' needs root, and there is no sudo\n" "${0##*/}" "$*" >&2
+        return 1
+    fi
+}
