@@ -14,6 +14,7 @@
 #include "config/core/config_reader.h"
 #include "config/core/config_writer.h"
 #include "tests/core/scoped_locale.h"
+#include "tests/data/test_data.h"
 
 #include <algorithm>
 #include <cctype>
@@ -90,7 +91,7 @@ std::string TableText(const SettingStore& store, int table)
 std::vector<std::string> CaseNames()
 {
     std::vector<std::string> names;
-    for (const auto& entry : fs::directory_iterator(GOLDEN_DIRECTORY)) {
+    for (const auto& entry : fs::directory_iterator(test::TestData("tests/golden"))) {
         if (entry.is_directory())
             names.push_back(entry.path().filename().string());
     }
@@ -103,7 +104,7 @@ class Golden : public testing::TestWithParam<std::string>
   protected:
     std::optional<std::string> File(const char* name) const
     {
-        return ReadBytes(fs::path(GOLDEN_DIRECTORY) / GetParam() / name);
+        return ReadBytes(test::TestData("tests/golden") / GetParam() / name);
     }
 
     const test::ScopedLocale m_locale{"C"};

@@ -5,11 +5,11 @@
 #include "pages/core/all_page_rows.h"
 #include "pages/core/page_values.h"
 #include "pages/core/string_table.h"
+#include "tests/data/test_data.h"
 #include "tests/pages/expected_pages.h"
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
 #include <fstream>
 #include <map>
 #include <regex>
@@ -24,7 +24,7 @@ using ov::kDefaultTable;
 
 std::string ReadSample(const char* name)
 {
-    const auto path = std::filesystem::path(GOLDEN_DIRECTORY) / ".." / ".." / "samples" / name;
+    const auto path = ov::test::TestData("samples") / name;
     std::ifstream file(path, std::ios::binary);
     EXPECT_TRUE(file.is_open()) << path;
     std::ostringstream bytes;
