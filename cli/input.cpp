@@ -13,11 +13,16 @@ void EncodingOption::Declare(Options& options)
                    "The encoding of the files; without it, UTF-8 for what is valid UTF-8 beyond ASCII");
 }
 
-Charset EncodingOption::Of(std::string_view bytes) const
+std::optional<Charset> EncodingOption::Given() const
 {
     if (!m_choice)
-        return DetectCharset(bytes);
+        return std::nullopt;
     return *m_choice == Choice::Utf8 ? Charset::Utf8 : Charset::Windows1252;
+}
+
+Charset EncodingOption::Of(std::string_view bytes) const
+{
+    return m_choice ? *Given() : DetectCharset(bytes);
 }
 
 std::optional<InputFile> InputReader::Read(const std::string& path)

@@ -24,6 +24,9 @@ class EncodingOption
   public:
     void Declare(Options& options);
 
+    /// The encoding that was asked for.
+    std::optional<Charset> Given() const;
+
     /// The encoding that was asked for, else the one that the bytes appear to be in.
     Charset Of(std::string_view bytes) const;
 

@@ -35,18 +35,17 @@ void ReplacePlaceholder(Text& text, TextView placeholder, TextView value)
         text.replace(at, placeholder.size(), value);
 }
 
-// Appends a list's items, the first with "=" under the comment, each further one with ">".
-void AppendList(Text& lines, const SettingRecord& record, CompactView comment)
+// Calls the function with each item of a list that is not empty. Quotes are not parts of items.
+template <typename ItemFunction>
+void VisitItems(Text value, const ItemFunction& visit)
 {
-    Text value = record.value;
     std::erase(value, u'"');
     // Blanks at the very end belong to no item; taken away once, they are not skipped again for
-    // every item. A list holds a semicolon at least.
+    // every item. A list has a semicolon at least.
     while (value.back() == u' ')
         value.pop_back();
     TextView rest = value;
     Text item;
-    bool first = true;
     const char16_t qualifier = u'"';
     for (;;) {
         const std::size_t next =
@@ -54,14 +53,22 @@ void AppendList(Text& lines, const SettingRecord& record, CompactView comment)
         if (next == 0)
             return;
         rest.remove_prefix(next);
-        if (item.empty())
-            continue;
+        if (!item.empty())
+            visit(item);
+    }
+}
+
+// Appends a list's items, the first with "=" under the comment, each further one with ">".
+void AppendList(Text& lines, const SettingRecord& record, CompactView comment)
+{
+    bool first = true;
+    VisitItems(record.value, [&](const Text& item) {
         if (first)
             comment.AppendTo(lines);
         record.name.AppendTo(lines);
         lines.append(first ? u" = " : u" > ").append(item).push_back(u'\n');
         first = false;
-    }
+    });
 }
 
 // The whole character at an index, both units of a surrogate pair.
@@ -139,6 +146,16 @@ Text MakeHeader(const HeaderInfo& info)
     ReplacePlaceholder(header, u"%USER%", info.user);
     ReplacePlaceholder(header, u"%COMPUTERNAME%", info.computer);
     return header;
+}
+
+std::vector<Text> WrittenValues(TextView value, int kind)
+{
+    std::vector<Text> texts;
+    if (value.find(u';') != TextView::npos)
+        VisitItems(Text(value), [&texts](const Text& item) { texts.push_back(item); });
+    else
+        texts.push_back(kind == SettingKindText ? u'"' + Text(value) + u'"' : Text(value));
+    return texts;
 }
 
 WriteResult WriteConfig(const SettingStore& store, TextView header, std::string& bytes, Charset charset)

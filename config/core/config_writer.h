@@ -6,6 +6,7 @@
 
 #include <ctime>
 #include <string>
+#include <vector>
 
 namespace ov
 {
@@ -23,6 +24,11 @@ Text FormatSaveDate(const std::tm& localTime);
 
 /// The header of a written file; lines are separated by "\n", the last has no line end.
 Text MakeHeader(const HeaderInfo& info);
+
+/// The texts in which a value is written: that of the line with "=", then those of the lines with
+/// ">". A text is in quotes, a value of another kind is bare, a value with ";" is a list of bare items.
+/// None for a list without items, which is not written at all.
+std::vector<Text> WrittenValues(TextView value, int kind);
 
 /// What came of turning a store into the bytes of a file.
 struct WriteResult {

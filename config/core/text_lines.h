@@ -12,6 +12,14 @@
 namespace ov
 {
 
+/// A line that was ended by LF without the CR that belongs to its line end, if there is one.
+inline std::string_view WithoutCarriageReturn(std::string_view line)
+{
+    if (!line.empty() && line.back() == '\r')
+        line.remove_suffix(1);
+    return line;
+}
+
 /// Cuts bytes that come in blocks into lines.
 ///
 /// LF ends a line, and one CR before it belongs to the line end. Every other byte is part of its
@@ -53,13 +61,6 @@ class LineSplitter
     }
 
   private:
-    static std::string_view WithoutCarriageReturn(std::string_view line)
-    {
-        if (!line.empty() && line.back() == '\r')
-            line.remove_suffix(1);
-        return line;
-    }
-
     std::string m_rest; ///< The beginning of a line whose end has not come yet.
 };
 

@@ -1,0 +1,56 @@
+#include "document/core/variable_lines.h"
+
+#include <algorithm>
+
+namespace ov
+{
+namespace
+{
+
+// True when the word behind the "%" of a directive begins with the given one, in any case of letters.
+bool IsDirective(std::string_view directive, std::string_view word)
+{
+    directive.remove_prefix(1);
+    while (!directive.empty() && IsBlank(directive.front()))
+        directive.remove_prefix(1);
+    return directive.size() >= word.size() &&
+           std::equal(word.begin(), word.end(), directive.begin(), [](char expected, char c) {
+               return ToUpperAscii(static_cast<unsigned char>(c)) == static_cast<unsigned char>(expected);
+           });
+}
+
+} // namespace
+
+VariableLines::VariableLines(const Document& document)
+{
+    std::size_t open = 0;
+    for (std::size_t i = 0; i < document.LineCount(); ++i) {
+        const ConfigLine parts = document.Parts(i);
+        if (parts.kind == LineKind::Assignment)
+            m_lines[parts.name].push_back({i, parts.operation, open > 0});
+        else if (parts.kind == LineKind::Directive && IsDirective(parts.text, "IF"))
+            ++open;
+        else if (parts.kind == LineKind::Directive && IsDirective(parts.text, "ENDIF") && open > 0)
+            --open;
+    }
+    m_endsInCondition = open > 0;
+}
+
+std::span<const VariableLine> VariableLines::Of(std::string_view name) const
+{
+    const auto found = m_lines.find(name);
+    return found == m_lines.end() ? std::span<const VariableLine>() : found->second;
+}
+
+std::size_t CommentLinesAbove(const Document& document, std::size_t line)
+{
+    std::size_t count = 0;
+    for (; count < line; ++count) {
+        const LineKind kind = document.Parts(line - count - 1).kind;
+        if (kind != LineKind::Comment && kind != LineKind::Blank)
+            break;
+    }
+    return count;
+}
+
+} // namespace ov
