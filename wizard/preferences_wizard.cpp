@@ -330,7 +330,8 @@ void CPreferencesWizard::OnCancelCommand()
     if (m_store.IsModified()) {
         const int answer = ShowMessage(AfxLoadString(IDS_ASK_ABANDON),
                                        MB_YESNOCANCEL | MB_ICONQUESTION | MB_SETFOREGROUND | MB_TOPMOST);
-        if (answer == IDCANCEL || (answer == IDNO && !SaveAllPages()))
+        // Everything else keeps the edits, also 0 for a box that could not be shown.
+        if (answer != IDYES && (answer != IDNO || !SaveAllPages()))
             return;
     }
     EndDialog(IDCANCEL);
