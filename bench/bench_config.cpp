@@ -37,6 +37,18 @@ class BenchSurroundings final : public ov::SaveSurroundings
     ov::Text ComputerName() override { return {}; }
 };
 
+// Nothing is to be asked or told here.
+class BenchPrompts final : public ov::SavePrompts
+{
+  public:
+    bool MayReplace(ov::ReplaceReason, const ov::Text&) override
+    {
+        Require(false, "the file was changed");
+        return false;
+    }
+    void TellNoBackup(const ov::Text&) override { Require(false, "no backup could be made"); }
+};
+
 // The time of reading a file in blocks and finding its line ends, in two ways; the quicker counts.
 class Limit
 {
@@ -256,12 +268,15 @@ class ConfigBench
         SystemFilePort files;
         BenchSurroundings surroundings;
         const ov::Text path = file.u16string();
-        Require(ov::ReadConfigFile(store, ov::kCurrentTable, path, files).outcome == ov::ReadOutcome::Read,
+        std::optional<ov::KnownFile> known;
+        Require(ov::ReadConfigFile(store, ov::kCurrentTable, path, files, &known).outcome ==
+                    ov::ReadOutcome::Read,
                 "cannot read the settings");
-        const auto notice = [](const ov::Text&) { Require(false, "no backup could be made"); };
+        BenchPrompts prompts;
         Race race;
         const Race::Entry save = race.Add([&] {
-            Require(ov::SaveConfigFile(store, path, files, surroundings, notice).Saved(), "cannot save");
+            Require(ov::SaveConfigFile(store, path, known, files, surroundings, prompts).Saved(),
+                    "cannot save");
         });
         race.Run(turns);
         // A save writes the same with a longer header.

@@ -51,17 +51,18 @@ bool CTextFileEx::WriteLines(ov::Text path, std::span<const ov::Text> lines)
 bool CTextFileEx::ReadSettings(ov::SettingStore& store, int table, const ov::Text& path)
 {
     m_lastError.clear();
-    const ov::ReadResult result = ov::ReadConfigFile(store, table, path, m_files);
+    const ov::ReadResult result =
+        ov::ReadConfigFile(store, table, path, m_files, table == ov::kCurrentTable ? &m_known : nullptr);
     if (result.outcome == ov::ReadOutcome::Failed)
         return Tell(result.systemText);
     return result.outcome == ov::ReadOutcome::Read;
 }
 
 ov::SaveResult CTextFileEx::SaveSettings(const ov::SettingStore& store, const ov::Text& path,
-                                         ov::SaveSurroundings& surroundings, const ov::SaveNotice& notice)
+                                         ov::SaveSurroundings& surroundings, ov::SavePrompts& prompts)
 {
     m_lastError.clear();
-    ov::SaveResult result = ov::SaveConfigFile(store, path, m_files, surroundings, notice);
+    ov::SaveResult result = ov::SaveConfigFile(store, path, m_known, m_files, surroundings, prompts);
     m_lastError = result.systemText;
     return result;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -38,9 +39,11 @@ class CTextFileEx
     /// file, or after a message when the file could not be read.
     bool ReadSettings(ov::SettingStore& store, int table, const ov::Text& path);
 
-    /// Writes the current table behind a temporary backup.
+    /// Writes the current table behind a temporary backup. A file whose content
+    /// is not what was last read into the current table, or saved, is replaced
+    /// only after a question.
     ov::SaveResult SaveSettings(const ov::SettingStore& store, const ov::Text& path,
-                                ov::SaveSurroundings& surroundings, const ov::SaveNotice& notice);
+                                ov::SaveSurroundings& surroundings, ov::SavePrompts& prompts);
 
     /// The system's words for the last failure; empty after a success.
     const ov::Text& GetLastError() const { return m_lastError; }
@@ -51,4 +54,5 @@ class CTextFileEx
     ov::Text m_lastError;
     ov::Text m_extension;
     CWin32FilePort m_files;
+    std::optional<ov::KnownFile> m_known;
 };

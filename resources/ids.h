@@ -173,6 +173,12 @@
 #define IDS_SAVE_OLD_LOST 5110
 #define IDS_SAVE_PLACE_IS_NO_FILE 5111
 #define IDS_SAVE_OUT_OF_MEMORY 5112
+#define IDS_SAVE_KEEP_FAILED 5113
+
+// What a save asks and tells about a file that it replaces
+#define IDS_ASK_REPLACE_UNREAD_FILE 5114
+#define IDS_ASK_REPLACE_CHANGED_FILE 5115
+#define IDS_SAVE_KEPT_FILE 5116
 
 // Pattern tester
 #define IDS_REGEX_TYPE_NONE 5120

@@ -1,5 +1,8 @@
 // The dialog's dealings with the configuration file: reading it into the
-// store, writing it, and telling the person what went wrong.
+// store, writing it, and telling the user what went wrong.
+
+#include <functional>
+#include <utility>
 
 #include "config/core/setting_comment.h"
 #include "config/system_info.h"
@@ -13,14 +16,39 @@
 namespace
 {
 constexpr UINT warningStyle = MB_OK | MB_ICONWARNING | MB_SETFOREGROUND | MB_TOPMOST;
+constexpr UINT questionStyle = MB_YESNO | MB_DEFBUTTON2 | MB_ICONWARNING | MB_SETFOREGROUND | MB_TOPMOST;
 
-/// Time, user and machine as Windows tells them.
+/// Time, user and machine as Windows reports them.
 class WindowsSurroundings final : public ov::SaveSurroundings
 {
   public:
     std::tm LocalTime() override { return GetLocalTimeNow(); }
     ov::Text UserName() override { return GetConfigUserName(); }
     ov::Text ComputerName() override { return GetMachineName(); }
+};
+
+/// The questions and notices of a save of `path` as message boxes.
+class MessageBoxPrompts final : public ov::SavePrompts
+{
+  public:
+    using ShowMessage = std::function<int(const ov::Text& text, UINT type)>;
+
+    MessageBoxPrompts(ov::TextView path, ShowMessage show) : m_path(path), m_show(std::move(show)) {}
+
+    bool MayReplace(ov::ReplaceReason reason, const ov::Text& keptPath) override
+    {
+        return m_show(ov::ReplaceQuestionText(reason, m_path, keptPath, &AfxLoadString), questionStyle) ==
+               IDYES;
+    }
+
+    void TellNoBackup(const ov::Text& systemText) override
+    {
+        m_show(ov::NoBackupText(systemText, &AfxLoadString), warningStyle);
+    }
+
+  private:
+    ov::TextView m_path;
+    ShowMessage m_show;
 };
 } // namespace
 
@@ -82,17 +110,23 @@ bool CPreferencesWizard::SaveAllPages()
 
 bool CPreferencesWizard::SaveConfigFile()
 {
-    if (!m_configFile)
-        return false;
+    return m_configFile && WriteConfigFile();
+}
+
+bool CPreferencesWizard::WriteConfigFile()
+{
     WindowsSurroundings surroundings;
-    const ov::SaveResult result =
-        m_configFile->SaveSettings(m_store, m_currentPath, surroundings, [this](const ov::Text& systemText) {
-            ShowMessage(ov::NoBackupText(systemText, &AfxLoadString), warningStyle);
-        });
+    MessageBoxPrompts prompts(m_currentPath,
+                              [this](const ov::Text& text, UINT type) { return ShowMessage(text, type); });
+    const ov::SaveResult result = m_configFile->SaveSettings(m_store, m_currentPath, surroundings, prompts);
     m_savedHeader = result.header;
-    const ov::Text message = ov::SaveFailureText(result, &AfxLoadString);
+    ov::Text message = ov::SaveFailureText(result, &AfxLoadString);
+    if (result.Saved())
+        message = ov::KeptFileText(result, &AfxLoadString);
     if (!message.empty())
         ShowMessage(message, warningStyle);
+    else if (result.outcome == ov::SaveOutcome::CreateFailed) // often because its folder is missing
+        SendMessage(WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(m_configPathEdit.m_hWnd), TRUE);
     return result.Saved();
 }
 

@@ -43,7 +43,8 @@ class CPreferencesWizard : public CResizableDlg
     /// on the first failure.
     bool SaveAllPages();
 
-    /// Writes the current table to the current path behind a temporary backup.
+    /// Saves by WriteConfigFile. False also when there is no file object yet:
+    /// nothing has been read or saved through it.
     bool SaveConfigFile();
 
     /// Reads the current path into the current table and the pages, or writes
@@ -76,6 +77,11 @@ class CPreferencesWizard : public CResizableDlg
 
   private:
     bool ReadConfigFile(int selector);
+    /// Writes the current table to the current path, behind a temporary backup.
+    /// Asks before it replaces a file whose content the dialog does not know. On
+    /// failure tells why, or, if the file cannot be created, only puts the focus
+    /// on its name.
+    bool WriteConfigFile();
     CTextFileEx& ConfigFile();
     void UpdateButtons();
     void UpdateFocusItems();

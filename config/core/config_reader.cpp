@@ -219,7 +219,8 @@ void ReadConfig(SettingStore& store, int table, std::string_view bytes, Charset 
     reader.Finish();
 }
 
-ReadResult ReadConfigFile(SettingStore& store, int table, const Text& path, FilePort& files)
+ReadResult ReadConfigFile(SettingStore& store, int table, const Text& path, FilePort& files,
+                          std::optional<KnownFile>* known)
 {
     if (path.empty())
         return {ReadOutcome::NothingToRead};
@@ -228,10 +229,17 @@ ReadResult ReadConfigFile(SettingStore& store, int table, const Text& path, File
     if (kind == FileKind::Absent || kind == FileKind::Other)
         return {ReadOutcome::NothingToRead};
     ConfigReader reader(store, table, Charset::OfProcess);
-    FileResult result = ReadBlocks(files, path, [&reader](std::string_view block) { reader.Feed(block); });
+    KnownFile read{path, {}};
+    FileResult result = ReadBlocks(files, path, [&](std::string_view block) {
+        reader.Feed(block);
+        if (known != nullptr)
+            read.content += block;
+    });
     if (!result)
         return {ReadOutcome::Failed, std::move(result.systemText)};
     reader.Finish();
+    if (known != nullptr)
+        *known = std::move(read);
     return {ReadOutcome::Read};
 }
 

@@ -3,8 +3,10 @@
 #include "base/locale_text.h"
 #include "base/text.h"
 #include "config/core/file_port.h"
+#include "config/core/known_file.h"
 #include "config/core/setting_store.h"
 
+#include <optional>
 #include <string_view>
 
 namespace ov
@@ -33,6 +35,9 @@ struct ReadResult {
 
 /// Reads a configuration file into a table of the store. An empty path, a file that does not exist
 /// and what is no file are nothing to read. The store is unchanged unless the whole file was read.
-ReadResult ReadConfigFile(SettingStore& store, int table, const Text& path, FilePort& files);
+/// `known`, if given, then receives the path and the bytes that were read; otherwise it is unchanged
+/// too.
+ReadResult ReadConfigFile(SettingStore& store, int table, const Text& path, FilePort& files,
+                          std::optional<KnownFile>* known = nullptr);
 
 } // namespace ov

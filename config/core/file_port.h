@@ -33,7 +33,8 @@ enum class FileKind {
 /// What Create does with a file that is already there.
 enum class CreateMode {
     New,      ///< Fails and leaves it alone.
-    Truncate, ///< Opens it; what it holds stays until something is written.
+    Existing, ///< Opens it, with its content until something is written; fails when there is none.
+    Truncate, ///< The same, but creates a file when there is none.
 };
 
 /// The file system as reading and saving need it. Every operation reports failure by its result;

@@ -42,53 +42,140 @@ FileResult Try(Operation operation) noexcept
 class Save
 {
   public:
-    Save(const Text& path, FileKind kind, FilePort& files, const SaveNotice& notice)
-        : m_path(path), m_kind(kind), m_files(files), m_notice(notice)
+    // `known` is the content that was last read or left under the path; null when there is none.
+    Save(const Text& path, FileKind kind, const std::string* known, FilePort& files, SavePrompts& prompts)
+        : m_path(path), m_kind(kind), m_known(known), m_files(files), m_prompts(prompts)
     {
     }
 
     SaveResult Run(const std::string& bytes)
     {
-        if (m_kind != FileKind::Absent)
-            SecureOldContent();
-        // What is thrown so far leaves everything as it was; from here on nothing is.
-        if (!Write(bytes))
+        if (m_kind != FileKind::Absent && !MayReplace()) {
+            m_result.outcome = SaveOutcome::Declined;
+            m_result.oldContent = OldContent::Stands;
+            return std::move(m_result);
+        }
+        // Exceptions up to here leave every file as it was; nothing is thrown once one is changed.
+        if ((m_kind == FileKind::Absent || SecureOldContent()) && Write(bytes))
+            DropOldContent();
+        else
             RestoreOldContent();
-        else if (m_renamed || m_staleBackup)
-            Remove(m_result.backupPath);
         return std::move(m_result);
     }
 
+    // After a failure: what this save has left under the path in place of the old content.
+    std::optional<std::string> TakeLeftContent() noexcept { return std::move(m_left); }
+
   private:
-    void SecureOldContent()
+    // Where the old content is after a rename that reported a failure.
+    enum class Whereabouts { UnderOwnName, UnderBackupName, Nowhere, Unknown };
+
+    // A file that was read and cannot be compared now is not asked about: what cannot be compared
+    // later either is not deleted.
+    bool MayReplace()
     {
-        const Text backup = BackupPath(m_path);
-        if (EndsInBackupExtension(m_path) || m_files.IsSameFile(m_path, backup)) {
-            KeepOldContentInMemory();
-            return;
-        }
-        m_result.backupPath = backup;
-        FileResult renaming = m_files.Rename(m_path, backup);
-        if (renaming) {
-            m_renamed = true;
-            return;
-        }
-        m_staleBackup = true;
-        // The content is read after the notice: until the person has answered, another program may
-        // change it.
-        m_notice(renaming.systemText.substr(0, kLongestSystemText));
-        KeepOldContentInMemory();
+        if (m_known != nullptr && CompareContent(m_files, m_path, *m_known) != ContentMatch::Different)
+            return true;
+        m_keptPath = FreeNameBeside(m_files, m_path);
+        m_keep = m_prompts.MayReplace(m_known != nullptr ? ReplaceReason::Changed : ReplaceReason::NotRead,
+                                      m_keptPath);
+        return m_keep;
     }
 
-    // A file that cannot be read is overwritten all the same: a save is not given up for want of
-    // a backup. Reading is tried twice, since the memory is the only backup there will be.
-    void KeepOldContentInMemory()
+    // A file that is to be kept gets its new name at once; it is the backup meanwhile.
+    bool SecureOldContent()
     {
+        if (!m_keep) {
+            m_keptPath = BackupPath(m_path);
+            if (EndsInBackupExtension(m_path) || m_files.IsSameFile(m_path, m_keptPath))
+                return SecureInMemory();
+        }
+        m_result.backupPath = m_keptPath;
+        const FileResult renaming = m_files.Rename(m_path, m_result.backupPath);
+        const Whereabouts found = renaming ? Whereabouts::UnderBackupName : LocateOldContent();
+        m_renamed = found == Whereabouts::UnderBackupName;
+        if (m_renamed)
+            return true;
+        if (found == Whereabouts::Nowhere) {
+            m_kind = FileKind::Absent;
+            return true;
+        }
+        if (!m_keep) {
+            m_staleBackup = true;
+            m_prompts.TellNoBackup(renaming.systemText.substr(0, kLongestSystemText));
+        }
+        return SecureInMemory();
+    }
+
+    // Also a rename that was done may report a failure, for example over a network.
+    Whereabouts LocateOldContent() noexcept
+    {
+        const FileKind here = KindOf(m_path);
+        if (here == FileKind::File)
+            return Whereabouts::UnderOwnName;
+        const FileKind there = KindOf(m_result.backupPath);
+        if (here != FileKind::Absent || (there != FileKind::File && there != FileKind::Absent))
+            return Whereabouts::Unknown;
+        // The name for a file that is to be kept was free. Under the backup's there may be a leftover.
+        const bool isBackup =
+            there == FileKind::File && (m_keep || MatchOf(m_result.backupPath) != ContentMatch::Different);
+        return isBackup ? Whereabouts::UnderBackupName : Whereabouts::Nowhere;
+    }
+
+    // Asks twice if necessary: after one failure the answer decides what the user is told.
+    FileKind KindOf(const Text& path) noexcept
+    {
+        FileKind kind = FileKind::Unknown;
+        for (int attempt = 0; attempt < 2 && kind == FileKind::Unknown; ++attempt) {
+            Try([&] {
+                kind = m_files.Kind(path);
+                return FileResult{};
+            });
+        }
+        return kind;
+    }
+
+    ContentMatch MatchOf(const Text& path) noexcept
+    {
+        ContentMatch match = ContentMatch::Unreadable;
+        Try([&] {
+            match = CompareContent(m_files, path, *m_known);
+            return FileResult{};
+        });
+        return match;
+    }
+
+    // Where no backup can be made, a file that is to be kept, or has changed since it was compared, is
+    // copied. The content is read after the notice: until the user has answered, another program may
+    // change it.
+    bool SecureInMemory()
+    {
+        const FileResult reading = KeepOldContentInMemory();
+        const bool mayBeAbsent = m_kind == FileKind::Unknown && !m_oldContent;
+        const bool changed = !m_keep && m_oldContent && *m_oldContent != *m_known;
+        if (mayBeAbsent || !(m_keep || changed))
+            return true;
+        if (changed)
+            m_keptPath = FreeNameBeside(m_files, m_path);
+        const bool copied =
+            Check(m_oldContent ? Store(m_keptPath, CreateMode::New) : reading, SaveOutcome::KeepFailed);
+        m_copied = copied;
+        return copied;
+    }
+
+    // A file that was read before and cannot be read now is overwritten all the same: a save is not
+    // given up for lack of a backup. Reading is tried twice, since the memory is the only backup there
+    // will be.
+    FileResult KeepOldContentInMemory()
+    {
+        FileResult reading;
         for (int attempt = 0; attempt < 2 && !m_oldContent; ++attempt) {
             std::string content;
-            if (ReadBlocks(m_files, m_path, [&content](std::string_view block) { content += block; }))
+            reading = ReadBlocks(m_files, m_path, [&content](std::string_view block) { content += block; });
+            if (reading)
                 m_oldContent = std::move(content);
         }
+        return reading;
     }
 
     bool Write(const std::string& bytes) noexcept
@@ -105,25 +192,28 @@ class Save
     // A file that was not there is never opened for overwriting, should it have come up meanwhile.
     FileResult Create(FileHandle& file)
     {
-        const auto create = [&](CreateMode mode) {
-            return Try([&] { return m_files.Create(m_path, mode, file); });
-        };
         if (m_renamed || m_kind == FileKind::Absent) {
-            FileResult creation = create(CreateMode::New);
+            FileResult creation = Create(CreateMode::New, file);
             m_created = creation.ok;
             return creation;
         }
         if (m_kind == FileKind::Unknown && !m_oldContent) {
             // Whether there was one shows now at the latest.
-            FileResult creation = create(CreateMode::New);
+            FileResult creation = Create(CreateMode::New, file);
             if (creation) {
                 m_kind = FileKind::Absent;
                 m_staleBackup = false;
                 m_created = true;
-                return creation;
             }
+            if (creation || m_keep)
+                return creation;
         }
-        return create(CreateMode::Truncate);
+        return Create(CreateMode::Existing, file);
+    }
+
+    FileResult Create(CreateMode mode, FileHandle& file)
+    {
+        return Try([&] { return m_files.Create(m_path, mode, file); });
     }
 
     // Over the old content nothing is written before there is room for the new one.
@@ -163,44 +253,126 @@ class Save
         return false;
     }
 
-    void RestoreOldContent() noexcept
+    // The new content is on the disk.
+    void DropOldContent() noexcept
     {
-        if (m_created)
-            Remove(m_path);
-        if (m_kind == FileKind::Absent)
+        if (m_renamed && !m_keep) {
+            if (MatchOf(m_result.backupPath) == ContentMatch::Same)
+                Remove(m_result.backupPath);
+            else
+                KeepBackup();
             return;
-        m_result.oldContent = OldContent::Stands;
-        if (m_renamed) {
-            if (!Try([&] { return m_files.Rename(m_result.backupPath, m_path); }))
-                m_result.oldContent = OldContent::UnderBackupName;
-        } else if (m_overwritten && !m_oldContent) {
-            Remove(m_path);
-            m_result.oldContent = OldContent::Lost;
-        } else if (m_overwritten && !PutBack() && !PutBack()) {
-            // The second try was made since nothing but this memory holds the content any more.
-            m_result.oldContent = OldContent::Lost;
         }
+        if (m_staleBackup)
+            Remove(m_result.backupPath);
+        if (m_copied && !m_keep)
+            m_result.keptPath = std::move(m_keptPath);
     }
 
-    bool PutBack()
+    // Another program changed the file between the comparison and the rename, or writes to it still.
+    void KeepBackup() noexcept
+    {
+        Text name;
+        const FileResult naming = Try([&] {
+            name = FreeNameBeside(m_files, m_path);
+            return FileResult{};
+        });
+        if (naming && RenameBackupTo(name))
+            m_keptPath = std::move(name);
+        m_result.keptPath = std::move(m_keptPath);
+    }
+
+    // True also when the rename was done and reported a failure.
+    bool RenameBackupTo(const Text& path) noexcept
+    {
+        return Try([&] { return m_files.Rename(m_result.backupPath, path); }) ||
+               KindOf(m_result.backupPath) == FileKind::Absent;
+    }
+
+    void RestoreOldContent() noexcept
+    {
+        const bool hasNoCopy = m_overwritten && !m_oldContent;
+        if ((m_created || hasNoCopy) && !Remove(m_path))
+            ReadLeftContent();
+        if (m_kind == FileKind::Absent)
+            return;
+        if (m_overwritten)
+            m_result.oldContent = PutBackOrSay();
+        else
+            m_result.oldContent = RenameBackOrSay();
+    }
+
+    OldContent RenameBackOrSay() noexcept
+    {
+        if (!m_renamed && !m_result.backupPath.empty())
+            m_renamed = LocateOldContent() == Whereabouts::UnderBackupName;
+        if (m_renamed && !RenameBackupTo(m_path))
+            return OldContent::UnderBackupName;
+        if (m_copied)
+            Remove(m_keptPath);
+        return OldContent::Stands;
+    }
+
+    OldContent PutBackOrSay() noexcept
+    {
+        // The second try is made since often nothing but this memory holds the content any more.
+        if (m_oldContent && (Store(m_path, CreateMode::Existing) || Store(m_path, CreateMode::Existing))) {
+            if (m_copied)
+                Remove(m_keptPath);
+            return OldContent::Stands;
+        }
+        if (m_oldContent)
+            ReadLeftContent();
+        if (!m_copied)
+            return OldContent::Lost;
+        m_result.backupPath = std::move(m_keptPath);
+        return OldContent::UnderBackupName;
+    }
+
+    // Writes the old content from the memory; a new file that cannot be finished is removed.
+    FileResult Store(const Text& path, CreateMode mode) noexcept
     {
         FileHandle file{};
-        if (!Try([&] { return m_files.Create(m_path, CreateMode::Truncate, file); }))
-            return false;
-        const bool written = Try([&] { return m_files.Write(file, *m_oldContent); }) && Flush(file);
-        return Close(file) && written;
+        if (FileResult creation = Try([&] { return m_files.Create(path, mode, file); }); !creation)
+            return creation;
+        FileResult writing = Try([&] { return m_files.Write(file, *m_oldContent); });
+        if (writing)
+            writing = Flush(file);
+        FileResult closing = Close(file);
+        if (writing)
+            writing = std::move(closing);
+        if (!writing && mode == CreateMode::New)
+            Remove(path);
+        return writing;
+    }
+
+    void ReadLeftContent() noexcept
+    {
+        Try([this] {
+            std::string content;
+            FileResult reading =
+                ReadBlocks(m_files, m_path, [&content](std::string_view block) { content += block; });
+            if (reading)
+                m_left = std::move(content);
+            return reading;
+        });
     }
 
     const Text& m_path;
-    FileKind m_kind; ///< Of what stands under the path before the save.
+    FileKind m_kind;            ///< Of what exists under the path before the save.
+    const std::string* m_known; ///< Not null once a file may be replaced that is not to be kept.
     FilePort& m_files;
-    const SaveNotice& m_notice;
+    SavePrompts& m_prompts;
     SaveResult m_result;
-    bool m_renamed = false;
+    Text m_keptPath;            ///< What the old content is called if it is kept.
+    bool m_keep = false;        ///< The old content is kept also when the save succeeds.
+    bool m_copied = false;      ///< It was copied to that name.
+    bool m_renamed = false;     ///< The old file is under the backup's name.
     bool m_staleBackup = false; ///< The backup's name could not be taken.
     bool m_created = false;     ///< The file is this save's own.
     bool m_overwritten = false; ///< Old content may have been written over.
     std::optional<std::string> m_oldContent;
+    std::optional<std::string> m_left;
 };
 
 } // namespace
@@ -211,8 +383,8 @@ Text BackupPath(TextView path)
     return Text(path.substr(0, dot == TextView::npos ? 0 : dot)) + u".bak";
 }
 
-SaveResult SaveConfigFile(const SettingStore& store, const Text& path, FilePort& files,
-                          SaveSurroundings& surroundings, const SaveNotice& notice)
+SaveResult SaveConfigFile(const SettingStore& store, const Text& path, std::optional<KnownFile>& known,
+                          FilePort& files, SaveSurroundings& surroundings, SavePrompts& prompts)
 {
     SaveResult refused;
     if (path.empty()) {
@@ -244,8 +416,17 @@ SaveResult SaveConfigFile(const SettingStore& store, const Text& path, FilePort&
         return refused;
     }
 
-    SaveResult result = Save(file, kind, files, notice).Run(bytes);
+    const bool isKnown = known && known->path == path;
+    KnownFile left{path, {}};
+    Save save(file, kind, isKnown ? &known->content : nullptr, files, prompts);
+    SaveResult result = save.Run(bytes);
     result.header = std::move(header);
+    std::optional<std::string> leftContent =
+        result.Saved() ? std::optional(std::move(bytes)) : save.TakeLeftContent();
+    if (leftContent) {
+        left.content = std::move(*leftContent);
+        known = std::move(left);
+    }
     return result;
 }
 

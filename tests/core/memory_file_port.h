@@ -26,6 +26,7 @@ class MemoryFilePort final : public FilePort
     std::set<Text> devices;
     std::set<Text> pinned;                                          ///< Cannot be renamed or removed.
     std::set<Text> readOnly;                                        ///< Cannot be opened for writing.
+    std::set<Text> unreadable;                                      ///< Cannot be opened for reading.
     std::map<Text, Text> links;                                     ///< Which path a symbolic link leads to.
     std::size_t capacity = std::numeric_limits<std::size_t>::max(); ///< For how long a content there is room.
     std::size_t blockSize = std::numeric_limits<std::size_t>::max(); ///< At most so many bytes a read.
@@ -61,7 +62,7 @@ class MemoryFilePort final : public FilePort
     FileResult OpenForReading(const Text& path, FileHandle& file) override
     {
         const Call call(*this);
-        if (call.Fails() || !contents.contains(Followed(path)))
+        if (call.Fails() || !contents.contains(Followed(path)) || unreadable.contains(path))
             return Fault();
         file = Open(Followed(path));
         return {};
@@ -85,7 +86,8 @@ class MemoryFilePort final : public FilePort
         const Call call(*this);
         const bool exists = contents.contains(path) || links.contains(path);
         if (call.Fails() || directories.contains(path) || readOnly.contains(path) ||
-            (mode == CreateMode::New && exists))
+            (mode == CreateMode::New && exists) ||
+            (mode == CreateMode::Existing && !contents.contains(Followed(path))))
             return Fault();
         contents.try_emplace(Followed(path));
         file = Open(Followed(path));
@@ -146,6 +148,8 @@ class MemoryFilePort final : public FilePort
         contents.erase(from);
         if (readOnly.erase(from) != 0)
             readOnly.insert(to);
+        if (unreadable.erase(from) != 0)
+            unreadable.insert(to);
         return {};
     }
 

@@ -1,7 +1,9 @@
 #include "config/core/posix_file_port.h"
 
+#include "config/core/config_reader.h"
 #include "config/core/save.h"
 #include "tests/core/scoped_locale.h"
+#include "tests/core/test_prompts.h"
 #include "tests/core/test_surroundings.h"
 
 #include <csignal>
@@ -175,13 +177,16 @@ class PosixSave : public PosixFiles
 
     SaveResult Save(const Text& path)
     {
+        std::optional<KnownFile> known;
+        SettingStore read;
+        ReadConfigFile(read, kCurrentTable, path, m_files, &known);
         test::TestSurroundings surroundings;
-        return SaveConfigFile(m_store, path, m_files, surroundings, [this](const Text&) { ++m_notices; });
+        return SaveConfigFile(m_store, path, known, m_files, surroundings, m_prompts);
     }
 
     const test::ScopedLocale m_locale{"C"};
     SettingStore m_store;
-    int m_notices = 0;
+    test::TestPrompts m_prompts;
 };
 
 TEST_F(PosixSave, FileIsReplacedAndNoBackupStays)
@@ -190,7 +195,7 @@ TEST_F(PosixSave, FileIsReplacedAndNoBackupStays)
     EXPECT_TRUE(Save(Path("a.cfg")).Saved());
     EXPECT_TRUE(Get("a.cfg").ends_with("#\r\nA = 1\r\n"));
     EXPECT_FALSE(fs::exists(m_directory / "a.bak"));
-    EXPECT_EQ(m_notices, 0);
+    EXPECT_TRUE(m_prompts.notices.empty());
 }
 
 TEST_F(PosixSave, FileThatIsALinkToItsBackupIsNotDeleted)
@@ -199,7 +204,7 @@ TEST_F(PosixSave, FileThatIsALinkToItsBackupIsNotDeleted)
     fs::create_symlink("a.bak", m_directory / "a.cfg");
     EXPECT_TRUE(Save(Path("a.cfg")).Saved());
     EXPECT_TRUE(Get("a.cfg").ends_with("A = 1\r\n"));
-    EXPECT_EQ(m_notices, 0);
+    EXPECT_TRUE(m_prompts.notices.empty());
 }
 
 TEST_F(PosixSave, FullDiskFailsTheSaveAndTheOldFileComesBack)
@@ -220,7 +225,7 @@ TEST_F(PosixSave, MissingFolderFailsSilently)
 {
     const SaveResult result = Save(Path("missing/a.cfg"));
     EXPECT_EQ(result.outcome, SaveOutcome::CreateFailed);
-    EXPECT_EQ(m_notices, 0);
+    EXPECT_TRUE(m_prompts.notices.empty());
     EXPECT_TRUE(fs::is_empty(m_directory));
 }
 
@@ -236,7 +241,7 @@ TEST_F(PosixSave, LinkStaysAndItsTargetIsReplaced)
     EXPECT_TRUE(Get("share/common.cfg").ends_with("A = 1\r\n"));
     EXPECT_FALSE(fs::exists(m_directory / "share" / "common.bak"));
     EXPECT_EQ(Get("a.bak"), "someone else's");
-    EXPECT_EQ(m_notices, 0);
+    EXPECT_TRUE(m_prompts.notices.empty());
 }
 
 TEST_F(PosixSave, LinkToADirectoryIsRefused)

@@ -105,3 +105,34 @@ TEST(SaveMessages, ASaveWithoutABackupGivesTheSystemsWordsALineOfTheirOwn)
     EXPECT_EQ(NoBackupText(u"", &Load), u"Cannot rename backup file while saving.");
     EXPECT_EQ(NoBackupText(u"File exists.", &Load), u"Cannot rename backup file while saving.\nFile exists.");
 }
+
+TEST(SaveMessages, ADeclinedSaveHasNone)
+{
+    EXPECT_EQ(Message({.outcome = SaveOutcome::Declined, .oldContent = OldContent::Stands}), u"");
+}
+
+TEST(SaveMessages, AFileThatCouldNotBeKeptIsToldWithTheReason)
+{
+    EXPECT_EQ(
+        Message({.outcome = SaveOutcome::KeepFailed,
+                 .oldContent = OldContent::Stands,
+                 .systemText = u"Sharing violation."}),
+        u"The configuration file has not been saved.\nThe file on disk, which it would replace, could not "
+        u"be kept under another name: Sharing violation.\n\nThe file on disk is as it was before.");
+}
+
+TEST(SaveMessages, TheQuestionSaysWhyAndNamesBothFiles)
+{
+    EXPECT_EQ(
+        ReplaceQuestionText(ReplaceReason::NotRead, u"C:\\%2.cfg", u"C:\\kept.cfg", &Load),
+        u"The configuration file on disk has not been read into this dialog:\nC:\\%2.cfg\n\nDo you wish to "
+        u"replace it? Its present content will be kept in this file:\nC:\\kept.cfg");
+    EXPECT_TRUE(ReplaceQuestionText(ReplaceReason::Changed, u"a", u"b", &Load)
+                    .starts_with(u"The configuration file on disk has changed since it was read:\na\n"));
+}
+
+TEST(SaveMessages, ContentThatWasKeptWithoutAQuestionIsToldWithItsPlace)
+{
+    EXPECT_EQ(KeptFileText({}, &Load), u"");
+    EXPECT_TRUE(KeptFileText({.keptPath = u"C:\\kept.cfg"}, &Load).ends_with(u":\nC:\\kept.cfg"));
+}

@@ -2,9 +2,12 @@
 
 #include "config/core/config_reader.h"
 #include "config/core/config_writer.h"
+#include "tests/core/forwarding_port.h"
 #include "tests/core/memory_file_port.h"
 #include "tests/core/scoped_locale.h"
+#include "tests/core/test_prompts.h"
 #include "tests/core/test_surroundings.h"
+#include "tests/save/step_file_port.h"
 
 #include <gtest/gtest.h>
 #include <stdexcept>
@@ -24,10 +27,20 @@ class SaveConfig : public testing::Test
   protected:
     SaveConfig() { m_store.SetSetting(u"A", u"1", SettingKindInteger, u"", kCurrentTable); }
 
+    // Saves as after reading what is under the path.
     SaveResult Save(const Text& path = kPath)
     {
-        return SaveConfigFile(m_store, path, m_files, m_surroundings,
-                              [this](const Text& message) { m_notices.push_back(message); });
+        m_known.reset();
+        const auto link = m_files.links.find(path);
+        const auto found = m_files.contents.find(link == m_files.links.end() ? path : link->second);
+        if (found != m_files.contents.end())
+            m_known = KnownFile{path, found->second};
+        return SaveKnowing(path);
+    }
+
+    SaveResult SaveKnowing(const Text& path = kPath)
+    {
+        return SaveConfigFile(m_store, path, m_known, m_files, m_surroundings, m_prompts);
     }
 
     // What a successful save writes.
@@ -42,7 +55,8 @@ class SaveConfig : public testing::Test
     SettingStore m_store;
     test::MemoryFilePort m_files;
     test::TestSurroundings m_surroundings;
-    std::vector<Text> m_notices;
+    test::TestPrompts m_prompts;
+    std::optional<KnownFile> m_known;
 };
 
 TEST_F(SaveConfig, ExistingFileLeavesNoBackupBehind)
@@ -52,7 +66,7 @@ TEST_F(SaveConfig, ExistingFileLeavesNoBackupBehind)
     EXPECT_TRUE(result.Saved());
     EXPECT_EQ(result.header, test::TestSurroundings::Header());
     EXPECT_EQ(m_files.contents, (std::map<Text, std::string>{{kPath, NewContent()}}));
-    EXPECT_TRUE(m_notices.empty());
+    EXPECT_TRUE(m_prompts.notices.empty());
     EXPECT_EQ(m_files.openFiles, 0);
     EXPECT_FALSE(m_files.unflushed);
 }
@@ -63,7 +77,7 @@ TEST_F(SaveConfig, NewFileInvolvesNoBackup)
     EXPECT_TRUE(Save().Saved());
     EXPECT_EQ(m_files.contents[kPath], NewContent());
     EXPECT_EQ(m_files.contents[kBackup], "someone else's");
-    EXPECT_TRUE(m_notices.empty());
+    EXPECT_TRUE(m_prompts.notices.empty());
 }
 
 TEST_F(SaveConfig, StaleBackupIsToldAndDeletedAfterTheWrite)
@@ -71,7 +85,7 @@ TEST_F(SaveConfig, StaleBackupIsToldAndDeletedAfterTheWrite)
     m_files.contents[kPath] = kOld;
     m_files.contents[kBackup] = "stale";
     EXPECT_TRUE(Save().Saved());
-    EXPECT_EQ(m_notices, std::vector<Text>{Text(test::kFaultText)});
+    EXPECT_EQ(m_prompts.notices, std::vector<Text>{Text(test::kFaultText)});
     EXPECT_EQ(m_files.contents, (std::map<Text, std::string>{{kPath, NewContent()}}));
 }
 
@@ -80,8 +94,8 @@ TEST_F(SaveConfig, StaleBackupIsToldBeforeTheFileIsTouched)
     m_files.contents[kPath] = kOld;
     m_files.contents[kBackup] = "stale";
     std::string atNotice;
-    SaveConfigFile(m_store, kPath, m_files, m_surroundings,
-                   [&](const Text&) { atNotice = m_files.contents[kPath]; });
+    m_prompts.onNotice = [&] { atNotice = m_files.contents[kPath]; };
+    Save();
     EXPECT_EQ(atNotice, kOld);
 }
 
@@ -89,35 +103,35 @@ TEST_F(SaveConfig, OldContentIsReadOnlyOnceTheNoticeHasBeenAnswered)
 {
     m_files.contents[kPath] = kOld;
     m_files.contents[kBackup] = "stale";
-    m_files.failing = {11}; // link, kind, same file, rename, open, read, read, close, create, reserve, write
-    const SaveResult result = SaveConfigFile(m_store, kPath, m_files, m_surroundings, [&](const Text&) {
-        m_files.contents[kPath] = "changed meanwhile";
-    });
-    EXPECT_EQ(result.outcome, SaveOutcome::WriteFailed);
-    EXPECT_EQ(m_files.contents[kPath], "changed meanwhile");
+    // link, kind, compare, same file, rename, kind, read, copy (kind, create, write, flush, close), create,
+    // reserve, write
+    m_files.failing = {21};
+    m_prompts.onNotice = [&] { m_files.contents[kPath] = "changed meanwhile"; };
+    EXPECT_EQ(Save().outcome, SaveOutcome::WriteFailed);
+    EXPECT_EQ(m_files.contents,
+              (std::map<Text, std::string>{{kPath, "changed meanwhile"}, {kBackup, "stale"}}));
 }
 
 TEST_F(SaveConfig, FailingNoticeComesOutBeforeAnythingIsTouched)
 {
     m_files.contents[kPath] = kOld;
     m_files.contents[kBackup] = "stale";
-    EXPECT_THROW(SaveConfigFile(m_store, kPath, m_files, m_surroundings,
-                                [](const Text&) { throw std::runtime_error("No box"); }),
-                 std::runtime_error);
+    m_prompts.onNotice = [] { throw std::runtime_error("No box"); };
+    EXPECT_THROW(Save(), std::runtime_error);
     EXPECT_EQ(m_files.contents, (std::map<Text, std::string>{{kPath, kOld}, {kBackup, "stale"}}));
 }
 
 TEST_F(SaveConfig, FileOfUnknownKindIsSavedBehindABackup)
 {
     m_files.contents[kPath] = kOld;
-    m_files.failing = {2, 7}; // link, kind, same file, rename, create, write, flush
+    m_files.failing = {2, 11}; // link, kind, compare, same file, rename, create, write, flush
     EXPECT_EQ(Save().outcome, SaveOutcome::FlushFailed);
     EXPECT_EQ(m_files.contents, (std::map<Text, std::string>{{kPath, kOld}}));
     m_files.calls = 0;
     m_files.failing = {2};
     EXPECT_TRUE(Save().Saved());
     EXPECT_EQ(m_files.contents, (std::map<Text, std::string>{{kPath, NewContent()}}));
-    EXPECT_TRUE(m_notices.empty());
+    EXPECT_TRUE(m_prompts.notices.empty());
 }
 
 TEST_F(SaveConfig, AbsentFileOfUnknownKindIsCreatedAndNoOtherBackupDeleted)
@@ -133,7 +147,8 @@ TEST_F(SaveConfig, LinkIsWrittenThroughBehindABackupBesideItsTarget)
 {
     m_files.links[kPath] = u"share/common.cfg";
     m_files.contents[u"share/common.cfg"] = kOld;
-    m_files.failing = {6, 8, 9}; // link, kind, same file, rename, create, write, close, remove, rename
+    // link, kind, compare, same file, rename, create, write, close, remove, read, rename
+    m_files.failing = {10, 12, 17};
     const SaveResult result = Save();
     EXPECT_EQ(result.oldContent, OldContent::UnderBackupName);
     EXPECT_EQ(result.backupPath, u"share/common.bak");
@@ -143,6 +158,161 @@ TEST_F(SaveConfig, LinkIsWrittenThroughBehindABackupBesideItsTarget)
     m_files.contents[u"share/common.cfg"] = kOld;
     EXPECT_TRUE(Save().Saved());
     EXPECT_EQ(m_files.contents, (std::map<Text, std::string>{{u"share/common.cfg", NewContent()}}));
+}
+
+TEST_F(SaveConfig, FileThatWasNotReadIsReplacedOnlyAfterAQuestionAndKept)
+{
+    m_files.contents[kPath] = kOld;
+    m_prompts.onQuestion = [this] { EXPECT_EQ(m_files.contents[kPath], kOld); };
+    EXPECT_TRUE(SaveKnowing().Saved());
+    const test::ReplaceQuestion question{ReplaceReason::NotRead, u"dir/office (replaced).cfg"};
+    EXPECT_EQ(m_prompts.questions, std::vector{question});
+    EXPECT_EQ(m_files.contents,
+              (std::map<Text, std::string>{{kPath, NewContent()}, {question.keptPath, kOld}}));
+}
+
+TEST_F(SaveConfig, FileThatWasReadUnderAnotherPathWasNotRead)
+{
+    m_files.contents[kPath] = kOld;
+    m_known = KnownFile{u"dir/other.cfg", kOld};
+    m_prompts.answer = false;
+    EXPECT_EQ(SaveKnowing().outcome, SaveOutcome::Declined);
+    ASSERT_EQ(m_prompts.questions.size(), 1u);
+    EXPECT_EQ(m_prompts.questions[0].reason, ReplaceReason::NotRead);
+    EXPECT_EQ(m_known->path, u"dir/other.cfg");
+}
+
+TEST_F(SaveConfig, FileThatDiffersFromWhatWasReadIsReplacedOnlyAfterAQuestion)
+{
+    for (const std::string& onDisk : {std::string("OLD = Content\r\n"), kOld + "#", std::string()}) {
+        m_files = {};
+        m_prompts = {};
+        m_files.contents[kPath] = onDisk;
+        m_known = KnownFile{kPath, kOld};
+        EXPECT_TRUE(SaveKnowing().Saved());
+        ASSERT_EQ(m_prompts.questions.size(), 1u);
+        EXPECT_EQ(m_prompts.questions[0].reason, ReplaceReason::Changed);
+        EXPECT_EQ(m_files.contents[m_prompts.questions[0].keptPath], onDisk);
+    }
+}
+
+TEST_F(SaveConfig, DecliningTouchesNothingAndTheNextSaveAsksAgain)
+{
+    m_files.contents[kPath] = kOld;
+    m_prompts.answer = false;
+    for (std::size_t saves = 1; saves <= 2; ++saves) {
+        const SaveResult result = SaveKnowing();
+        EXPECT_EQ(result.outcome, SaveOutcome::Declined);
+        EXPECT_EQ(result.oldContent, OldContent::Stands);
+        EXPECT_EQ(m_prompts.questions.size(), saves);
+        EXPECT_EQ(m_files.contents, (std::map<Text, std::string>{{kPath, kOld}}));
+    }
+}
+
+TEST_F(SaveConfig, EmptyFileThatWasReadIsReplacedWithoutAQuestion)
+{
+    m_files.contents[kPath] = "";
+    ASSERT_EQ(ReadConfigFile(m_store, kCurrentTable, kPath, m_files, &m_known).outcome, ReadOutcome::Read);
+    EXPECT_TRUE(SaveKnowing().Saved());
+    EXPECT_TRUE(m_prompts.questions.empty());
+}
+
+TEST_F(SaveConfig, FileThatWasDeletedIsSavedAsANewOne)
+{
+    m_known = KnownFile{kPath, kOld};
+    EXPECT_TRUE(SaveKnowing().Saved());
+    EXPECT_TRUE(m_prompts.questions.empty());
+    EXPECT_EQ(m_files.contents, (std::map<Text, std::string>{{kPath, NewContent()}}));
+}
+
+TEST_F(SaveConfig, FileThatIsDeletedWithinTheSaveIsSavedAsANewOne)
+{
+    m_files.contents[kPath] = kOld;
+    m_prompts.onQuestion = [this] { m_files.contents.erase(kPath); };
+    EXPECT_TRUE(SaveKnowing().Saved());
+    EXPECT_EQ(m_files.contents, (std::map<Text, std::string>{{kPath, NewContent()}}));
+}
+
+TEST_F(SaveConfig, SecondSaveComparesWithWhatTheFirstWrote)
+{
+    m_files.contents[kPath] = kOld;
+    m_known = KnownFile{kPath, kOld};
+    EXPECT_TRUE(SaveKnowing().Saved());
+    EXPECT_TRUE(SaveKnowing().Saved());
+    EXPECT_TRUE(m_prompts.questions.empty());
+    m_files.contents[kPath] = kOld;
+    EXPECT_TRUE(SaveKnowing().Saved());
+    ASSERT_EQ(m_prompts.questions.size(), 1u);
+    EXPECT_EQ(m_prompts.questions[0].reason, ReplaceReason::Changed);
+}
+
+TEST_F(SaveConfig, SaveAfterAFailedOneAsksNothingAboutWhatThatRestoredOrLeft)
+{
+    // link, kind, compare, same file, rename, create, write, close, remove
+    for (const std::set<int>& failing : {std::set{10}, std::set{10, 12}}) {
+        m_files = {};
+        m_files.contents[kPath] = kOld;
+        m_files.failing = failing;
+        m_known = KnownFile{kPath, kOld};
+        EXPECT_EQ(SaveKnowing().outcome, SaveOutcome::WriteFailed);
+        m_files.failing.clear();
+        m_files.contents.erase(kBackup);
+        EXPECT_TRUE(SaveKnowing().Saved());
+        EXPECT_EQ(m_files.contents[kPath], NewContent());
+        EXPECT_TRUE(m_prompts.questions.empty());
+    }
+}
+
+TEST_F(SaveConfig, ChangeBetweenTheComparisonAndTheRenameIsKeptAndTold)
+{
+    // Changes the file when the save asks whether it is its own backup.
+    class ChangingPort final : public test::ForwardingPort
+    {
+      public:
+        using ForwardingPort::ForwardingPort;
+        std::function<void()> change;
+        bool IsSameFile(const Text& first, const Text& second) override
+        {
+            change();
+            return ForwardingPort::IsSameFile(first, second);
+        }
+    };
+    m_files.contents[kPath] = kOld;
+    m_known = KnownFile{kPath, kOld};
+    ChangingPort port(m_files);
+    port.change = [this] { m_files.contents[kPath] = "changed meanwhile"; };
+    const SaveResult result = SaveConfigFile(m_store, kPath, m_known, port, m_surroundings, m_prompts);
+    EXPECT_TRUE(result.Saved());
+    EXPECT_EQ(result.keptPath, u"dir/office (replaced).cfg");
+    EXPECT_EQ(m_files.contents,
+              (std::map<Text, std::string>{{kPath, NewContent()}, {result.keptPath, "changed meanwhile"}}));
+}
+
+TEST_F(SaveConfig, FileThatCannotBeKeptIsNotReplaced)
+{
+    m_files.contents[kPath] = kOld;
+    m_files.pinned = {kPath};
+    m_files.unreadable = {kPath};
+    const SaveResult result = SaveKnowing();
+    EXPECT_EQ(result.outcome, SaveOutcome::KeepFailed);
+    EXPECT_EQ(result.systemText, test::kFaultText);
+    EXPECT_EQ(result.oldContent, OldContent::Stands);
+    EXPECT_TRUE(m_prompts.notices.empty());
+    EXPECT_EQ(m_files.contents, (std::map<Text, std::string>{{kPath, kOld}}));
+}
+
+TEST_F(SaveConfig, RenameThatWasDoneAndReportedAFailureIsFoundAndUndone)
+{
+    m_files.contents[kPath] = kOld;
+    m_known = KnownFile{kPath, kOld};
+    test::StepFilePort port(m_files);
+    // link, kind, compare, same file, rename, kind, kind, compare, create
+    port.faults = {{8, test::StepFault::FailsDone}, {15, test::StepFault::Fails}};
+    const SaveResult result = SaveConfigFile(m_store, kPath, m_known, port, m_surroundings, m_prompts);
+    EXPECT_EQ(result.outcome, SaveOutcome::CreateFailed);
+    EXPECT_EQ(result.oldContent, OldContent::Stands);
+    EXPECT_EQ(m_files.contents, (std::map<Text, std::string>{{kPath, kOld}}));
+    EXPECT_TRUE(m_prompts.notices.empty());
 }
 
 TEST_F(SaveConfig, EmptyPathIsRefused)
@@ -172,7 +342,7 @@ TEST_F(SaveConfig, NameThatOnlyNearlyEndsLikeABackupHasABackup)
     for (const char16_t* name : {u"office.bak.", u"office.bak ", u"office.bakx", u"officebak"}) {
         m_files = {};
         m_files.contents[name] = kOld;
-        m_files.failing = {6, 8}; // link, kind, same file, rename, create, write, close, remove
+        m_files.failing = {10, 12}; // link, kind, compare, same file, rename, create, write, close, remove
         EXPECT_EQ(Save(name).oldContent, OldContent::UnderBackupName);
         EXPECT_EQ(m_files.contents[BackupPath(name)], kOld);
     }
@@ -184,7 +354,7 @@ TEST_F(SaveConfig, WithoutABackupNothingIsWrittenWhereThereIsNoRoom)
     m_files.contents[kBackup] = "stale";
     m_files.capacity = 100;
     // Of the old content there is no copy.
-    m_files.failing = {5, 6}; // link, kind, same file, rename, open, open
+    m_files.failing = {10, 11}; // link, kind, compare, same file, rename, kind, open, open
     const SaveResult result = Save();
     EXPECT_EQ(result.outcome, SaveOutcome::WriteFailed);
     EXPECT_EQ(result.oldContent, OldContent::Stands);
@@ -195,7 +365,8 @@ TEST_F(SaveConfig, FileThatCanNeitherBeRenamedNorReadIsLostWithTheWrite)
 {
     m_files.contents[kPath] = kOld;
     m_files.contents[kBackup] = "stale";
-    m_files.failing = {5, 6, 9}; // link, kind, same file, rename, open, open, create, reserve, write
+    // link, kind, compare, same file, rename, kind, open, open, create, reserve, write
+    m_files.failing = {10, 11, 14};
     const SaveResult result = Save();
     EXPECT_EQ(result.outcome, SaveOutcome::WriteFailed);
     EXPECT_EQ(result.oldContent, OldContent::Lost);
@@ -219,19 +390,19 @@ TEST_F(SaveConfig, EveryByteButALineEndSurvivesReadingAndSaving)
 TEST_F(SaveConfig, FileThatCannotBeCreatedFailsSilentlyAndTheOldOneComesBack)
 {
     m_files.contents[kPath] = kOld;
-    m_files.failing = {5}; // link, kind, same file, rename, create
+    m_files.failing = {9}; // link, kind, compare, same file, rename, create
     const SaveResult result = Save();
     EXPECT_EQ(result.outcome, SaveOutcome::CreateFailed);
     EXPECT_EQ(result.systemText, test::kFaultText);
     EXPECT_EQ(m_files.contents, (std::map<Text, std::string>{{kPath, kOld}}));
-    EXPECT_TRUE(m_notices.empty());
+    EXPECT_TRUE(m_prompts.notices.empty());
 }
 
 TEST_F(SaveConfig, FailedWriteFlushAndCloseAreToldAndTheOldFileComesBack)
 {
     const SaveOutcome outcomes[] = {SaveOutcome::WriteFailed, SaveOutcome::FlushFailed,
                                     SaveOutcome::CloseFailed};
-    int call = 6;
+    int call = 10; // link, kind, compare, same file, rename, create, write, flush, close
     for (const SaveOutcome outcome : outcomes) {
         m_files = {};
         m_files.contents[kPath] = kOld;
@@ -258,7 +429,8 @@ TEST_F(SaveConfig, WithoutABackupTheOldContentIsPutBack)
 {
     m_files.contents[kPath] = kOld;
     m_files.contents[kBackup] = "stale";
-    m_files.failing = {11}; // link, kind, same file, rename, open, read, read, close, create, reserve, write
+    // link, kind, compare, same file, rename, kind, read, create, reserve, write
+    m_files.failing = {16};
     const SaveResult result = Save();
     EXPECT_EQ(result.outcome, SaveOutcome::WriteFailed);
     EXPECT_EQ(result.oldContent, OldContent::Stands);
@@ -296,14 +468,14 @@ TEST_F(SaveConfig, FileNamedLikeABackupIsWrittenWithoutOneAndKept)
         m_files.contents[name] = kOld;
         EXPECT_TRUE(Save(name).Saved());
         EXPECT_EQ(m_files.contents, (std::map<Text, std::string>{{name, NewContent()}}));
-        EXPECT_TRUE(m_notices.empty());
+        EXPECT_TRUE(m_prompts.notices.empty());
     }
 }
 
 TEST_F(SaveConfig, FileNamedLikeABackupIsPutBackWhenTheWriteFails)
 {
     m_files.contents[u"office.bak"] = kOld;
-    m_files.failing = {9}; // link, kind, open, read, read, close, create, reserve, write
+    m_files.failing = {13}; // link, kind, compare, read, create, reserve, write
     EXPECT_EQ(Save(u"office.bak").outcome, SaveOutcome::WriteFailed);
     EXPECT_EQ(m_files.contents, (std::map<Text, std::string>{{u"office.bak", kOld}}));
 }
@@ -328,41 +500,17 @@ TEST_F(SaveConfig, BackupPathReplacesWhatFollowsTheLastDot)
 
 TEST_F(SaveConfig, SystemTextInTheNoticeIsAtMost255Characters)
 {
-    class WordyPort final : public FilePort
+    class WordyPort final : public test::ForwardingPort
     {
       public:
-        explicit WordyPort(FilePort& files) : m_files(files) {}
-        FileKind Kind(const Text& path) override { return m_files.Kind(path); }
-        Text LinkTarget(const Text& path) override { return m_files.LinkTarget(path); }
-        bool IsSameFile(const Text& a, const Text& b) override { return m_files.IsSameFile(a, b); }
-        FileResult OpenForReading(const Text& p, FileHandle& f) override
-        {
-            return m_files.OpenForReading(p, f);
-        }
-        FileResult Read(FileHandle f, std::span<char> b, std::size_t& n) override
-        {
-            return m_files.Read(f, b, n);
-        }
-        FileResult Create(const Text& p, CreateMode m, FileHandle& f) override
-        {
-            return m_files.Create(p, m, f);
-        }
-        FileResult Reserve(FileHandle f, std::size_t n) override { return m_files.Reserve(f, n); }
-        FileResult Write(FileHandle f, std::string_view b) override { return m_files.Write(f, b); }
-        FileResult Flush(FileHandle f) override { return m_files.Flush(f); }
-        FileResult Close(FileHandle f) override { return m_files.Close(f); }
+        using ForwardingPort::ForwardingPort;
         FileResult Rename(const Text&, const Text&) override { return {false, Text(300, u'x')}; }
-        FileResult Remove(const Text& p) override { return m_files.Remove(p); }
-
-      private:
-        FilePort& m_files;
     };
     m_files.contents[kPath] = kOld;
     WordyPort wordy(m_files);
-    Text told;
-    EXPECT_TRUE(
-        SaveConfigFile(m_store, kPath, wordy, m_surroundings, [&told](const Text& m) { told = m; }).Saved());
-    EXPECT_EQ(told, Text(255, u'x'));
+    m_known = KnownFile{kPath, kOld};
+    EXPECT_TRUE(SaveConfigFile(m_store, kPath, m_known, wordy, m_surroundings, m_prompts).Saved());
+    EXPECT_EQ(m_prompts.notices, std::vector<Text>{Text(255, u'x')});
 }
 
 TEST_F(SaveConfig, SavedFileReadsBackToTheSameTable)

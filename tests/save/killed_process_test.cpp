@@ -121,8 +121,6 @@ void KillAfter(std::chrono::nanoseconds time)
 
 TEST_F(KilledSave, AtRandomInstantsOfALargeSaveACompleteCopyIsLeft)
 {
-    // The operations before the rename, the third is the last, change nothing.
-    constexpr int kBeforeRename = 3;
     const test::NewContent large(10, 50'000);
     const Situation situation{"File", "a.cfg", nullptr};
     std::string old = large.bytes;
@@ -131,10 +129,14 @@ TEST_F(KilledSave, AtRandomInstantsOfALargeSaveACompleteCopyIsLeft)
     Arrange(situation);
     Put(m_name, old);
     test::StepFilePort measured(files);
+    // The operations before the rename change nothing.
+    int beforeRename = 0;
     Clock::time_point begin;
     measured.afterEach = [&] {
-        if (measured.steps == kBeforeRename)
-            begin = Clock::now();
+        if (measured.renamed)
+            return;
+        beforeRename = measured.steps;
+        begin = Clock::now();
     };
     ASSERT_TRUE(Save(m_name, large, measured).Saved());
     const std::chrono::nanoseconds whole = Clock::now() - begin;
@@ -149,8 +151,8 @@ TEST_F(KilledSave, AtRandomInstantsOfALargeSaveACompleteCopyIsLeft)
         Put(m_name, old);
         const std::chrono::nanoseconds time(std::uniform_int_distribution<long>(0, whole.count())(random));
         killed += SaveInAnotherProcess(large, [&](test::StepFilePort& port) {
-            port.afterEach = [&port, time] {
-                if (port.steps == kBeforeRename)
+            port.afterEach = [&port, beforeRename, time] {
+                if (port.steps == beforeRename)
                     KillAfter(time);
             };
         });

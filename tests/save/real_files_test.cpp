@@ -37,7 +37,7 @@ class RealSave : public test::RealFolder
     {
         const SaveResult result = Save(name, *m_small);
         EXPECT_EQ(result.outcome, SaveOutcome::PathIsNoFile);
-        EXPECT_EQ(notices, 0);
+        EXPECT_EQ(prompts.notices.size(), 0u);
     }
 
     std::unique_ptr<test::NewContent> m_small;
@@ -65,7 +65,7 @@ TEST_F(RealSave, FileThatASecondWriterHoldsIsLeftToItWhereNoBackupCanBeMade)
     EXPECT_TRUE(files.Close(held));
     EXPECT_EQ(result.outcome, SaveOutcome::CreateFailed);
     EXPECT_EQ(result.oldContent, OldContent::Stands);
-    EXPECT_EQ(notices, 1);
+    EXPECT_EQ(prompts.notices.size(), 1u);
     EXPECT_EQ(Get("a.cfg"), kOld);
     EXPECT_EQ(Get("a.bak"), kStale);
 }
@@ -82,12 +82,12 @@ TEST_F(RealSave, SecondWriterIsShutOutFromTheCreationToTheClose)
             files.Close(second);
         steps += shutOut ? '-' : '+';
         // A file that this has made must not be in the save's way.
-        if (port.steps == 4)
+        if (port.steps == 8)
             files.Remove(Path("a.cfg"));
     };
     EXPECT_TRUE(Save("a.cfg", *m_small, port).Saved());
-    // link, kind, same file, rename; create, write, flush; close, remove
-    EXPECT_EQ(steps, "++++---++");
+    // link, kind, compare, same file, rename; create, write, flush; close, compare, remove
+    EXPECT_EQ(steps, "++++++++---++++++");
     EXPECT_EQ(Get("a.cfg"), m_small->bytes);
 }
 
@@ -109,7 +109,7 @@ TEST_F(RealSave, LinkIntoAMissingFolderFailsSilentlyAndStays)
     const SaveResult result = Save("a.cfg", *m_small);
     EXPECT_EQ(result.outcome, SaveOutcome::CreateFailed);
     EXPECT_EQ(result.oldContent, OldContent::NoneBefore);
-    EXPECT_EQ(notices, 0);
+    EXPECT_EQ(prompts.notices.size(), 0u);
     EXPECT_TRUE(fs::is_symlink(folder / "a.cfg"));
 }
 
@@ -146,7 +146,7 @@ TEST_F(RealSave, FileThatIsItsBackupByAnotherNameIsKept)
     EXPECT_TRUE(Save("a.cfg", *m_small).Saved());
     EXPECT_EQ(Get("a.cfg"), m_small->bytes);
     EXPECT_EQ(Get("a.bak"), m_small->bytes);
-    EXPECT_EQ(notices, 0);
+    EXPECT_EQ(prompts.notices.size(), 0u);
 }
 
 TEST_F(RealSave, FolderUnderTheBackupsNameIsLeftAlone)
@@ -156,7 +156,7 @@ TEST_F(RealSave, FolderUnderTheBackupsNameIsLeftAlone)
     EXPECT_TRUE(Save("a.cfg", *m_small).Saved());
     EXPECT_EQ(Get("a.cfg"), m_small->bytes);
     EXPECT_TRUE(fs::is_directory(folder / "a.bak"));
-    EXPECT_EQ(notices, 1);
+    EXPECT_EQ(prompts.notices.size(), 1u);
 }
 
 // Runs in a process that may do no more than its user: the superuser may do everything.
@@ -186,7 +186,7 @@ TEST_F(UnprivilegedSave, FileInAFolderThatCannotBeWrittenIsWrittenInPlace)
     Put("a.cfg", kOld);
     Allow("a.cfg", 0666);
     Allow(".", 0555);
-    EXPECT_TRUE(AsNobody([&] { return Save("a.cfg", *m_small).Saved() && notices == 1; }));
+    EXPECT_TRUE(AsNobody([&] { return Save("a.cfg", *m_small).Saved() && prompts.notices.size() == 1; }));
     EXPECT_EQ(Get("a.cfg"), m_small->bytes);
     Allow(".", 0755);
 }
@@ -199,7 +199,7 @@ TEST_F(UnprivilegedSave, FileThatCannotBeWrittenEitherStands)
     EXPECT_TRUE(AsNobody([&] {
         const SaveResult result = Save("a.cfg", *m_small);
         return result.outcome == SaveOutcome::CreateFailed && result.oldContent == OldContent::Stands &&
-               notices == 1;
+               prompts.notices.size() == 1;
     }));
     EXPECT_EQ(Get("a.cfg"), kOld);
     Allow(".", 0755);
@@ -210,7 +210,7 @@ TEST_F(UnprivilegedSave, ReadOnlyFileIsReplacedBehindItsBackup)
     Put("a.cfg", kOld);
     Allow("a.cfg", 0444);
     Allow(".", 0777);
-    EXPECT_TRUE(AsNobody([&] { return Save("a.cfg", *m_small).Saved() && notices == 0; }));
+    EXPECT_TRUE(AsNobody([&] { return Save("a.cfg", *m_small).Saved() && prompts.notices.size() == 0; }));
     EXPECT_EQ(Get("a.cfg"), m_small->bytes);
     EXPECT_EQ(Names(), Strings{"a.cfg"});
 }
@@ -218,8 +218,9 @@ TEST_F(UnprivilegedSave, ReadOnlyFileIsReplacedBehindItsBackup)
 TEST_F(UnprivilegedSave, NewFileInAFolderThatCannotBeWrittenFailsSilently)
 {
     Allow(".", 0555);
-    EXPECT_TRUE(AsNobody(
-        [&] { return Save("a.cfg", *m_small).outcome == SaveOutcome::CreateFailed && notices == 0; }));
+    EXPECT_TRUE(AsNobody([&] {
+        return Save("a.cfg", *m_small).outcome == SaveOutcome::CreateFailed && prompts.notices.size() == 0;
+    }));
     EXPECT_EQ(Names(), Strings{});
     Allow(".", 0755);
 }
@@ -263,7 +264,7 @@ TEST_P(GuardedSave, FileThatMayNotBeChangedStands)
     EXPECT_EQ(result.outcome, SaveOutcome::CreateFailed);
     EXPECT_EQ(result.oldContent, OldContent::Stands);
     EXPECT_NE(result.systemText, u"");
-    EXPECT_EQ(notices, 1);
+    EXPECT_EQ(prompts.notices.size(), 1u);
     EXPECT_EQ(Get("a.cfg"), kOld);
     EXPECT_EQ(Names(), Strings{"a.cfg"});
 }
@@ -338,7 +339,7 @@ TEST_F(SmallDisk, InPlaceNothingIsWrittenWhereThereIsNoRoom)
     EXPECT_EQ(result.outcome, SaveOutcome::WriteFailed);
     EXPECT_EQ(result.oldContent, OldContent::Stands);
     EXPECT_EQ(changes, 0);
-    EXPECT_EQ(notices, 1);
+    EXPECT_EQ(prompts.notices.size(), 1u);
     EXPECT_EQ(Get("a.cfg"), old);
     EXPECT_EQ(Get("a.bak"), kStale);
 }
@@ -370,7 +371,7 @@ TEST_F(SmallDisk, ReadOnlyDiskLeavesTheFile)
     const SaveResult result = Save("a.cfg", *m_small);
     EXPECT_EQ(result.outcome, SaveOutcome::CreateFailed);
     EXPECT_EQ(result.oldContent, OldContent::Stands);
-    EXPECT_EQ(notices, 1);
+    EXPECT_EQ(prompts.notices.size(), 1u);
     EXPECT_EQ(Get("a.cfg"), kOld);
     EXPECT_EQ(Save("b.cfg", *m_small).outcome, SaveOutcome::CreateFailed);
     EXPECT_EQ(Names(), Strings{"a.cfg"});

@@ -2,6 +2,7 @@
 
 #include "config/core/posix_file_port.h"
 #include "config/core/save.h"
+#include "tests/core/test_prompts.h"
 #include "tests/save/new_content.h"
 
 #include <filesystem>
@@ -52,17 +53,26 @@ class RealFolder : public testing::Test
         return names;
     }
 
+    // Saves as after reading what is under the path.
     SaveResult Save(const std::string& name, const NewContent& content, FilePort& port)
     {
+        std::optional<KnownFile> known;
+        std::error_code error;
+        if (std::filesystem::is_regular_file(folder / name, error))
+            known = KnownFile{Path(name), Get(name).value_or("")};
+        return Save(name, content, port, known);
+    }
+    SaveResult Save(const std::string& name, const NewContent& content, FilePort& port,
+                    std::optional<KnownFile> known)
+    {
         TestSurroundings surroundings;
-        return SaveConfigFile(content.store, Path(name), port, surroundings,
-                              [this](const Text&) { ++notices; });
+        return SaveConfigFile(content.store, Path(name), known, port, surroundings, prompts);
     }
     SaveResult Save(const std::string& name, const NewContent& content) { return Save(name, content, files); }
 
     std::filesystem::path folder;
     PosixFilePort files;
-    int notices = 0; ///< How often it was told that there is no backup.
+    TestPrompts prompts;
 };
 
 } // namespace ov::test

@@ -36,6 +36,7 @@ class StepFilePort final : public FilePort
     bool renamed = false;                    ///< A file was renamed.
     bool ended = false;                      ///< The process has ended.
     bool unfinishedWrite = false;            ///< The last write did not come to its end.
+    int failedReads = 0;                     ///< How often opening for reading or reading failed.
 
     FileKind Kind(const Text& path) override
     {
@@ -51,11 +52,11 @@ class StepFilePort final : public FilePort
     }
     FileResult OpenForReading(const Text& path, FileHandle& file) override
     {
-        return Step([&] { return m_files.OpenForReading(path, file); });
+        return ReadingStep([&] { return m_files.OpenForReading(path, file); });
     }
     FileResult Read(FileHandle file, std::span<char> buffer, std::size_t& count) override
     {
-        return Step([&] { return m_files.Read(file, buffer, count); });
+        return ReadingStep([&] { return m_files.Read(file, buffer, count); });
     }
     FileResult Create(const Text& path, CreateMode mode, FileHandle& file) override
     {
@@ -101,6 +102,15 @@ class StepFilePort final : public FilePort
 
   private:
     static FileResult Failure() { return {false, u"The injected fault."}; }
+
+    template <class Operation>
+    FileResult ReadingStep(Operation operation)
+    {
+        ++failedReads;
+        FileResult result = Step(operation);
+        failedReads -= result.ok ? 1 : 0;
+        return result;
+    }
 
     template <class Operation>
     FileResult Step(Operation operation)

@@ -5,6 +5,7 @@
 #include "config/win32_file_port.h"
 #include "framework/afxwin.h"
 #include "pages/core/string_table.h"
+#include "tests/core/test_prompts.h"
 #include "tests/save/new_content.h"
 #include "tests/save/step_file_port.h"
 #include "tests/support/process.h"
@@ -26,18 +27,23 @@ const std::string oldBytes = "OLD = content\r\n";
 const std::string staleBytes = "STALE = content\r\n";
 constexpr DWORD killedExitCode = 77;
 
+// Saves a file that was read with these bytes.
 ov::SaveResult SaveThrough(ov::FilePort& port, const std::wstring& path, const ov::test::NewContent& content,
-                           int& notices)
+                           const std::string& readBytes, ov::SavePrompts& prompts)
 {
     ov::test::TestSurroundings surroundings;
-    return ov::SaveConfigFile(content.store, FromWide(path), port, surroundings,
-                              [&notices](const ov::Text&) { ++notices; });
+    std::optional<ov::KnownFile> known = ov::KnownFile{FromWide(path), readBytes};
+    return ov::SaveConfigFile(content.store, FromWide(path), known, port, surroundings, prompts);
 }
 
 class WindowsSave : public testing::Test
 {
   protected:
-    ov::SaveResult Save(ov::FilePort& port) { return SaveThrough(port, path, content, notices); }
+    ov::SaveResult Save(ov::FilePort& port, const std::string& readBytes)
+    {
+        return SaveThrough(port, path, content, readBytes, prompts);
+    }
+    ov::SaveResult Save(ov::FilePort& port) { return Save(port, ReadBytes(path).value_or("")); }
     ov::SaveResult Save() { return Save(files); }
 
     // What the person is told at the end.
@@ -51,7 +57,7 @@ class WindowsSave : public testing::Test
     std::wstring backup = folder / L"a.bak";
     CWin32FilePort files;
     const ov::test::NewContent content{1};
-    int notices = 0; ///< How often it was told that there is no backup.
+    ov::test::TestPrompts prompts;
 };
 
 // How another handle holds the file: what it does with it and what it lets others do.
@@ -82,7 +88,7 @@ TEST_P(HeldFile, IsSavedOrStandsAsItsHolderAllows)
     const HANDLE held =
         ::CreateFileW(path.c_str(), holder.access, holder.share, nullptr, OPEN_EXISTING, 0, nullptr);
     ASSERT_NE(held, INVALID_HANDLE_VALUE);
-    const ov::SaveResult result = Save();
+    const ov::SaveResult result = Save(files, oldBytes);
     ::CloseHandle(held);
 
     // A file can be renamed when its holder lets others delete it. In place it can be written when
@@ -90,13 +96,22 @@ TEST_P(HeldFile, IsSavedOrStandsAsItsHolderAllows)
     const bool renames = (holder.share & FILE_SHARE_DELETE) != 0;
     const bool saves =
         renames || ((holder.share & FILE_SHARE_WRITE) != 0 && (holder.access & GENERIC_WRITE) == 0);
-    std::cout << Describe(holder) << ": " << (notices != 0 ? "told, " : "")
+    std::cout << Describe(holder) << ": " << (!prompts.notices.empty() ? "told, " : "")
               << (result.Saved() ? "saved" : "stands") << '\n';
-    EXPECT_EQ(notices, renames ? 0 : 1);
+    EXPECT_EQ(prompts.notices.size(), renames ? 0u : 1u);
     EXPECT_EQ(result.outcome, saves ? ov::SaveOutcome::Saved : ov::SaveOutcome::CreateFailed);
     EXPECT_EQ(ReadBytes(path), saves ? content.bytes : oldBytes);
     EXPECT_EQ(Message(result), u"");
-    EXPECT_EQ(folder.Names(), Names{L"a.cfg"});
+    EXPECT_TRUE(prompts.questions.empty());
+    // What cannot be compared with what was read is not deleted.
+    if (renames && (holder.share & FILE_SHARE_READ) == 0) {
+        EXPECT_EQ(Wide(result.keptPath), folder / L"a (replaced).cfg");
+        EXPECT_EQ(ReadBytes(folder / L"a (replaced).cfg"), oldBytes);
+        EXPECT_EQ(folder.Names().size(), 2u);
+    } else {
+        EXPECT_EQ(result.keptPath, u"");
+        EXPECT_EQ(folder.Names(), Names{L"a.cfg"});
+    }
 }
 
 namespace
@@ -121,7 +136,7 @@ TEST_F(WindowsSave, AReadOnlyFileIsReplacedAndItsBackupDeleted)
     ASSERT_TRUE(WriteBytes(path, oldBytes));
     ASSERT_TRUE(::SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_READONLY));
     EXPECT_TRUE(Save().Saved());
-    EXPECT_EQ(notices, 0);
+    EXPECT_EQ(prompts.notices.size(), 0u);
     EXPECT_EQ(ReadBytes(path), content.bytes);
     EXPECT_EQ(folder.Names(), Names{L"a.cfg"});
 }
@@ -138,7 +153,7 @@ TEST_F(WindowsSave, AReadOnlyFileWithoutABackupStandsUnlessItsUserMayWriteIt)
     if (mayWrite)
         ::CloseHandle(writer);
     const ov::SaveResult result = Save();
-    EXPECT_EQ(notices, 1);
+    EXPECT_EQ(prompts.notices.size(), 1u);
     EXPECT_NE(::GetFileAttributesW(path.c_str()) & FILE_ATTRIBUTE_READONLY, 0u);
     if (mayWrite) {
         EXPECT_TRUE(result.Saved());
@@ -158,7 +173,7 @@ TEST_F(WindowsSave, AReadOnlyFileComesBackReadOnly)
     ASSERT_TRUE(WriteBytes(path, oldBytes));
     ASSERT_TRUE(::SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_READONLY));
     ov::test::StepFilePort port(files);
-    port.faults = {{6, StepFault::Fails}}; // link, kind, same file, rename, create, write
+    port.faults = {{10, StepFault::Fails}}; // link, kind, compare, same file, rename, create, write
     const ov::SaveResult result = Save(port);
     EXPECT_EQ(result.outcome, ov::SaveOutcome::WriteFailed);
     EXPECT_EQ(ReadBytes(path), oldBytes);
@@ -172,7 +187,7 @@ TEST_F(WindowsSave, AShorterContentWrittenInPlaceEndsWhereItEnds)
     ASSERT_TRUE(WriteBytes(path, std::string(100'000, 'x')));
     ASSERT_TRUE(WriteBytes(backup, staleBytes));
     EXPECT_TRUE(Save().Saved());
-    EXPECT_EQ(notices, 1);
+    EXPECT_EQ(prompts.notices.size(), 1u);
     EXPECT_EQ(ReadBytes(path), content.bytes);
     EXPECT_EQ(folder.Names(), Names{L"a.cfg"});
 }
@@ -182,8 +197,8 @@ TEST_F(WindowsSave, WhatStoodInPlaceIsPutBackWhenTheWriteFails)
     ASSERT_TRUE(WriteBytes(path, oldBytes));
     ASSERT_TRUE(WriteBytes(backup, staleBytes));
     ov::test::StepFilePort port(files);
-    // link, kind, same file, rename, open, read, read, close, create, reserve, write
-    port.faults = {{11, StepFault::Fails}};
+    // link, kind, compare, same file, rename, kind, read, create, reserve, write
+    port.faults = {{16, StepFault::Fails}};
     port.partOfWrite = content.bytes.size() - 1;
     const ov::SaveResult result = Save(port);
     EXPECT_EQ(result.outcome, ov::SaveOutcome::WriteFailed);
@@ -196,7 +211,7 @@ TEST_F(WindowsSave, AFolderInItsPlaceIsRefused)
 {
     ASSERT_TRUE(::CreateDirectoryW(path.c_str(), nullptr));
     EXPECT_EQ(Save().outcome, ov::SaveOutcome::PathIsDirectory);
-    EXPECT_EQ(notices, 0);
+    EXPECT_EQ(prompts.notices.size(), 0u);
     EXPECT_EQ(folder.Names(), Names{L"a.cfg"});
 }
 
@@ -205,7 +220,7 @@ TEST_F(WindowsSave, AFolderUnderTheBackupsNameIsLeftAlone)
     ASSERT_TRUE(WriteBytes(path, oldBytes));
     ASSERT_TRUE(::CreateDirectoryW(backup.c_str(), nullptr));
     EXPECT_TRUE(Save().Saved());
-    EXPECT_EQ(notices, 1);
+    EXPECT_EQ(prompts.notices.size(), 1u);
     EXPECT_EQ(ReadBytes(path), content.bytes);
     EXPECT_EQ(folder.Names(), (Names{L"a.bak", L"a.cfg"}));
 }
@@ -218,7 +233,7 @@ TEST_F(WindowsSave, ADeviceOrPipeIsRefusedAndTheReasonTold)
         EXPECT_EQ(result.outcome, ov::SaveOutcome::PathIsNoFile) << testing::PrintToString(path);
         EXPECT_NE(Message(result).find(u"a device or a pipe"), ov::Text::npos);
     }
-    EXPECT_EQ(notices, 0);
+    EXPECT_EQ(prompts.notices.size(), 0u);
 }
 
 TEST_F(WindowsSave, ASecondWriterIsShutOutFromTheCreationToTheClose)
@@ -235,8 +250,8 @@ TEST_F(WindowsSave, ASecondWriterIsShutOutFromTheCreationToTheClose)
         steps += second != INVALID_HANDLE_VALUE ? '+' : '-';
     };
     EXPECT_TRUE(Save(port).Saved());
-    // link, kind, same file; rename: there is none; create, write, flush; close, remove
-    EXPECT_EQ(steps, "+++----++");
+    // link, kind, compare, same file; rename: there is none; create, write, flush; close, compare, remove
+    EXPECT_EQ(steps, "+++++++----++++++");
     EXPECT_EQ(ReadBytes(path), content.bytes);
 }
 
@@ -274,28 +289,27 @@ class EndedProcess : public WindowsSave
 
 TEST_F(EndedProcess, BeforeEachStepLeavesACompleteCopy)
 {
-    int step = 0;
-    do {
-        SCOPED_TRACE(++step);
+    // link, kind, compare, same file; rename, create, write, flush, close; compare; remove
+    for (const int step : {1, 8, 9, 10, 11, 12, 13, 17}) {
+        SCOPED_TRACE(step);
         ASSERT_TRUE(WriteBytes(path, oldBytes));
         ::DeleteFileW(backup.c_str());
-        ASSERT_LT(step, 30);
-        const bool ended = SaveInAnotherProcess(StepFault::EndsBefore, step);
+        EXPECT_TRUE(SaveInAnotherProcess(StepFault::EndsBefore, step));
         EXPECT_TRUE(ACompleteCopyIsLeft());
-        if (!ended)
-            break;
-    } while (true);
-    // link, kind, same file, rename, create, write, flush, close, remove
-    EXPECT_EQ(step, 10);
+    }
+    ASSERT_TRUE(WriteBytes(path, oldBytes));
+    ::DeleteFileW(backup.c_str());
+    EXPECT_FALSE(SaveInAnotherProcess(StepFault::EndsBefore, 18));
     EXPECT_EQ(ReadBytes(path), content.bytes);
     EXPECT_EQ(folder.Names(), Names{L"a.cfg"});
 }
 
 TEST_F(EndedProcess, WithinTheWriteAndAfterEachStepThatChangesSomethingLeavesACompleteCopy)
 {
-    for (const auto& [end, step] : {std::pair{StepFault::EndsAfter, 4}, std::pair{StepFault::EndsAfter, 5},
-                                    std::pair{StepFault::EndsWithin, 6}, std::pair{StepFault::EndsAfter, 6},
-                                    std::pair{StepFault::EndsAfter, 7}, std::pair{StepFault::EndsAfter, 9}}) {
+    for (const auto& [end, step] :
+         {std::pair{StepFault::EndsAfter, 8}, std::pair{StepFault::EndsAfter, 9},
+          std::pair{StepFault::EndsWithin, 10}, std::pair{StepFault::EndsAfter, 10},
+          std::pair{StepFault::EndsAfter, 11}, std::pair{StepFault::EndsAfter, 17}}) {
         SCOPED_TRACE(step);
         ASSERT_TRUE(WriteBytes(path, oldBytes));
         ::DeleteFileW(backup.c_str());
@@ -306,15 +320,15 @@ TEST_F(EndedProcess, WithinTheWriteAndAfterEachStepThatChangesSomethingLeavesACo
 
 TEST_F(EndedProcess, WithoutABackupOnlyTheWriteItselfIsAWindow)
 {
-    // link, kind, same file, rename, open, read, read, close, create, reserve, write, flush, close
-    for (const auto& [end, step] : {std::pair{StepFault::EndsAfter, 4}, std::pair{StepFault::EndsAfter, 9},
-                                    std::pair{StepFault::EndsAfter, 10}, std::pair{StepFault::EndsAfter, 11},
-                                    std::pair{StepFault::EndsAfter, 13}}) {
+    // link, kind, compare, same file, rename, kind, read, create, reserve, write, flush, close
+    for (const auto& [end, step] : {std::pair{StepFault::EndsAfter, 8}, std::pair{StepFault::EndsAfter, 14},
+                                    std::pair{StepFault::EndsAfter, 15}, std::pair{StepFault::EndsAfter, 16},
+                                    std::pair{StepFault::EndsAfter, 18}}) {
         SCOPED_TRACE(step);
         ASSERT_TRUE(WriteBytes(path, oldBytes));
         ASSERT_TRUE(WriteBytes(backup, staleBytes));
         EXPECT_TRUE(SaveInAnotherProcess(end, step));
-        EXPECT_EQ(ReadBytes(path), step < 11 ? oldBytes : content.bytes);
+        EXPECT_EQ(ReadBytes(path), step < 16 ? oldBytes : content.bytes);
         EXPECT_EQ(ReadBytes(backup), staleBytes);
     }
 }
@@ -332,6 +346,6 @@ int main(int argc, char** argv)
     port.faults = {{std::stoi(arguments[3]), static_cast<StepFault>(std::stoi(arguments[2]))}};
     port.partOfWrite = content.bytes.size() / 2;
     port.end = [] { ::TerminateProcess(::GetCurrentProcess(), killedExitCode); };
-    int notices = 0;
-    return SaveThrough(port, arguments[1], content, notices).Saved() ? 0 : 1;
+    ov::test::TestPrompts prompts;
+    return SaveThrough(port, arguments[1], content, oldBytes, prompts).Saved() ? 0 : 1;
 }

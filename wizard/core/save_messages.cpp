@@ -34,6 +34,8 @@ unsigned ReasonId(SaveOutcome outcome)
         return IDS_SAVE_PLACE_TAKEN_BY_FOLDER;
     case SaveOutcome::PathIsNoFile:
         return IDS_SAVE_PLACE_IS_NO_FILE;
+    case SaveOutcome::KeepFailed:
+        return IDS_SAVE_KEEP_FAILED;
     case SaveOutcome::CreateFailed:
         return IDS_SAVE_CREATE_FAILED;
     case SaveOutcome::WriteFailed:
@@ -83,6 +85,7 @@ Text SaveFailureText(const SaveResult& result, const StringLoader& load)
 {
     switch (result.outcome) {
     case SaveOutcome::Saved:
+    case SaveOutcome::Declined:
         return {};
     case SaveOutcome::NoPath:
         return load(IDS_NO_CONFIG_FILE);
@@ -97,6 +100,18 @@ Text SaveFailureText(const SaveResult& result, const StringLoader& load)
         break;
     }
     return Reason(result, load) + u"\n\n" + OldContentText(result, load);
+}
+
+Text KeptFileText(const SaveResult& result, const StringLoader& load)
+{
+    return result.keptPath.empty() ? Text() : Compose(load(IDS_SAVE_KEPT_FILE), {result.keptPath});
+}
+
+Text ReplaceQuestionText(ReplaceReason reason, TextView path, TextView keptPath, const StringLoader& load)
+{
+    const unsigned id =
+        reason == ReplaceReason::NotRead ? IDS_ASK_REPLACE_UNREAD_FILE : IDS_ASK_REPLACE_CHANGED_FILE;
+    return Compose(load(id), {path, keptPath});
 }
 
 Text NoBackupText(TextView systemText, const StringLoader& load)
