@@ -1,6 +1,7 @@
 #include "pages/settings_page.h"
 
 #include <algorithm>
+#include <chrono>
 #include <commctrl.h>
 #include <stdexcept>
 
@@ -252,6 +253,14 @@ void CSettingsPage::RegisterTooltips()
 void CSettingsPage::DoDataExchange(CDataExchange* exchange)
 {
     CWizardPage::DoDataExchange(exchange);
+    if (exchange->m_bSaveAndValidate)
+        ReadControls(exchange);
+    else
+        ShowValues(exchange);
+}
+
+void CSettingsPage::ReadControls(CDataExchange* exchange)
+{
     for (size_t row = 0; row < m_rows.settings.size(); ++row) {
         Exchange(exchange, m_rows.settings[row].control, m_rows.settings[row].controlId, m_values.Number(row),
                  m_values.String(row));
@@ -259,6 +268,20 @@ void CSettingsPage::DoDataExchange(CDataExchange* exchange)
     for (size_t row = 0; row < m_rows.companions.size(); ++row) {
         Exchange(exchange, m_rows.companions[row].control, m_rows.companions[row].controlId,
                  m_values.CompanionNumber(row), m_values.CompanionString(row));
+    }
+}
+
+void CSettingsPage::ShowValues(CDataExchange* exchange)
+{
+    for (size_t row = 0; row < m_rows.settings.size(); ++row) {
+        int number = m_values.ShownNumber(row);
+        ov::Text text = m_values.ShownString(row);
+        Exchange(exchange, m_rows.settings[row].control, m_rows.settings[row].controlId, number, text);
+    }
+    for (size_t row = 0; row < m_rows.companions.size(); ++row) {
+        int number = m_values.ShownCompanionNumber(row);
+        ov::Text text = m_values.ShownCompanionString(row);
+        Exchange(exchange, m_rows.companions[row].control, m_rows.companions[row].controlId, number, text);
     }
 }
 
@@ -291,6 +314,12 @@ bool CSettingsPage::LoadSettings(int selector)
     CPreferencesWizard* wizard = GetParentWizard();
     if (wizard == nullptr)
         return true;
+    // The C library takes the time zone from a variable that others spell in ways
+    // it does not know; the system always knows the day.
+    SYSTEMTIME now = {};
+    ::GetLocalTime(&now);
+    using namespace std::chrono;
+    m_values.SetToday({year(now.wYear), month(now.wMonth), day(now.wDay)});
     m_values.Load(wizard->Store(), selector);
     UpdateData(FALSE);
     RefreshControls();
@@ -316,11 +345,21 @@ bool CSettingsPage::SaveSettings(CPreferencesWizard* wizard)
 
 void CSettingsPage::RefreshControls()
 {
+    ApplyRefreshHook();
+    ApplyDependencies(m_values);
+}
+
+void CSettingsPage::ApplyRefreshHook()
+{
     if (m_rows.refresh != nullptr && m_rows.refresh(m_values))
         UpdateData(FALSE);
+}
+
+void CSettingsPage::ApplyDependencies(const ov::PageValues& values)
+{
     for (const ov::DependencyRow& row : m_rows.dependencies) {
         const HWND control = FindControl(row.controlId);
-        const bool holds = m_values.Holds(row);
+        const bool holds = values.Holds(row);
         if (row.effect == ov::Effect::Enable)
             ::EnableWindow(control, holds ? TRUE : FALSE);
         else if (((::GetWindowLongPtrW(control, GWL_STYLE) & WS_VISIBLE) != 0) != holds)

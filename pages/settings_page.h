@@ -39,6 +39,11 @@ class CSettingsPage : public CWizardPage
     /// has changed.
     virtual void RefreshControls();
 
+    // The two halves of RefreshControls. What the dependencies follow are the
+    // given values.
+    void ApplyRefreshHook();
+    void ApplyDependencies(const ov::PageValues& values);
+
     /// What the "..." button opens, the focus on refusal included.
     void Browse(const ov::BrowseRow& row);
     void Browse(int buttonId);
@@ -61,6 +66,8 @@ class CSettingsPage : public CWizardPage
     bool ReportsChange(int id, int code) const;
     bool IsDependedOn(int id) const;
     int GroupOf(int id) const;
+    void ReadControls(CDataExchange* exchange);
+    void ShowValues(CDataExchange* exchange);
     void Exchange(CDataExchange* exchange, ov::ControlKind control, int id, int& number, ov::Text& text);
 
     const ov::PageRows& m_rows;

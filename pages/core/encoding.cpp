@@ -155,9 +155,9 @@ Text ClampedScaleFactor(TextView typed)
     if (typed.empty())
         return u"1.00000";
     const double factor = LeadingReal(typed);
-    if (factor < 0.75)
+    if (factor < kLowestScaleFactor)
         return u"0.75000";
-    if (factor > 1.25)
+    if (factor > kHighestScaleFactor)
         return u"1.25000";
     return Text(typed);
 }

@@ -61,7 +61,10 @@ Text WriteScaleSource(ScaleSource source);
 bool TakeScaleBrackets(Text& list);
 Text PutScaleBrackets(TextView list);
 
-/// A scale factor, held between 0.75 and 1.25: 1 when there is none, the limit
+inline constexpr double kLowestScaleFactor = 0.75;
+inline constexpr double kHighestScaleFactor = 1.25;
+
+/// A scale factor, held between its limits: 1 when there is none, the limit
 /// when it is beyond one, both with five decimals; as typed otherwise. A text
 /// that begins with no number counts as 0.
 Text ClampedScaleFactor(TextView typed);

@@ -2,6 +2,8 @@
 
 #include "pages/core/encoding.h"
 #include "pages/core/help_texts.h"
+#include "pages/core/page_catalogue.h"
+#include "pages/core/page_template.h"
 
 #include <algorithm>
 #include <stdexcept>
@@ -56,10 +58,54 @@ PageValues::PageValues(const PageRows& rows) : m_rows(rows)
 {
     m_values.reserve(rows.settings.size());
     for (const SettingRow& row : rows.settings)
-        m_values.push_back({row.initialNumber, row.initialText});
+        m_values.push_back({row.initialNumber, row.initialText, ChoicesOf(row.control, row.controlId)});
     m_companions.reserve(rows.companions.size());
     for (const CompanionRow& row : rows.companions)
-        m_companions.push_back({row.initialNumber, row.initialText});
+        m_companions.push_back({row.initialNumber, row.initialText, ChoicesOf(row.control, row.controlId)});
+}
+
+int PageValues::ChoicesOf(ControlKind control, int controlId) const
+{
+    if (control == ControlKind::DropDownList) {
+        const auto list = std::ranges::find(m_rows.entries, controlId, &EntriesRow::controlId);
+        return list != m_rows.entries.end() ? static_cast<int>(list->stringIds.size()) : kAnyNumber;
+    }
+    if (control != ControlKind::RadioGroup)
+        return kAnyNumber;
+    const PageInfo* page = FindPage(m_rows.pageId);
+    const PageTemplate* layout = page != nullptr ? FindTemplate(page->templateId) : nullptr;
+    return layout != nullptr ? static_cast<int>(ButtonsOfGroup(*layout, controlId).size()) : kAnyNumber;
+}
+
+int PageValues::Shown(const Value& value)
+{
+    return value.choices != kAnyNumber && (value.number < 0 || value.number >= value.choices) ? -1
+                                                                                              : value.number;
+}
+
+Text PageValues::Shown(ControlKind control, const Value& value)
+{
+    return control == ControlKind::Edit ? value.text.substr(0, value.text.find(u'\0')) : value.text;
+}
+
+int PageValues::ShownNumber(std::size_t row) const
+{
+    return Shown(m_values[row]);
+}
+
+Text PageValues::ShownString(std::size_t row) const
+{
+    return Shown(m_rows.settings[row].control, m_values[row]);
+}
+
+int PageValues::ShownCompanionNumber(std::size_t companion) const
+{
+    return Shown(m_companions[companion]);
+}
+
+Text PageValues::ShownCompanionString(std::size_t companion) const
+{
+    return Shown(m_rows.companions[companion].control, m_companions[companion]);
 }
 
 std::size_t PageValues::FindRow(TextView variable) const
@@ -85,20 +131,21 @@ std::size_t PageValues::CompanionOf(int controlId) const
     return static_cast<std::size_t>(found - m_rows.companions.begin());
 }
 
-int PageValues::NumberShownBy(int controlId) const
+bool PageValues::Holds(const Condition& condition) const
 {
-    for (std::size_t row = 0; row < m_values.size(); ++row) {
-        if (m_rows.settings[row].controlId == controlId)
-            return m_values[row].number;
-    }
-    return m_companions[CompanionOf(controlId)].number;
+    if (condition.controlId == 0)
+        return true;
+    const auto setting = std::ranges::find(m_rows.settings, condition.controlId, &SettingRow::controlId);
+    const Value& value = setting != m_rows.settings.end()
+                             ? m_values[static_cast<std::size_t>(setting - m_rows.settings.begin())]
+                             : m_companions[CompanionOf(condition.controlId)];
+    return condition.number == kAnyText ? !value.text.empty() : value.number == condition.number;
 }
 
 bool PageValues::Holds(const DependencyRow& dependency) const
 {
-    return std::ranges::all_of(dependency.conditions, [this](const Condition& condition) {
-        return condition.controlId == 0 || NumberShownBy(condition.controlId) == condition.number;
-    });
+    return std::ranges::all_of(dependency.conditions,
+                               [this](const Condition& condition) { return Holds(condition); });
 }
 
 void PageValues::Load(const SettingStore& store, int table)

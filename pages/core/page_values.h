@@ -3,7 +3,9 @@
 #include "base/text.h"
 #include "pages/core/setting_row.h"
 
+#include <chrono>
 #include <cstddef>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -39,6 +41,18 @@ class PageValues
     int& CompanionNumberOf(int controlId) { return m_companions[CompanionOf(controlId)].number; }
     Text& CompanionTextOf(int controlId) { return m_companions[CompanionOf(controlId)].text; }
 
+    /// What a control makes of its value when it shows it; reading the control
+    /// back gives this. A list or group without an entry of that number has none
+    /// selected (-1), and an edit's text ends before a NUL.
+    int ShownNumber(std::size_t row) const;
+    Text ShownString(std::size_t row) const;
+    int ShownCompanionNumber(std::size_t companion) const;
+    Text ShownCompanionString(std::size_t companion) const;
+
+    /// The day that loading takes for today; without one, the clock's.
+    void SetToday(std::chrono::year_month_day today) { m_today = today; }
+    std::optional<std::chrono::year_month_day> Today() const { return m_today; }
+
     /// Whether the setting stays in the store as it is, or stays out of it,
     /// because the page cannot show what it says.
     void HoldBack(TextView variable, bool heldBack) { m_values[RowOf(variable)].heldBack = heldBack; }
@@ -62,17 +76,23 @@ class PageValues
     struct Value {
         int number;
         Text text;
+        int choices = kAnyNumber; ///< entries of a list, buttons of a group
         bool heldBack = false;
     };
+    static constexpr int kAnyNumber = -1;
 
     static bool IsSaved(const SettingRow& row, const SettingStore& store, bool hasWindow);
     std::size_t RowOf(TextView variable) const;
     std::size_t CompanionOf(int controlId) const;
-    int NumberShownBy(int controlId) const;
+    int ChoicesOf(ControlKind control, int controlId) const;
+    bool Holds(const Condition& condition) const;
+    static int Shown(const Value& value);
+    static Text Shown(ControlKind control, const Value& value);
 
     PageRows m_rows;
     std::vector<Value> m_values;
     std::vector<Value> m_companions;
+    std::optional<std::chrono::year_month_day> m_today;
 };
 
 } // namespace ov

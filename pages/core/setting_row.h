@@ -143,10 +143,11 @@ constexpr SettingRow HiddenRow(const char16_t* variable, SettingKind kind, Encod
 }
 
 /// A control that shows what no variable holds by itself: half of a value, or
-/// how to take it. The page's hooks work it out from the settings and back.
+/// how to take it. The page's hooks compute it from the settings and back.
 struct CompanionRow {
     ControlKind control;
-    int controlId; ///< for a radio group its first button
+    int controlId;            ///< for a radio group its first button
+    const char16_t* variable; ///< the setting that it is a part of
     int initialNumber = 0;
     const char16_t* initialText = u"";
 };
@@ -176,8 +177,11 @@ struct EntriesRow {
     std::span<const unsigned> stringIds;
 };
 
+/// The number of a condition that asks for any text but an empty one.
+inline constexpr int kAnyText = -2;
+
 /// Holds while the control shows this number: 1 or 0 of a check box, the index
-/// of a list or a radio group.
+/// of a list or a radio group, kAnyText of an edit.
 struct Condition {
     int controlId = 0; ///< 0 for no condition
     int number = 0;
@@ -190,6 +194,11 @@ constexpr Condition IsOn(int controlId)
 constexpr Condition IsOff(int controlId)
 {
     return {controlId, 0};
+}
+
+constexpr Condition IsFilled(int controlId)
+{
+    return {controlId, kAnyText};
 }
 
 enum class Effect { Enable, Show };
@@ -285,6 +294,14 @@ struct BarRow {
     int highest;
 };
 
+/// The numbers that make sense for a setting, both ends included, where no
+/// up-down control or track bar says so.
+struct RangeRow {
+    const char16_t* variable;
+    double lowest;
+    double highest;
+};
+
 /// A page as data. The hooks are for what rows cannot say; they see values and
 /// no window, and stand beside the rows.
 struct PageRows {
@@ -299,6 +316,8 @@ struct PageRows {
     std::span<const SpinRow> spins = {};
     std::span<const NameRow> names = {};
     std::span<const BarRow> bars = {};
+    std::span<const RangeRow> ranges = {};
+    std::span<const char16_t* const> olderVariables = {}; ///< only read, from files of long ago
 
     /// Loading reads the controls back and marks the dialog modified.
     bool loadMarksModified = false;

@@ -50,8 +50,12 @@ constexpr LayoutRow layout[] = {
 };
 
 constexpr CompanionRow companions[] = {
-    {ControlKind::CheckBox, IDC_DRAWING_SCALES_USE_BUILT_IN},
-    {ControlKind::CheckBox, IDC_DRAWING_SCALES_ALLOW_OTHERS},
+    {ControlKind::CheckBox, IDC_DRAWING_SCALES_USE_BUILT_IN, u"_ORTHOVAL_DRAWINGSCALE_USE_DEFAULT"},
+    {ControlKind::CheckBox, IDC_DRAWING_SCALES_ALLOW_OTHERS, u"_ORTHOVAL_DRAWINGSCALE_USE_DEFAULT"},
+};
+
+constexpr RangeRow ranges[] = {
+    {u"_ORTHOVAL_DRAWINGSCALE_USE_DEFAULT", 0, 2},
 };
 
 constexpr DependencyRow dependencies[] = {
@@ -96,6 +100,7 @@ constexpr PageRows rows = {
     .companions = companions,
     .dependencies = dependencies,
     .browses = browses,
+    .ranges = ranges,
     .afterLoad = ShowScaleSource,
     .beforeSave = TakeScaleSource,
 };

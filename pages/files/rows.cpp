@@ -9,6 +9,7 @@ namespace ov
 namespace
 {
 constexpr const char16_t* jetDataSource = u"_ORTHOVAL_REPORT_TEMPLATE_JET_DSN_XLS";
+constexpr char16_t olderDataSource[] = u"_ORTHOVAL_REPORT_TEMPLATE_DSN_XLS";
 
 constexpr SettingRow settings[] = {
     TextRow(u"_ORTHOVAL_DICT_DIR", SettingKindPath, IDC_FILES_DICTIONARY, IDS_HELP_FILES_DICTIONARY),
@@ -86,8 +87,10 @@ void TakeOlderDataSource(PageValues& values, const SettingStore& store, int tabl
 {
     Text& path = values.TextOf(jetDataSource);
     if (path.empty())
-        path = store.GetSettingValue(u"_ORTHOVAL_REPORT_TEMPLATE_DSN_XLS", table);
+        path = store.GetSettingValue(olderDataSource, table);
 }
+
+constexpr const char16_t* olderVariables[] = {olderDataSource};
 
 constexpr PageRows rows = {
     .pageId = 11,
@@ -95,6 +98,7 @@ constexpr PageRows rows = {
     .extraHelp = extraHelp,
     .layout = layout,
     .browses = browses,
+    .olderVariables = olderVariables,
     .afterLoad = TakeOlderDataSource,
 };
 } // namespace

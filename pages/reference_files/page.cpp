@@ -3,22 +3,6 @@
 #include "pages/reference_files/rows.h"
 #include "resources/page_ids.h"
 
-namespace
-{
-constexpr int needBorderSheets[] = {
-    IDC_REFERENCE_FILES_MUST_BE_ATTACHED,
-    IDC_REFERENCE_FILES_DEFAULT_MODEL,
-    IDC_REFERENCE_FILES_PLACE_COMMAND,
-    IDC_REFERENCE_FILES_PLACE_COMMAND_BROWSE,
-};
-
-constexpr int needPlotShape[] = {
-    IDC_REFERENCE_FILES_DISALLOW_OUTSIDE,   IDC_REFERENCE_FILES_IGNORE_OUTSIDE,
-    IDC_REFERENCE_FILES_SCALE_FACTOR,       IDC_REFERENCE_FILES_SCALE_FACTOR_LABEL,
-    IDC_REFERENCE_FILES_SCALE_FACTOR_RANGE,
-};
-} // namespace
-
 IMPLEMENT_DYNAMIC(CPageReferenceFiles, CSettingsPage)
 
 BEGIN_MESSAGE_MAP(CPageReferenceFiles, CSettingsPage)
@@ -36,34 +20,12 @@ CPageReferenceFiles::CPageReferenceFiles(CPreferencesWizard* owner, const ov::Pa
 {
 }
 
-CPageReferenceFiles::Given CPageReferenceFiles::GivenInMembers()
-{
-    return {!Values().TextOf(u"_ORTHOVAL_BORDERSHEETS").empty(),
-            !Values().TextOf(u"_ORTHOVAL_BORDERSHEETS_PLOT_SHAPE").empty()};
-}
-
-// Boxes that are disabled keep their check: it comes back with the text.
-void CPageReferenceFiles::EnableControls(Given given)
-{
-    for (const int control : needBorderSheets)
-        GetDlgItem(control)->EnableWindow(given.borderSheets);
-    for (const int control : needPlotShape)
-        GetDlgItem(control)->EnableWindow(given.plotShape);
-    GetDlgItem(IDC_REFERENCE_FILES_PLOT_SHAPE_EXISTS)->EnableWindow(given.borderSheets && given.plotShape);
-}
-
-void CPageReferenceFiles::RefreshControls()
-{
-    CSettingsPage::RefreshControls();
-    EnableControls(GivenInMembers());
-}
-
 void CPageReferenceFiles::Refresh()
 {
-    const Given before = GivenInMembers();
+    const ov::PageValues before = Values();
     UpdateData(TRUE);
-    CSettingsPage::RefreshControls();
-    EnableControls(before);
+    ApplyRefreshHook();
+    ApplyDependencies(before);
     SetModified(true);
 }
 

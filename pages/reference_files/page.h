@@ -11,20 +11,7 @@ class CPageReferenceFiles : public CSettingsPage
   public:
     CPageReferenceFiles(CPreferencesWizard* owner, const ov::PageInfo& info);
 
-  protected:
-    /// After a load and when the page is shown.
-    void RefreshControls() override;
-
   private:
-    /// Which of the texts that other controls depend on are given.
-    struct Given {
-        bool borderSheets;
-        bool plotShape;
-    };
-
-    Given GivenInMembers();
-    void EnableControls(Given given);
-
     /// Reads the controls, holds the scale factor within its limits and marks
     /// the dialog modified. What it enables follows the texts as they were
     /// before: after a key that gives or empties one of them, the other

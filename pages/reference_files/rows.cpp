@@ -91,6 +91,27 @@ constexpr BrowseRow browses[] = {
                IDC_REFERENCE_FILES_PLOT_SHAPE),
 };
 
+constexpr Condition borderSheets = IsFilled(IDC_REFERENCE_FILES_BORDER_SHEETS);
+constexpr Condition plotShape = IsFilled(IDC_REFERENCE_FILES_PLOT_SHAPE);
+
+// Boxes that are disabled keep their check: it comes back with the text.
+constexpr DependencyRow dependencies[] = {
+    EnabledWhen(IDC_REFERENCE_FILES_MUST_BE_ATTACHED, borderSheets),
+    EnabledWhen(IDC_REFERENCE_FILES_DEFAULT_MODEL, borderSheets),
+    EnabledWhen(IDC_REFERENCE_FILES_PLACE_COMMAND, borderSheets),
+    EnabledWhen(IDC_REFERENCE_FILES_PLACE_COMMAND_BROWSE, borderSheets),
+    EnabledWhen(IDC_REFERENCE_FILES_PLOT_SHAPE_EXISTS, borderSheets, plotShape),
+    EnabledWhen(IDC_REFERENCE_FILES_DISALLOW_OUTSIDE, plotShape),
+    EnabledWhen(IDC_REFERENCE_FILES_IGNORE_OUTSIDE, plotShape),
+    EnabledWhen(IDC_REFERENCE_FILES_SCALE_FACTOR, plotShape),
+    EnabledWhen(IDC_REFERENCE_FILES_SCALE_FACTOR_LABEL, plotShape),
+    EnabledWhen(IDC_REFERENCE_FILES_SCALE_FACTOR_RANGE, plotShape),
+};
+
+constexpr RangeRow ranges[] = {
+    {u"_ORTHOVAL_BORDERSHEETS_ERROR_SCALE", kLowestScaleFactor, kHighestScaleFactor},
+};
+
 /// Holds the scale factor within its limits.
 bool ClampScaleFactor(PageValues& values)
 {
@@ -106,7 +127,9 @@ constexpr PageRows rows = {
     .extraHelp = extraHelp,
     .layout = layout,
     .entries = entries,
+    .dependencies = dependencies,
     .browses = browses,
+    .ranges = ranges,
     .loadMarksModified = true,
     .refresh = ClampScaleFactor,
 };

@@ -87,10 +87,10 @@ constexpr LayoutRow layout[] = {
 constexpr int promptTheUser = 5;
 
 constexpr CompanionRow companions[] = {
-    {ControlKind::DropDownList, IDC_REPORTING_MODELS, promptTheUser},
-    {ControlKind::CheckBox, IDC_REPORTING_MODELS_USER_DEFINABLE, 1},
-    {ControlKind::RadioGroup, IDC_REPORTING_NAME_NONE},
-    {ControlKind::RadioGroup, IDC_REPORTING_FOLDER_NONE},
+    {ControlKind::DropDownList, IDC_REPORTING_MODELS, modelsVariable, promptTheUser},
+    {ControlKind::CheckBox, IDC_REPORTING_MODELS_USER_DEFINABLE, modelsVariable, 1},
+    {ControlKind::RadioGroup, IDC_REPORTING_NAME_NONE, nameVariable},
+    {ControlKind::RadioGroup, IDC_REPORTING_FOLDER_NONE, folderVariable},
 };
 
 constexpr unsigned models[] = {IDS_REPORTING_ALL_MODELS,         IDS_REPORTING_ACTIVE_MODEL,
@@ -100,6 +100,11 @@ constexpr unsigned models[] = {IDS_REPORTING_ALL_MODELS,         IDS_REPORTING_A
 
 constexpr EntriesRow entries[] = {
     {IDC_REPORTING_MODELS, models},
+};
+
+// One of the models, negative when the user may not change it.
+constexpr RangeRow ranges[] = {
+    {modelsVariable, -static_cast<double>(std::size(models)), std::size(models)},
 };
 
 constexpr const char16_t* namePresets[] = {
@@ -166,6 +171,7 @@ constexpr PageRows rows = {
     .dependencies = dependencies,
     .browses = browses,
     .spins = spins,
+    .ranges = ranges,
     .afterLoad = WorkOutChoices,
     .refresh = PutPresets,
     .beforeSave = PutModels,

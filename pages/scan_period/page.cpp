@@ -52,9 +52,7 @@ bool CPageScanPeriod::LoadSettings(int selector)
     UpdateScanPeriodControls();
     try {
         CSettingsPage::LoadSettings(selector);
-        ShowToday();
     } catch (const ov::ImpossibleDate& error) {
-        ShowToday();
         UpdateData(FALSE);
         UpdateScanPeriodControls();
         SetModified(true);
@@ -67,18 +65,6 @@ bool CPageScanPeriod::LoadSettings(int selector)
 void CPageScanPeriod::UpdateScanPeriodControls()
 {
     CSettingsPage::RefreshControls();
-}
-
-// The C library takes the time zone from a variable that others spell in ways
-// it does not know; the system always knows the day.
-void CPageScanPeriod::ShowToday()
-{
-    if (!Values().TextOf(ov::kScanPeriodVariable).empty())
-        return;
-    SYSTEMTIME now = {};
-    ::GetLocalTime(&now);
-    Values().CompanionTextOf(IDC_SCAN_PERIOD_DATE_2) = ov::PickerText({now.wDay, now.wMonth, now.wYear});
-    UpdateData(FALSE);
 }
 
 BOOL CPageScanPeriod::OnCmdMsg(UINT id, int code, NMHDR* notify, LRESULT* result)

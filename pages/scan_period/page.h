@@ -22,7 +22,4 @@ class CPageScanPeriod : public CSettingsPage
   protected:
     BOOL OnCmdMsg(UINT id, int code, NMHDR* notify, LRESULT* result) override;
     void RefreshControls() override { UpdateScanPeriodControls(); }
-
-  private:
-    void ShowToday();
 };

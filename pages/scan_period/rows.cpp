@@ -25,16 +25,16 @@ constexpr SettingRow settings[] = {
 };
 
 constexpr CompanionRow companions[] = {
-    {ControlKind::CheckBox, IDC_SCAN_PERIOD_FIXED, 1},
-    {ControlKind::DropDownList, IDC_SCAN_PERIOD_SEGMENT_1, 1},
-    {ControlKind::DropDownList, IDC_SCAN_PERIOD_MODE_1, 0},
-    {ControlKind::DatePicker, IDC_SCAN_PERIOD_DATE_1},
-    {ControlKind::CheckBox, IDC_SCAN_PERIOD_SECOND, 0},
-    {ControlKind::DropDownList, IDC_SCAN_PERIOD_OPERATOR, 2},
-    {ControlKind::DropDownList, IDC_SCAN_PERIOD_SEGMENT_2, 0},
-    {ControlKind::DropDownList, IDC_SCAN_PERIOD_MODE_2, 0},
-    {ControlKind::DatePicker, IDC_SCAN_PERIOD_DATE_2},
-    {ControlKind::DropDownList, IDC_SCAN_PERIOD_OR_SELECTOR, 0},
+    {ControlKind::CheckBox, IDC_SCAN_PERIOD_FIXED, kScanPeriodVariable, 1},
+    {ControlKind::DropDownList, IDC_SCAN_PERIOD_SEGMENT_1, kScanPeriodVariable, 1},
+    {ControlKind::DropDownList, IDC_SCAN_PERIOD_MODE_1, kScanPeriodVariable, 0},
+    {ControlKind::DatePicker, IDC_SCAN_PERIOD_DATE_1, kScanPeriodVariable},
+    {ControlKind::CheckBox, IDC_SCAN_PERIOD_SECOND, kScanPeriodVariable, 0},
+    {ControlKind::DropDownList, IDC_SCAN_PERIOD_OPERATOR, kScanPeriodVariable, 2},
+    {ControlKind::DropDownList, IDC_SCAN_PERIOD_SEGMENT_2, kScanPeriodVariable, 0},
+    {ControlKind::DropDownList, IDC_SCAN_PERIOD_MODE_2, kScanPeriodVariable, 0},
+    {ControlKind::DatePicker, IDC_SCAN_PERIOD_DATE_2, kScanPeriodVariable},
+    {ControlKind::DropDownList, IDC_SCAN_PERIOD_OR_SELECTOR, kScanPeriodVariable, 0},
 };
 
 constexpr HelpRow extraHelp[] = {
@@ -140,9 +140,13 @@ ScanDate LocalDay(std::time_t time, const ScanDate& otherwise)
     return day != nullptr ? ScanDate{day->tm_mday, day->tm_mon + 1, day->tm_year + 1900} : otherwise;
 }
 
-ScanDate Today()
+ScanDate Today(const PageValues& values)
 {
-    return LocalDay(std::time(nullptr), kSecondDate);
+    const auto today = values.Today();
+    if (!today)
+        return LocalDay(std::time(nullptr), kSecondDate);
+    return {static_cast<int>(static_cast<unsigned>(today->day())),
+            static_cast<int>(static_cast<unsigned>(today->month())), static_cast<int>(today->year())};
 }
 
 // Before anything was loaded, the beginning of time: the first day of 1970, or
@@ -188,7 +192,7 @@ void TakePeriod(PageValues& values, const SettingStore& store, int table)
 {
     const Text& stored = values.TextOf(kScanPeriodVariable);
     const Text older = store.GetSettingValue(kOlderVariable, table);
-    const ScanDate today = Today();
+    const ScanDate today = Today(values);
     ScanPeriod period = Shown(values);
     ParseLegacyScanPeriod(older, period);
     ParseScanPeriod(stored, today, period);
@@ -234,6 +238,8 @@ void AppendDigits(Text& text, int number, std::size_t width)
     text += digits;
 }
 
+constexpr const char16_t* olderVariables[] = {kOlderVariable};
+
 constexpr PageRows rows = {
     .pageId = 20,
     .settings = settings,
@@ -243,6 +249,7 @@ constexpr PageRows rows = {
     .entries = entries,
     .dependencies = dependencies,
     .names = names,
+    .olderVariables = olderVariables,
     .loadMarksModified = true,
     .afterLoad = TakePeriod,
     .refresh = ForgetSecondDate,

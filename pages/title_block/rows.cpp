@@ -75,24 +75,12 @@ constexpr LayoutRow layout[] = {
     {IDC_TITLE_BLOCK_COUNT_FIELDS, kFixed},
 };
 
-/// A box of the tags, and the text that it opens for editing.
-struct TagBox {
-    int controlId;
-    const char16_t* variable;
-};
-
-constexpr TagBox tagBoxes[] = {
-    {IDC_TITLE_BLOCK_USE_TAG_SETS, u"_ORTHOVAL_TITLEBLOCK_TAGSETS"},
-    {IDC_TITLE_BLOCK_USE_TAGS, u"_ORTHOVAL_TITLEBLOCK_TAGDEFS"},
-    {IDC_TITLE_BLOCK_USE_TAG_VALUES, u"_ORTHOVAL_TITLEBLOCK_TAGVALUES"},
-    {IDC_TITLE_BLOCK_USE_SPELL_CHECK, u"_ORTHOVAL_TITLEBLOCK_TAGSPELLCHECK"},
-};
-
+// The boxes of the tags, each with the text that it opens for editing.
 constexpr CompanionRow companions[] = {
-    {ControlKind::CheckBox, IDC_TITLE_BLOCK_USE_TAG_SETS},
-    {ControlKind::CheckBox, IDC_TITLE_BLOCK_USE_TAGS},
-    {ControlKind::CheckBox, IDC_TITLE_BLOCK_USE_TAG_VALUES},
-    {ControlKind::CheckBox, IDC_TITLE_BLOCK_USE_SPELL_CHECK},
+    {ControlKind::CheckBox, IDC_TITLE_BLOCK_USE_TAG_SETS, u"_ORTHOVAL_TITLEBLOCK_TAGSETS"},
+    {ControlKind::CheckBox, IDC_TITLE_BLOCK_USE_TAGS, u"_ORTHOVAL_TITLEBLOCK_TAGDEFS"},
+    {ControlKind::CheckBox, IDC_TITLE_BLOCK_USE_TAG_VALUES, u"_ORTHOVAL_TITLEBLOCK_TAGVALUES"},
+    {ControlKind::CheckBox, IDC_TITLE_BLOCK_USE_SPELL_CHECK, u"_ORTHOVAL_TITLEBLOCK_TAGSPELLCHECK"},
 };
 
 // The tags can be set up while title blocks are not checked at all.
@@ -137,7 +125,7 @@ constexpr BrowseRow browses[] = {
 // being emptied is back the next time.
 void CheckBoxesOfTexts(PageValues& values, const SettingStore&, int)
 {
-    for (const TagBox& box : tagBoxes)
+    for (const CompanionRow& box : companions)
         values.CompanionNumberOf(box.controlId) = values.TextOf(box.variable).empty() ? 0 : 1;
 }
 
@@ -145,7 +133,7 @@ bool ClearBoxesWithoutTagSets(PageValues& values)
 {
     if (values.CompanionNumberOf(IDC_TITLE_BLOCK_USE_TAG_SETS) != 0)
         return false;
-    for (const TagBox& box : tagBoxes)
+    for (const CompanionRow& box : companions)
         values.CompanionNumberOf(box.controlId) = 0;
     return true;
 }

@@ -27,7 +27,7 @@ constexpr ov::SettingRow settings[] = {
 };
 
 constexpr ov::CompanionRow companions[] = {
-    {ov::ControlKind::RadioGroup, Choice, 4},
+    {ov::ControlKind::RadioGroup, Choice, u"HIDDEN", 4},
 };
 
 constexpr PageRows plainPage = {
@@ -122,6 +122,20 @@ TEST(PageHooks, EmptyNumberKeptAsTextReadsAsZero)
     EXPECT_EQ(SavedAfterLoading(u"ZERO", u""), "0");
     EXPECT_EQ(SavedAfterLoading(u"ZERO", u"25"), "25");
     EXPECT_EQ(SavedAfterLoading(u"ZERO", u"many"), "many");
+}
+
+TEST(PageHooks, DependencyHoldsWhileAnEditIsFilled)
+{
+    PageValues values(plainPage);
+    const ov::DependencyRow filled = ov::EnabledWhen(Dependent, ov::IsFilled(Edit), ov::IsOn(Box));
+    values.NumberOf(u"FLAG") = 1;
+    values.TextOf(u"ZERO") = u" ";
+    EXPECT_TRUE(values.Holds(filled));
+    values.TextOf(u"ZERO").clear();
+    EXPECT_FALSE(values.Holds(filled));
+    values.TextOf(u"ZERO") = u"1";
+    values.NumberOf(u"FLAG") = 0;
+    EXPECT_FALSE(values.Holds(filled));
 }
 
 TEST(PageHooks, CompanionsStartWithTheirBuiltInValueAndAreNotStored)

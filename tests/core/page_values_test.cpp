@@ -2,6 +2,7 @@
 
 #include "pages/branding/rows.h"
 #include "pages/conforming/rows.h"
+#include "pages/misc/rows.h"
 #include "resources/page_ids.h"
 
 #include <gtest/gtest.h>
@@ -363,4 +364,41 @@ TEST(BrandingValues, RenameListIsStoredAsText)
     EXPECT_EQ(KindOf(store, u"_ORTHOVAL_BRANDING_RENAME_TABLES"), ov::SettingKindText);
 }
 
+TEST(PageValues, ControlShowsNoneForAnEntryThatItLacks)
+{
+    static constexpr unsigned entries[] = {IDS_ALWAYS, IDS_NEVER};
+    static constexpr ov::EntriesRow lists[] = {{20, entries}};
+    static constexpr ov::SettingRow rows[] = {
+        ov::ChoiceRow(u"LIST", ov::Encoding::Number, ov::ControlKind::DropDownList, 20, 0, 0),
+    };
+    PageValues values({.pageId = 0, .settings = rows, .extraHelp = {}, .layout = {}, .entries = lists});
+    for (const auto& [number, shown] : {std::pair{0, 0}, {1, 1}, {2, -1}, {-1, -1}, {-4, -1}, {100, -1}}) {
+        values.Number(0) = number;
+        EXPECT_EQ(values.ShownNumber(0), shown) << number;
+        EXPECT_EQ(values.Number(0), number);
+    }
+}
+
+TEST(PageValues, GroupOfRadioButtonsShowsNoneForAButtonThatItLacks)
+{
+    PageValues misc(ov::MiscRows());
+    const std::size_t type = misc.FindRow(u"_ORTHOVAL_WILDCARD_TYPE");
+    for (const auto& [number, shown] : {std::pair{0, 0}, {5, 5}, {6, -1}, {-1, -1}}) {
+        misc.Number(type) = number;
+        EXPECT_EQ(misc.ShownNumber(type), shown) << number;
+    }
+}
+
+TEST(PageValues, EditShowsATextUpToItsFirstNul)
+{
+    PageValues values(PageOf(commentedRows));
+    const std::size_t hidden = values.FindRow(u"HIDDEN");
+    values.String(hidden) = Text(u"a\0b", 3);
+    EXPECT_EQ(values.ShownString(hidden), Text(u"a\0b", 3));
+    PageValues sample(samplePage);
+    sample.String(2) = Text(u"a\0b", 3);
+    EXPECT_EQ(sample.ShownString(2), u"a");
+    sample.String(2) = u"whole";
+    EXPECT_EQ(sample.ShownString(2), u"whole");
+}
 } // namespace

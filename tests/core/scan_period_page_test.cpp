@@ -221,6 +221,15 @@ TEST_F(ScanPeriodPage, SecondDateOfAnAbsentPeriodIsTodayInLocalTime)
     }
 }
 
+TEST_F(ScanPeriodPage, SecondDateOfAnAbsentPeriodIsTheDayThatIsGivenForToday)
+{
+    Put(kOlder, u"6,3,4,2011");
+    values.SetToday({std::chrono::year(2030), std::chrono::month(2), std::chrono::day(28)});
+    Load();
+    Save();
+    EXPECT_EQ(Stored(kSettings), "1, 1, 1, 3, 4, 2011, 0, 2, 0, 0, 28, 2, 2030, 0");
+}
+
 TEST_F(ScanPeriodPage, DatesStayTheSameInEveryZoneAndWhereClocksChange)
 {
     for (const char* zone :

@@ -355,6 +355,34 @@ TEST(AllRows, ExplainEachControlOnce)
     });
 }
 
+TEST(AllRows, NameASettingOfTheirPageForEachCompanionBarAndRange)
+{
+    ForEachPage([](const PageRows& page) {
+        const auto expectSetting = [&](const char16_t* variable) {
+            EXPECT_TRUE(std::ranges::any_of(page.settings, [&](const SettingRow& row) {
+                return ov::TextView(row.variable) == variable;
+            })) << ov::Utf8FromText(variable);
+        };
+        for (const ov::CompanionRow& row : page.companions)
+            expectSetting(row.variable);
+        for (const ov::BarRow& row : page.bars)
+            expectSetting(row.variable);
+        for (const ov::RangeRow& row : page.ranges)
+            expectSetting(row.variable);
+    });
+}
+
+TEST(AllRows, NameTheVariablesThatAreOnlyRead)
+{
+    std::set<std::string> found;
+    ForEachPage([&](const PageRows& page) {
+        for (const char16_t* variable : page.olderVariables)
+            found.insert(ov::Utf8FromText(variable));
+    });
+    const auto expected = expected::OlderVariables();
+    EXPECT_EQ(found, std::set<std::string>(expected.begin(), expected.end()));
+}
+
 TEST(AllRows, SayWhyTheyAreAnException)
 {
     ForEachSetting(
@@ -497,7 +525,7 @@ TEST(AllRows, FillTheirDropDownListsAndNoOthers)
     });
 }
 
-TEST(AllRows, DependOnControlsThatShowANumber)
+TEST(AllRows, DependOnControlsThatShowWhatTheConditionAsksFor)
 {
     ForEachPage([](const PageRows& page) {
         std::set<std::pair<int, ov::Effect>> dependent;
@@ -508,7 +536,8 @@ TEST(AllRows, DependOnControlsThatShowANumber)
                 if (condition.controlId == 0)
                     continue;
                 const ControlKind control = KindOfControl(page, condition.controlId);
-                EXPECT_TRUE(control != ControlKind::None && !ov::ShowsText(control)) << condition.controlId;
+                EXPECT_NE(control, ControlKind::None) << condition.controlId;
+                EXPECT_EQ(ov::ShowsText(control), condition.number == ov::kAnyText) << condition.controlId;
                 EXPECT_NE(condition.controlId, row.controlId);
             }
         }
