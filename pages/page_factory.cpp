@@ -1,34 +1,32 @@
 #include "pages/page_factory.h"
 
-#include "pages/page_list.inc"
+#include "pages/page_classes.h"
 
 namespace
 {
 template <class Page>
-std::unique_ptr<CWizardPage> Make(CPreferencesWizard* owner, const ov::PageInfo& info)
+std::unique_ptr<CWizardPage> Make(CPreferencesWizard* owner)
 {
-    return std::make_unique<Page>(owner, info);
+    return std::make_unique<Page>(owner);
 }
 
 struct PageMaker {
-    ov::TextView className;
-    std::unique_ptr<CWizardPage> (*make)(CPreferencesWizard*, const ov::PageInfo&);
+    const ov::PageRows& (*rows)();
+    std::unique_ptr<CWizardPage> (*make)(CPreferencesWizard*);
 };
 
-#define OV_PAGE(Class) {u"" #Class, &Make<Class>},
-
-// The catalogue says which pages there are and in what order; this says which
-// class each of them is.
-constexpr PageMaker makers[] = {OV_PAGE_LIST};
-
+constexpr PageMaker makers[] = {
+#define OV_PAGE(name) {&ov::name##Rows, &Make<CPage##name>},
+#include "pages/page_list.inc"
 #undef OV_PAGE
+};
 } // namespace
 
 std::unique_ptr<CWizardPage> MakePage(const ov::PageInfo& info, CPreferencesWizard* owner)
 {
     for (const PageMaker& maker : makers) {
-        if (maker.className == info.className)
-            return maker.make(owner, info);
+        if (&maker.rows().info == &info)
+            return maker.make(owner);
     }
     return nullptr;
 }

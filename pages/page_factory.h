@@ -7,6 +7,5 @@
 class CPreferencesWizard;
 class CWizardPage;
 
-/// Constructs the page of that catalogue row, without a window; none when no
-/// class stands for it.
+/// Constructs the page, without a window. `info` is one of the catalogue's.
 std::unique_ptr<CWizardPage> MakePage(const ov::PageInfo& info, CPreferencesWizard* owner);

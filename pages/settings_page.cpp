@@ -8,6 +8,7 @@
 #include "controls/application.h"
 #include "controls/dropped_list.h"
 #include "controls/tool_tip_control.h"
+#include "pages/core/page_layout.h"
 #include "resources/ids.h"
 #include "wizard/preferences_wizard.h"
 
@@ -80,17 +81,17 @@ void ExchangeDay(CDataExchange* exchange, int id, ov::Text& day)
 
 IMPLEMENT_DYNAMIC(CSettingsPage, CWizardPage)
 
-CSettingsPage::CSettingsPage(CPreferencesWizard* owner, const ov::PageInfo& info, const ov::PageRows& rows)
-    : CWizardPage(owner, static_cast<UINT>(info.pageId), CSize(info.scrollWidth, info.scrollHeight),
-                  info.templateId),
-      m_rows(rows), m_values(rows)
+CSettingsPage::CSettingsPage(CPreferencesWizard* owner, const ov::PageRows& rows)
+    : CWizardPage(owner, static_cast<UINT>(rows.info.pageId),
+                  CSize(rows.info.scrollWidth, rows.info.scrollHeight), rows.info.templateId),
+      m_rows(rows), m_values(rows), m_layout(ov::LayoutOf(rows))
 {
     CSettingsPage::InitControlLayout();
 }
 
 void CSettingsPage::InitControlLayout()
 {
-    for (const ov::LayoutRow& row : m_rows.layout)
+    for (const ov::LayoutRow& row : m_layout)
         AddLayout(static_cast<UINT>(row.controlId), row.layoutFlags);
 }
 
@@ -131,7 +132,7 @@ CRect CSettingsPage::GetClientRectangle() const
 /// Whether the control goes with the page's right edge.
 bool CSettingsPage::Follows(HWND control) const
 {
-    return std::ranges::any_of(m_rows.layout, [id = ::GetDlgCtrlID(control)](const ov::LayoutRow& row) {
+    return std::ranges::any_of(m_layout, [id = ::GetDlgCtrlID(control)](const ov::LayoutRow& row) {
         return row.controlId == id &&
                (row.layoutFlags & (ov::LayoutStretchWidth | ov::LayoutAnchorRight)) != 0;
     });
@@ -167,7 +168,7 @@ int CSettingsPage::NarrowestWidth() const
     GetClientRect(&client);
     int spare = client.Width();
     int fixed = 0;
-    for (const ov::LayoutRow& row : m_rows.layout) {
+    for (const ov::LayoutRow& row : m_layout) {
         const HWND control = FindControl(row.controlId);
         if (control == nullptr)
             continue;

@@ -16,7 +16,8 @@ class CSettingsPage : public CWizardPage
     DECLARE_DYNAMIC(CSettingsPage)
 
   public:
-    CSettingsPage(CPreferencesWizard* owner, const ov::PageInfo& info, const ov::PageRows& rows);
+    /// The rows must outlive the page.
+    CSettingsPage(CPreferencesWizard* owner, const ov::PageRows& rows);
 
     BOOL OnInitDialog() override;
     bool CreateOrShow(CWnd* parent, const CRect& rectangle) override;
@@ -72,5 +73,6 @@ class CSettingsPage : public CWizardPage
 
     const ov::PageRows& m_rows;
     ov::PageValues m_values;
+    const std::vector<ov::LayoutRow> m_layout;
     int m_narrowestWidth = 0;
 };

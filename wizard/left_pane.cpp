@@ -66,9 +66,6 @@ BOOL CLeftPane::OnInitDialog()
 void CLeftPane::FillList()
 {
     for (const ov::PageInfo* page : ov::PaneRows()) {
-        // A category without a page would be a row that does nothing.
-        if (!Owner()->HasPage(static_cast<UINT>(page->pageId)))
-            continue;
         const int row = m_list.AppendRow(AfxLoadString(page->titleId));
         m_list.SetItemData(row, static_cast<DWORD_PTR>(page->pageId));
     }

@@ -7,7 +7,6 @@
 class CPreferencesWizard;
 class CWizardPage;
 
-/// Constructs the page that a catalogue row names, without a window; none when
-/// the program has no such page. Defined in app/: the pages derive from this
+/// Constructs the page, without a window. Defined in app/: the pages derive from this
 /// folder's page base, which therefore cannot see them.
 std::unique_ptr<CWizardPage> CreateCataloguePage(const ov::PageInfo& info, CPreferencesWizard* owner);

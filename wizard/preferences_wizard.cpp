@@ -15,8 +15,6 @@
 namespace
 {
 constexpr CSize leftPaneScrollSize{100, 300};
-constexpr UINT lastPageId = 29;
-constexpr UINT firstShownPageId = 2;
 } // namespace
 
 IMPLEMENT_DYNAMIC(CPreferencesWizard, CResizableDlg)
@@ -89,10 +87,8 @@ void CPreferencesWizard::RegisterTooltips()
 
 bool CPreferencesWizard::CreatePages()
 {
-    for (const ov::PageInfo& info : ov::PageCatalogue()) {
-        if (auto page = CreateCataloguePage(info, this))
-            m_pages.push_back(std::move(page));
-    }
+    for (const ov::PageInfo* info : ov::PageCatalogue())
+        m_pages.push_back(CreateCataloguePage(*info, this));
     return true;
 }
 
@@ -116,10 +112,10 @@ BOOL CPreferencesWizard::OnInitDialog()
     RegisterTooltips();
 
     // Every page gets its window now, so that all of them hold their values
-    // before the person sees any.
-    for (UINT pageId = 1; pageId <= lastPageId; ++pageId)
-        SelectPage(pageId);
-    SelectPage(firstShownPageId);
+    // before the user sees any.
+    for (const ov::PageInfo* page : ov::PagesById())
+        SelectPage(static_cast<UINT>(page->pageId));
+    SelectPage(static_cast<UINT>(ov::PaneRows().front()->pageId));
     m_store.SetModified(false);
 
     m_defaultPath = GetDefaultConfigPath();
@@ -174,11 +170,6 @@ void CPreferencesWizard::PlaceAfter(CWnd& child, UINT placeholderId)
     // The tab order is the Z order: the child takes its placeholder's turn.
     if (const CWnd* placeholder = GetDlgItem(placeholderId))
         child.SetWindowPos(placeholder, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
-}
-
-bool CPreferencesWizard::HasPage(UINT pageId) const
-{
-    return std::ranges::any_of(m_pages, [&](const auto& page) { return page->GetPageId() == pageId; });
 }
 
 void CPreferencesWizard::SelectPage(UINT pageId)

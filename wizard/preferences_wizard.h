@@ -32,9 +32,6 @@ class CPreferencesWizard : public CResizableDlg
     /// Shows the page with that id; nothing when there is none or it is shown.
     void SelectPage(UINT pageId);
 
-    /// Whether the program has a page with that id.
-    bool HasPage(UINT pageId) const;
-
     /// Every page takes its values from the table that the selector names
     /// (0 = current, 1 = defaults); defaults mark the dialog modified.
     void LoadAllPages(int selector);

@@ -1,7 +1,6 @@
-#include "pages/branding/rows.h"
+#include "pages/core/page_rows.h"
 
-#include "pages/core/layout_flags.h"
-#include "resources/ids.h"
+#include "pages/branding/ids.h"
 
 namespace ov
 {
@@ -22,11 +21,8 @@ constexpr HelpRow extraHelp[] = {
 };
 
 constexpr LayoutRow layout[] = {
-    // Their captions are too long for a narrow page, where they wrap.
-    {IDC_BRANDING_AUTO, kStretched},         {IDC_BRANDING_OVERRIDE, kStretched},
-    {IDC_BRANDING_CERTIFY, kFixed},          {IDC_BRANDING_DISABLE_AUTOLOAD, kFixed},
-    {IDC_BRANDING_RENAME_LABEL, kFixed},     {IDC_BRANDING_RENAME, kStretched},
-    {IDC_BRANDING_RENAME_BROWSE, kTopRight},
+    {IDC_BRANDING_AUTO, kStretched},
+    {IDC_BRANDING_OVERRIDE, kStretched},
 };
 
 constexpr BrowseRow browses[] = {
@@ -35,7 +31,13 @@ constexpr BrowseRow browses[] = {
 };
 
 constexpr PageRows rows = {
-    .pageId = 2,
+    .info = {.pageId = 2,
+             .titleId = IDS_TITLE_BRANDING,
+             .templateId = IDD_PAGE_BRANDING,
+             .scrollWidth = 290,
+             .scrollHeight = 220,
+             .constructionRank = 10,
+             .listRank = 10},
     .settings = settings,
     .extraHelp = extraHelp,
     .layout = layout,

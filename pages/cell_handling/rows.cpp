@@ -1,7 +1,6 @@
-#include "pages/cell_handling/rows.h"
+#include "pages/core/page_rows.h"
 
-#include "pages/core/layout_flags.h"
-#include "resources/page_ids.h"
+#include "pages/cell_handling/ids.h"
 
 namespace ov
 {
@@ -20,16 +19,21 @@ constexpr SettingRow settings[] = {
 };
 
 constexpr LayoutRow layout[] = {
-    // All but the first caption wrap where the page is narrow.
-    {IDC_CELL_HANDLING_COMPONENTS, kFixed},        {IDC_CELL_HANDLING_SHARED_DEFINITIONS, kStretched},
-    {IDC_CELL_HANDLING_UNKNOWN_CELLS, kStretched}, {IDC_CELL_HANDLING_COPY_DATA_FIELDS, kStretched},
+    {IDC_CELL_HANDLING_SHARED_DEFINITIONS, kStretched},
+    {IDC_CELL_HANDLING_UNKNOWN_CELLS, kStretched},
+    {IDC_CELL_HANDLING_COPY_DATA_FIELDS, kStretched},
     {IDC_CELL_HANDLING_CACHING, kStretched},
 };
 
 constexpr PageRows rows = {
-    .pageId = 3,
+    .info = {.pageId = 3,
+             .titleId = IDS_TITLE_CELL_HANDLING,
+             .templateId = IDD_PAGE_CELL_HANDLING,
+             .scrollWidth = 290,
+             .scrollHeight = 210,
+             .constructionRank = 20,
+             .listRank = 20},
     .settings = settings,
-    .extraHelp = {},
     .layout = layout,
 };
 } // namespace

@@ -1,7 +1,7 @@
 #include "pages/certifying/page.h"
 
-#include "pages/certifying/rows.h"
-#include "resources/page_ids.h"
+#include "pages/certifying/ids.h"
+#include "pages/core/page_rows.h"
 
 IMPLEMENT_DYNAMIC(CPageCertifying, CSettingsPage)
 
@@ -9,10 +9,7 @@ BEGIN_MESSAGE_MAP(CPageCertifying, CSettingsPage)
     ON_BN_CLICKED(IDC_CERTIFYING_PLACE_MARKER_CELL, &CPageCertifying::OnSettingChanged)
 END_MESSAGE_MAP()
 
-CPageCertifying::CPageCertifying(CPreferencesWizard* owner, const ov::PageInfo& info)
-    : CSettingsPage(owner, info, ov::CertifyingRows())
-{
-}
+CPageCertifying::CPageCertifying(CPreferencesWizard* owner) : CSettingsPage(owner, ov::CertifyingRows()) {}
 
 // The first box shows the marker cell's flag too, but is read before the
 // second one, which therefore has the last word.

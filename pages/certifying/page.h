@@ -9,7 +9,7 @@ class CPageCertifying : public CSettingsPage
     DECLARE_MESSAGE_MAP()
 
   public:
-    CPageCertifying(CPreferencesWizard* owner, const ov::PageInfo& info);
+    explicit CPageCertifying(CPreferencesWizard* owner);
 
   protected:
     void DoDataExchange(CDataExchange* exchange) override;

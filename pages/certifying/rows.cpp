@@ -1,7 +1,6 @@
-#include "pages/certifying/rows.h"
+#include "pages/core/page_rows.h"
 
-#include "pages/core/layout_flags.h"
-#include "resources/page_ids.h"
+#include "pages/certifying/ids.h"
 
 namespace ov
 {
@@ -43,13 +42,7 @@ constexpr HelpRow extraHelp[] = {
 };
 
 constexpr LayoutRow layout[] = {
-    {IDC_CERTIFYING_PLACE_MARKER_CELL, kFixed},    {IDC_CERTIFYING_CHECK_MARKER_CELLS, kFixed},
-    {IDC_CERTIFYING_NO_DIFFERING, kFixed},         {IDC_CERTIFYING_PRE_KEYIN_LABEL, kFixed},
-    {IDC_CERTIFYING_PRE_KEYIN, kStretched},        {IDC_CERTIFYING_PRE_KEYIN_BROWSE, kTopRight},
-    {IDC_CERTIFYING_POST_KEYIN_LABEL, kFixed},     {IDC_CERTIFYING_POST_KEYIN, kStretched},
-    {IDC_CERTIFYING_POST_KEYIN_BROWSE, kTopRight}, {IDC_CERTIFYING_REFERENCES_FRAME, kStretched},
-    {IDC_CERTIFYING_REFERENCES_NEED_NOT, kFixed},  {IDC_CERTIFYING_REFERENCES_MUST, kFixed},
-    {IDC_CERTIFYING_REFERENCES_USER, kFixed},
+    {IDC_CERTIFYING_REFERENCES_FRAME, kStretched},
 };
 
 // Only the second button takes a refusal to its edit.
@@ -60,7 +53,13 @@ constexpr BrowseRow browses[] = {
 };
 
 constexpr PageRows rows = {
-    .pageId = 4,
+    .info = {.pageId = 4,
+             .titleId = IDS_TITLE_CERTIFYING,
+             .templateId = IDD_PAGE_CERTIFYING,
+             .scrollWidth = 400,
+             .scrollHeight = 360,
+             .constructionRank = 40,
+             .listRank = 30},
     .settings = settings,
     .extraHelp = extraHelp,
     .layout = layout,

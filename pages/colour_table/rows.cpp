@@ -1,7 +1,6 @@
-#include "pages/colour_table/rows.h"
+#include "pages/core/page_rows.h"
 
-#include "pages/core/layout_flags.h"
-#include "resources/page_ids.h"
+#include "pages/colour_table/ids.h"
 
 namespace ov
 {
@@ -22,9 +21,6 @@ constexpr HelpRow extraHelp[] = {
 };
 
 constexpr LayoutRow layout[] = {
-    {IDC_COLOUR_TABLE_ALLOWED_LABEL, kFixed},     {IDC_COLOUR_TABLE_ALLOWED, kStretched},
-    {IDC_COLOUR_TABLE_ALLOWED_BROWSE, kTopRight}, {IDC_COLOUR_TABLE_ALLOW_ANY, kFixed},
-    {IDC_COLOUR_TABLE_CHECK_ON_OPEN, kFixed},     {IDC_COLOUR_TABLE_REMAP_LABEL, kFixed},
     {IDC_COLOUR_TABLE_REMAP, kStretched},
 };
 
@@ -43,7 +39,13 @@ constexpr BrowseRow browses[] = {
 };
 
 constexpr PageRows rows = {
-    .pageId = 5,
+    .info = {.pageId = 5,
+             .titleId = IDS_TITLE_COLOUR_TABLE,
+             .templateId = IDD_PAGE_COLOUR_TABLE,
+             .scrollWidth = 290,
+             .scrollHeight = 220,
+             .constructionRank = 30,
+             .listRank = 40},
     .settings = settings,
     .extraHelp = extraHelp,
     .layout = layout,

@@ -1,7 +1,6 @@
-#include "pages/conforming/rows.h"
+#include "pages/core/page_rows.h"
 
-#include "pages/core/layout_flags.h"
-#include "resources/ids.h"
+#include "pages/conforming/ids.h"
 
 namespace ov
 {
@@ -36,28 +35,9 @@ constexpr HelpRow extraHelp[] = {
     {IDC_CONFORMING_IGNORED_LEVELS_BROWSE, IDS_HELP_CONFORMING_IGNORED_LEVELS_BROWSE},
 };
 
-// The two numbers keep their width: they are short, and the arrows stay with
-// their field.
+// A short number, like the one above it.
 constexpr LayoutRow layout[] = {
-    {IDC_CONFORMING_CHECK_CELLS, kFixed},
-    {IDC_CONFORMING_CHECK_TEXT, kFixed},
-    {IDC_CONFORMING_CHECK_TAGS, kFixed},
-    {IDC_CONFORMING_RGB_COLOUR_MATCH, kFixed},
-    {IDC_CONFORMING_COMPLEX_COMPONENTS, kFixed},
-    {IDC_CONFORMING_3D_OBJECTS, kFixed},
-    {IDC_CONFORMING_MULTILINE_DIMS, kFixed},
-    {IDC_CONFORMING_PATTERNS, kFixed},
-    {IDC_CONFORMING_HIDDEN_CELLS, kFixed},
-    {IDC_CONFORMING_NEGATIVE_TEXT_SIZE, kFixed},
-    {IDC_CONFORMING_CONTINUOUS_IS_ZERO, kFixed},
-    {IDC_CONFORMING_MAX_ERROR_LABEL, kFixed},
-    {IDC_CONFORMING_MAX_ERROR, kFixed},
-    {IDC_CONFORMING_MAX_ERROR_SPIN, kFixed},
-    {IDC_CONFORMING_MIN_ERROR_LABEL, kFixed},
     {IDC_CONFORMING_MIN_ERROR, kFixed},
-    {IDC_CONFORMING_IGNORED_LEVELS_LABEL, kFixed},
-    {IDC_CONFORMING_IGNORED_LEVELS, kStretched},
-    {IDC_CONFORMING_IGNORED_LEVELS_BROWSE, kTopRight},
 };
 
 // A refusal takes the keyboard focus away altogether: this page has always
@@ -71,7 +51,13 @@ constexpr SpinRow spins[] = {
 };
 
 constexpr PageRows rows = {
-    .pageId = 6,
+    .info = {.pageId = 6,
+             .titleId = IDS_TITLE_CONFORMING,
+             .templateId = IDD_PAGE_CONFORMING,
+             .scrollWidth = 440,
+             .scrollHeight = 370,
+             .constructionRank = 50,
+             .listRank = 50},
     .settings = settings,
     .extraHelp = extraHelp,
     .layout = layout,

@@ -5,8 +5,7 @@
 #include <algorithm>
 #include <initializer_list>
 
-// Both are read here, so that what the templates include is not read within them.
-#include "resources/page_ids.h"
+// Read here, so that what the templates include is not read within them.
 #include <winresrc.h>
 
 namespace ov
@@ -53,7 +52,7 @@ PageTemplate ReadTemplate(int, int, unsigned id, int, int, int, int, int, int, i
 std::vector<PageTemplate> ReadTemplates()
 {
     return {
-#include "pages/core/page_templates.inc"
+#include "pages/page_templates.inc"
     };
 }
 

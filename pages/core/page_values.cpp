@@ -72,7 +72,7 @@ int PageValues::ChoicesOf(ControlKind control, int controlId) const
     }
     if (control != ControlKind::RadioGroup)
         return kAnyNumber;
-    const PageInfo* page = FindPage(m_rows.pageId);
+    const PageInfo* page = FindPage(m_rows.info.pageId);
     const PageTemplate* layout = page != nullptr ? FindTemplate(page->templateId) : nullptr;
     return layout != nullptr ? static_cast<int>(ButtonsOfGroup(*layout, controlId).size()) : kAnyNumber;
 }

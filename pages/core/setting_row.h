@@ -1,6 +1,8 @@
 #pragma once
 
 #include "config/core/setting_store.h"
+#include "controls/core/layout.h"
+#include "pages/core/page_info.h"
 
 #include <array>
 #include <cstddef>
@@ -164,11 +166,16 @@ struct NameRow {
     unsigned stringId;
 };
 
-/// How a control follows its page's size; flags as in controls/core/layout.h.
+/// A control that follows its page's size otherwise than pages/core/page_layout.h
+/// says; flags as in controls/core/layout.h.
 struct LayoutRow {
     int controlId;
     std::uint32_t layoutFlags;
 };
+
+inline constexpr std::uint32_t kFixed = LayoutKeepLeft | LayoutKeepTop;
+inline constexpr std::uint32_t kTopRight = LayoutKeepTop | LayoutAnchorRight;
+inline constexpr std::uint32_t kStretched = LayoutKeepTop | LayoutStretchWidth;
 
 /// The entries of a drop-down list, in order, as string ids. Where the template
 /// gives the list the style of sorting, they stand in the sorted order.
@@ -305,10 +312,10 @@ struct RangeRow {
 /// A page as data. The hooks are for what rows cannot say; they see values and
 /// no window, and stand beside the rows.
 struct PageRows {
-    int pageId;
+    PageInfo info;
     std::span<const SettingRow> settings; ///< in the order of loading and saving
-    std::span<const HelpRow> extraHelp;
-    std::span<const LayoutRow> layout;
+    std::span<const HelpRow> extraHelp = {};
+    std::span<const LayoutRow> layout = {};
     std::span<const CompanionRow> companions = {};
     std::span<const EntriesRow> entries = {};
     std::span<const DependencyRow> dependencies = {};

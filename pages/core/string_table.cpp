@@ -1,6 +1,6 @@
 #include "pages/core/string_table.h"
 
-#include "resources/page_ids.h"
+#include "resources/ids.h"
 
 namespace ov
 {

@@ -1,7 +1,6 @@
-#include "pages/custom_reports/rows.h"
+#include "pages/core/page_rows.h"
 
-#include "pages/core/layout_flags.h"
-#include "resources/page_ids.h"
+#include "pages/custom_reports/ids.h"
 
 namespace ov
 {
@@ -22,14 +21,7 @@ constexpr HelpRow extraHelp[] = {
 };
 
 constexpr LayoutRow layout[] = {
-    {IDC_CUSTOM_REPORTS_COMMANDS_LABEL, kFixed},
-    {IDC_CUSTOM_REPORTS_COMMANDS, kStretched},
-    {IDC_CUSTOM_REPORTS_COMMANDS_BROWSE, kTopRight},
-    // Its caption wraps where the page is narrow.
     {IDC_CUSTOM_REPORTS_LOCKED, kStretched},
-    {IDC_CUSTOM_REPORTS_VBA_LABEL, kFixed},
-    {IDC_CUSTOM_REPORTS_VBA, kStretched},
-    {IDC_CUSTOM_REPORTS_VBA_BROWSE, kTopRight},
 };
 
 constexpr BrowseRow browses[] = {
@@ -39,7 +31,13 @@ constexpr BrowseRow browses[] = {
 };
 
 constexpr PageRows rows = {
-    .pageId = 7,
+    .info = {.pageId = 7,
+             .titleId = IDS_TITLE_CUSTOM_REPORTS,
+             .templateId = IDD_PAGE_CUSTOM_REPORTS,
+             .scrollWidth = 290,
+             .scrollHeight = 170,
+             .constructionRank = 60,
+             .listRank = 60},
     .settings = settings,
     .extraHelp = extraHelp,
     .layout = layout,

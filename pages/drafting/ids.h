@@ -1,6 +1,9 @@
 /// Numbers of the Drafting page.
-#ifndef OV_RESOURCES_IDS_DRAFTING_H
-#define OV_RESOURCES_IDS_DRAFTING_H
+#ifndef OV_PAGES_DRAFTING_IDS_H
+#define OV_PAGES_DRAFTING_IDS_H
+
+#define IDD_PAGE_DRAFTING 102
+#define IDS_TITLE_DRAFTING 5002
 
 // Controls
 #define IDC_DRAFTING_BY_RANGES 2100

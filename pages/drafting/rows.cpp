@@ -1,7 +1,6 @@
-#include "pages/drafting/rows.h"
+#include "pages/core/page_rows.h"
 
-#include "pages/core/layout_flags.h"
-#include "resources/page_ids.h"
+#include "pages/drafting/ids.h"
 
 namespace ov
 {
@@ -22,9 +21,14 @@ constexpr LayoutRow layout[] = {
 };
 
 constexpr PageRows rows = {
-    .pageId = 8,
+    .info = {.pageId = 8,
+             .titleId = IDS_TITLE_DRAFTING,
+             .templateId = IDD_PAGE_DRAFTING,
+             .scrollWidth = 290,
+             .scrollHeight = 70,
+             .constructionRank = 70,
+             .listRank = 70},
     .settings = settings,
-    .extraHelp = {},
     .layout = layout,
 };
 } // namespace

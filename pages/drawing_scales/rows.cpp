@@ -1,9 +1,8 @@
-#include "pages/drawing_scales/rows.h"
+#include "pages/core/page_rows.h"
 
 #include "pages/core/encoding.h"
-#include "pages/core/layout_flags.h"
 #include "pages/core/page_values.h"
-#include "resources/page_ids.h"
+#include "pages/drawing_scales/ids.h"
 
 namespace ov
 {
@@ -34,19 +33,9 @@ constexpr HelpRow extraHelp[] = {
 };
 
 constexpr LayoutRow layout[] = {
-    {IDC_DRAWING_SCALES_PROMPT, kFixed},
-    {IDC_DRAWING_SCALES_ALLOW_NONE, kFixed},
     {IDC_DRAWING_SCALES_IGNORE_ANNOTATION_LOCK, kStretched},
     {IDC_DRAWING_SCALES_USE_BUILT_IN, kStretched},
-    {IDC_DRAWING_SCALES_ALLOW_OTHERS, kFixed},
-    {IDC_DRAWING_SCALES_VALUES_LABEL, kFixed},
-    {IDC_DRAWING_SCALES_VALUES, kStretched},
-    {IDC_DRAWING_SCALES_VALUES_BROWSE, kTopRight},
-    {IDC_DRAWING_SCALES_DEFAULT_LABEL, kFixed},
     {IDC_DRAWING_SCALES_DEFAULT, kFixed},
-    {IDC_DRAWING_SCALES_COMMAND_LABEL, kFixed},
-    {IDC_DRAWING_SCALES_COMMAND, kStretched},
-    {IDC_DRAWING_SCALES_COMMAND_BROWSE, kTopRight},
 };
 
 constexpr CompanionRow companions[] = {
@@ -93,7 +82,13 @@ void TakeScaleSource(PageValues& values)
 }
 
 constexpr PageRows rows = {
-    .pageId = 9,
+    .info = {.pageId = 9,
+             .titleId = IDS_TITLE_DRAWING_SCALES,
+             .templateId = IDD_PAGE_DRAWING_SCALES,
+             .scrollWidth = 290,
+             .scrollHeight = 320,
+             .constructionRank = 80,
+             .listRank = 80},
     .settings = settings,
     .extraHelp = extraHelp,
     .layout = layout,

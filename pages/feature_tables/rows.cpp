@@ -1,7 +1,6 @@
-#include "pages/feature_tables/rows.h"
+#include "pages/core/page_rows.h"
 
-#include "pages/core/layout_flags.h"
-#include "resources/page_ids.h"
+#include "pages/feature_tables/ids.h"
 
 namespace ov
 {
@@ -37,24 +36,7 @@ constexpr HelpRow extraHelp[] = {
 };
 
 constexpr LayoutRow layout[] = {
-    {IDC_FEATURE_TABLES_DICT_VERSIONING, kFixed},
     {IDC_FEATURE_TABLES_TRICAD, kStretched},
-    {IDC_FEATURE_TABLES_SHAPES_AS_LINEAR, kFixed},
-    {IDC_FEATURE_TABLES_SHOW_HIDDEN, kFixed},
-    {IDC_FEATURE_TABLES_SHOW_SUGGESTED, kFixed},
-    {IDC_FEATURE_TABLES_ATTACHED_TAGS, kFixed},
-    {IDC_FEATURE_TABLES_ORDER_BY_DESCRIPTION, kFixed},
-    {IDC_FEATURE_TABLES_ALLOWED_LABEL, kFixed},
-    {IDC_FEATURE_TABLES_ALLOWED, kStretched},
-    {IDC_FEATURE_TABLES_ALLOWED_BROWSE, kTopRight},
-    {IDC_FEATURE_TABLES_DISALLOWED_LABEL, kFixed},
-    {IDC_FEATURE_TABLES_DISALLOWED, kStretched},
-    {IDC_FEATURE_TABLES_DISALLOWED_BROWSE, kTopRight},
-    {IDC_FEATURE_TABLES_BACKUP_MAX_LABEL, kFixed},
-    {IDC_FEATURE_TABLES_BACKUP_MAX, kFixed},
-    {IDC_FEATURE_TABLES_BACKUP_MAX_SPIN, kFixed},
-    {IDC_FEATURE_TABLES_SQL_LONG_STRING_LABEL, kFixed},
-    {IDC_FEATURE_TABLES_SQL_LONG_STRING, kStretched},
 };
 
 // Names of tables stand between commas, unlike the lists of the other pages.
@@ -68,7 +50,13 @@ constexpr SpinRow spins[] = {
 };
 
 constexpr PageRows rows = {
-    .pageId = 10,
+    .info = {.pageId = 10,
+             .titleId = IDS_TITLE_FEATURE_TABLES,
+             .templateId = IDD_PAGE_FEATURE_TABLES,
+             .scrollWidth = 290,
+             .scrollHeight = 420,
+             .constructionRank = 90,
+             .listRank = 90},
     .settings = settings,
     .extraHelp = extraHelp,
     .layout = layout,

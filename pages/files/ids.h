@@ -1,6 +1,9 @@
 /// Numbers of the File Paths page.
-#ifndef OV_RESOURCES_IDS_FILES_H
-#define OV_RESOURCES_IDS_FILES_H
+#ifndef OV_PAGES_FILES_IDS_H
+#define OV_PAGES_FILES_IDS_H
+
+#define IDD_PAGE_FILES 105
+#define IDS_TITLE_FILES 10016
 
 // Controls
 #define IDC_FILES_DICTIONARY_LABEL 2400

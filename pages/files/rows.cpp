@@ -1,8 +1,7 @@
-#include "pages/files/rows.h"
+#include "pages/core/page_rows.h"
 
-#include "pages/core/layout_flags.h"
 #include "pages/core/page_values.h"
-#include "resources/page_ids.h"
+#include "pages/files/ids.h"
 
 namespace ov
 {
@@ -44,27 +43,6 @@ constexpr HelpRow extraHelp[] = {
     {IDC_FILES_HTML_EXE_BROWSE, IDS_HELP_FILES_HTML_EXE_BROWSE},
 };
 
-constexpr LayoutRow layout[] = {
-    {IDC_FILES_DICTIONARY_LABEL, kFixed},      {IDC_FILES_DICTIONARY, kStretched},
-    {IDC_FILES_DICTIONARY_BROWSE, kTopRight},  {IDC_FILES_DOCUMENTS_LABEL, kFixed},
-    {IDC_FILES_DOCUMENTS, kStretched},         {IDC_FILES_DOCUMENTS_BROWSE, kTopRight},
-    {IDC_FILES_FEATURE_DSN_LABEL, kFixed},     {IDC_FILES_FEATURE_DSN, kStretched},
-    {IDC_FILES_FEATURE_DSN_BROWSE, kTopRight}, {IDC_FILES_REPORT_DSN_LABEL, kFixed},
-    {IDC_FILES_REPORT_DSN, kStretched},        {IDC_FILES_REPORT_DSN_BROWSE, kTopRight},
-    {IDC_FILES_JET_DSN_LABEL, kFixed},         {IDC_FILES_JET_DSN, kStretched},
-    {IDC_FILES_JET_DSN_BROWSE, kTopRight},     {IDC_FILES_ACE_DSN_LABEL, kFixed},
-    {IDC_FILES_ACE_DSN, kStretched},           {IDC_FILES_ACE_DSN_BROWSE, kTopRight},
-    {IDC_FILES_README_LABEL, kFixed},          {IDC_FILES_README, kStretched},
-    {IDC_FILES_README_BROWSE, kTopRight},      {IDC_FILES_SCRIPTS_LABEL, kFixed},
-    {IDC_FILES_SCRIPTS, kStretched},           {IDC_FILES_SCRIPTS_BROWSE, kTopRight},
-    {IDC_FILES_USERS_LABEL, kFixed},           {IDC_FILES_USERS, kStretched},
-    {IDC_FILES_USERS_BROWSE, kTopRight},       {IDC_FILES_DISCIPLINES_LABEL, kFixed},
-    {IDC_FILES_DISCIPLINES, kStretched},       {IDC_FILES_DISCIPLINES_BROWSE, kTopRight},
-    {IDC_FILES_HTML_OUT_LABEL, kFixed},        {IDC_FILES_HTML_OUT, kStretched},
-    {IDC_FILES_HTML_OUT_BROWSE, kTopRight},    {IDC_FILES_HTML_EXE_LABEL, kFixed},
-    {IDC_FILES_HTML_EXE, kStretched},          {IDC_FILES_HTML_EXE_BROWSE, kTopRight},
-};
-
 // The two Excel fields take a file, and yet the folder browser fills them.
 constexpr BrowseRow browses[] = {
     BrowseFolder(IDC_FILES_DICTIONARY_BROWSE, u"_ORTHOVAL_DICT_DIR"),
@@ -93,10 +71,15 @@ void TakeOlderDataSource(PageValues& values, const SettingStore& store, int tabl
 constexpr const char16_t* olderVariables[] = {olderDataSource};
 
 constexpr PageRows rows = {
-    .pageId = 11,
+    .info = {.pageId = 11,
+             .titleId = IDS_TITLE_FILES,
+             .templateId = IDD_PAGE_FILES,
+             .scrollWidth = 290,
+             .scrollHeight = 450,
+             .constructionRank = 100,
+             .listRank = 110},
     .settings = settings,
     .extraHelp = extraHelp,
-    .layout = layout,
     .browses = browses,
     .olderVariables = olderVariables,
     .afterLoad = TakeOlderDataSource,

@@ -1,7 +1,6 @@
-#include "pages/languages/rows.h"
+#include "pages/core/page_rows.h"
 
-#include "pages/core/layout_flags.h"
-#include "resources/page_ids.h"
+#include "pages/languages/ids.h"
 
 namespace ov
 {
@@ -28,25 +27,7 @@ constexpr HelpRow extraHelp[] = {
 };
 
 constexpr LayoutRow layout[] = {
-    {IDC_LANGUAGES_MENU_NAME_LABEL, kFixed},
-    {IDC_LANGUAGES_MENU_NAME, kStretched},
     {IDC_LANGUAGES_BILINGUAL_FRAME, kStretched},
-    {IDC_LANGUAGES_LANGUAGE_1_LABEL, kFixed},
-    {IDC_LANGUAGES_LANGUAGE_1, kStretched},
-    {IDC_LANGUAGES_LANGUAGE_2_LABEL, kFixed},
-    {IDC_LANGUAGES_LANGUAGE_2, kStretched},
-    {IDC_LANGUAGES_KEYIN_1_LABEL, kFixed},
-    {IDC_LANGUAGES_KEYIN_1, kStretched},
-    {IDC_LANGUAGES_KEYIN_1_BROWSE, kTopRight},
-    {IDC_LANGUAGES_KEYIN_2_LABEL, kFixed},
-    {IDC_LANGUAGES_KEYIN_2, kStretched},
-    {IDC_LANGUAGES_KEYIN_2_BROWSE, kTopRight},
-    {IDC_LANGUAGES_INITIAL_KEYIN_LABEL, kFixed},
-    {IDC_LANGUAGES_INITIAL_KEYIN, kStretched},
-    {IDC_LANGUAGES_INITIAL_KEYIN_BROWSE, kTopRight},
-    {IDC_LANGUAGES_TEMPLATE_FILE_LABEL, kFixed},
-    {IDC_LANGUAGES_TEMPLATE_FILE, kStretched},
-    {IDC_LANGUAGES_TEMPLATE_FILE_BROWSE, kTopRight},
 };
 
 constexpr BrowseRow browses[] = {
@@ -60,7 +41,13 @@ constexpr BrowseRow browses[] = {
 };
 
 constexpr PageRows rows = {
-    .pageId = 12,
+    .info = {.pageId = 12,
+             .titleId = IDS_TITLE_LANGUAGES,
+             .templateId = IDD_PAGE_LANGUAGES,
+             .scrollWidth = 290,
+             .scrollHeight = 290,
+             .constructionRank = 110,
+             .listRank = 120},
     .settings = settings,
     .extraHelp = extraHelp,
     .layout = layout,

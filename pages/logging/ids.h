@@ -1,6 +1,9 @@
 /// Numbers of the Logging page.
-#ifndef OV_RESOURCES_IDS_LOGGING_H
-#define OV_RESOURCES_IDS_LOGGING_H
+#ifndef OV_PAGES_LOGGING_IDS_H
+#define OV_PAGES_LOGGING_IDS_H
+
+#define IDD_PAGE_LOGGING 9358
+#define IDS_TITLE_LOGGING 9347
 
 // Controls
 #define IDC_LOGGING_TRACKING 3100

@@ -1,7 +1,6 @@
-#include "pages/logging/rows.h"
+#include "pages/core/page_rows.h"
 
-#include "pages/core/layout_flags.h"
-#include "resources/page_ids.h"
+#include "pages/logging/ids.h"
 
 namespace ov
 {
@@ -17,10 +16,7 @@ constexpr SettingRow settings[] = {
 };
 
 constexpr LayoutRow layout[] = {
-    {IDC_LOGGING_TRACKING, kFixed},        {IDC_LOGGING_MAX_SIZE_LABEL, kFixed},
-    {IDC_LOGGING_MAX_SIZE, kFixed},        {IDC_LOGGING_MAX_SIZE_SPIN, kFixed},
-    {IDC_LOGGING_DEBUG_FRAME, kStretched}, {IDC_LOGGING_DEBUG_LEVEL_LABEL, kFixed},
-    {IDC_LOGGING_DEBUG_LEVEL, kFixed},
+    {IDC_LOGGING_DEBUG_FRAME, kStretched},
 };
 
 constexpr unsigned debugLevels[] = {IDS_LOGGING_DEBUG_LEVEL_0, IDS_LOGGING_DEBUG_LEVEL_1,
@@ -35,9 +31,14 @@ constexpr SpinRow spins[] = {
 };
 
 constexpr PageRows rows = {
-    .pageId = 14,
+    .info = {.pageId = 14,
+             .titleId = IDS_TITLE_LOGGING,
+             .templateId = IDD_PAGE_LOGGING,
+             .scrollWidth = 400,
+             .scrollHeight = 190,
+             .constructionRank = 120,
+             .listRank = 130},
     .settings = settings,
-    .extraHelp = {},
     .layout = layout,
     .entries = entries,
     .spins = spins,

@@ -1,6 +1,9 @@
 /// Numbers of the Miscellaneous page.
-#ifndef OV_RESOURCES_IDS_MISC_H
-#define OV_RESOURCES_IDS_MISC_H
+#ifndef OV_PAGES_MISC_IDS_H
+#define OV_PAGES_MISC_IDS_H
+
+#define IDD_PAGE_MISC 9368
+#define IDS_TITLE_MISC 8910
 
 // Controls
 #define IDC_MISC_STRING_MATCHING_FRAME 11047

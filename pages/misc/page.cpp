@@ -1,8 +1,8 @@
 #include "pages/misc/page.h"
 
 #include "match/regex_tester.h"
-#include "pages/misc/rows.h"
-#include "resources/page_ids.h"
+#include "pages/core/page_rows.h"
+#include "pages/misc/ids.h"
 #include "wizard/preferences_wizard.h"
 
 IMPLEMENT_DYNAMIC(CPageMisc, CSettingsPage)
@@ -11,10 +11,7 @@ BEGIN_MESSAGE_MAP(CPageMisc, CSettingsPage)
     ON_BN_CLICKED(IDC_MISC_WILDCARD_TEST, &CPageMisc::OnTest)
 END_MESSAGE_MAP()
 
-CPageMisc::CPageMisc(CPreferencesWizard* owner, const ov::PageInfo& info)
-    : CSettingsPage(owner, info, ov::MiscRows())
-{
-}
+CPageMisc::CPageMisc(CPreferencesWizard* owner) : CSettingsPage(owner, ov::MiscRows()) {}
 
 void CPageMisc::OnTest()
 {

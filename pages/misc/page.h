@@ -9,7 +9,7 @@ class CPageMisc : public CSettingsPage
     DECLARE_DYNAMIC(CPageMisc)
 
   public:
-    CPageMisc(CPreferencesWizard* owner, const ov::PageInfo& info);
+    explicit CPageMisc(CPreferencesWizard* owner);
 
   protected:
     void OnTest();

@@ -1,7 +1,6 @@
-#include "pages/misc/rows.h"
+#include "pages/core/page_rows.h"
 
-#include "pages/core/layout_flags.h"
-#include "resources/page_ids.h"
+#include "pages/misc/ids.h"
 
 namespace ov
 {
@@ -30,26 +29,20 @@ constexpr HelpRow extraHelp[] = {
 };
 
 constexpr LayoutRow layout[] = {
-    {IDC_MISC_STRING_MATCHING_FRAME, kStretched},
-    {IDC_MISC_WILDCARD_LABEL, kFixed},
-    {IDC_MISC_WILDCARD_NONE, kFixed},
-    {IDC_MISC_WILDCARD_DOS, kFixed},
-    {IDC_MISC_WILDCARD_RANGES, kStretched},
-    {IDC_MISC_WILDCARD_SUBSETS, kStretched},
-    {IDC_MISC_WILDCARD_PERL, kStretched},
-    {IDC_MISC_WILDCARD_POSIX, kStretched},
-    {IDC_MISC_WILDCARD_TEST, kFixed},
-    {IDC_MISC_WINDOW_HANDLING_FRAME, kStretched},
-    {IDC_MISC_REORDER_WINDOWS, kFixed},
+    {IDC_MISC_STRING_MATCHING_FRAME, kStretched}, {IDC_MISC_WILDCARD_RANGES, kStretched},
+    {IDC_MISC_WILDCARD_SUBSETS, kStretched},      {IDC_MISC_WILDCARD_PERL, kStretched},
+    {IDC_MISC_WILDCARD_POSIX, kStretched},        {IDC_MISC_WINDOW_HANDLING_FRAME, kStretched},
     {IDC_MISC_AUTO_LOGIN_FRAME, kStretched},
-    {IDC_MISC_AUTO_LOGIN_USER_DEFINED, kFixed},
-    {IDC_MISC_AUTO_LOGIN_DEFAULT_LABEL, kFixed},
-    {IDC_MISC_AUTO_LOGIN_OFF, kFixed},
-    {IDC_MISC_AUTO_LOGIN_ON, kFixed},
 };
 
 constexpr PageRows rows = {
-    .pageId = 16,
+    .info = {.pageId = 16,
+             .titleId = IDS_TITLE_MISC,
+             .templateId = IDD_PAGE_MISC,
+             .scrollWidth = 290,
+             .scrollHeight = 390,
+             .constructionRank = 140,
+             .listRank = 150},
     .settings = settings,
     .extraHelp = extraHelp,
     .layout = layout,

@@ -1,7 +1,7 @@
 #include "pages/reference_files/page.h"
 
-#include "pages/reference_files/rows.h"
-#include "resources/page_ids.h"
+#include "pages/core/page_rows.h"
+#include "pages/reference_files/ids.h"
 
 IMPLEMENT_DYNAMIC(CPageReferenceFiles, CSettingsPage)
 
@@ -15,8 +15,8 @@ BEGIN_MESSAGE_MAP(CPageReferenceFiles, CSettingsPage)
     ON_BN_CLICKED(IDC_REFERENCE_FILES_PLOT_SHAPE_BROWSE, &CPageReferenceFiles::OnBrowsePlotShape)
 END_MESSAGE_MAP()
 
-CPageReferenceFiles::CPageReferenceFiles(CPreferencesWizard* owner, const ov::PageInfo& info)
-    : CSettingsPage(owner, info, ov::ReferenceFilesRows())
+CPageReferenceFiles::CPageReferenceFiles(CPreferencesWizard* owner)
+    : CSettingsPage(owner, ov::ReferenceFilesRows())
 {
 }
 

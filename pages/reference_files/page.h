@@ -9,7 +9,7 @@ class CPageReferenceFiles : public CSettingsPage
     DECLARE_MESSAGE_MAP()
 
   public:
-    CPageReferenceFiles(CPreferencesWizard* owner, const ov::PageInfo& info);
+    explicit CPageReferenceFiles(CPreferencesWizard* owner);
 
   private:
     /// Reads the controls, holds the scale factor within its limits and marks

@@ -1,9 +1,9 @@
-#include "pages/reference_files/rows.h"
+#include "pages/core/page_rows.h"
 
 #include "pages/core/encoding.h"
-#include "pages/core/layout_flags.h"
 #include "pages/core/page_values.h"
-#include "resources/page_ids.h"
+#include "pages/reference_files/ids.h"
+#include "resources/ids.h"
 
 namespace ov
 {
@@ -50,30 +50,7 @@ constexpr HelpRow extraHelp[] = {
 
 constexpr LayoutRow layout[] = {
     {IDC_REFERENCE_FILES_PROMPT_GROUP, kStretched},
-    {IDC_REFERENCE_FILES_PROMPT_ATTACHED, kFixed},
-    {IDC_REFERENCE_FILES_PROMPT_DETACHED, kFixed},
-    {IDC_REFERENCE_FILES_PROMPT_MODIFIED, kFixed},
-    {IDC_REFERENCE_FILES_SCALE_INDEPENDENT, kFixed},
-    {IDC_REFERENCE_FILES_UNSCALE_DIMENSIONS, kFixed},
-    {IDC_REFERENCE_FILES_CLIPPING_LABEL, kFixed},
-    {IDC_REFERENCE_FILES_CLIPPING, kFixed},
-    {IDC_REFERENCE_FILES_BORDER_SHEETS_LABEL, kFixed},
-    {IDC_REFERENCE_FILES_BORDER_SHEETS, kStretched},
-    {IDC_REFERENCE_FILES_BORDER_SHEETS_BROWSE, kTopRight},
-    {IDC_REFERENCE_FILES_PLACE_COMMAND_LABEL, kFixed},
-    {IDC_REFERENCE_FILES_PLACE_COMMAND, kStretched},
-    {IDC_REFERENCE_FILES_PLACE_COMMAND_BROWSE, kTopRight},
-    {IDC_REFERENCE_FILES_MUST_BE_ATTACHED, kFixed},
-    {IDC_REFERENCE_FILES_DEFAULT_MODEL, kFixed},
-    {IDC_REFERENCE_FILES_PLOT_SHAPE_LABEL, kFixed},
-    {IDC_REFERENCE_FILES_PLOT_SHAPE, kStretched},
-    {IDC_REFERENCE_FILES_PLOT_SHAPE_BROWSE, kTopRight},
-    {IDC_REFERENCE_FILES_PLOT_SHAPE_EXISTS, kFixed},
-    {IDC_REFERENCE_FILES_DISALLOW_OUTSIDE, kFixed},
-    {IDC_REFERENCE_FILES_IGNORE_OUTSIDE, kFixed},
-    {IDC_REFERENCE_FILES_SCALE_FACTOR_LABEL, kFixed},
     {IDC_REFERENCE_FILES_SCALE_FACTOR, kFixed},
-    {IDC_REFERENCE_FILES_SCALE_FACTOR_RANGE, kFixed},
 };
 
 constexpr unsigned clippingEntries[] = {IDS_ALWAYS, IDS_NEVER, IDS_USER_DEFINED};
@@ -122,7 +99,13 @@ bool ClampScaleFactor(PageValues& values)
 }
 
 constexpr PageRows rows = {
-    .pageId = 18,
+    .info = {.pageId = 18,
+             .titleId = IDS_TITLE_REFERENCE_FILES,
+             .templateId = IDD_PAGE_REFERENCE_FILES,
+             .scrollWidth = 400,
+             .scrollHeight = 750,
+             .constructionRank = 160,
+             .listRank = 160},
     .settings = settings,
     .extraHelp = extraHelp,
     .layout = layout,

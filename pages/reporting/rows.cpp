@@ -1,9 +1,8 @@
-#include "pages/reporting/rows.h"
+#include "pages/core/page_rows.h"
 
 #include "pages/core/encoding.h"
-#include "pages/core/layout_flags.h"
 #include "pages/core/page_values.h"
-#include "resources/page_ids.h"
+#include "pages/reporting/ids.h"
 
 #include <iterator>
 
@@ -51,37 +50,12 @@ constexpr HelpRow extraHelp[] = {
     {IDC_REPORTING_FOLDER_USER_DEFINED, IDS_HELP_REPORTING_FOLDER},
 };
 
-// The two numbers keep their width, with their arrows. The one button whose
-// caption is long wraps where the page is narrow.
+// The caption of the one long button wraps where the page is narrow.
 constexpr LayoutRow layout[] = {
-    {IDC_REPORTING_MAX_ERRORS_LABEL, kFixed},
-    {IDC_REPORTING_MAX_ERRORS, kFixed},
-    {IDC_REPORTING_MAX_ERRORS_SPIN, kFixed},
-    {IDC_REPORTING_PROMPT_MAX_ERRORS, kFixed},
-    {IDC_REPORTING_ADD_REFERENCES, kFixed},
-    {IDC_REPORTING_NEST_LEVEL_LABEL, kFixed},
-    {IDC_REPORTING_NEST_LEVEL, kFixed},
-    {IDC_REPORTING_NEST_LEVEL_SPIN, kFixed},
-    {IDC_REPORTING_LEGACY_NESTING, kFixed},
-    {IDC_REPORTING_IGNORED_LABEL, kFixed},
-    {IDC_REPORTING_IGNORED, kStretched},
-    {IDC_REPORTING_IGNORED_BROWSE, kTopRight},
-    {IDC_REPORTING_MODELS_LABEL, kFixed},
     {IDC_REPORTING_MODELS, kStretched},
-    {IDC_REPORTING_MODELS_USER_DEFINABLE, kFixed},
     {IDC_REPORTING_NAME_FRAME, kStretched},
-    {IDC_REPORTING_NAME_NONE, kFixed},
-    {IDC_REPORTING_NAME_USER_FILE, kFixed},
-    {IDC_REPORTING_NAME_INITIALS_FILE, kFixed},
     {IDC_REPORTING_NAME_INITIALS_MODEL_FILE, kStretched},
-    {IDC_REPORTING_NAME_USER_DEFINED, kFixed},
-    {IDC_REPORTING_NAME, kStretched},
     {IDC_REPORTING_FOLDER_FRAME, kStretched},
-    {IDC_REPORTING_FOLDER_NONE, kFixed},
-    {IDC_REPORTING_FOLDER_STANDARD, kFixed},
-    {IDC_REPORTING_FOLDER_DISCIPLINE, kFixed},
-    {IDC_REPORTING_FOLDER_USER_DEFINED, kFixed},
-    {IDC_REPORTING_FOLDER, kStretched},
 };
 
 constexpr int promptTheUser = 5;
@@ -117,10 +91,11 @@ constexpr const char16_t* folderPresets[] = {
     u"$(ORTHOVAL_CURRENT_DISCIPLINE)",
 };
 
-// The last button of a group leaves the text to the user.
+// The last button of a group, after "None" and the presets, leaves the text to the
+// user.
 constexpr DependencyRow dependencies[] = {
-    EnabledWhen(IDC_REPORTING_NAME, {IDC_REPORTING_NAME_NONE, 4}),
-    EnabledWhen(IDC_REPORTING_FOLDER, {IDC_REPORTING_FOLDER_NONE, 3}),
+    EnabledWhen(IDC_REPORTING_NAME, {IDC_REPORTING_NAME_NONE, 1 + std::size(namePresets)}),
+    EnabledWhen(IDC_REPORTING_FOLDER, {IDC_REPORTING_FOLDER_NONE, 1 + std::size(folderPresets)}),
 };
 
 // A refusal takes the keyboard focus away altogether: this page has always
@@ -162,7 +137,13 @@ void PutModels(PageValues& values)
 }
 
 constexpr PageRows rows = {
-    .pageId = 19,
+    .info = {.pageId = 19,
+             .titleId = IDS_TITLE_REPORTING,
+             .templateId = IDD_PAGE_REPORTING,
+             .scrollWidth = 290,
+             .scrollHeight = 630,
+             .constructionRank = 170,
+             .listRank = 170},
     .settings = settings,
     .extraHelp = extraHelp,
     .layout = layout,

@@ -2,8 +2,10 @@
 
 #include <commctrl.h>
 
+#include "pages/core/page_rows.h"
+#include "pages/scan_period/ids.h"
 #include "pages/scan_period/rows.h"
-#include "resources/page_ids.h"
+#include "resources/ids.h"
 #include "wizard/preferences_wizard.h"
 
 namespace
@@ -23,10 +25,7 @@ ov::Text MessageOf(const ov::ImpossibleDate& error)
 
 IMPLEMENT_DYNAMIC(CPageScanPeriod, CSettingsPage)
 
-CPageScanPeriod::CPageScanPeriod(CPreferencesWizard* owner, const ov::PageInfo& info)
-    : CSettingsPage(owner, info, ov::ScanPeriodRows())
-{
-}
+CPageScanPeriod::CPageScanPeriod(CPreferencesWizard* owner) : CSettingsPage(owner, ov::ScanPeriodRows()) {}
 
 BOOL CPageScanPeriod::OnInitDialog()
 {

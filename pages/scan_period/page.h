@@ -8,7 +8,7 @@ class CPageScanPeriod : public CSettingsPage
     DECLARE_DYNAMIC(CPageScanPeriod)
 
   public:
-    CPageScanPeriod(CPreferencesWizard* owner, const ov::PageInfo& info);
+    explicit CPageScanPeriod(CPreferencesWizard* owner);
 
     BOOL OnInitDialog() override;
 

@@ -1,8 +1,7 @@
 #include "pages/scan_period/rows.h"
 
-#include "pages/core/layout_flags.h"
 #include "pages/core/page_values.h"
-#include "resources/page_ids.h"
+#include "pages/scan_period/ids.h"
 
 #include <algorithm>
 #include <chrono>
@@ -51,12 +50,9 @@ constexpr HelpRow extraHelp[] = {
 };
 
 constexpr LayoutRow layout[] = {
-    {IDC_SCAN_PERIOD_ALLOW_USER, kFixed}, {IDC_SCAN_PERIOD_FRAME, kStretched},
-    {IDC_SCAN_PERIOD_FIXED, kFixed},      {IDC_SCAN_PERIOD_SEGMENT_1, kFixed},
-    {IDC_SCAN_PERIOD_MODE_1, kStretched}, {IDC_SCAN_PERIOD_DATE_1, kTopRight},
-    {IDC_SCAN_PERIOD_SECOND, kFixed},     {IDC_SCAN_PERIOD_OPERATOR, kFixed},
-    {IDC_SCAN_PERIOD_SEGMENT_2, kFixed},  {IDC_SCAN_PERIOD_MODE_2, kStretched},
-    {IDC_SCAN_PERIOD_DATE_2, kTopRight},  {IDC_SCAN_PERIOD_OR_SELECTOR, kFixed},
+    {IDC_SCAN_PERIOD_FRAME, kStretched}, {IDC_SCAN_PERIOD_MODE_1, kStretched},
+    {IDC_SCAN_PERIOD_DATE_1, kTopRight}, {IDC_SCAN_PERIOD_MODE_2, kStretched},
+    {IDC_SCAN_PERIOD_DATE_2, kTopRight},
 };
 
 constexpr unsigned segments[] = {IDS_SCAN_PERIOD_BEFORE, IDS_SCAN_PERIOD_AFTER};
@@ -241,7 +237,13 @@ void AppendDigits(Text& text, int number, std::size_t width)
 constexpr const char16_t* olderVariables[] = {kOlderVariable};
 
 constexpr PageRows rows = {
-    .pageId = 20,
+    .info = {.pageId = 20,
+             .titleId = IDS_TITLE_SCAN_PERIOD,
+             .templateId = IDD_PAGE_SCAN_PERIOD,
+             .scrollWidth = 290,
+             .scrollHeight = 320,
+             .constructionRank = 180,
+             .listRank = 180},
     .settings = settings,
     .extraHelp = extraHelp,
     .layout = layout,

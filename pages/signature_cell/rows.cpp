@@ -1,7 +1,6 @@
-#include "pages/signature_cell/rows.h"
+#include "pages/core/page_rows.h"
 
-#include "pages/core/layout_flags.h"
-#include "resources/page_ids.h"
+#include "pages/signature_cell/ids.h"
 
 namespace ov
 {
@@ -27,14 +26,6 @@ constexpr HelpRow extraHelp[] = {
     {IDC_SIGNATURE_CELL_NAMES_BROWSE, IDS_HELP_SIGNATURE_CELL_NAMES_BROWSE},
 };
 
-constexpr LayoutRow layout[] = {
-    {IDC_SIGNATURE_CELL_CHECK, kFixed},           {IDC_SIGNATURE_CELL_DEFAULT_MODEL, kFixed},
-    {IDC_SIGNATURE_CELL_ALLOW_ONE, kFixed},       {IDC_SIGNATURE_CELL_LIBRARY_LABEL, kFixed},
-    {IDC_SIGNATURE_CELL_LIBRARY, kStretched},     {IDC_SIGNATURE_CELL_LIBRARY_BROWSE, kTopRight},
-    {IDC_SIGNATURE_CELL_NAMES_LABEL, kFixed},     {IDC_SIGNATURE_CELL_NAMES, kStretched},
-    {IDC_SIGNATURE_CELL_NAMES_BROWSE, kTopRight}, {IDC_SIGNATURE_CELL_COUNT_FIELDS, kFixed},
-};
-
 constexpr DependencyRow dependencies[] = {
     EnabledWhen(IDC_SIGNATURE_CELL_ALLOW_ONE, IsOn(IDC_SIGNATURE_CELL_CHECK)),
     EnabledWhen(IDC_SIGNATURE_CELL_DEFAULT_MODEL, IsOn(IDC_SIGNATURE_CELL_CHECK)),
@@ -53,10 +44,15 @@ constexpr BrowseRow browses[] = {
 };
 
 constexpr PageRows rows = {
-    .pageId = 21,
+    .info = {.pageId = 21,
+             .titleId = IDS_TITLE_SIGNATURE_CELL,
+             .templateId = IDD_PAGE_SIGNATURE_CELL,
+             .scrollWidth = 290,
+             .scrollHeight = 220,
+             .constructionRank = 190,
+             .listRank = 200},
     .settings = settings,
     .extraHelp = extraHelp,
-    .layout = layout,
     .dependencies = dependencies,
     .browses = browses,
     .loadMarksModified = true,

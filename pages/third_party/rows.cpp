@@ -1,7 +1,6 @@
-#include "pages/third_party/rows.h"
+#include "pages/core/page_rows.h"
 
-#include "pages/core/layout_flags.h"
-#include "resources/page_ids.h"
+#include "pages/third_party/ids.h"
 
 namespace ov
 {
@@ -15,18 +14,15 @@ constexpr SettingRow settings[] = {
     FlagRow(u"_ORTHOVAL_CHECK_TRIFORMA", IDC_THIRD_PARTY_TRIFORMA, IDS_HELP_THIRD_PARTY_TRIFORMA),
 };
 
-constexpr LayoutRow layout[] = {
-    {IDC_THIRD_PARTY_USER_ATTRIBUTES, kFixed},
-    {IDC_THIRD_PARTY_GEOPAK, kFixed},
-    {IDC_THIRD_PARTY_INROADS, kFixed},
-    {IDC_THIRD_PARTY_TRIFORMA, kFixed},
-};
-
 constexpr PageRows rows = {
-    .pageId = 23,
+    .info = {.pageId = 23,
+             .titleId = IDS_TITLE_THIRD_PARTY,
+             .templateId = IDD_PAGE_THIRD_PARTY,
+             .scrollWidth = 290,
+             .scrollHeight = 70,
+             .constructionRank = 210,
+             .listRank = 220},
     .settings = settings,
-    .extraHelp = {},
-    .layout = layout,
 };
 } // namespace
 

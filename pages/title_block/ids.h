@@ -1,6 +1,9 @@
 /// Numbers of the Title Blocks page.
-#ifndef OV_RESOURCES_IDS_TITLE_BLOCK_H
-#define OV_RESOURCES_IDS_TITLE_BLOCK_H
+#ifndef OV_PAGES_TITLE_BLOCK_IDS_H
+#define OV_PAGES_TITLE_BLOCK_IDS_H
+
+#define IDD_PAGE_TITLE_BLOCK 9362
+#define IDS_TITLE_TITLE_BLOCK 2047
 
 // Controls
 #define IDC_TITLE_BLOCK_CHECK 9490

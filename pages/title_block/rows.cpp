@@ -1,8 +1,7 @@
-#include "pages/title_block/rows.h"
+#include "pages/core/page_rows.h"
 
-#include "pages/core/layout_flags.h"
 #include "pages/core/page_values.h"
-#include "resources/page_ids.h"
+#include "pages/title_block/ids.h"
 
 namespace ov
 {
@@ -51,28 +50,7 @@ constexpr HelpRow extraHelp[] = {
 };
 
 constexpr LayoutRow layout[] = {
-    {IDC_TITLE_BLOCK_CHECK, kFixed},
-    {IDC_TITLE_BLOCK_DEFAULT_MODEL, kFixed},
-    {IDC_TITLE_BLOCK_ALLOW_ONE, kFixed},
-    {IDC_TITLE_BLOCK_LIBRARY_LABEL, kFixed},
-    {IDC_TITLE_BLOCK_LIBRARY, kStretched},
-    {IDC_TITLE_BLOCK_LIBRARY_BROWSE, kTopRight},
-    {IDC_TITLE_BLOCK_NAMES_LABEL, kFixed},
-    {IDC_TITLE_BLOCK_NAMES, kStretched},
-    {IDC_TITLE_BLOCK_NAMES_BROWSE, kTopRight},
     {IDC_TITLE_BLOCK_TAGS_GROUP, kStretched},
-    {IDC_TITLE_BLOCK_USE_TAG_SETS, kFixed},
-    {IDC_TITLE_BLOCK_TAG_SETS, kStretched},
-    {IDC_TITLE_BLOCK_TAG_SETS_BROWSE, kTopRight},
-    {IDC_TITLE_BLOCK_USE_TAGS, kFixed},
-    {IDC_TITLE_BLOCK_TAGS, kStretched},
-    {IDC_TITLE_BLOCK_TAGS_BROWSE, kTopRight},
-    {IDC_TITLE_BLOCK_USE_TAG_VALUES, kFixed},
-    {IDC_TITLE_BLOCK_TAG_VALUES, kFixed},
-    {IDC_TITLE_BLOCK_USE_SPELL_CHECK, kFixed},
-    {IDC_TITLE_BLOCK_SPELL_CHECK, kStretched},
-    {IDC_TITLE_BLOCK_SPELL_CHECK_BROWSE, kTopRight},
-    {IDC_TITLE_BLOCK_COUNT_FIELDS, kFixed},
 };
 
 // The boxes of the tags, each with the text that it opens for editing.
@@ -139,7 +117,13 @@ bool ClearBoxesWithoutTagSets(PageValues& values)
 }
 
 constexpr PageRows rows = {
-    .pageId = 22,
+    .info = {.pageId = 22,
+             .titleId = IDS_TITLE_TITLE_BLOCK,
+             .templateId = IDD_PAGE_TITLE_BLOCK,
+             .scrollWidth = 290,
+             .scrollHeight = 480,
+             .constructionRank = 200,
+             .listRank = 210},
     .settings = settings,
     .extraHelp = extraHelp,
     .layout = layout,

@@ -1,6 +1,9 @@
 /// Numbers of the URLs page.
-#ifndef OV_RESOURCES_IDS_URLS_H
-#define OV_RESOURCES_IDS_URLS_H
+#ifndef OV_PAGES_URLS_IDS_H
+#define OV_PAGES_URLS_IDS_H
+
+#define IDD_PAGE_URLS 9354
+#define IDS_TITLE_URLS 2007
 
 // Controls
 #define IDC_URLS_TECH_SUPPORT_LABEL 2416

@@ -1,7 +1,6 @@
-#include "pages/urls/rows.h"
+#include "pages/core/page_rows.h"
 
-#include "pages/core/layout_flags.h"
-#include "resources/page_ids.h"
+#include "pages/urls/ids.h"
 
 namespace ov
 {
@@ -12,22 +11,19 @@ constexpr SettingRow settings[] = {
     TextRow(u"_ORTHOVAL_WEBSITE_URL", SettingKindText, IDC_URLS_WEBSITE, IDS_HELP_URLS_WEBSITE),
 };
 
-constexpr LayoutRow layout[] = {
-    {IDC_URLS_TECH_SUPPORT_LABEL, kFixed},
-    {IDC_URLS_TECH_SUPPORT, kStretched},
-    {IDC_URLS_WEBSITE_LABEL, kFixed},
-    {IDC_URLS_WEBSITE, kStretched},
-};
-
 constexpr PageRows rows = {
-    .pageId = 24,
+    .info = {.pageId = 24,
+             .titleId = IDS_TITLE_URLS,
+             .templateId = IDD_PAGE_URLS,
+             .scrollWidth = 290,
+             .scrollHeight = 70,
+             .constructionRank = 220,
+             .listRank = 230},
     .settings = settings,
-    .extraHelp = {},
-    .layout = layout,
 };
 } // namespace
 
-const PageRows& UrlsRows()
+const PageRows& URLsRows()
 {
     return rows;
 }

@@ -1,6 +1,9 @@
 /// Numbers of the Users page.
-#ifndef OV_RESOURCES_IDS_USERS_H
-#define OV_RESOURCES_IDS_USERS_H
+#ifndef OV_PAGES_USERS_IDS_H
+#define OV_PAGES_USERS_IDS_H
+
+#define IDD_PAGE_USERS 9360
+#define IDS_TITLE_USERS 2037
 
 // Controls
 #define IDC_USERS_ALLOW_GROUPS 9396

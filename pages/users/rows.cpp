@@ -1,7 +1,6 @@
-#include "pages/users/rows.h"
+#include "pages/core/page_rows.h"
 
-#include "pages/core/layout_flags.h"
-#include "resources/page_ids.h"
+#include "pages/users/ids.h"
 
 namespace ov
 {
@@ -20,11 +19,7 @@ constexpr HelpRow extraHelp[] = {
 };
 
 constexpr LayoutRow layout[] = {
-    {IDC_USERS_ALLOW_GROUPS, kFixed},
     {IDC_USERS_WINDOWS_AUTHENTICATION, kStretched},
-    {IDC_USERS_CURRENT_GROUP_LABEL, kFixed},
-    {IDC_USERS_CURRENT_GROUP, kStretched},
-    {IDC_USERS_CURRENT_GROUP_BROWSE, kTopRight},
 };
 
 // Windows authentication goes with the groups, although the checker knows it
@@ -42,7 +37,13 @@ constexpr BrowseRow browses[] = {
 };
 
 constexpr PageRows rows = {
-    .pageId = 25,
+    .info = {.pageId = 25,
+             .titleId = IDS_TITLE_USERS,
+             .templateId = IDD_PAGE_USERS,
+             .scrollWidth = 290,
+             .scrollHeight = 70,
+             .constructionRank = 230,
+             .listRank = 240},
     .settings = settings,
     .extraHelp = extraHelp,
     .layout = layout,

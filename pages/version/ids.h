@@ -1,6 +1,9 @@
 /// Numbers of the Version page.
-#ifndef OV_RESOURCES_IDS_VERSION_H
-#define OV_RESOURCES_IDS_VERSION_H
+#ifndef OV_PAGES_VERSION_IDS_H
+#define OV_PAGES_VERSION_IDS_H
+
+#define IDD_PAGE_VERSION 112
+#define IDS_TITLE_VERSION 5011
 
 // Controls
 #define IDC_VERSION_SERVER_LABEL 3200

@@ -1,7 +1,6 @@
-#include "pages/version/rows.h"
+#include "pages/core/page_rows.h"
 
-#include "pages/core/layout_flags.h"
-#include "resources/page_ids.h"
+#include "pages/version/ids.h"
 
 namespace ov
 {
@@ -15,16 +14,19 @@ constexpr SettingRow settings[] = {
 };
 
 constexpr LayoutRow layout[] = {
-    {IDC_VERSION_SERVER_LABEL, kFixed},
-    {IDC_VERSION_SERVER, kStretched},
     {IDC_VERSION_WARN_MAJOR, kStretched},
     {IDC_VERSION_WARN_MINOR, kStretched},
 };
 
 constexpr PageRows rows = {
-    .pageId = 26,
+    .info = {.pageId = 26,
+             .titleId = IDS_TITLE_VERSION,
+             .templateId = IDD_PAGE_VERSION,
+             .scrollWidth = 290,
+             .scrollHeight = 70,
+             .constructionRank = 240,
+             .listRank = 250},
     .settings = settings,
-    .extraHelp = {},
     .layout = layout,
 };
 } // namespace

@@ -1,7 +1,7 @@
-#include "pages/watermark_integrity/rows.h"
+#include "pages/core/page_rows.h"
 
-#include "pages/core/layout_flags.h"
-#include "resources/page_ids.h"
+#include "pages/watermark_integrity/ids.h"
+#include "resources/ids.h"
 
 namespace ov
 {
@@ -46,24 +46,8 @@ constexpr HelpRow extraHelp[] = {
 
 // The captions that are stretched wrap where the page is narrow.
 constexpr LayoutRow layout[] = {
-    {IDC_WATERMARK_INTEGRITY_DOUBLE_CROSS, kFixed},
     {IDC_WATERMARK_INTEGRITY_INSTANT_INVALIDATE, kStretched},
-    {IDC_WATERMARK_INTEGRITY_CONFORM, kFixed},
-    {IDC_WATERMARK_INTEGRITY_FONT_NUMBERS, kFixed},
-    {IDC_WATERMARK_INTEGRITY_FONT_NAMES, kFixed},
     {IDC_WATERMARK_INTEGRITY_CLIPPED_REFERENCES, kStretched},
-    {IDC_WATERMARK_INTEGRITY_LEVELS_LABEL, kFixed},
-    {IDC_WATERMARK_INTEGRITY_LEVELS, kStretched},
-    {IDC_WATERMARK_INTEGRITY_LEVELS_BROWSE, kTopRight},
-    {IDC_WATERMARK_INTEGRITY_CELLS_LABEL, kFixed},
-    {IDC_WATERMARK_INTEGRITY_CELLS, kStretched},
-    {IDC_WATERMARK_INTEGRITY_CELLS_BROWSE, kTopRight},
-    {IDC_WATERMARK_INTEGRITY_METADATA_LABEL, kFixed},
-    {IDC_WATERMARK_INTEGRITY_METADATA, kFixed},
-    {IDC_WATERMARK_INTEGRITY_RASTER_LABEL, kFixed},
-    {IDC_WATERMARK_INTEGRITY_RASTER, kFixed},
-    {IDC_WATERMARK_INTEGRITY_OVERWRITE_LABEL, kFixed},
-    {IDC_WATERMARK_INTEGRITY_OVERWRITE, kFixed},
 };
 
 constexpr unsigned whoDecides[] = {IDS_ALWAYS, IDS_NEVER, IDS_USER_DEFINED};
@@ -84,7 +68,13 @@ constexpr BrowseRow browses[] = {
 };
 
 constexpr PageRows rows = {
-    .pageId = 27,
+    .info = {.pageId = 27,
+             .titleId = IDS_TITLE_WATERMARK_INTEGRITY,
+             .templateId = IDD_PAGE_WATERMARK_INTEGRITY,
+             .scrollWidth = 290,
+             .scrollHeight = 410,
+             .constructionRank = 250,
+             .listRank = 260},
     .settings = settings,
     .extraHelp = extraHelp,
     .layout = layout,

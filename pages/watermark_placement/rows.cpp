@@ -1,7 +1,6 @@
-#include "pages/watermark_placement/rows.h"
+#include "pages/core/page_rows.h"
 
-#include "pages/core/layout_flags.h"
-#include "resources/page_ids.h"
+#include "pages/watermark_placement/ids.h"
 
 namespace ov
 {
@@ -34,22 +33,8 @@ constexpr HelpRow extraHelp[] = {
 // The caption of the box wraps where the page is narrow.
 constexpr LayoutRow layout[] = {
     {IDC_WATERMARK_PLACEMENT_TEXT_FRAME, kStretched},
-    {IDC_WATERMARK_PLACEMENT_USER_STRING_LABEL, kFixed},
-    {IDC_WATERMARK_PLACEMENT_USER_STRING, kStretched},
-    {IDC_WATERMARK_PLACEMENT_DATE_STRING_LABEL, kFixed},
-    {IDC_WATERMARK_PLACEMENT_DATE_STRING, kStretched},
-    {IDC_WATERMARK_PLACEMENT_DATE_FORMAT_LABEL, kFixed},
-    {IDC_WATERMARK_PLACEMENT_DATE_FORMAT, kStretched},
-    {IDC_WATERMARK_PLACEMENT_DICTIONARY_STRING_LABEL, kFixed},
-    {IDC_WATERMARK_PLACEMENT_DICTIONARY_STRING, kStretched},
-    {IDC_WATERMARK_PLACEMENT_APPLICATION_STRING_LABEL, kFixed},
-    {IDC_WATERMARK_PLACEMENT_APPLICATION_STRING, kStretched},
-    {IDC_WATERMARK_PLACEMENT_LINE_SPACING_LABEL, kFixed},
     {IDC_WATERMARK_PLACEMENT_LINE_SPACING, kFixed},
     {IDC_WATERMARK_PLACEMENT_LINE_SPACING_SCALED, kStretched},
-    {IDC_WATERMARK_PLACEMENT_CROSS_LABEL, kFixed},
-    {IDC_WATERMARK_PLACEMENT_CROSS, kStretched},
-    {IDC_WATERMARK_PLACEMENT_CROSS_BROWSE, kTopRight},
 };
 
 constexpr BrowseRow browses[] = {
@@ -58,7 +43,13 @@ constexpr BrowseRow browses[] = {
 };
 
 constexpr PageRows rows = {
-    .pageId = 28,
+    .info = {.pageId = 28,
+             .titleId = IDS_TITLE_WATERMARK_PLACEMENT,
+             .templateId = IDD_PAGE_WATERMARK_PLACEMENT,
+             .scrollWidth = 290,
+             .scrollHeight = 370,
+             .constructionRank = 260,
+             .listRank = 270},
     .settings = settings,
     .extraHelp = extraHelp,
     .layout = layout,

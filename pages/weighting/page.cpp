@@ -2,7 +2,7 @@
 
 #include <commctrl.h>
 
-#include "pages/weighting/rows.h"
+#include "pages/core/page_rows.h"
 
 IMPLEMENT_DYNAMIC(CPageWeighting, CSettingsPage)
 
@@ -10,10 +10,7 @@ BEGIN_MESSAGE_MAP(CPageWeighting, CSettingsPage)
     ON_WM_HSCROLL()
 END_MESSAGE_MAP()
 
-CPageWeighting::CPageWeighting(CPreferencesWizard* owner, const ov::PageInfo& info)
-    : CSettingsPage(owner, info, ov::WeightingRows())
-{
-}
+CPageWeighting::CPageWeighting(CPreferencesWizard* owner) : CSettingsPage(owner, ov::WeightingRows()) {}
 
 BOOL CPageWeighting::OnInitDialog()
 {

@@ -9,7 +9,7 @@ class CPageWeighting : public CSettingsPage
     DECLARE_DYNAMIC(CPageWeighting)
 
   public:
-    CPageWeighting(CPreferencesWizard* owner, const ov::PageInfo& info);
+    explicit CPageWeighting(CPreferencesWizard* owner);
 
     BOOL OnInitDialog() override;
     bool LoadSettings(int selector) override;

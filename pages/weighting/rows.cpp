@@ -1,7 +1,6 @@
-#include "pages/weighting/rows.h"
+#include "pages/core/page_rows.h"
 
-#include "pages/core/layout_flags.h"
-#include "resources/page_ids.h"
+#include "pages/weighting/ids.h"
 
 namespace ov
 {
@@ -62,22 +61,24 @@ constexpr BarRow bars[] = {
 };
 
 constexpr LayoutRow layout[] = {
-    {IDC_WEIGHTING_COLOUR_LABEL, kFixed},        {IDC_WEIGHTING_COLOUR, kStretched},
-    {IDC_WEIGHTING_COLOUR_VALUE, kTopRight},     {IDC_WEIGHTING_WEIGHT_LABEL, kFixed},
+    {IDC_WEIGHTING_COLOUR, kStretched},          {IDC_WEIGHTING_COLOUR_VALUE, kTopRight},
     {IDC_WEIGHTING_WEIGHT, kStretched},          {IDC_WEIGHTING_WEIGHT_VALUE, kTopRight},
-    {IDC_WEIGHTING_STYLE_LABEL, kFixed},         {IDC_WEIGHTING_STYLE, kStretched},
-    {IDC_WEIGHTING_STYLE_VALUE, kTopRight},      {IDC_WEIGHTING_LEVEL_NAME_LABEL, kFixed},
+    {IDC_WEIGHTING_STYLE, kStretched},           {IDC_WEIGHTING_STYLE_VALUE, kTopRight},
     {IDC_WEIGHTING_LEVEL_NAME, kStretched},      {IDC_WEIGHTING_LEVEL_NAME_VALUE, kTopRight},
-    {IDC_WEIGHTING_CELL_NAME_LABEL, kFixed},     {IDC_WEIGHTING_CELL_NAME, kStretched},
-    {IDC_WEIGHTING_CELL_NAME_VALUE, kTopRight},  {IDC_WEIGHTING_TEXT_HEIGHT_LABEL, kFixed},
+    {IDC_WEIGHTING_CELL_NAME, kStretched},       {IDC_WEIGHTING_CELL_NAME_VALUE, kTopRight},
     {IDC_WEIGHTING_TEXT_HEIGHT, kStretched},     {IDC_WEIGHTING_TEXT_HEIGHT_VALUE, kTopRight},
-    {IDC_WEIGHTING_TEXT_STYLE_LABEL, kFixed},    {IDC_WEIGHTING_TEXT_STYLE, kStretched},
-    {IDC_WEIGHTING_TEXT_STYLE_VALUE, kTopRight}, {IDC_WEIGHTING_DIMENSION_STYLE_LABEL, kFixed},
+    {IDC_WEIGHTING_TEXT_STYLE, kStretched},      {IDC_WEIGHTING_TEXT_STYLE_VALUE, kTopRight},
     {IDC_WEIGHTING_DIMENSION_STYLE, kStretched}, {IDC_WEIGHTING_DIMENSION_STYLE_VALUE, kTopRight},
 };
 
 constexpr PageRows rows = {
-    .pageId = 29,
+    .info = {.pageId = 29,
+             .titleId = IDS_TITLE_WEIGHTING,
+             .templateId = IDD_PAGE_WEIGHTING,
+             .scrollWidth = 290,
+             .scrollHeight = 460,
+             .constructionRank = 270,
+             .listRank = 190},
     .settings = settings,
     .extraHelp = extraHelp,
     .layout = layout,

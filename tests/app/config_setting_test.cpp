@@ -1,6 +1,7 @@
 // The multi-entry value editor on its real template, with its real texts.
 #include "controls/application.h"
 #include "controls/config_setting_dlg.h"
+#include "pages/conforming/ids.h"
 #include "resources/ids.h"
 #include "tests/app/program.h"
 

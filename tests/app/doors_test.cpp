@@ -1,4 +1,6 @@
 #include "include/ovPreferences.h"
+#include "pages/branding/ids.h"
+#include "pages/conforming/ids.h"
 #include "resources/ids.h"
 #include "tests/app/program.h"
 

@@ -1,5 +1,4 @@
 // What keys do in edits of a page, seen by the dialog's pre-translation.
-#include "resources/ids.h"
 #include "tests/app/program.h"
 #include "tests/support/control_state.h"
 

@@ -1,6 +1,7 @@
 // What the dialog answers to messages that no visible control sends.
 #include "config/core/setting_comment.h"
 #include "controls/core/tooltip_markup.h"
+#include "pages/conforming/ids.h"
 #include "pages/core/page_catalogue.h"
 #include "pages/core/string_table.h"
 #include "resources/ids.h"
@@ -156,9 +157,9 @@ TEST_F(Wizard, TheCommentOfAControlIsTheOneOfTheRowsThatItExplains)
 TEST_F(Wizard, EveryPageScrollsOverTheSizeOfTheCatalogue)
 {
     Open(L"", L"");
-    for (const ov::PageInfo& info : ov::PageCatalogue()) {
-        SCOPED_TRACE(info.pageId);
-        dialog->SelectPage(static_cast<UINT>(info.pageId));
+    for (const ov::PageInfo* info : ov::PageCatalogue()) {
+        SCOPED_TRACE(info->pageId);
+        dialog->SelectPage(static_cast<UINT>(info->pageId));
         Page().MoveToRect(CRect(0, 0, 60, 50));
         SCROLLINFO range{};
         EXPECT_TRUE(Page().GetScrollInfo(SB_HORZ, &range, SIF_RANGE));

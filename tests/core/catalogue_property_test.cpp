@@ -1,7 +1,7 @@
 // Random variables go into the rows of all pages and come out as their meaning
 // says, whatever stands beside them. OV_CATALOGUE_ROUNDS asks for more rounds,
 // OV_CATALOGUE_SEED for others.
-#include "pages/core/all_page_rows.h"
+#include "pages/core/page_catalogue.h"
 #include "pages/core/page_values.h"
 #include "tests/pages/expected_pages.h"
 #include "tests/pages/page_changes.h"
@@ -72,7 +72,7 @@ TEST(CatalogueProperty, RandomTablesAreSavedAsTheirMeaningSays)
         const Table loaded = expected::RandomTable(random, expected::Carrier::Store);
         Table saved = loaded;
         for (const ov::PageRows* rows : ov::AllPageRows())
-            expected::SaveInto(saved, expected::PageOf(rows->pageId), loaded, Today());
+            expected::SaveInto(saved, expected::PageOf(rows->info.pageId), loaded, Today());
 
         ov::SettingStore store;
         Fill(store, loaded);

@@ -1,6 +1,6 @@
 // What is peculiar to the Certifying page.
 #include "controls/core/tooltip_markup.h"
-#include "pages/certifying/rows.h"
+#include "pages/core/page_rows.h"
 #include "pages/core/page_values.h"
 #include "pages/core/string_table.h"
 

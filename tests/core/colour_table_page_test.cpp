@@ -1,5 +1,5 @@
 // Colour Table: the list of what happens to existing elements.
-#include "pages/colour_table/rows.h"
+#include "pages/core/page_rows.h"
 #include "pages/core/page_values.h"
 #include "pages/core/string_table.h"
 

@@ -1,6 +1,6 @@
 // What is peculiar to the Custom Reports page.
+#include "pages/core/page_rows.h"
 #include "pages/core/page_values.h"
-#include "pages/custom_reports/rows.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 // Drafting: three flags that start off.
+#include "pages/core/page_rows.h"
 #include "pages/core/page_values.h"
-#include "pages/drafting/rows.h"
 
 #include <gtest/gtest.h>
 

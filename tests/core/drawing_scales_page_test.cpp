@@ -1,7 +1,7 @@
 // Drawing Scales: brackets around the list and the code of the built-in scales.
+#include "pages/core/page_rows.h"
 #include "pages/core/page_values.h"
-#include "pages/drawing_scales/rows.h"
-#include "resources/page_ids.h"
+#include "pages/drawing_scales/ids.h"
 
 #include <gtest/gtest.h>
 

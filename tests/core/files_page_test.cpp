@@ -1,6 +1,6 @@
 // The File Paths page: an older variable, and which browser fills which field.
+#include "pages/core/page_rows.h"
 #include "pages/core/page_values.h"
-#include "pages/files/rows.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // Help texts against what the program does with the settings that they explain.
 #include "config/core/setting_store.h"
 #include "controls/core/tooltip_markup.h"
-#include "pages/core/all_page_rows.h"
+#include "pages/core/page_catalogue.h"
 #include "pages/core/string_table.h"
 #include "tests/pages/expected_pages.h"
 

@@ -1,7 +1,6 @@
 // What is peculiar to the Logging page.
+#include "pages/core/page_rows.h"
 #include "pages/core/page_values.h"
-#include "pages/logging/rows.h"
-#include "resources/page_ids.h"
 
 #include <gtest/gtest.h>
 

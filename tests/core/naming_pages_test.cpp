@@ -1,10 +1,9 @@
 // The pages File Naming and Model Naming: two of a kind, but for one thing.
 #include "controls/core/tooltip_markup.h"
+#include "pages/core/page_rows.h"
 #include "pages/core/page_values.h"
 #include "pages/core/string_table.h"
-#include "pages/file_naming/rows.h"
-#include "pages/model_naming/rows.h"
-#include "resources/page_ids.h"
+#include "pages/model_naming_convention/ids.h"
 
 #include <gtest/gtest.h>
 
@@ -21,7 +20,7 @@ const ov::BrowseRow& BrowseOf(const PageRows& page, int buttonId)
 
 TEST(NamingPages, ListsAreSeparatedBySemicolonsAndTheDocumentIsAFile)
 {
-    for (const PageRows* page : {&ov::FileNamingRows(), &ov::ModelNamingRows()}) {
+    for (const PageRows* page : {&ov::FileNamingConventionRows(), &ov::ModelNamingConventionRows()}) {
         ASSERT_EQ(page->browses.size(), 4u);
         for (std::size_t i = 0; i < 4; ++i) {
             const ov::BrowseRow& row = page->browses[i];
@@ -37,22 +36,22 @@ TEST(NamingPages, ListsAreSeparatedBySemicolonsAndTheDocumentIsAFile)
 
 TEST(NamingPages, RefusedListsHandTheFocusToTheirEdit)
 {
-    EXPECT_EQ(BrowseOf(ov::FileNamingRows(), 2905).focusOnRefusal, 2901);
-    EXPECT_EQ(BrowseOf(ov::FileNamingRows(), 2911).focusOnRefusal, 2903);
-    EXPECT_EQ(BrowseOf(ov::ModelNamingRows(), 2904).focusOnRefusal, 2903);
-    EXPECT_EQ(BrowseOf(ov::ModelNamingRows(), 2910).focusOnRefusal, 2909);
+    EXPECT_EQ(BrowseOf(ov::FileNamingConventionRows(), 2905).focusOnRefusal, 2901);
+    EXPECT_EQ(BrowseOf(ov::FileNamingConventionRows(), 2911).focusOnRefusal, 2903);
+    EXPECT_EQ(BrowseOf(ov::ModelNamingConventionRows(), 2904).focusOnRefusal, 2903);
+    EXPECT_EQ(BrowseOf(ov::ModelNamingConventionRows(), 2910).focusOnRefusal, 2909);
 }
 
 // The one difference between the two, which is kept.
 TEST(NamingPages, RefusedHelpTextHandsTheFocusToTheDescriptionsOfFilesAndToItselfOfModels)
 {
-    EXPECT_EQ(BrowseOf(ov::FileNamingRows(), 2912).focusOnRefusal, 2903);
-    EXPECT_EQ(BrowseOf(ov::ModelNamingRows(), 2912).focusOnRefusal, 9349);
+    EXPECT_EQ(BrowseOf(ov::FileNamingConventionRows(), 2912).focusOnRefusal, 2903);
+    EXPECT_EQ(BrowseOf(ov::ModelNamingConventionRows(), 2912).focusOnRefusal, 9349);
 }
 
 TEST(NamingPages, StartWithoutPromptAndWithoutTexts)
 {
-    for (const PageRows* page : {&ov::FileNamingRows(), &ov::ModelNamingRows()}) {
+    for (const PageRows* page : {&ov::FileNamingConventionRows(), &ov::ModelNamingConventionRows()}) {
         for (const ov::SettingRow& row : page->settings) {
             EXPECT_EQ(row.initialNumber, 0);
             EXPECT_EQ(ov::TextView(row.initialText), u"");

@@ -31,19 +31,15 @@ constexpr ov::CompanionRow companions[] = {
 };
 
 constexpr PageRows plainPage = {
-    .pageId = 0,
+    .info = {},
     .settings = settings,
-    .extraHelp = {},
-    .layout = {},
     .companions = companions,
 };
 
 /// The companion is the length of the hidden text, and writes as many letters.
 constexpr PageRows pageWithHooks = {
-    .pageId = 0,
+    .info = {},
     .settings = settings,
-    .extraHelp = {},
-    .layout = {},
     .companions = companions,
     .afterLoad =
         [](PageValues& values, const SettingStore& store, int table) {

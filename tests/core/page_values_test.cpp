@@ -1,9 +1,8 @@
 #include "pages/core/page_values.h"
 
-#include "pages/branding/rows.h"
-#include "pages/conforming/rows.h"
-#include "pages/misc/rows.h"
-#include "resources/page_ids.h"
+#include "pages/core/page_rows.h"
+#include "pages/urls/ids.h"
+#include "resources/ids.h"
 
 #include <gtest/gtest.h>
 
@@ -47,7 +46,7 @@ constexpr ov::SettingRow sampleRows[] = {
 /// A page of nothing but settings.
 constexpr ov::PageRows PageOf(std::span<const ov::SettingRow> settings)
 {
-    return {.pageId = 0, .settings = settings, .extraHelp = {}, .layout = {}};
+    return {.info = {}, .settings = settings};
 }
 
 constexpr ov::PageRows samplePage = PageOf(sampleRows);
@@ -371,7 +370,7 @@ TEST(PageValues, ControlShowsNoneForAnEntryThatItLacks)
     static constexpr ov::SettingRow rows[] = {
         ov::ChoiceRow(u"LIST", ov::Encoding::Number, ov::ControlKind::DropDownList, 20, 0, 0),
     };
-    PageValues values({.pageId = 0, .settings = rows, .extraHelp = {}, .layout = {}, .entries = lists});
+    PageValues values({.info = {}, .settings = rows, .entries = lists});
     for (const auto& [number, shown] : {std::pair{0, 0}, {1, 1}, {2, -1}, {-1, -1}, {-4, -1}, {100, -1}}) {
         values.Number(0) = number;
         EXPECT_EQ(values.ShownNumber(0), shown) << number;

@@ -1,8 +1,7 @@
 // Reference Files: the scale factor's limits, the boxes and lists that read
 // more than a flag.
+#include "pages/core/page_rows.h"
 #include "pages/core/page_values.h"
-#include "pages/reference_files/rows.h"
-#include "resources/page_ids.h"
 
 #include <gtest/gtest.h>
 

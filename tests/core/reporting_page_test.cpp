@@ -1,8 +1,8 @@
 // What is peculiar to the Reporting page.
+#include "pages/core/page_rows.h"
 #include "pages/core/page_values.h"
 #include "pages/core/string_table.h"
-#include "pages/reporting/rows.h"
-#include "resources/page_ids.h"
+#include "pages/reporting/ids.h"
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,7 @@
 #include "config/core/config_reader.h"
 #include "config/core/setting_comment.h"
 #include "controls/core/tooltip_markup.h"
-#include "pages/core/all_page_rows.h"
+#include "pages/core/page_catalogue.h"
 #include "pages/core/page_values.h"
 #include "pages/core/string_table.h"
 #include "tests/data/test_data.h"
@@ -255,7 +255,7 @@ TEST_F(Samples, OfficeFileNamesEverySettingOfBrandingAndConforming)
     constexpr int branding = 2;
     constexpr int conforming = 6;
     for (const ov::PageRows* page : ov::AllPageRows()) {
-        if (page->pageId != branding && page->pageId != conforming)
+        if (page->info.pageId != branding && page->info.pageId != conforming)
             continue;
         EXPECT_FALSE(page->settings.empty());
         for (const ov::SettingRow& row : page->settings)

@@ -1,10 +1,11 @@
 // The Scan Period page: one variable on ten controls, and what it does with
 // dates that do not exist.
+#include "pages/core/page_rows.h"
 #include "pages/scan_period/rows.h"
 
 #include "pages/core/page_values.h"
 #include "pages/core/string_table.h"
-#include "resources/page_ids.h"
+#include "pages/scan_period/ids.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,10 @@
 // What must hold of the rows of every page. A page is checked from the moment
 // that its rows exist.
 #include "controls/core/tooltip_markup.h"
-#include "pages/core/all_page_rows.h"
 #include "pages/core/help_texts.h"
 #include "pages/core/page_catalogue.h"
+#include "pages/core/page_layout.h"
+#include "pages/core/page_template.h"
 #include "pages/core/page_values.h"
 #include "pages/core/string_table.h"
 #include "tests/pages/expected_controls.h"
@@ -12,7 +13,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdio>
 #include <ctime>
 #include <map>
 #include <set>
@@ -32,7 +32,7 @@ void ForEachPage(Check check)
 {
     ASSERT_FALSE(ov::AllPageRows().empty());
     for (const PageRows* page : ov::AllPageRows()) {
-        SCOPED_TRACE(expected::PageOf(page->pageId).title);
+        SCOPED_TRACE(expected::PageOf(page->info.pageId).title);
         check(*page);
     }
 }
@@ -53,7 +53,7 @@ void ForEachSetting(Check check)
 bool HasTextsOfOld(const PageRows& page)
 {
     static const std::set<int> pages = {10, 12, 15, 16, 17, 21, 22, 23, 24, 25, 26};
-    return pages.contains(page.pageId);
+    return pages.contains(page.info.pageId);
 }
 
 std::map<int, unsigned> HelpByControl(const PageRows& page)
@@ -121,55 +121,22 @@ ControlKind ExpectedControl(expected::Control control)
     return ControlKind::None;
 }
 
-TEST(ExpectedPages, HoldEveryVariableOnceAndAgreeWithTheCatalogue)
+TEST(ExpectedPages, HoldEveryVariableOnce)
 {
     std::set<std::string> variables;
-    ASSERT_EQ(expected::Pages().size(), ov::kPageCount);
-    for (std::size_t row = 0; row < ov::kPageCount; ++row) {
-        const expected::Page& page = expected::Pages()[row];
-        const ov::PageInfo& info = *ov::PaneRows()[row];
-        EXPECT_EQ(page.pageId, info.pageId) << page.title;
-        EXPECT_EQ(page.templateId, info.templateId) << page.title;
-        EXPECT_EQ(page.title, ov::Utf8FromText(ov::FindString(info.titleId)));
+    for (const expected::Page& page : expected::Pages()) {
         for (const expected::Setting& setting : page.settings)
             EXPECT_TRUE(variables.insert(setting.variable).second) << setting.variable;
     }
     for (const char* variable : expected::OlderVariables())
         EXPECT_TRUE(variables.insert(variable).second) << variable;
-    EXPECT_EQ(variables.size(), 177u);
-}
-
-// A report, as long as there are pages to come: which ones, and how many settings.
-TEST(ExpectedPages, SayWhatIsStillMissing)
-{
-    std::size_t present = 0;
-    for (const expected::Page& page : expected::Pages()) {
-        const bool exists = std::ranges::any_of(
-            ov::AllPageRows(), [&](const PageRows* rows) { return rows->pageId == page.pageId; });
-        if (exists)
-            ++present;
-        else
-            std::printf("missing: %s, %zu settings\n", page.title, page.settings.size());
-    }
-    EXPECT_EQ(present, ov::AllPageRows().size());
-}
-
-TEST(AllRows, BelongToAPageOfTheCatalogueAndStandInItsOrder)
-{
-    int order = 0;
-    ForEachPage([&](const PageRows& page) {
-        const ov::PageInfo* info = ov::FindPage(page.pageId);
-        ASSERT_NE(info, nullptr) << page.pageId;
-        EXPECT_GT(info->order, order);
-        order = info->order;
-    });
 }
 
 TEST(AllRows, AreTheSettingsOfTheirPage)
 {
     ForEachPage([](const PageRows& page) {
         std::set<std::string> wanted;
-        for (const expected::Setting& setting : expected::PageOf(page.pageId).settings)
+        for (const expected::Setting& setting : expected::PageOf(page.info.pageId).settings)
             wanted.insert(setting.variable);
         std::set<std::string> found;
         for (const SettingRow& row : page.settings)
@@ -182,7 +149,7 @@ TEST(AllRows, AreTheSettingsOfTheirPage)
 TEST(AllRows, EqualWhatIsExpectedOfTheirSetting)
 {
     ForEachPage([](const PageRows& page) {
-        for (const expected::Setting& setting : expected::PageOf(page.pageId).settings) {
+        for (const expected::Setting& setting : expected::PageOf(page.info.pageId).settings) {
             SCOPED_TRACE(setting.variable);
             const auto row = std::ranges::find(page.settings, setting.variable, [](const SettingRow& found) {
                 return ov::Utf8FromText(found.variable);
@@ -225,7 +192,7 @@ TEST(ExpectedControls, HoldEveryControlOfTheExpectedSettings)
 TEST(AllRows, GiveEachControlTheHelpThatIsExpectedOrNone)
 {
     ForEachPage([](const PageRows& page) {
-        for (const expected::ControlRow& control : expected::ControlsOf(page.pageId).controls) {
+        for (const expected::ControlRow& control : expected::ControlsOf(page.info.pageId).controls) {
             if (control.id != expected::kAnyId && control.help != expected::kAnyHelp) {
                 EXPECT_EQ(ov::HelpOfControl(page, control.id), control.help) << control.id;
             }
@@ -233,15 +200,45 @@ TEST(AllRows, GiveEachControlTheHelpThatIsExpectedOrNone)
     });
 }
 
-TEST(AllRows, LayControlsOutWhereThatIsExpected)
+/// The id of a control whose number is this product's own choice; 0 for none.
+int IdByCaption(const ov::PageTemplate& dialog, const expected::ControlRow& wanted)
+{
+    for (const ov::TemplateControl& control : dialog.controls) {
+        if (wanted.caption != nullptr && control.caption == wanted.caption)
+            return control.id;
+    }
+    return 0;
+}
+
+TEST(AllRows, LayEveryControlOutAsExpected)
 {
     ForEachPage([](const PageRows& page) {
-        for (const expected::ControlRow& control : expected::ControlsOf(page.pageId).controls) {
-            if (control.layout == 0)
-                continue;
-            const auto row = std::ranges::find(page.layout, control.id, &ov::LayoutRow::controlId);
-            ASSERT_NE(row, page.layout.end()) << control.id;
-            EXPECT_EQ(row->layoutFlags, control.layout) << control.id;
+        const auto& controls = expected::ControlsOf(page.info.pageId).controls;
+        std::map<int, std::uint32_t> wanted;
+        for (const expected::ControlRow& control : controls) {
+            const bool isNumbered = control.id != expected::kAnyId;
+            const int id =
+                isNumbered ? control.id : IdByCaption(*ov::FindTemplate(page.info.templateId), control);
+            EXPECT_TRUE(wanted.emplace(id, control.layout).second) << id;
+        }
+        std::map<int, std::uint32_t> found;
+        for (const ov::LayoutRow& row : ov::LayoutOf(page))
+            EXPECT_TRUE(found.emplace(row.controlId, row.layoutFlags).second) << row.controlId;
+        EXPECT_EQ(found, wanted);
+    });
+}
+
+TEST(AllRows, NameOnlyControlsWhoseLayoutTheRuleDoesNotGive)
+{
+    ForEachPage([](const PageRows& page) {
+        PageRows byRule = page;
+        byRule.layout = {};
+        std::map<int, std::uint32_t> rule;
+        for (const ov::LayoutRow& row : ov::LayoutOf(byRule))
+            rule[row.controlId] = row.layoutFlags;
+        for (const ov::LayoutRow& row : page.layout) {
+            ASSERT_TRUE(rule.contains(row.controlId)) << row.controlId << " is not in the template";
+            EXPECT_NE(rule[row.controlId], row.layoutFlags) << row.controlId << " needs no row";
         }
     });
 }
@@ -249,7 +246,7 @@ TEST(AllRows, LayControlsOutWhereThatIsExpected)
 TEST(AllRows, FillTheirListsWithWhatIsExpected)
 {
     ForEachPage([](const PageRows& page) {
-        for (const expected::ControlRow& control : expected::ControlsOf(page.pageId).controls) {
+        for (const expected::ControlRow& control : expected::ControlsOf(page.info.pageId).controls) {
             if (control.controlClass != expected::ControlClass::List)
                 continue;
             const auto row = std::ranges::find(page.entries, control.id, &ov::EntriesRow::controlId);
@@ -269,7 +266,7 @@ TEST(AllRows, OpenBehindEachButtonWhatIsExpected)
     ForEachPage([&](const PageRows& page) {
         buttons += page.browses.size();
         for (const expected::BrowseButton& button : expected::BrowseButtons()) {
-            if (button.pageId != page.pageId)
+            if (button.pageId != page.info.pageId)
                 continue;
             SCOPED_TRACE(button.id);
             const auto row = std::ranges::find(page.browses, button.id, &ov::BrowseRow::buttonId);
@@ -296,7 +293,7 @@ TEST(AllRows, SetUpEachUpDownControlAsExpected)
     ForEachPage([&](const PageRows& page) {
         controls += page.spins.size();
         for (const expected::UpDownRow& wanted : expected::UpDowns()) {
-            if (wanted.pageId != page.pageId)
+            if (wanted.pageId != page.info.pageId)
                 continue;
             SCOPED_TRACE(wanted.id);
             const auto row = std::ranges::find(page.spins, wanted.id, &ov::SpinRow::controlId);
@@ -448,31 +445,31 @@ TEST(AllRows, HelpOfTheFlagsSaysWhatAMissingVariableMeans)
     });
 }
 
-TEST(AllRows, LayOutEachControlOnceAndEveryControlThatTheyName)
+TEST(AllRows, NameControlsThatTheTemplateHas)
 {
     ForEachPage([](const PageRows& page) {
-        std::set<int> laidOut = {0};
-        for (const ov::LayoutRow& row : page.layout)
-            EXPECT_TRUE(laidOut.insert(row.controlId).second) << row.controlId;
-        const auto expectLaidOut = [&](int control) { EXPECT_TRUE(laidOut.contains(control)) << control; };
+        std::set<int> controls = {0};
+        for (const ov::TemplateControl& control : ov::FindTemplate(page.info.templateId)->controls)
+            EXPECT_TRUE(controls.insert(control.id).second) << control.id << " twice";
+        const auto expectControl = [&](int control) { EXPECT_TRUE(controls.contains(control)) << control; };
         for (const SettingRow& row : page.settings)
-            expectLaidOut(row.controlId);
+            expectControl(row.controlId);
         for (const ov::BarRow& row : page.bars)
-            expectLaidOut(row.controlId);
+            expectControl(row.controlId);
         for (const ov::HelpRow& row : page.extraHelp)
-            expectLaidOut(row.controlId);
+            expectControl(row.controlId);
         for (const ov::CompanionRow& row : page.companions)
-            expectLaidOut(row.controlId);
+            expectControl(row.controlId);
         for (const ov::DependencyRow& row : page.dependencies)
-            expectLaidOut(row.controlId);
+            expectControl(row.controlId);
         for (const ov::BrowseRow& row : page.browses)
-            expectLaidOut(row.buttonId);
+            expectControl(row.buttonId);
         for (const ov::SpinRow& row : page.spins) {
-            expectLaidOut(row.controlId);
-            expectLaidOut(row.buddyId);
+            expectControl(row.controlId);
+            expectControl(row.buddyId);
         }
         for (const ov::NameRow& row : page.names)
-            expectLaidOut(row.controlId);
+            expectControl(row.controlId);
     });
 }
 
@@ -515,7 +512,7 @@ TEST(AllRows, FillTheirDropDownListsAndNoOthers)
             expectFilled(row.control, row.controlId);
         for (const ov::CompanionRow& row : page.companions)
             expectFilled(row.control, row.controlId);
-        for (const expected::Setting& setting : expected::PageOf(page.pageId).settings) {
+        for (const expected::Setting& setting : expected::PageOf(page.info.pageId).settings) {
             for (const ov::EntriesRow& row : page.entries) {
                 if (row.controlId == setting.controlId) {
                     EXPECT_EQ(row.stringIds.size(), static_cast<std::size_t>(setting.entries));
@@ -604,7 +601,7 @@ void ExpectAfterSave(const PageRows& page, const expected::Table& table)
     if (page.refresh != nullptr)
         page.refresh(values);
     values.Save(store, true);
-    for (const expected::Setting& setting : expected::PageOf(page.pageId).settings) {
+    for (const expected::Setting& setting : expected::PageOf(page.info.pageId).settings) {
         SCOPED_TRACE(setting.variable);
         const auto expected = expected::AfterSave(setting, table, Today());
         const ov::Text variable = ov::TextFromUtf8(setting.variable);
@@ -619,7 +616,7 @@ TEST(AllRows, SaveWhatTheirMeaningSays)
 {
     ForEachPage([](const PageRows& page) {
         ExpectAfterSave(page, {});
-        for (const expected::Setting& setting : expected::PageOf(page.pageId).settings) {
+        for (const expected::Setting& setting : expected::PageOf(page.info.pageId).settings) {
             for (const std::string& stored : StoredTexts(setting.meaning)) {
                 SCOPED_TRACE(setting.variable + (" = \"" + stored + "\""));
                 ExpectAfterSave(page, {{setting.variable, stored}});
@@ -635,7 +632,7 @@ TEST(AllRows, AddWhatTheirPageStartsWithWhenNobodyOpensIt)
         ov::SettingStore store;
         ov::PageValues values(page);
         values.Save(store, false);
-        for (const expected::Setting& setting : expected::PageOf(page.pageId).settings) {
+        for (const expected::Setting& setting : expected::PageOf(page.info.pageId).settings) {
             SCOPED_TRACE(setting.variable);
             const ov::Text variable = ov::TextFromUtf8(setting.variable);
             EXPECT_EQ(store.HasSetting(variable, ov::kCurrentTable), !expected::StaysOutWhenUnseen(setting));
@@ -653,13 +650,13 @@ TEST(AllRows, LeaveWhatIsThereWhenNobodyOpensTheirPage)
 {
     ForEachPage([](const PageRows& page) {
         ov::SettingStore store;
-        for (const expected::Setting& setting : expected::PageOf(page.pageId).settings) {
+        for (const expected::Setting& setting : expected::PageOf(page.info.pageId).settings) {
             store.SetSetting(ov::TextFromUtf8(setting.variable), u" as it is ", ov::SettingKindText, u"",
                              ov::kCurrentTable);
         }
         ov::PageValues values(page);
         values.Save(store, false);
-        for (const expected::Setting& setting : expected::PageOf(page.pageId).settings) {
+        for (const expected::Setting& setting : expected::PageOf(page.info.pageId).settings) {
             EXPECT_EQ(store.GetSettingValue(ov::TextFromUtf8(setting.variable), ov::kCurrentTable),
                       u" as it is ")
                 << setting.variable;
@@ -670,7 +667,7 @@ TEST(AllRows, LeaveWhatIsThereWhenNobodyOpensTheirPage)
 TEST(AllRows, StartWithWhatIsSelectedBeforeAnythingIsRead)
 {
     ForEachPage([](const PageRows& page) {
-        for (const expected::Setting& setting : expected::PageOf(page.pageId).settings) {
+        for (const expected::Setting& setting : expected::PageOf(page.info.pageId).settings) {
             if (setting.entries == 0)
                 continue;
             const auto row = std::ranges::find(page.settings, setting.variable, [](const SettingRow& found) {

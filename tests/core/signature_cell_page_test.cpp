@@ -1,9 +1,9 @@
 // The Signature Cells page: what depends on its first box, what it leaves alone.
 #include "controls/core/tooltip_markup.h"
+#include "pages/core/page_rows.h"
 #include "pages/core/page_values.h"
 #include "pages/core/string_table.h"
-#include "pages/signature_cell/rows.h"
-#include "resources/page_ids.h"
+#include "pages/signature_cell/ids.h"
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,7 @@
 #include "controls/core/tooltip_markup.h"
 #include "pages/core/page_catalogue.h"
 #include "pages/core/string_table.h"
-#include "resources/page_ids.h"
+#include "pages/file_naming_convention/ids.h"
 #include "tests/pages/expected_texts.h"
 
 #include <gtest/gtest.h>
@@ -127,8 +127,8 @@ TEST(Strings, FixedTextsStandWordForWord)
 
 TEST(Strings, EveryPageHasATitle)
 {
-    for (const ov::PageInfo& page : ov::PageCatalogue())
-        EXPECT_FALSE(ov::FindString(page.titleId).empty()) << page.titleId;
+    for (const ov::PageInfo* page : ov::PageCatalogue())
+        EXPECT_FALSE(ov::FindString(page->titleId).empty()) << page->titleId;
 }
 
 TEST(Strings, EveryHelpTextOfTheTwoPagesIsThere)

@@ -1,11 +1,8 @@
 // The Feature Tables, Languages and Users pages: what their buttons take apart,
 // what depends on what, and texts with oddities of old.
+#include "pages/core/page_rows.h"
 #include "pages/core/page_values.h"
 #include "pages/core/string_table.h"
-#include "pages/feature_tables/rows.h"
-#include "pages/languages/rows.h"
-#include "pages/users/rows.h"
-#include "resources/page_ids.h"
 
 #include <gtest/gtest.h>
 

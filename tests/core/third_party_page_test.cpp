@@ -1,7 +1,7 @@
 // Third Party Apps: help texts that say ON, boxes that start off.
+#include "pages/core/page_rows.h"
 #include "pages/core/page_values.h"
 #include "pages/core/string_table.h"
-#include "pages/third_party/rows.h"
 
 #include <gtest/gtest.h>
 

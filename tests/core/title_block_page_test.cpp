@@ -1,7 +1,7 @@
 // The Title Blocks page: its boxes for the tags, what they enable, and what is
 // saved whatever they say.
+#include "pages/core/page_rows.h"
 #include "pages/core/page_values.h"
-#include "pages/title_block/rows.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // URLs: the texts.
+#include "pages/core/page_rows.h"
 #include "pages/core/page_values.h"
 #include "pages/core/string_table.h"
-#include "pages/urls/rows.h"
 
 #include <gtest/gtest.h>
 
@@ -18,7 +18,7 @@ TEST(UrlsPage, HelpTextsStandWordForWord)
 
 TEST(UrlsPage, AddressesStartEmptyAndAreKeptAsTyped)
 {
-    ov::PageValues values(ov::UrlsRows());
+    ov::PageValues values(ov::URLsRows());
     for (const ov::SettingRow& row : values.Rows())
         EXPECT_EQ(values.TextOf(row.variable), u"");
     values.TextOf(u"_ORTHOVAL_WEBSITE_URL") = u" intranet/cad ";

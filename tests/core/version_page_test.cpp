@@ -1,6 +1,6 @@
 // The Version page: what it shows and does not write, and how it starts.
+#include "pages/core/page_rows.h"
 #include "pages/core/page_values.h"
-#include "pages/version/rows.h"
 
 #include <gtest/gtest.h>
 

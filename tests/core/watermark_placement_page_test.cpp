@@ -1,6 +1,6 @@
 // What is peculiar to the Watermark Placement page.
+#include "pages/core/page_rows.h"
 #include "pages/core/page_values.h"
-#include "pages/watermark_placement/rows.h"
 
 #include <gtest/gtest.h>
 

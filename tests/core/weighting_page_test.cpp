@@ -1,10 +1,9 @@
 // The Score Weighting page: texts that bars move.
-#include "pages/weighting/rows.h"
+#include "pages/core/page_rows.h"
 
 #include "controls/core/tooltip_markup.h"
 #include "pages/core/page_values.h"
 #include "pages/core/string_table.h"
-#include "resources/page_ids.h"
 
 #include <gtest/gtest.h>
 

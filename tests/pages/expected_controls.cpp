@@ -11,67 +11,77 @@ constexpr std::uint32_t fixed = 3;
 constexpr std::uint32_t topRight = 6;
 constexpr std::uint32_t stretched = 258;
 
+ControlRow Fixed(ControlRow row)
+{
+    row.layout = fixed;
+    return row;
+}
+ControlRow Stretched(ControlRow row)
+{
+    row.layout = stretched;
+    return row;
+}
+ControlRow TopRight(ControlRow row)
+{
+    row.layout = topRight;
+    return row;
+}
+
 ControlRow Check(int id, const char* caption, unsigned help)
 {
-    return {id, ControlClass::CheckBox, caption, help};
+    return Fixed({id, ControlClass::CheckBox, caption, help});
 }
 ControlRow Radio(int id, const char* caption, unsigned help)
 {
-    return {id, ControlClass::RadioButton, caption, help};
+    return Fixed({id, ControlClass::RadioButton, caption, help});
 }
 /// The "..." beside an edit.
 ControlRow Dots(int id, unsigned help)
 {
-    return {id, ControlClass::Button, "...", help};
+    return TopRight({id, ControlClass::Button, "...", help});
 }
 ControlRow Button(int id, const char* caption, unsigned help)
 {
-    return {id, ControlClass::Button, caption, help};
+    return Fixed({id, ControlClass::Button, caption, help});
 }
 ControlRow Label(int id, const char* caption, unsigned help = kNoHelp)
 {
-    return {id, ControlClass::Label, caption, help};
+    return Fixed({id, ControlClass::Label, caption, help});
 }
 /// A label whose number is free.
 ControlRow Label(const char* caption)
 {
-    return {kAnyId, ControlClass::Label, caption, kAnyHelp};
+    return Label(kAnyId, caption, kAnyHelp);
 }
 ControlRow Frame(int id, const char* caption, unsigned help = kNoHelp)
 {
-    return {id, ControlClass::Frame, caption, help};
+    return Stretched({id, ControlClass::Frame, caption, help});
 }
 ControlRow Edit(int id, const char* label, unsigned help, unsigned marks = 0)
 {
-    return {id, ControlClass::Edit, nullptr, help, label, marks};
+    return Stretched({id, ControlClass::Edit, nullptr, help, label, marks});
 }
 ControlRow List(int id, const char* label, unsigned help, unsigned marks, std::vector<const char*> entries)
 {
-    return {id, ControlClass::List, nullptr, help, label, marks, 0, std::move(entries)};
+    return Fixed({id, ControlClass::List, nullptr, help, label, marks, 0, std::move(entries)});
 }
 ControlRow UpDown(int id, unsigned help = kNoHelp, unsigned marks = 0)
 {
-    return {id, ControlClass::UpDown, nullptr, help, nullptr, marks};
+    return Fixed({id, ControlClass::UpDown, nullptr, help, nullptr, marks});
 }
 ControlRow TrackBar(int id, const char* label, unsigned help)
 {
-    return {id, ControlClass::TrackBar, nullptr, help, label, NoTicks};
+    return Stretched({id, ControlClass::TrackBar, nullptr, help, label, NoTicks});
 }
 ControlRow Date(int id, unsigned help)
 {
-    return {id, ControlClass::Date, nullptr, help};
-}
-
-ControlRow LaidOut(ControlRow row, std::uint32_t layout)
-{
-    row.layout = layout;
-    return row;
+    return TopRight({id, ControlClass::Date, nullptr, help});
 }
 
 /// The eight numbers beside the track bars.
 ControlRow Shown(int id)
 {
-    return Edit(id, nullptr, kNoHelp, ReadOnly);
+    return TopRight(Edit(id, nullptr, kNoHelp, ReadOnly));
 }
 
 const std::vector<const char*> whoDecides = {"Always", "Never", "User Defined"};
@@ -94,8 +104,8 @@ std::vector<ControlPage> MakePages()
 {
     return {
         {2, { // Branding
-            Check(9512, "Allow automatic branding toggle on Feature Table Manager", 2059),
-            Check(9513, "Allow override branding toggle in Batch Reporting", 2060),
+            Stretched(Check(9512, "Allow automatic branding toggle on Feature Table Manager", 2059)),
+            Stretched(Check(9513, "Allow override branding toggle in Batch Reporting", 2060)),
             Check(9514, "Automatically brand when certifying", 2061),
             Check(9515, "Disable automatic loading of branded tables", 2062),
             Label(11003, "Automatically rename branding"),
@@ -104,10 +114,10 @@ std::vector<ControlPage> MakePages()
         }},
         {3, { // Cell Handling
             Check(2006, "Check cell components", 8005),
-            Check(2011, "Check shared cell definitions (element type 34)", 8007),
-            Check(2008, "Allow unmatched cells with conforming components", 8006),
-            Check(2015, "Copy existing Enter Data Fields from cells when Conforming", 8009),
-            Check(2007, "Use local file cell caching to improve speed", 8003),
+            Stretched(Check(2011, "Check shared cell definitions (element type 34)", 8007)),
+            Stretched(Check(2008, "Allow unmatched cells with conforming components", 8006)),
+            Stretched(Check(2015, "Copy existing Enter Data Fields from cells when Conforming", 8009)),
+            Stretched(Check(2007, "Use local file cell caching to improve speed", 8003)),
         }},
         {4, { // Certifying
             Check(3301, "Prompt user to place marker cell", 9301),
@@ -131,10 +141,10 @@ std::vector<ControlPage> MakePages()
             Check(9330, "Allow any colour table", 5034),
             Check(9331, "Check colour table on opening a DGN", 5035),
             Label("When attaching a new colour table..."),
-            List(9332, "When attaching a new colour table...", 5036, Unsorted,
+            Stretched(List(9332, "When attaching a new colour table...", 5036, Unsorted,
                  {"Leave existing elements as-is",
                   "Automatically remap existing elements to the closest matching colour",
-                  "Prompt the user before doing anything"}),
+                  "Prompt the user before doing anything"})),
         }},
         {6, { // Conforming
             Check(2000, "Check cells (element types 2, 35)", 8000),
@@ -149,10 +159,10 @@ std::vector<ControlPage> MakePages()
             Check(2018, "Allow negative text sizes", 8023),
             Check(2023, "Treat 'Continuous' as Style 0", 8028),
             Label(2021, "Maximum round-off error in Units of Resoution (UORS )"),
-            Edit(2019, "Maximum round-off error in Units of Resoution (UORS )", 8012),
+            Fixed(Edit(2019, "Maximum round-off error in Units of Resoution (UORS )", 8012)),
             UpDown(2024, kNoHelp, PlainIntegers),
             Label(2022, "Minimum round-off error in Master Units (MU)"),
-            Edit(2020, "Minimum round-off error in Master Units (MU)", 2017),
+            Fixed(Edit(2020, "Minimum round-off error in Master Units (MU)", 2017)),
             Label(11014, "Globally ignored levels"),
             Edit(11015, "Globally ignored levels", 8021),
             Dots(11016, 9319),
@@ -164,31 +174,31 @@ std::vector<ControlPage> MakePages()
             Label(11053, "Auto-loaded VBA Projects", kAnyHelp),
             Edit(11052, "Auto-loaded VBA Projects", kAnyHelp),
             Dots(11054, kAnyHelp),
-            Check(11051, "Lock custom commands from being changed or disabled", kAnyHelp),
+            Stretched(Check(11051, "Lock custom commands from being changed or disabled", kAnyHelp)),
         }},
         {8, { // Drafting
-            Check(2100, "Allow drafting by symbology ranges", 8100),
-            Check(2101, "Order Drafting menus by description instead of name", 8101),
-            Check(2102, "Force text override colour to match element colour", 8102),
+            Stretched(Check(2100, "Allow drafting by symbology ranges", 8100)),
+            Stretched(Check(2101, "Order Drafting menus by description instead of name", 8101)),
+            Stretched(Check(2102, "Force text override colour to match element colour", 8102)),
         }},
         {9, { // Drawing Scales
             Check(2202, "Prompt user for drawing scale when not set", 8201),
             Check(2203, "Allow undefined drawing scale in reports", 8205),
-            Check(2208, "Ignore annotation scale lock when reading model annotation scale", 8208),
-            Check(2205, "Use MicroStation built-in values for allowable scales", 8206),
+            Stretched(Check(2208, "Ignore annotation scale lock when reading model annotation scale", 8208)),
+            Stretched(Check(2205, "Use MicroStation built-in values for allowable scales", 8206)),
             Check(2206, "Allow any user-defined drawing scale", 8202),
             Label(2200, "Allowed drawing scale values"),
             Edit(2201, "Allowed drawing scale values", 8200),
             Dots(2207, 8203),
             Label("Default drawing scale value"),
-            Edit(2213, "Default drawing scale value", 8204),
+            Fixed(Edit(2213, "Default drawing scale value", 8204)),
             Label("Change scale command"),
             Edit(2211, "Change scale command", 8209),
             Dots(2214, 8207),
         }},
         {10, { // Feature Tables
             Check(2300, "Prompt administrator for dictionary version", 8300),
-            Check(2301, "Support TriCAD compliant feature tables (German version only)", 8301),
+            Stretched(Check(2301, "Support TriCAD compliant feature tables (German version only)", 8301)),
             Check(2004, "Allow shapes as linear features", 2005),
             Check(2302, "Show hidden features to non-administrators", 8302),
             Check(2303, "Load suggested features for all users", 8305),
@@ -201,7 +211,7 @@ std::vector<ControlPage> MakePages()
             Edit(9393, "Disallowed Table Names", 8303),
             Dots(9395, kNoHelp),
             Label(11021, "Maximum Backup Tables"),
-            Edit(11024, "Maximum Backup Tables", 8308, OnlyDigits),
+            Fixed(Edit(11024, "Maximum Backup Tables", 8308, OnlyDigits)),
             UpDown(11023, 8308),
             Label(9384, "SQL Long String Type Name"),
             Edit(9387, "SQL Long String Type Name", 8315),
@@ -281,9 +291,9 @@ std::vector<ControlPage> MakePages()
             Dots(2710, 8708),
         }},
         {14, { // Logging
-            {3100, ControlClass::CheckBox, "Track conform changes in database", kAnyHelp, nullptr, Disabled},
+            Fixed({3100, ControlClass::CheckBox, "Track conform changes in database", kAnyHelp, nullptr, Disabled}),
             Label(3109, "Max log file size (KB)", kAnyHelp),
-            Edit(3111, "Max log file size (KB)", kAnyHelp, OnlyDigits),
+            Fixed(Edit(3111, "Max log file size (KB)", kAnyHelp, OnlyDigits)),
             UpDown(3112, kAnyHelp),
             Frame(9366, "Debug logging", kAnyHelp),
             Label(9374, "Debug Level", kAnyHelp),
@@ -309,10 +319,10 @@ std::vector<ControlPage> MakePages()
             Label(11046, "Wildcard / RegEx Support", 10015),
             Radio(11040, "0 - No wildcards allowed", 10010),
             Radio(11041, "1 - DOS Wildcards (? and *)", 10009),
-            Radio(11042, "2 - DOS Wildcards with ranges and subsets", 10011),
-            Radio(11045, "3 - DOS wildcards with ranges, subsets and substrings", 10012),
-            Radio(11043, "4 - Perl Compatible Regular Expressions", 10013),
-            Radio(11044, "5 - POSIX Extended Regular Expressions", 10014),
+            Stretched(Radio(11042, "2 - DOS Wildcards with ranges and subsets", 10011)),
+            Stretched(Radio(11045, "3 - DOS wildcards with ranges, subsets and substrings", 10012)),
+            Stretched(Radio(11043, "4 - Perl Compatible Regular Expressions", 10013)),
+            Stretched(Radio(11044, "5 - POSIX Extended Regular Expressions", 10014)),
             Button(11065, "Test", kNoHelp),
             Frame(11054, "Window Handling"),
             Check(11053, "Re-order windows automatically", 11061),
@@ -323,7 +333,7 @@ std::vector<ControlPage> MakePages()
             Radio(11071, "On", 2067),
         }},
         {18, { // Reference Files
-            {kAnyId, ControlClass::Frame, "Prompt for drawing scale when a border sheet is...", kAnyHelp},
+            Frame(kAnyId, "Prompt for drawing scale when a border sheet is...", kAnyHelp),
             Check(3003, "Attached", 9003),
             Check(3000, "Detached", 9000),
             Check(3004, "Modified", 9004),
@@ -344,7 +354,7 @@ std::vector<ControlPage> MakePages()
             Edit(3010, "Plot border shape", 9014),
             Dots(3011, 9013),
             Label(11018, "Allowed scale factor"),
-            Edit(11019, "Allowed scale factor", 2015),
+            Fixed(Edit(11019, "Allowed scale factor", 2015)),
             Label(11020, "(0.75-1.25)"),
             Label("Use Clip Boundaries / Masks"),
             List(11066, "Use Clip Boundaries / Masks", 2027, Sorted, whoDecides),
@@ -353,16 +363,16 @@ std::vector<ControlPage> MakePages()
             Check(3104, "Automatically add all attached reference files", kAnyHelp),
             Check(3101, "Prompt to continue when maximum errors found", kAnyHelp),
             Label(3102, "Maximum reportable errors", kAnyHelp),
-            Edit(3103, "Maximum reportable errors", kAnyHelp, OnlyDigits),
+            Fixed(Edit(3103, "Maximum reportable errors", kAnyHelp, OnlyDigits)),
             UpDown(3105, kAnyHelp),
             Label(3106, "Nesting level for reference files", kAnyHelp),
-            Edit(3107, "Nesting level for reference files", kAnyHelp, OnlyDigits),
+            Fixed(Edit(3107, "Nesting level for reference files", kAnyHelp, OnlyDigits)),
             UpDown(3108, kAnyHelp),
             Check(3109, "Legacy handling of reference nesting depth", kAnyHelp),
             Label(3110, "Initial Models To Add", kAnyHelp),
-            List(9389, "Initial Models To Add", kAnyHelp, Unsorted,
+            Stretched(List(9389, "Initial Models To Add", kAnyHelp, Unsorted,
                  {"All Models", "Active Model Only", "Design Models Only", "Sheet Models Only",
-                  "Models With A Border", "Prompt The User", "Default Model Only"}),
+                  "Models With A Border", "Prompt The User", "Default Model Only"})),
             Check(9392, "User Definable", kAnyHelp),
             Label(3111, "Files to Ignore", kAnyHelp),
             Edit(9374, "Files to Ignore", kAnyHelp),
@@ -371,7 +381,7 @@ std::vector<ControlPage> MakePages()
             Radio(9368, "None", kAnyHelp),
             Radio(9369, "Current user's name + design file name", kAnyHelp),
             Radio(9370, "Current user's initials + design file name", kAnyHelp),
-            Radio(9371, "Current user's initials + model + design file name", kAnyHelp),
+            Stretched(Radio(9371, "Current user's initials + model + design file name", kAnyHelp)),
             Radio(9372, "User defined", kAnyHelp),
             // To be typed into while "User defined" is chosen, and disabled otherwise.
             Edit(9373, "User defined", kAnyHelp),
@@ -383,18 +393,18 @@ std::vector<ControlPage> MakePages()
             Edit(9381, "User defined", kAnyHelp),
         }},
         {20, { // Scan Period
-            LaidOut(Check(9316, "Allow user-defined scan period", 8013), fixed),
-            LaidOut(Frame(11052, "Fixed Scan Period", 10008), stretched),
+            Check(9316, "Allow user-defined scan period", 8013),
+            Frame(11052, "Fixed Scan Period", 10008),
             Check(9317, "Define a fixed scan period", 8014),
-            LaidOut(List(11033, nullptr, 8026, Unsorted, beforeOrAfter), fixed),
-            LaidOut(List(11032, nullptr, 8027, Unsorted, events), stretched),
-            LaidOut(Date(11038, 8016), topRight),
+            List(11033, nullptr, 8026, Unsorted, beforeOrAfter),
+            Stretched(List(11032, nullptr, 8027, Unsorted, events)),
+            Date(11038, 8016),
             Check(9318, nullptr, 8024),
-            LaidOut(List(11034, nullptr, 8015, Unsorted, {"Or", "And", "Until"}), fixed),
-            LaidOut(List(11036, nullptr, 8026, Unsorted, beforeOrAfter), fixed),
-            LaidOut(List(11035, nullptr, 8027, Unsorted, events), stretched),
-            LaidOut(Date(9322, 8016), topRight),
-            LaidOut(List(11037, nullptr, kNoHelp, Unsorted, {"Whichever is first", "Whichever is last"}), fixed),
+            List(11034, nullptr, 8015, Unsorted, {"Or", "And", "Until"}),
+            List(11036, nullptr, 8026, Unsorted, beforeOrAfter),
+            Stretched(List(11035, nullptr, 8027, Unsorted, events)),
+            Date(9322, 8016),
+            List(11037, nullptr, kNoHelp, Unsorted, {"Whichever is first", "Whichever is last"}),
         }},
         {29, { // Score Weighting
             Label(11028, "Colour"),
@@ -472,7 +482,7 @@ std::vector<ControlPage> MakePages()
         }},
         {25, { // Users
             Check(9396, "Allow user groups", 2034),
-            Check(9397, "Retrieve user's name using Windows authentication", 2035),
+            Stretched(Check(9397, "Retrieve user's name using Windows authentication", 2035)),
             Label(9399, "Active User Groups"),
             Edit(9398, "Active User Groups", 2036),
             Dots(11000, 2008),
@@ -480,16 +490,16 @@ std::vector<ControlPage> MakePages()
         {26, { // Version
             Label(3200, "Current Orthoval Server version for all users"),
             Edit(3201, "Current Orthoval Server version for all users", 9700, ReadOnly),
-            Check(9355, "Warn of major version downgrades between databases", 9701),
-            Check(9359, "Warn of minor version downgrades between databases", 9702),
+            Stretched(Check(9355, "Warn of major version downgrades between databases", 9701)),
+            Stretched(Check(9359, "Warn of minor version downgrades between databases", 9702)),
         }},
         {27, { // Watermark Integrity
             Check(3334, "Double-cross watermark on failed report", 9320),
-            Check(3320, "Instantly invalidate watermarks on design change", 9310),
+            Stretched(Check(3320, "Instantly invalidate watermarks on design change", 9310)),
             Check(3335, "Check that all markers and watermarks conform", 9322),
             Check(3336, "Check font numbers", 9323),
             Check(3337, "Check font names", 9325),
-            Check(3338, "Check reference elements hidden by clipping masks", 9331),
+            Stretched(Check(3338, "Check reference elements hidden by clipping masks", 9331)),
             Label(3323, "Levels excluded from integrity check"),
             Edit(3325, "Levels excluded from integrity check", 9316),
             Dots(3327, 9318),
@@ -516,8 +526,8 @@ std::vector<ControlPage> MakePages()
             Label(3314, "Application version string"),
             Edit(3316, "Application version string", 9324),
             Label(3312, "Text line spacing"),
-            Edit(3311, "Text line spacing", 9306),
-            Check(3300, "By text height scale", 9300),
+            Fixed(Edit(3311, "Text line spacing", 9306)),
+            Stretched(Check(3300, "By text height scale", 9300)),
             Label(3304, "Watermark cross symbology"),
             Edit(3302, "Watermark cross symbology", 9302),
             Dots(3321, 9315),

@@ -40,7 +40,7 @@ struct ControlRow {
     unsigned help = kNoHelp;     ///< string id
     const char* label = nullptr; ///< what the control before it in Tab's order says; nullptr: left open
     unsigned marks = 0;
-    std::uint32_t layout = 0;              ///< how it follows the page's size; 0: left open
+    std::uint32_t layout = 0;              ///< how it follows the page's size
     std::vector<const char*> entries = {}; ///< of a list, in the order shown
 };
 
@@ -83,7 +83,7 @@ struct UpDownRow {
 const std::vector<BrowseButton>& BrowseButtons();
 const std::vector<UpDownRow>& UpDowns();
 
-/// All 27 pages, from the top of the category list to its bottom.
+/// All pages, from the top of the category list to its bottom.
 const std::vector<ControlPage>& ControlPages();
 
 const ControlPage& ControlsOf(int pageId);

@@ -44,21 +44,21 @@ Setting Weight(const char* variable, int edit, int bar, unsigned help)
 std::vector<Page> MakePages()
 {
     return {
-        {2, "Branding", 9364, {
+        {2, "Branding", 2058, 9364, 290, 220, {
             Flag("_ORTHOVAL_BRANDING_AUTO", 9512, 2059),
             Flag("_ORTHOVAL_BRANDING_OVERRIDE", 9513, 2060),
             Flag("_ORTHOVAL_BRANDING_CERTIFY", 9514, 2061),
             Flag("_ORTHOVAL_BRANDING_DISABLE_AUTOLOAD", 9515, 2062),
             Text("_ORTHOVAL_BRANDING_RENAME_TABLES", 11001, 2063),
         }},
-        {3, "Cell Handling", 9350, {
+        {3, "Cell Handling", 9345, 9350, 290, 210, {
             Flag("_ORTHOVAL_CHECK_CELLCOMPONENTS", 2006, 8005),
             Flag("_ORTHOVAL_CHECK_SHAREDCELLDEF", 2011, 8007),
             Flag("_ORTHOVAL_ALLOW_UNKNOWN_CONFORMING_CELLS", 2008, 8006),
             Flag("_ORTHOVAL_COPY_DATA_FIELDS", 2015, 8009),
             Flag("_ORTHOVAL_CELL_CACHING", 2007, 8003),
         }},
-        {4, "Certifying", 9352, {
+        {4, "Certifying", 2006, 9352, 400, 360, {
             {"_ORTHOVAL_MARKERCELL", FlagKind, Control::Check, 3302, 3301, 9301, Meaning::Flag},
             {"_ORTHOVAL_CERTIFY_CHECK_REFERENCE_MARKERCELLS", FlagKind, Control::Check, 3303, 3302, 9333, Meaning::Flag},
             {"_ORTHOVAL_CERTIFY_NO_DIFFERING_STGS", FlagKind, Control::None, 0, 3303, 2038, Meaning::Flag},
@@ -67,13 +67,13 @@ std::vector<Page> MakePages()
             {"_ORTHOVAL_CERTIFY_CHECK_REFERENCE_WATERMARKS", IntegerKind, Control::Radio, 9351, 9394, 2033,
              Meaning::ButtonsOfThree, 3, -1},
         }},
-        {5, "Colour Table", 116, {
+        {5, "Colour Table", 7011, 116, 290, 220, {
             Path("_ORTHOVAL_COLOURTABLES", 9327, 5032),
             Flag("_ORTHOVAL_ALLOW_ANY_COLOURTABLE", 9330, 5034),
             Flag("_ORTHOVAL_PROMPT_COLOURTABLE_ON_FILE_OPEN", 9331, 5035),
             {"_ORTHOVAL_PROMPT_COLOURTABLE_REMAP", IntegerKind, Control::List, 9332, 9332, 5036, Meaning::Index, 3, 2},
         }},
-        {6, "Conforming", 101, {
+        {6, "Conforming", 5001, 101, 440, 370, {
             Flag("_ORTHOVAL_CHECK_CELLS", 2000, 8000),
             Flag("_ORTHOVAL_CHECK_TEXT", 2001, 8001),
             Flag("_ORTHOVAL_CHECK_TAGS", 2002, 8002),
@@ -89,17 +89,17 @@ std::vector<Page> MakePages()
             Text("_ORTHOVAL_MIN_MU_ERRORSCALE", 2020, 2017, RealKind),
             Text("_ORTHOVAL_CHECK_IGNORED_LEVELS", 11015, 8021),
         }},
-        {7, "Custom Reports", 9369, {
+        {7, "Custom Reports", 8313, 9369, 290, 170, {
             Text("_ORTHOVAL_REPORT_CUSTOM_COMMANDS", 11048, 9120),
             Text("_ORTHOVAL_REPORT_CUSTOM_MVBA", 11052, 9122),
             Flag("_ORTHOVAL_REPORT_CUSTOM_COMMANDS_LOCKED", 11051, 9124),
         }},
-        {8, "Drafting", 102, {
+        {8, "Drafting", 5002, 102, 290, 70, {
             Flag("_ORTHOVAL_DRAFT_BY_RANGES", 2100, 8100),
             Flag("_ORTHOVAL_DRAFT_MENUS_ORDERBYDESCRIPTION", 2101, 8101),
             Flag("_ORTHOVAL_TEXT_FORCECOLOUROVERRIDEMATCH", 2102, 8102),
         }},
-        {9, "Drawing Scales", 103, {
+        {9, "Drawing Scales", 5003, 103, 290, 320, {
             Flag("_ORTHOVAL_PROMPT_DRAWINGSCALES", 2202, 8201),
             Flag("_ORTHOVAL_DRAWINGSCALE_ALLOW_NONE", 2203, 8205),
             Flag("_ORTHOVAL_DRAWINGSCALE_ANNO_LOCK", 2208, 8208),
@@ -108,7 +108,7 @@ std::vector<Page> MakePages()
             Text("_ORTHOVAL_DRAWINGSCALE_DEFAULT_VALUE", 2213, 8204, IntegerKind),
             Text("_ORTHOVAL_DRAWINGSCALE_COMMAND", 2211, 8209),
         }},
-        {10, "Feature Tables", 104, {
+        {10, "Feature Tables", 5004, 104, 290, 420, {
             Flag("_ORTHOVAL_USEDICTVERSIONING", 2300, 8300),
             Flag("_ORTHOVAL_SUPPORT_TRICAD", 2301, 8301),
             Flag("_ORTHOVAL_CHECK_SHAPESASLINEAR", 2004, 2005),
@@ -121,14 +121,14 @@ std::vector<Page> MakePages()
             Text("_ORTHOVAL_TABLE_BACKUP_MAX", 11024, 8308),
             Text("_ORTHOVAL_SQL_LONG_STRING", 9387, 8315),
         }},
-        {15, "File Naming", 109, {
+        {15, "File Naming", 5008, 109, 290, 260, {
             Flag("_ORTHOVAL_CONVENTION_FILENAME_PROMPT", 2910, 8904),
             Text("_ORTHOVAL_CONVENTION_FILENAME", 2901, 8900),
             Text("_ORTHOVAL_CONVENTION_FILENAME_DESCR", 2903, 8908),
             Text("_ORTHOVAL_CONVENTION_FILENAME_HELP_FILE", 2906, 8902),
             Text("_ORTHOVAL_CONVENTION_FILENAME_HELP_STRING", 9341, 8903),
         }},
-        {11, "File Paths", 105, {
+        {11, "File Paths", 10016, 105, 290, 450, {
             Path("_ORTHOVAL_DICT_DIR", 2401, 8401),
             Path("_ORTHOVAL_DOCS_DIR", 2403, 8403),
             Path("_ORTHOVAL_FILEDSN_DIR", 2406, 8405),
@@ -142,7 +142,7 @@ std::vector<Page> MakePages()
             Path("_ORTHOVAL_HTMLEXPORT_OUTDIR", 2425, 8417),
             Path("_ORTHOVAL_HTMLEXPORT_EXEFILE", 2428, 8419),
         }},
-        {12, "Languages", 106, {
+        {12, "Languages", 5006, 106, 290, 290, {
             Text("_ORTHOVAL_MENU_NAME", 9375, 8711),
             Text("_ORTHOVAL_BILINGUAL_TEXT_LANGUAGE_1", 2701, 8701),
             Text("_ORTHOVAL_BILINGUAL_TEXT_LANGUAGE_2", 2702, 8702),
@@ -151,25 +151,25 @@ std::vector<Page> MakePages()
             Text("_ORTHOVAL_BILINGUAL_TEXT_INITIAL_KEYIN", 2711, 8709),
             Path("_ORTHOVAL_BILINGUAL_TEXT_TEMPLATE_FILE", 2709, 8707),
         }},
-        {14, "Logging", 9358, {
+        {14, "Logging", 9347, 9358, 400, 190, {
             Flag("_ORTHOVAL_REPORT_TRACKING", 3100, 9130),
             Text("ORTHOVAL_LOG_FILE_MAXSIZE", 3111, 9131, IntegerKind),
             {"_ORTHOVAL_LOG_FILE_DEBUGLEVEL", IntegerKind, Control::List, 9365, 9365, 9132, Meaning::Index, 3, 0},
         }},
-        {17, "Model Naming", 117, {
+        {17, "Model Naming", 9342, 117, 290, 270, {
             Flag("_ORTHOVAL_CONVENTION_MODELNAME_PROMPT", 9340, 8905),
             Text("_ORTHOVAL_CONVENTION_MODELNAME", 2903, 8901),
             Text("_ORTHOVAL_CONVENTION_MODELNAME_DESCR", 2909, 8909),
             Text("_ORTHOVAL_CONVENTION_MODELNAME_HELP_FILE", 9344, 8906),
             Text("_ORTHOVAL_CONVENTION_MODELNAME_HELP_STRING", 9349, 8907),
         }},
-        {16, "Miscellaneous", 9368, {
+        {16, "Miscellaneous", 8910, 9368, 290, 390, {
             {"_ORTHOVAL_WILDCARD_TYPE", IntegerKind, Control::Radio, 11040, 11046, 10015, Meaning::Index, 6, 3},
             Flag("_ORTHOVAL_TOOLS_REORDERALLWINDOWS", 11053, 11061),
             Flag("_ORTHOVAL_AUTOLOGIN_USERDEFINED", 11069, 2066),
             {"_ORTHOVAL_AUTOLOGIN_DEFAULTVALUE", FlagKind, Control::Radio, 11072, 11072, 2067, Meaning::Flag, 2, 1},
         }},
-        {18, "Reference Files", 110, {
+        {18, "Reference Files", 5009, 110, 400, 750, {
             Flag("_ORTHOVAL_PROMPT_REF_ATTACHED", 3003, 9003),
             Flag("_ORTHOVAL_PROMPT_REF_DETACHED", 3000, 9000),
             Flag("_ORTHOVAL_PROMPT_REF_MODIFIED", 3004, 9004),
@@ -186,7 +186,7 @@ std::vector<Page> MakePages()
             {"_ORTHOVAL_BORDERSHEETS_ERROR_SCALE", TextKind, Control::Edit, 11019, 11019, 2015, Meaning::ScaleFactor},
             ListOfThree("_ORTHOVAL_REPORT_USEREFCLIPPING", 11066, 2027),
         }},
-        {19, "Reporting", 111, {
+        {19, "Reporting", 5010, 111, 290, 630, {
             Flag("_ORTHOVAL_REPORT_AUTOGETREFS", 3104, 9100),
             Flag("_ORTHOVAL_REPORT_PROMPTMAXLOG", 3101, 9101),
             Text("_ORTHOVAL_REPORT_MAXLOGGABLE", 3103, 9102, IntegerKind),
@@ -200,11 +200,11 @@ std::vector<Page> MakePages()
             {"_ORTHOVAL_REPORT_OUTPUT_DEFAULT_NAME", TextKind, Control::Edit, 9381, 9375, 9109, Meaning::Preset, 0, 0,
              {"$(ORTHOVAL_CURRENT_STANDARD)", "$(ORTHOVAL_CURRENT_DISCIPLINE)"}},
         }},
-        {20, "Scan Period", 9367, {
+        {20, "Scan Period", 10007, 9367, 290, 320, {
             Flag("_ORTHOVAL_SCANPERIOD_ALLOWUSER", 9316, 8013),
             {"_ORTHOVAL_SCANPERIOD_SETTINGS", TextKind, Control::None, 0, 11052, 10008, Meaning::Period},
         }},
-        {29, "Score Weighting", 9366, {
+        {29, "Score Weighting", 2065, 9366, 290, 460, {
             Weight("_ORTHOVAL_WEIGHTING_COLOUR", 11032, 11025, 9317),
             Weight("_ORTHOVAL_WEIGHTING_WEIGHT", 11031, 11033, 9321),
             Weight("_ORTHOVAL_WEIGHTING_STYLE", 11035, 11038, 9326),
@@ -214,7 +214,7 @@ std::vector<Page> MakePages()
             Weight("_ORTHOVAL_WEIGHTING_TEXTSTYLE", 11040, 11042, 9330),
             Weight("_ORTHOVAL_WEIGHTING_DIMENSIONSTYLE", 11043, 11048, 9329),
         }},
-        {21, "Signature Cells", 9361, {
+        {21, "Signature Cells", 2046, 9361, 290, 220, {
             Flag("_ORTHOVAL_CHECK_SIGNATURECELL", 9494, 2050),
             Flag("_ORTHOVAL_SIGNATURECELL_DEFAULT_MODEL", 9509, 2055),
             Flag("_ORTHOVAL_SIGNATURECELL_ALLOW_ONE", 9495, 2052),
@@ -222,7 +222,7 @@ std::vector<Page> MakePages()
             Text("_ORTHOVAL_SIGNATURECELL_CELLLIBS", 9499, 2053),
             Text("_ORTHOVAL_SIGNATURECELL_CELLS", 9497, 2054),
         }},
-        {22, "Title Blocks", 9362, {
+        {22, "Title Blocks", 2047, 9362, 290, 480, {
             Flag("_ORTHOVAL_CHECK_TITLEBLOCK", 9490, 2039),
             Flag("_ORTHOVAL_TITLEBLOCK_DEFAULT_MODEL", 9510, 2056),
             Flag("_ORTHOVAL_TITLEBLOCK_ALLOW_ONE", 9491, 2040),
@@ -234,27 +234,27 @@ std::vector<Page> MakePages()
             {"_ORTHOVAL_TITLEBLOCK_TAGVALUES", TextKind, Control::None, 0, 9499, 2074, Meaning::Text},
             Text("_ORTHOVAL_TITLEBLOCK_TAGSPELLCHECK", 9495, 2076),
         }},
-        {23, "Third Party Apps", 118, {
+        {23, "Third Party Apps", 5040, 118, 290, 70, {
             Flag("_ORTHOVAL_CHECK_USERATTRIBUTES", 2027, 8011),
             Flag("_ORTHOVAL_CHECK_GEOPAK", 9323, 8017),
             Flag("_ORTHOVAL_CHECK_INROADS", 9325, 8018),
             Flag("_ORTHOVAL_CHECK_TRIFORMA", 9326, 8019),
         }},
-        {24, "URLs", 9354, {
+        {24, "URLs", 2007, 9354, 290, 70, {
             Text("_ORTHOVAL_TECHSUPPORT_URL", 2415, 8411),
             Text("_ORTHOVAL_WEBSITE_URL", 2420, 8414),
         }},
-        {25, "Users", 9360, {
+        {25, "Users", 2037, 9360, 290, 70, {
             Flag("_ORTHOVAL_USERS_ALLOW_GROUPS", 9396, 2034),
             Flag("_ORTHOVAL_WINDOWS_AUTHENTICATION", 9397, 2035),
             Text("_ORTHOVAL_USERS_CURRENT_GROUP", 9398, 2036),
         }},
-        {26, "Version", 112, {
+        {26, "Version", 5011, 112, 290, 70, {
             {"_ORTHOVAL_SERVER_VERSION", TextKind, Control::Edit, 3201, 3201, 9700, Meaning::LeftAlone},
             Flag("_ORTHOVAL_WARN_MAJOR_UPGRADE", 9355, 9701),
             Flag("_ORTHOVAL_WARN_MINOR_UPGRADE", 9359, 9702),
         }},
-        {27, "Watermark Integrity", 513, {
+        {27, "Watermark Integrity", 5012, 513, 290, 410, {
             Flag("_ORTHOVAL_REPORT_DOUBLECROSS_ON_FAIL", 3334, 9320),
             Flag("_ORTHOVAL_WATERMARKS_INSTANTINVALIDATE", 3320, 9310),
             Flag("_ORTHOVAL_WATERMARKS_CONFORM", 3335, 9322),
@@ -267,7 +267,7 @@ std::vector<Page> MakePages()
             ListOfThree("_ORTHOVAL_WATERMARKS_CHECK_METADATA", 9384, 2026),
             ListOfThree("_ORTHOVAL_WATERMARKS_OVERWRITE", 9379, 2029),
         }},
-        {28, "Watermark Placement", 9363, {
+        {28, "Watermark Placement", 5041, 9363, 290, 370, {
             Text("_ORTHOVAL_REPLACETEXT_USERDEFINED_STRING", 3318, 9309),
             Path("_ORTHOVAL_REPLACETEXT_DATE_STRING", 3305, 9303),
             Path("_ORTHOVAL_REPLACETEXT_DATE_FORMAT", 3307, 9304),
@@ -401,6 +401,13 @@ std::string Period(const Table& table, const std::string& today)
     return text;
 }
 } // namespace
+
+std::span<const int> ConstructionOrder()
+{
+    static constexpr int order[] = {2,  3,  5,  4,  6,  7,  8,  9,  10, 11, 12, 14, 15, 16,
+                                    17, 18, 19, 20, 21, 22, 23, 24, 25, 26, 27, 28, 29};
+    return order;
+}
 
 const std::vector<Page>& Pages()
 {

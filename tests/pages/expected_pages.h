@@ -48,15 +48,20 @@ struct Setting {
 struct Page {
     int pageId;
     const char* title;
+    unsigned titleId; ///< string id
     unsigned templateId;
+    int scrollWidth; ///< size of the content in pixels at 96 dpi
+    int scrollHeight;
     std::vector<Setting> settings;
 };
 
-/// All 27 pages with their 175 settings, from the top of the category list to
-/// its bottom.
+/// All pages with their settings, from the top of the category list to its bottom.
 const std::vector<Page>& Pages();
 
-/// The page of that id; all 27 have one.
+/// The ids of the pages in the order in which they are constructed and saved.
+std::span<const int> ConstructionOrder();
+
+/// The page of that id. Throws std::logic_error if nothing is expected of it.
 const Page& PageOf(int pageId);
 
 /// Variables that are only read, because of files written long ago.

@@ -1,5 +1,12 @@
 // What every control of every window is called to those who do not see it.
-#include "resources/page_ids.h"
+#include "pages/conforming/ids.h"
+#include "pages/files/ids.h"
+#include "pages/misc/ids.h"
+#include "pages/reporting/ids.h"
+#include "pages/scan_period/ids.h"
+#include "pages/title_block/ids.h"
+#include "pages/weighting/ids.h"
+#include "resources/ids.h"
 #include "tests/support/name_recorder.h"
 #include "tests/ui/built_pages.h"
 #include "tests/ui/dialog_session.h"

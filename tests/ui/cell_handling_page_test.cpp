@@ -1,7 +1,8 @@
 // Cell Handling in the dialog.
 #include "tests/ui/page_session.h"
 
-#include "resources/page_ids.h"
+#include "pages/cell_handling/ids.h"
+#include "resources/ids.h"
 
 using namespace uidriver;
 

@@ -1,5 +1,5 @@
 // The Certifying page in the dialog.
-#include "resources/page_ids.h"
+#include "pages/certifying/ids.h"
 #include "tests/ui/page_session.h"
 
 using namespace uidriver;

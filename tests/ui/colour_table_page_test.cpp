@@ -3,7 +3,8 @@
 #include "tests/ui/expected_file.h"
 #include "tests/ui/value_editor.h"
 
-#include "resources/page_ids.h"
+#include "pages/colour_table/ids.h"
+#include "resources/ids.h"
 
 using namespace uidriver;
 

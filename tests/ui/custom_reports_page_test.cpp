@@ -1,5 +1,5 @@
 // The Custom Reports page in the dialog.
-#include "resources/page_ids.h"
+#include "pages/custom_reports/ids.h"
 #include "tests/ui/page_session.h"
 
 using namespace uidriver;

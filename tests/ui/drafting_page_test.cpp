@@ -2,7 +2,7 @@
 #include "tests/ui/dialog_session.h"
 #include "tests/ui/expected_file.h"
 
-#include "resources/page_ids.h"
+#include "pages/drafting/ids.h"
 
 using namespace uidriver;
 

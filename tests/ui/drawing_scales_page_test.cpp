@@ -2,7 +2,7 @@
 #include "tests/ui/page_session.h"
 #include "tests/ui/value_editor.h"
 
-#include "resources/page_ids.h"
+#include "resources/ids.h"
 
 using namespace uidriver;
 

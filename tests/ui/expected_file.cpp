@@ -1,6 +1,6 @@
 #include "tests/ui/expected_file.h"
 
-#include "resources/page_ids.h"
+#include "resources/ids.h"
 #include "tests/ui/built_pages.h"
 
 #include <windows.h>

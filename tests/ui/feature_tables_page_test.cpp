@@ -1,7 +1,7 @@
 // The Feature Tables page in the dialog.
 #include "tests/ui/page_session.h"
 
-#include "resources/page_ids.h"
+#include "pages/feature_tables/ids.h"
 
 using namespace uidriver;
 

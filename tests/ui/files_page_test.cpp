@@ -1,7 +1,7 @@
 // The File Paths page in the dialog.
 #include "tests/ui/page_doors.h"
 
-#include "resources/page_ids.h"
+#include "pages/files/ids.h"
 
 using namespace uidriver;
 

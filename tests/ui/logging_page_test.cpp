@@ -1,5 +1,6 @@
 // The Logging page in the dialog.
-#include "resources/page_ids.h"
+#include "pages/logging/ids.h"
+#include "resources/ids.h"
 #include "tests/ui/page_session.h"
 
 using namespace uidriver;

@@ -1,5 +1,8 @@
 // Values far longer than people type them.
-#include "resources/page_ids.h"
+#include "pages/conforming/ids.h"
+#include "pages/files/ids.h"
+#include "pages/title_block/ids.h"
+#include "resources/ids.h"
 #include "tests/ui/dialog_session.h"
 #include "tests/ui/expected_file.h"
 #include "tests/ui/value_editor.h"

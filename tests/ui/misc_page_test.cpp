@@ -2,7 +2,8 @@
 #include "tests/ui/dialog_session.h"
 #include "tests/ui/expected_file.h"
 
-#include "resources/page_ids.h"
+#include "pages/misc/ids.h"
+#include "resources/ids.h"
 
 using namespace uidriver;
 

@@ -1,5 +1,9 @@
 // The keys that captions underline, in every window.
-#include "resources/page_ids.h"
+#include "pages/branding/ids.h"
+#include "pages/conforming/ids.h"
+#include "pages/misc/ids.h"
+#include "pages/title_block/ids.h"
+#include "resources/ids.h"
 #include "tests/ui/built_pages.h"
 #include "tests/ui/dialog_session.h"
 #include "tests/ui/reading_order.h"

@@ -3,7 +3,8 @@
 #include "tests/ui/page_session.h"
 #include "tests/ui/value_editor.h"
 
-#include "resources/page_ids.h"
+#include "pages/reference_files/ids.h"
+#include "resources/ids.h"
 
 using namespace uidriver;
 

@@ -1,5 +1,6 @@
 // The Reporting page in the dialog.
-#include "resources/page_ids.h"
+#include "pages/reporting/ids.h"
+#include "resources/ids.h"
 #include "tests/ui/page_session.h"
 
 using namespace uidriver;

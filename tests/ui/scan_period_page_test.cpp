@@ -10,7 +10,10 @@
 #include <set>
 #include <tuple>
 
-#include "resources/page_ids.h"
+#include "pages/conforming/ids.h"
+#include "pages/scan_period/ids.h"
+#include "pages/users/ids.h"
+#include "resources/ids.h"
 
 using namespace uidriver;
 

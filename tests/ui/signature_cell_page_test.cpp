@@ -1,7 +1,8 @@
 // The Signature Cells page in the dialog.
 #include "tests/ui/page_doors.h"
 
-#include "resources/page_ids.h"
+#include "pages/signature_cell/ids.h"
+#include "resources/ids.h"
 
 using namespace uidriver;
 

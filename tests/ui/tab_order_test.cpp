@@ -1,5 +1,12 @@
 // Tab and Shift and Tab through every window.
-#include "resources/page_ids.h"
+#include "pages/conforming/ids.h"
+#include "pages/drawing_scales/ids.h"
+#include "pages/logging/ids.h"
+#include "pages/misc/ids.h"
+#include "pages/scan_period/ids.h"
+#include "pages/signature_cell/ids.h"
+#include "pages/title_block/ids.h"
+#include "resources/ids.h"
 #include "tests/ui/built_pages.h"
 #include "tests/ui/dialog_session.h"
 #include "tests/ui/reading_order.h"

@@ -1,7 +1,8 @@
 // The Title Blocks page in the dialog.
 #include "tests/ui/page_doors.h"
 
-#include "resources/page_ids.h"
+#include "pages/title_block/ids.h"
+#include "resources/ids.h"
 
 #include <set>
 

@@ -1,7 +1,7 @@
 // The Version page in the dialog.
 #include "tests/ui/page_doors.h"
 
-#include "resources/page_ids.h"
+#include "pages/version/ids.h"
 
 using namespace uidriver;
 

@@ -1,5 +1,6 @@
 // The Watermark Integrity page in the dialog.
-#include "resources/page_ids.h"
+#include "pages/watermark_integrity/ids.h"
+#include "resources/ids.h"
 #include "tests/ui/page_session.h"
 
 using namespace uidriver;

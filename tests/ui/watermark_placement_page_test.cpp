@@ -1,5 +1,5 @@
 // The Watermark Placement page in the dialog.
-#include "resources/page_ids.h"
+#include "pages/watermark_placement/ids.h"
 #include "tests/ui/page_session.h"
 
 using namespace uidriver;

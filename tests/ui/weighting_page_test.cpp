@@ -4,7 +4,7 @@
 
 #include <commctrl.h>
 
-#include "resources/page_ids.h"
+#include "pages/weighting/ids.h"
 
 using namespace uidriver;
 

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "pages/core/page_rows.h"
+#include "pages/settings_page.h"
+
+/// A page without behaviour of its own: its rows say all there is to it.
+template <const ov::PageRows& (*Rows)()>
+class CPlainPage : public CSettingsPage
+{
+  public:
+    explicit CPlainPage(CPreferencesWizard* owner) : CSettingsPage(owner, Rows()) {}
+};
+
+// The class of every page. Those with behaviour of their own are in their folder's
+// page.h; each of the others is one line: using CPageURLs = CPlainPage<ov::URLsRows>.
+#define OV_PLAIN_PAGE(name) using CPage##name = CPlainPage<ov::name##Rows>;
+#include "pages/page_classes.inc"
+#undef OV_PLAIN_PAGE
