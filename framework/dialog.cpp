@@ -172,6 +172,10 @@ BOOL CDialog::PreTranslateMessage(MSG* message)
 {
     if (CWnd::PreTranslateMessage(message))
         return TRUE;
+    // The messages of dialogs that this one owns come here too; only their own dialog may
+    // navigate by them.
+    if (message->hwnd != m_hWnd && !::IsChild(m_hWnd, message->hwnd))
+        return FALSE;
     // A multi-line edit answers Escape by closing the dialog it lies in, which
     // for one on a child dialog would be that child. Escape means the whole.
     if (!IsChildPage() && message->message == WM_KEYDOWN && message->wParam == VK_ESCAPE &&

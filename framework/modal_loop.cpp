@@ -1,8 +1,19 @@
+#include "framework/application.h"
 #include "framework/dialog.h"
 #include "framework/exceptions.h"
 #include "framework/thread_state.h"
 
 #include <utility>
+
+namespace
+{
+/// The parent of a child window, the owner of any other; null for none.
+HWND ParentOrOwner(HWND window)
+{
+    const bool isChild = (::GetWindowLongPtrW(window, GWL_STYLE) & WS_CHILD) != 0;
+    return isChild ? ::GetParent(window) : ::GetWindow(window, GW_OWNER);
+}
+} // namespace
 
 BOOL CWnd::PreTranslateMessage(MSG*)
 {
@@ -18,7 +29,7 @@ BOOL CWnd::PreTranslateInput(MSG* message)
 
 BOOL CWnd::WalkPreTranslateTree(HWND stop, MSG* message)
 {
-    for (HWND window = message->hwnd; window != nullptr; window = ::GetParent(window)) {
+    for (HWND window = message->hwnd; window != nullptr; window = ParentOrOwner(window)) {
         CWnd* const object = FromHandlePermanent(window);
         if (object != nullptr && object->PreTranslateMessage(message))
             return TRUE;
@@ -38,13 +49,13 @@ void CWnd::EndModalLoop(int result)
 
 namespace
 {
-/// Handles one message as a modal loop over the window does.
-void Dispatch(HWND modalWindow, MSG& message)
+/// Handles one message as a modal loop does.
+void Dispatch(MSG& message)
 {
     // The loop is called from handlers further out; a failure here is not
     // theirs, and one message's failure does not end the dialog.
     try {
-        if (CWnd::WalkPreTranslateTree(modalWindow, &message))
+        if (CWnd::WalkPreTranslateTree(AfxSafeHwnd(AfxGetMainWnd()), &message))
             return;
     } catch (...) {
         AfxReportCurrentException();
@@ -52,6 +63,16 @@ void Dispatch(HWND modalWindow, MSG& message)
     }
     ::TranslateMessage(&message);
     ::DispatchMessageW(&message);
+}
+
+/// Sends a message through the pre-translation when the focus has moved since the last call.
+/// An inner dialog keeps its keys and clicks to itself; without this message the windows that
+/// own it would learn of the new focus only with the next message of another kind.
+/// @return whether a message was posted.
+bool AnnounceFocus(HWND& known)
+{
+    const HWND before = std::exchange(known, ::GetFocus());
+    return known != nullptr && known != before && ::PostMessageW(known, WM_NULL, 0, 0);
 }
 } // namespace
 
@@ -67,12 +88,15 @@ int CWnd::RunModalLoop()
     if (!IsWindowVisible())
         ShowWindow(SW_SHOWNORMAL);
     ::UpdateWindow(window);
+    HWND focus = nullptr;
     bool idle = true;
     LPARAM idleCount = 0;
     while (m_continueModal) {
         MSG message;
         if (idle && !::PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE)) {
             temporary.DeleteFrom(mark);
+            if (AnnounceFocus(focus))
+                continue;
             if (idleCount == 0 && owner != nullptr && (GetStyle() & DS_NOIDLEMSG) == 0)
                 ::SendMessageW(owner, WM_ENTERIDLE, MSGF_DIALOGBOX, reinterpret_cast<LPARAM>(window));
             idle = SendMessage(WM_KICKIDLE, MSGF_DIALOGBOX, idleCount++) != 0;
@@ -85,7 +109,7 @@ int CWnd::RunModalLoop()
                 ::PostQuitMessage(static_cast<int>(message.wParam));
             break;
         }
-        Dispatch(window, message);
+        Dispatch(message);
         idle = true;
         idleCount = 0;
     }

@@ -134,8 +134,9 @@ class CWnd : public CCmdTarget
     // --- pre-translation and modal loops --------------------------------------
     /// Looks at a message before it is dispatched; TRUE takes it away.
     virtual BOOL PreTranslateMessage(MSG* message);
-    /// Lets the permanent objects from the message's window up to `stop` look at
-    /// the message, innermost first.
+    /// Lets the permanent objects of the message's window, of its parents and of their owners look
+    /// at the message, innermost first, until one takes it. The object of `stop` is the last one;
+    /// null asks all of them. Modal loops stop at the application's main window.
     static BOOL WalkPreTranslateTree(HWND stop, MSG* message);
     /// Dispatches messages until EndModalLoop; returns its result. At WM_QUIT the
     /// loop ends as if cancelled, and the message is posted again for the loop

@@ -1,6 +1,9 @@
 // The two focus-item fields tell of the control that has the focus.
 #include "tests/ui/dialog_session.h"
 #include "tests/ui/expected_file.h"
+#include "tests/ui/value_editor.h"
+
+#include "resources/page_ids.h"
 
 using namespace uidriver;
 
@@ -100,6 +103,41 @@ TEST_F(FocusItemsTest, TheFieldsThemselvesLeaveTheLastItem)
         EXPECT_EQ(Wide(description), Description());
         ExpectItem(PageControl(IDC_BRANDING_AUTO), "_ORTHOVAL_BRANDING_AUTO", HelpSection(2059, "<D>"));
     }
+    Cancel();
+}
+
+TEST_F(FocusItemsTest, FollowTheFocusThroughTheListEditor)
+{
+    UseCurrent("_ORTHOVAL_REPORT_IGNORED_REFFILES = a;b\r\n");
+    ASSERT_TRUE(Open());
+    ASSERT_TRUE(ShowPage(L"Reporting"));
+    Focus(PageControl(IDC_REPORTING_IGNORED_BROWSE));
+    HWND editor = OpenValueEditor(PageControl(IDC_REPORTING_IGNORED_BROWSE));
+    ASSERT_TRUE(editor);
+    const struct {
+        int control;
+        std::wstring description;
+    } items[] = {
+        {IDC_CONFIG_SETTING_LIST, L"This list contains all values of the setting."},
+        {IDOK, L"Saves the changes and closes the dialog."},
+        {IDCANCEL, L"Closes the dialog without applying changes."},
+        {IDC_CONFIG_SETTING_INSERT, L"Inserts the value into list."},
+        {IDC_CONFIG_SETTING_DELETE, L"Deletes the selected row(s) from defined values list."},
+        {IDC_CONFIG_SETTING_MOVE_DOWN, L""},
+        {IDC_CONFIG_SETTING_VALUE, L"Define a value for the setting."},
+        {IDC_CONFIG_SETTING_BROWSE, L"Opens a file requestor dialog to browse for the required file."},
+        {IDC_CONFIG_SETTING_LIST, L"This list contains all values of the setting."},
+    };
+    for (const auto& item : items) {
+        SCOPED_TRACE(item.control);
+        EXPECT_EQ(GetDlgItem(editor, item.control), FocusIn(editor));
+        EXPECT_TRUE(
+            Await([&] { return Description() == item.description && Name().empty(); }, FollowDeadline))
+            << testing::PrintToString(Description());
+        PostKey(editor, VK_TAB);
+    }
+    CloseValueEditor(editor, IDCANCEL);
+    EXPECT_TRUE(Await([&] { return Name() == L"_ORTHOVAL_REPORT_IGNORED_REFFILES"; }, FollowDeadline));
     Cancel();
 }
 
