@@ -25,3 +25,26 @@ void FitDroppedWidth(HWND comboBox)
     const int edges = 4 * ::GetSystemMetrics(SM_CXEDGE) + ::GetSystemMetrics(SM_CXVSCROLL);
     ::SendMessageW(comboBox, CB_SETDROPPEDWIDTH, widest + static_cast<WPARAM>(edges), 0);
 }
+
+namespace
+{
+void CloseCalendar(HWND datePicker)
+{
+    ::SendMessageW(datePicker, DTM_CLOSEMONTHCAL, 0, 0);
+    // Not every system has that message.
+    const auto calendar = reinterpret_cast<HWND>(::SendMessageW(datePicker, DTM_GETMONTHCAL, 0, 0));
+    if (calendar != nullptr && ::IsWindowVisible(calendar))
+        ::ShowWindow(calendar, SW_HIDE);
+}
+} // namespace
+
+void CloseDropped(HWND dialog)
+{
+    for (HWND control = ::GetWindow(dialog, GW_CHILD); control != nullptr;
+         control = ::GetWindow(control, GW_HWNDNEXT)) {
+        if (AfxIsOfClass(control, WC_COMBOBOXW) && ::SendMessageW(control, CB_GETDROPPEDSTATE, 0, 0) != 0)
+            ::SendMessageW(control, CB_SHOWDROPDOWN, FALSE, 0);
+        else if (AfxIsOfClass(control, DATETIMEPICK_CLASSW))
+            CloseCalendar(control);
+    }
+}

@@ -1,6 +1,7 @@
 #include "framework/data_exchange.h"
 
 #include "framework/exceptions.h"
+#include "framework/focus.h"
 #include "framework/thread_state.h"
 
 #include <stdexcept>
@@ -81,7 +82,8 @@ HWND CDataExchange::PrepareEditCtrl(int id)
 void CDataExchange::Fail()
 {
     if (m_bSaveAndValidate && m_lastControl != nullptr) {
-        ::SetFocus(m_lastControl);
+        if (AfxCanHoldFocus(m_lastControl))
+            ::SetFocus(m_lastControl);
         if (m_lastIsEdit)
             ::SendMessageW(m_lastControl, EM_SETSEL, 0, -1);
     }

@@ -3,6 +3,7 @@
 #include "framework/application.h"
 #include "framework/dialog_template.h"
 #include "framework/exceptions.h"
+#include "framework/focus.h"
 #include "framework/modal_doors.h"
 #include "framework/modal_owner.h"
 #include "framework/thread_state.h"
@@ -11,6 +12,9 @@ IMPLEMENT_DYNAMIC(CDialog, CWnd)
 
 BEGIN_MESSAGE_MAP(CDialog, CWnd)
     ON_MESSAGE(WM_INITDIALOG, &CDialog::HandleInitDialog)
+    ON_MESSAGE(WM_ACTIVATE, &CDialog::OnFocusRestored)
+    ON_MESSAGE(WM_SETFOCUS, &CDialog::OnFocusRestored)
+    ON_MESSAGE(WM_NEXTDLGCTL, &CDialog::OnNextDlgCtl)
     ON_MESSAGE(WM_SYSCOLORCHANGE, &CDialog::OnSystemChange)
     ON_MESSAGE(WM_SETTINGCHANGE, &CDialog::OnSystemChange)
     ON_MESSAGE(WM_THEMECHANGED, &CDialog::OnSystemChange)
@@ -137,6 +141,28 @@ BOOL CDialog::OnInitDialog()
         return FALSE;
     }
     return TRUE;
+}
+
+HWND CDialog::FocusAfterLosing(HWND lost) const
+{
+    return AfxNextTabStop(lost);
+}
+
+LRESULT CDialog::OnFocusRestored(WPARAM, LPARAM)
+{
+    // The system gives the focus back to the control that had it, whatever has become of it.
+    const LRESULT result = Default();
+    AfxRepairFocus(m_hWnd);
+    return result;
+}
+
+LRESULT CDialog::OnNextDlgCtl(WPARAM wParam, LPARAM lParam)
+{
+    // With lParam 0 the system searches from the focus on, else wParam is the control.
+    AfxRepairFocus(m_hWnd);
+    if (LOWORD(lParam) != 0 && wParam != 0 && !AfxCanHoldFocus(reinterpret_cast<HWND>(wParam)))
+        return 0;
+    return Default();
 }
 
 LRESULT CDialog::OnSystemChange(WPARAM wParam, LPARAM lParam)

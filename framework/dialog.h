@@ -29,6 +29,10 @@ class CDialog : public CWnd
 
     BOOL PreTranslateMessage(MSG* message) override;
 
+    /// The control that gets the focus when `lost`, a window inside the dialog, had it and is being
+    /// hidden or disabled; null for none. The next tab stop unless overridden.
+    virtual HWND FocusAfterLosing(HWND lost) const;
+
     UINT m_nIDTemplate = 0;
 
   protected:
@@ -48,6 +52,8 @@ class CDialog : public CWnd
 
   private:
     LRESULT HandleInitDialog(WPARAM wParam, LPARAM lParam);
+    LRESULT OnFocusRestored(WPARAM wParam, LPARAM lParam);
+    LRESULT OnNextDlgCtl(WPARAM wParam, LPARAM lParam);
     LRESULT OnSystemChange(WPARAM wParam, LPARAM lParam);
     BOOL Initialise();
     bool CreateWindowFromTemplate(UINT templateId, HWND parent);

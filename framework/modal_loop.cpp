@@ -1,6 +1,7 @@
 #include "framework/application.h"
 #include "framework/dialog.h"
 #include "framework/exceptions.h"
+#include "framework/focus.h"
 #include "framework/thread_state.h"
 
 #include <utility>
@@ -24,7 +25,18 @@ BOOL CWnd::PreTranslateInput(MSG* message)
 {
     const bool key = message->message >= WM_KEYFIRST && message->message <= WM_KEYLAST;
     const bool mouse = message->message >= WM_MOUSEFIRST && message->message <= WM_MOUSELAST;
-    return (key || mouse) && ::IsDialogMessageW(m_hWnd, message);
+    if (!key && !mouse)
+        return FALSE;
+    const HWND lost = AfxRepairFocus(m_hWnd);
+    if (key) {
+        // What was typed into a control that has gone since is for nobody.
+        if (lost != nullptr && lost == message->hwnd)
+            return TRUE;
+        // The search for a mnemonic begins at the message's window, too.
+        if (!AfxCanHoldFocus(message->hwnd))
+            return FALSE;
+    }
+    return ::IsDialogMessageW(m_hWnd, message);
 }
 
 BOOL CWnd::WalkPreTranslateTree(HWND stop, MSG* message)
@@ -95,6 +107,7 @@ int CWnd::RunModalLoop()
         MSG message;
         if (idle && !::PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE)) {
             temporary.DeleteFrom(mark);
+            AfxRepairFocus(window);
             if (AnnounceFocus(focus))
                 continue;
             if (idleCount == 0 && owner != nullptr && (GetStyle() & DS_NOIDLEMSG) == 0)

@@ -1,5 +1,6 @@
 #include "framework/window.h"
 
+#include "framework/focus.h"
 #include "framework/thread_state.h"
 
 #include <algorithm>
@@ -92,6 +93,25 @@ HWND CWnd::FindControl(int id) const
         ::GetDlgCtrlID(control) != id)
         control = ::GetDlgItem(m_hWnd, id);
     return control;
+}
+
+BOOL CWnd::EnableWindow(BOOL enable)
+{
+    if (!enable)
+        AfxReleaseFocus(m_hWnd);
+    return ::EnableWindow(m_hWnd, enable);
+}
+
+BOOL CWnd::ShowWindow(int command)
+{
+    if (command == SW_HIDE)
+        AfxReleaseFocus(m_hWnd);
+    return ::ShowWindow(m_hWnd, command);
+}
+
+CWnd* CWnd::SetFocus()
+{
+    return FromHandle(AfxCanHoldFocus(m_hWnd) ? ::SetFocus(m_hWnd) : ::GetFocus());
 }
 
 void CWnd::SetWindowText(const ov::Text& text)

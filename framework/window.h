@@ -51,9 +51,10 @@ class CWnd : public CCmdTarget
     // --- text, state, style -------------------------------------------------
     void SetWindowText(const ov::Text& text);
     ov::Text GetWindowText() const;
-    BOOL EnableWindow(BOOL enable = TRUE) { return ::EnableWindow(m_hWnd, enable); }
+    /// A control that is disabled or hidden by these two gives the focus away first, see AfxReleaseFocus.
+    BOOL EnableWindow(BOOL enable = TRUE);
+    BOOL ShowWindow(int command);
     BOOL IsWindowEnabled() const { return ::IsWindowEnabled(m_hWnd); }
-    BOOL ShowWindow(int command) { return ::ShowWindow(m_hWnd, command); }
     BOOL IsWindowVisible() const { return ::IsWindowVisible(m_hWnd); }
     BOOL IsIconic() const { return ::IsIconic(m_hWnd); }
     DWORD GetStyle() const { return static_cast<DWORD>(::GetWindowLongPtrW(m_hWnd, GWL_STYLE)); }
@@ -105,7 +106,8 @@ class CWnd : public CCmdTarget
         return ::SetTimer(m_hWnd, id, milliseconds, nullptr);
     }
     BOOL KillTimer(UINT_PTR id) { return ::KillTimer(m_hWnd, id); }
-    CWnd* SetFocus() { return FromHandle(::SetFocus(m_hWnd)); }
+    /// Does nothing for a control that is hidden or disabled. Returns the window that had the focus.
+    CWnd* SetFocus();
 
     // --- scrolling -----------------------------------------------------------
     BOOL GetScrollInfo(int bar, SCROLLINFO* info, UINT mask = SIF_ALL) const;

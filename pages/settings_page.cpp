@@ -359,12 +359,14 @@ void CSettingsPage::ApplyRefreshHook()
 void CSettingsPage::ApplyDependencies(const ov::PageValues& values)
 {
     for (const ov::DependencyRow& row : m_rows.dependencies) {
-        const HWND control = FindControl(row.controlId);
+        CWnd* const control = GetDlgItem(row.controlId);
+        if (control == nullptr)
+            continue;
         const bool holds = values.Holds(row);
         if (row.effect == ov::Effect::Enable)
-            ::EnableWindow(control, holds ? TRUE : FALSE);
-        else if (((::GetWindowLongPtrW(control, GWL_STYLE) & WS_VISIBLE) != 0) != holds)
-            ::ShowWindow(control, holds ? SW_SHOW : SW_HIDE);
+            control->EnableWindow(holds ? TRUE : FALSE);
+        else if (((control->GetStyle() & WS_VISIBLE) != 0) != holds)
+            control->ShowWindow(holds ? SW_SHOW : SW_HIDE);
     }
 }
 

@@ -196,6 +196,17 @@ void CPreferencesWizard::SelectPage(UINT pageId)
     }
 }
 
+HWND CPreferencesWizard::FocusAfterLosing(HWND lost) const
+{
+    for (size_t index = 0; m_leftPane != nullptr && index < m_pages.size(); ++index) {
+        const HWND page = m_pages[index]->GetSafeHwnd();
+        const bool isOn = page != nullptr && (page == lost || ::IsChild(page, lost));
+        if (isOn && static_cast<int>(index) != m_currentPage)
+            return m_leftPane->FindControl(IDC_LEFT_PANE_LIST);
+    }
+    return CResizableDlg::FocusAfterLosing(lost);
+}
+
 void CPreferencesWizard::RepositionCurrentPage()
 {
     if (m_currentPage < 0 || m_currentPage >= static_cast<int>(m_pages.size()))

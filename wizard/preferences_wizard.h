@@ -24,6 +24,8 @@ class CPreferencesWizard : public CResizableDlg
     virtual void RegisterTooltips();
     void InitControlLayout() override;
     void RepositionCurrentPage() override;
+    /// A page that is left gives the focus to the category list, by which it was left.
+    HWND FocusAfterLosing(HWND lost) const override;
     virtual bool CreateLeftPane();
 
     /// Constructs the pages in catalogue order; makes no windows.

@@ -5,6 +5,8 @@
 
 #include "controls/config_setting_dlg.h"
 #include "controls/core/layout.h"
+#include "controls/dropped_list.h"
+#include "framework/focus.h"
 #include "resources/ids.h"
 #include "wizard/core/wizard_state.h"
 #include "wizard/messages.h"
@@ -32,6 +34,7 @@ ov::KeyTarget TargetOf(const CWnd* window)
 IMPLEMENT_DYNAMIC(CWizardPage, CResizableDlg)
 
 BEGIN_MESSAGE_MAP(CWizardPage, CResizableDlg)
+    ON_MESSAGE(WM_SHOWWINDOW, &CWizardPage::OnShowWindow)
     ON_WM_SIZE()
     ON_WM_PAINT()
     ON_WM_ERASEBKGND()
@@ -204,6 +207,18 @@ bool CWizardPage::EditValueList(ov::Text& text, UINT browsing, char16_t separato
         UpdateData(FALSE);
     }
     return true;
+}
+
+LRESULT CWizardPage::OnShowWindow(WPARAM show, LPARAM)
+{
+    const LRESULT result = Default();
+    if (show == 0) {
+        // Open lists and calendars are windows of their own: they would stay, over the next page.
+        CloseDropped(m_hWnd);
+        // A calendar that had the focus has given it back to its date picker.
+        AfxReleaseFocus(m_hWnd);
+    }
+    return result;
 }
 
 void CWizardPage::OnSize(UINT type, int width, int height)

@@ -88,6 +88,7 @@ class CWizardPage : public CResizableDlg
     int TakePendingSelector();
     void OnSettingChanged();
 
+    LRESULT OnShowWindow(WPARAM show, LPARAM reason);
     void OnSize(UINT type, int width, int height);
     void OnPaint();
     BOOL OnEraseBkgnd(CDC* dc);
