@@ -101,7 +101,7 @@ bool CPreferencesApp::ActivateOpenDialog()
     if (m_pMainWnd == nullptr)
         return false;
     if (m_pMainWnd->GetSafeHwnd() != nullptr)
-        ::SetForegroundWindow(::GetLastActivePopup(m_pMainWnd->m_hWnd));
+        AfxBringForward(m_pMainWnd->m_hWnd);
     return true;
 }
 

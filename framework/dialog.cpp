@@ -12,6 +12,7 @@ IMPLEMENT_DYNAMIC(CDialog, CWnd)
 
 BEGIN_MESSAGE_MAP(CDialog, CWnd)
     ON_MESSAGE(WM_INITDIALOG, &CDialog::HandleInitDialog)
+    ON_MESSAGE(WM_CLOSE, &CDialog::OnClose)
     ON_MESSAGE(WM_ACTIVATE, &CDialog::OnFocusRestored)
     ON_MESSAGE(WM_SETFOCUS, &CDialog::OnFocusRestored)
     ON_MESSAGE(WM_NEXTDLGCTL, &CDialog::OnNextDlgCtl)
@@ -34,6 +35,14 @@ INT_PTR CALLBACK AfxDlgProc(HWND, UINT message, WPARAM, LPARAM)
 bool IsMultiLineEdit(HWND window)
 {
     return AfxIsOfClass(window, WC_EDITW) && (::GetWindowLongPtrW(window, GWL_STYLE) & ES_MULTILINE) != 0;
+}
+
+/// Whether the second parameter of a WM_COMMAND is a push button, or null as in a command.
+bool IsCommandSource(LPARAM control)
+{
+    constexpr LRESULT pushButton = DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON;
+    const auto window = reinterpret_cast<HWND>(control);
+    return window == nullptr || (::SendMessageW(window, WM_GETDLGCODE, 0, 0) & pushButton) != 0;
 }
 } // namespace
 
@@ -163,6 +172,28 @@ LRESULT CDialog::OnNextDlgCtl(WPARAM wParam, LPARAM lParam)
     if (LOWORD(lParam) != 0 && wParam != 0 && !AfxCanHoldFocus(reinterpret_cast<HWND>(wParam)))
         return 0;
     return Default();
+}
+
+bool CDialog::YieldToModalWindow() const
+{
+    const HWND root = ::GetAncestor(m_hWnd, GA_ROOT);
+    if (::IsWindowEnabled(root))
+        return false;
+    AfxBringForward(root);
+    return true;
+}
+
+BOOL CDialog::OnCommand(WPARAM wParam, LPARAM lParam)
+{
+    // The system keeps the user's input from a disabled window, but not what other programs send.
+    if (HIWORD(wParam) == BN_CLICKED && IsCommandSource(lParam) && YieldToModalWindow())
+        return TRUE;
+    return CWnd::OnCommand(wParam, lParam);
+}
+
+LRESULT CDialog::OnClose(WPARAM, LPARAM)
+{
+    return YieldToModalWindow() ? 0 : Default();
 }
 
 LRESULT CDialog::OnSystemChange(WPARAM wParam, LPARAM lParam)

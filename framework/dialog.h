@@ -47,6 +47,9 @@ class CDialog : public CWnd
     virtual void OnOK();
     virtual void OnCancel();
     BOOL PreTranslateInput(MSG* message) override;
+    /// While a modal window is open over the dialog's top-level window, commands and pressed push
+    /// buttons are not handled: they bring that window forward.
+    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
 
     CWnd* m_pParentWnd = nullptr;
 
@@ -54,10 +57,12 @@ class CDialog : public CWnd
     LRESULT HandleInitDialog(WPARAM wParam, LPARAM lParam);
     LRESULT OnFocusRestored(WPARAM wParam, LPARAM lParam);
     LRESULT OnNextDlgCtl(WPARAM wParam, LPARAM lParam);
+    LRESULT OnClose(WPARAM wParam, LPARAM lParam);
     LRESULT OnSystemChange(WPARAM wParam, LPARAM lParam);
     BOOL Initialise();
     bool CreateWindowFromTemplate(UINT templateId, HWND parent);
     bool IsChildPage() const;
+    bool YieldToModalWindow() const;
 
     bool m_modal = false;
 };

@@ -51,12 +51,69 @@ CModalHook* AfxGetModalHook()
     return modalHook;
 }
 
+namespace
+{
+/// Looks for a window that can be worked with among a thread's top-level windows.
+struct ModalSearch {
+    HWND owner; ///< that the window belongs to, through however many owners; null: any
+    HWND found = nullptr;
+};
+
+bool IsOwnedBy(HWND window, HWND owner)
+{
+    while (window != nullptr && window != owner)
+        window = ::GetWindow(window, GW_OWNER);
+    return window == owner;
+}
+
+BOOL CALLBACK FindModalWindow(HWND window, LPARAM parameter)
+{
+    auto& search = *reinterpret_cast<ModalSearch*>(parameter);
+    // Tool windows are tooltips and the open lists of combo boxes.
+    const bool isTool = (::GetWindowLongPtrW(window, GWL_EXSTYLE) & WS_EX_TOOLWINDOW) != 0;
+    if (isTool || !::IsWindowVisible(window) || !::IsWindowEnabled(window) ||
+        (search.owner != nullptr && !IsOwnedBy(window, search.owner)))
+        return TRUE;
+    search.found = window;
+    return FALSE;
+}
+
+HWND FindModalWindow(HWND dialog, HWND owner)
+{
+    ModalSearch search{owner};
+    ::EnumThreadWindows(::GetWindowThreadProcessId(dialog, nullptr), &FindModalWindow,
+                        reinterpret_cast<LPARAM>(&search));
+    return search.found;
+}
+} // namespace
+
+HWND AfxGetModalTop(HWND dialog)
+{
+    if (::IsWindowEnabled(dialog))
+        return dialog;
+    if (const HWND owned = FindModalWindow(dialog, dialog))
+        return owned;
+    // A message box without an owner disables all windows of the thread.
+    const HWND unowned = FindModalWindow(dialog, nullptr);
+    return unowned != nullptr ? unowned : dialog;
+}
+
+void AfxBringForward(HWND dialog)
+{
+    // An owner that is minimised hides the windows that it owns.
+    for (HWND window = dialog; window != nullptr; window = ::GetWindow(window, GW_OWNER)) {
+        if (::IsIconic(window))
+            ::ShowWindow(window, SW_RESTORE);
+    }
+    ::SetForegroundWindow(AfxGetModalTop(dialog));
+}
+
 HWND AfxGetModalOwner(HWND given)
 {
     if (::IsWindow(given))
         return ::GetAncestor(given, GA_ROOT);
     if (const HWND main = AfxSafeHwnd(AfxGetMainWnd()); ::IsWindow(main))
-        return ::GetLastActivePopup(::GetAncestor(main, GA_ROOT));
+        return AfxGetModalTop(::GetAncestor(main, GA_ROOT));
     const HWND active = ::GetActiveWindow();
     return active != nullptr ? ::GetAncestor(active, GA_ROOT) : nullptr;
 }

@@ -58,6 +58,13 @@ CModalHook* AfxGetModalHook();
 /// active window (so that the door is modal to the host), else null.
 HWND AfxGetModalOwner(HWND given);
 
+/// Of the dialog and what has opened over it, the window that takes the user's input: the dialog
+/// itself while it is enabled, else the modal window that disables it.
+HWND AfxGetModalTop(HWND dialog);
+
+/// Restores the dialog and its owners from being minimised and brings AfxGetModalTop to the foreground.
+void AfxBringForward(HWND dialog);
+
 /// The one door to message boxes; the button that was pressed. A child window
 /// stands for its top-level window; null opens a box over nothing.
 int AfxShowMessageBox(HWND owner, const ov::Text& text, const ov::Text& caption, UINT type);

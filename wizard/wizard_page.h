@@ -88,6 +88,11 @@ class CWizardPage : public CResizableDlg
     int TakePendingSelector();
     void OnSettingChanged();
 
+    /// A page is not closed by itself: what asks for it, such as an edit of several lines at Escape,
+    /// means something else.
+    void OnOK() override {}
+    void OnCancel() override {}
+
     LRESULT OnShowWindow(WPARAM show, LPARAM reason);
     void OnSize(UINT type, int width, int height);
     void OnPaint();

@@ -272,6 +272,18 @@ TEST_F(Doors, ASecondCallWhileTheDialogIsOpenLeavesItAlone)
     EXPECT_EQ(theApp.m_pMainWnd, dialog.get());
 }
 
+TEST_F(Doors, ASecondCallRestoresADialogThatIsMinimised)
+{
+    Open(L"", L"");
+    dialog->ShowWindow(SW_MINIMIZE);
+    ASSERT_TRUE(dialog->IsIconic());
+    EXPECT_EQ(ovPreferences_showDialog(), 1u);
+    EXPECT_FALSE(dialog->IsIconic());
+    dialog->ShowWindow(SW_MINIMIZE);
+    EXPECT_EQ(ovPreferences_showDialogEx(nullptr, nullptr, nullptr, nullptr), 1u);
+    EXPECT_FALSE(dialog->IsIconic());
+}
+
 TEST_F(Doors, TheDialogLiesWithinTheWorkArea)
 {
     Open(L"", L"");
