@@ -128,6 +128,9 @@ int AfxShowMessageBox(HWND owner, const ov::Text& text, const ov::Text& caption,
         if (const std::optional<int> answer = modalHook->OnMessageBox(owner, text, caption, type))
             return *answer;
     }
+    // Without an owner to disable, the system would leave all windows of the thread usable under the box.
+    if (owner == nullptr)
+        type |= MB_TASKMODAL;
     return ::MessageBoxW(owner, Wide(text), Wide(caption), type);
 }
 

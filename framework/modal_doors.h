@@ -66,7 +66,8 @@ HWND AfxGetModalTop(HWND dialog);
 void AfxBringForward(HWND dialog);
 
 /// The one door to message boxes; the button that was pressed. A child window
-/// stands for its top-level window; null opens a box over nothing.
+/// stands for its top-level window. With null the box has no owner; while it is
+/// open, no window of the calling thread takes input.
 int AfxShowMessageBox(HWND owner, const ov::Text& text, const ov::Text& caption, UINT type);
 /// A message box of the application, see CWinApp::DoMessageBox.
 int AfxMessageBox(const ov::Text& text, UINT type = MB_OK);

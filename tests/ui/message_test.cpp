@@ -207,6 +207,29 @@ TEST_F(MessageTest, ChoosingAnExistingFileLoadsIt)
     EXPECT_EQ(m_old, CurrentBytes());
 }
 
+TEST_F(MessageTest, TheDialogTakesNoInputUnderTheBoxOfAFailedRead)
+{
+    ASSERT_TRUE(OpenModified());
+    const std::wstring other = m_folder / L"other.cfg";
+    ASSERT_TRUE(WriteBytes(other, m_old));
+    HANDLE held = CreateFileW(other.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    ASSERT_NE(INVALID_HANDLE_VALUE, held);
+    Choose(other);
+    const auto box = AwaitBox();
+    CloseHandle(held);
+    EXPECT_EQ(nullptr, GetWindow(box.window, GW_OWNER));
+    EXPECT_FALSE(IsWindowEnabled(Dialog()));
+    // Sent past the disabled window.
+    Send(Dialog(), WM_CLOSE);
+    Press(IDC_PREFERENCES_SAVE);
+    EXPECT_TRUE(IsWindowVisible(box.window));
+    Answer(box, IDOK);
+    ExpectStillEdited();
+    EXPECT_EQ(m_old, CurrentBytes());
+    EXPECT_TRUE(Await([&] { return IsChild(Dialog(), FocusIn(Dialog())); })) << "the keyboard is lost";
+    Abandon();
+}
+
 TEST_F(MessageTest, CancellingTheChooserChangesNothing)
 {
     UseCurrent(m_old);
