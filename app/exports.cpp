@@ -54,6 +54,6 @@ extern "C" unsigned int ovPreferences_showDialogEx(CWnd* parent, const wchar_t* 
             if (texts[i])
                 targets[i]->swap(*texts[i]);
         }
-        return theApp.ShowPreferences(parent);
+        return theApp.ShowPreferences(CWnd::FromForeign(parent));
     });
 }

@@ -6,6 +6,7 @@
 #include "framework/focus.h"
 #include "framework/modal_doors.h"
 #include "framework/modal_owner.h"
+#include "framework/owner_watch.h"
 #include "framework/thread_state.h"
 
 IMPLEMENT_DYNAMIC(CDialog, CWnd)
@@ -94,8 +95,10 @@ INT_PTR CDialog::DoModal()
         // Reset on every way out, the object may be run again.
         const CRestoreValue modal(m_modal, true);
         CModalOwner owner(AfxGetModalOwner(AfxSafeHwnd(m_pParentWnd)));
-        if (CreateWindowFromTemplate(m_nIDTemplate, owner.GetHandle()))
+        if (CreateWindowFromTemplate(m_nIDTemplate, owner.GetHandle())) {
+            const COwnerWatch watch(m_hWnd);
             RunModalLoop();
+        }
         owner.Release(m_hWnd);
     }
     DestroyWindow();

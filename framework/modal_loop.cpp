@@ -4,6 +4,7 @@
 #include "framework/focus.h"
 #include "framework/thread_state.h"
 
+#include <optional>
 #include <utility>
 
 namespace
@@ -61,18 +62,22 @@ void CWnd::EndModalLoop(int result)
 
 namespace
 {
-/// Handles one message as a modal loop does.
-void Dispatch(MSG& message)
+/// Does what one message asks for. The loop is called from handlers further out; a failure here is
+/// not theirs, and one message's failure does not end the dialog.
+template <class Step>
+void GuardedStep(Step step)
 {
-    // The loop is called from handlers further out; a failure here is not
-    // theirs, and one message's failure does not end the dialog.
     try {
-        if (CWnd::WalkPreTranslateTree(AfxSafeHwnd(AfxGetMainWnd()), &message))
-            return;
+        step();
     } catch (...) {
         AfxReportCurrentException();
-        return;
     }
+}
+
+void Dispatch(MSG& message)
+{
+    if (CWnd::WalkPreTranslateTree(AfxSafeHwnd(AfxGetMainWnd()), &message))
+        return;
     ::TranslateMessage(&message);
     ::DispatchMessageW(&message);
 }
@@ -100,6 +105,7 @@ int CWnd::RunModalLoop()
     if (!IsWindowVisible())
         ShowWindow(SW_SHOWNORMAL);
     ::UpdateWindow(window);
+    std::optional<int> quitCode;
     HWND focus = nullptr;
     bool idle = true;
     LPARAM idleCount = 0;
@@ -116,17 +122,19 @@ int CWnd::RunModalLoop()
             continue;
         }
         const BOOL got = ::GetMessageW(&message, nullptr, 0, 0);
-        if (got <= 0) {
+        if (got < 0) {
             EndModalLoop(IDCANCEL);
-            if (got == 0)
-                ::PostQuitMessage(static_cast<int>(message.wParam));
             break;
         }
-        Dispatch(message);
+        if (got == 0)
+            quitCode = static_cast<int>(message.wParam);
+        GuardedStep([&] { got == 0 ? OnQuit() : Dispatch(message); });
         idle = true;
         idleCount = 0;
     }
-    if (!::IsWindow(window) && m_nModalResult == -1)
+    if (quitCode)
+        ::PostQuitMessage(*quitCode);
+    if (m_nModalResult == -1 && !::IsWindow(window))
         m_nModalResult = IDCANCEL;
     return m_nModalResult;
 }

@@ -40,6 +40,17 @@ class CTempMap
 
     std::size_t Count() const { return m_entries.size(); }
 
+    /// The handle of the object at that address; null when none is there. Nothing is read through
+    /// the pointer.
+    Handle HandleAt(const void* address) const
+    {
+        for (const Entry& entry : m_entries) {
+            if (entry.object.get() == address)
+                return entry.handle;
+        }
+        return nullptr;
+    }
+
     /// Deletes all but the first `count` objects; what the handles stand for stays.
     void DeleteFrom(std::size_t count)
     {
@@ -75,6 +86,7 @@ struct AFX_TEMP_MAPS {
 };
 
 class CCreationHook;
+class COwnerWatch;
 
 /// A window whose data exchange runs, as a list from the innermost outwards.
 struct AFX_EXCHANGE_LOCK {
@@ -90,6 +102,7 @@ struct AFX_THREAD_STATE {
     MSG currentMessage{};
     CCreationHook* creation = nullptr; ///< waits for its window
     const AFX_EXCHANGE_LOCK* exchangeLocks = nullptr;
+    COwnerWatch* ownerWatches = nullptr; ///< the innermost one
     AFX_MODULE_STATE* moduleState = nullptr;
     bool reportingException = false;
 };

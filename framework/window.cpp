@@ -33,6 +33,25 @@ CWnd* CWnd::FromHandle(HWND window)
     return AfxGetThreadState().temporary.windows.FromHandle(window);
 }
 
+CWnd* CWnd::FromForeign(const void* pointer)
+{
+    if (pointer == nullptr)
+        return nullptr;
+    const AFX_THREAD_STATE& state = AfxGetThreadState();
+    const auto own = std::ranges::find(state.permanentWindows, pointer, [](const auto& entry) {
+        return static_cast<const void*>(entry.second);
+    });
+    if (own != state.permanentWindows.end())
+        return own->second;
+    if (const HWND window = state.temporary.windows.HandleAt(pointer))
+        return FromHandle(window);
+    // The system looks at no more than 32 bits of a handle, so that an object's address could pass for one.
+    const auto window = static_cast<HWND>(const_cast<void*>(pointer));
+    const bool isHandle =
+        LongToHandle(HandleToLong(window)) == window || UlongToHandle(HandleToULong(window)) == window;
+    return isHandle && ::IsWindow(window) ? FromHandle(window) : nullptr;
+}
+
 BOOL CWnd::Attach(HWND window)
 {
     if (window == nullptr || m_hWnd != nullptr || FromHandlePermanent(window) != nullptr)

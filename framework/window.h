@@ -28,6 +28,10 @@ class CWnd : public CCmdTarget
     static CWnd* FromHandle(HWND window);
     /// The object that the program made for a window, else null.
     static CWnd* FromHandlePermanent(HWND window);
+    /// The window object that a caller from outside means by a pointer that may be anything: one of
+    /// this thread's objects, or a window handle in an object's place. Null for anything else. Nothing
+    /// is read through the pointer.
+    static CWnd* FromForeign(const void* pointer);
     /// Binds the object to a window, without taking over its messages.
     BOOL Attach(HWND window);
     /// Undoes Attach; the window stays.
@@ -140,8 +144,8 @@ class CWnd : public CCmdTarget
     /// at the message, innermost first, until one takes it. The object of `stop` is the last one;
     /// null asks all of them. Modal loops stop at the application's main window.
     static BOOL WalkPreTranslateTree(HWND stop, MSG* message);
-    /// Dispatches messages until EndModalLoop; returns its result. At WM_QUIT the
-    /// loop ends as if cancelled, and the message is posted again for the loop
+    /// Dispatches messages until EndModalLoop; returns its result. WM_QUIT calls
+    /// OnQuit; once the loop has ended, the message is posted again for the loop
     /// outside.
     int RunModalLoop();
     virtual void EndModalLoop(int result);
@@ -159,6 +163,9 @@ class CWnd : public CCmdTarget
     LRESULT Default();
 
     virtual void DoDataExchange(CDataExchange*) {}
+    /// The program is to end while the object's modal loop runs. Ends the loop as if cancelled; an
+    /// override may go on and end it later.
+    virtual void OnQuit() { EndModalLoop(IDCANCEL); }
     /// Called when the object is bound, before the window's messages are taken over.
     virtual void PreSubclassWindow() {}
     /// Called last when the window is gone; the object may delete itself.

@@ -6,7 +6,7 @@
 /// the function pointer types and names below.
 ///
 /// Threading. Call from the thread that owns the host's windows. The call
-/// returns when the person has closed the dialog; until then it runs a message
+/// returns when the user has closed the dialog; until then it runs a message
 /// loop of its own on the calling thread. Nothing is locked: one call at a
 /// time in a process, and none from within another.
 ///
@@ -14,16 +14,32 @@
 /// pointer of the host's. It frees nothing of the host's and gives the host
 /// nothing to free. Unload it only while no call is running.
 ///
-/// Parents. `parent` is a window object of this library's own framework layer,
-/// which only code that is built with that layer has. A host that has nothing
-/// but a window handle passes null: with no parent the dialog is owned by the
-/// calling thread's active window and is modal to it. So such a host makes its
-/// window the active one first, on the calling thread:
+/// Parents. The parent's top-level window owns the dialog and is disabled while
+/// the dialog is open. `parent` may be:
 ///
-///     SetActiveWindow(hostWindow);
-///     ovPreferences_showDialogEx(NULL, L"C:\\cad\\defaults.cfg", L"C:\\cad\\office.cfg", NULL);
+///   - a window handle, cast to the parent type. It is recognised by IsWindow.
+///     Most hosts pass this:
 ///
-/// Where the thread has no active window either, the dialog has no owner.
+///         ovPreferences_showDialogEx((CWnd*)hostWindow, L"C:\\cad\\defaults.cfg",
+///                                    L"C:\\cad\\office.cfg", NULL);
+///
+///   - null: the calling thread's active window is the parent. If the thread
+///     has none, the dialog has no owner.
+///   - a window object of this library's own framework layer, which only code
+///     that is built with that layer has.
+///
+/// Any other pointer, such as a window object of another framework or the
+/// handle of a window that is gone, counts as null. Nothing is read through it.
+///
+/// If the owner is destroyed while the dialog is open, the dialog stays open
+/// without an owner, and the call returns when the user has closed the dialog.
+/// This holds for an owner of the calling thread. Do not pass a window of
+/// another thread or process: the system may destroy the dialog together with
+/// it, and unsaved changes are lost.
+///
+/// WM_QUIT asks the dialog to close as Cancel does: with unsaved changes the
+/// user is asked first and may decide to stay. When the dialog has closed,
+/// WM_QUIT is posted again for the host's own message loop.
 ///
 /// One dialog at a time. A call while the dialog is open, from a timer say,
 /// brings that dialog forward, changes none of its texts and returns 1.
@@ -77,7 +93,8 @@ OV_PREFERENCES_API unsigned int ovPreferences_showDialog(void);
 /// call has set as it is; an empty text clears it. The texts last until the
 /// library is unloaded: a later call that passes null uses them again.
 ///
-/// @param parent       Window that owns the dialog, or null (see Parents).
+/// @param parent       The window whose top-level window owns the dialog, or null
+///                     (see Parents).
 /// @param defaultPath  The configuration file with the default values; it is
 ///                     only read. Empty: there are no defaults to load.
 /// @param currentPath  The configuration file that is edited: read when the

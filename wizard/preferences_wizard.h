@@ -61,6 +61,8 @@ class CPreferencesWizard : public CResizableDlg
   protected:
     void DoDataExchange(CDataExchange* exchange) override;
     void OnOK() override;
+    /// The program around us ends: the question is the same as for Cancel.
+    void OnQuit() override { OnCancelCommand(); }
 
     void OnSize(UINT type, int width, int height);
     void OnPaint();

@@ -1,6 +1,8 @@
 // The two exports: what they remember, whom they make modal, and whose
 // controls they show.
 #include "tests/ui/dialog_session.h"
+#include "tests/ui/expected_file.h"
+#include "tests/ui/value_editor.h"
 
 #include <algorithm>
 
@@ -23,17 +25,32 @@ class ExportsTest : public DialogSession
     /// A call as a host with a window makes it.
     struct Host {
         HWND window = nullptr;
+        HWND active = nullptr;
         bool enabledAfterwards = false;
 
         unsigned Show()
         {
-            window = CreateWindowExW(0, L"Static", L"Host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 50, 50, 300,
-                                     200, nullptr, nullptr, nullptr, nullptr);
-            SetActiveWindow(window);
-            const unsigned result = ShowWithNulls();
-            enabledAfterwards = IsWindowEnabled(window) != FALSE;
+            return ShowWith([](HWND) { return nullptr; });
+        }
+        /// Passes as the parent what is made of the host's window.
+        unsigned ShowWith(const std::function<void*(HWND)>& parentOf)
+        {
+            window = MakeWindow(L"Host");
+            active = MakeWindow(L"Active");
+            SetActiveWindow(active);
+            auto* const parent = static_cast<CWnd*>(parentOf(window));
+            const unsigned result = Library::Get().ShowDialogEx()(parent, nullptr, nullptr, nullptr);
+            enabledAfterwards = IsWindowEnabled(window) && IsWindowEnabled(active);
+            DestroyWindow(active);
             DestroyWindow(window);
             return result;
+        }
+
+      private:
+        static HWND MakeWindow(const wchar_t* caption)
+        {
+            return CreateWindowExW(0, L"Static", caption, WS_OVERLAPPEDWINDOW | WS_VISIBLE, 50, 50, 300, 200,
+                                   nullptr, nullptr, nullptr, nullptr);
         }
     };
 };
@@ -138,10 +155,82 @@ TEST_F(ExportsTest, WithoutAParentTheActiveWindowOwnsTheDialogAndIsDisabled)
 {
     Host host;
     ASSERT_TRUE(Open([&] { return host.Show(); }));
+    EXPECT_EQ(host.active, GetWindow(Dialog(), GW_OWNER));
+    EXPECT_FALSE(IsWindowEnabled(host.active));
+    Cancel();
+    EXPECT_TRUE(host.enabledAfterwards);
+}
+
+TEST_F(ExportsTest, AWindowHandleInTheParentsPlaceOwnsTheDialogAndIsDisabled)
+{
+    Host host;
+    ASSERT_TRUE(Open([&] { return host.ShowWith([](HWND window) { return window; }); }));
     EXPECT_EQ(host.window, GetWindow(Dialog(), GW_OWNER));
     EXPECT_FALSE(IsWindowEnabled(host.window));
     Cancel();
     EXPECT_TRUE(host.enabledAfterwards);
+}
+
+TEST_F(ExportsTest, AForeignObjectIsNotReadAndTheActiveWindowOwnsTheDialog)
+{
+    // Whoever reads it ends the program.
+    void* const object = VirtualAlloc(nullptr, 4096, MEM_RESERVE | MEM_COMMIT, PAGE_NOACCESS);
+    ASSERT_NE(nullptr, object);
+    Host host;
+    ASSERT_TRUE(Open([&] { return host.ShowWith([&](HWND) { return object; }); }));
+    EXPECT_EQ(host.active, GetWindow(Dialog(), GW_OWNER));
+    Cancel();
+    EXPECT_TRUE(host.enabledAfterwards);
+    VirtualFree(object, 0, MEM_RELEASE);
+}
+
+TEST_F(ExportsTest, TheHandleOfAWindowThatIsGoneCountsAsNone)
+{
+    Host host;
+    ASSERT_TRUE(Open([&] {
+        return host.ShowWith([](HWND window) {
+            DestroyWindow(window);
+            return window;
+        });
+    }));
+    EXPECT_EQ(host.active, GetWindow(Dialog(), GW_OWNER));
+    Cancel();
+}
+
+TEST_F(ExportsTest, TheDialogAndItsChangesOutliveTheParent)
+{
+    UseCurrent("_ORTHOVAL_BRANDING_AUTO = 1\r\n");
+    ASSERT_TRUE(Open());
+    Cancel(); // from here on the library knows the path
+    Host host;
+    ASSERT_TRUE(Open([&] { return host.ShowWith([](HWND window) { return window; }); }));
+    ClickOnPage(IDC_BRANDING_AUTO);
+    PostMessageW(host.window, WM_CLOSE, 0, 0);
+    ASSERT_TRUE(AwaitGone(host.window));
+    Settle(Dialog());
+    ExpectOpen();
+    EXPECT_EQ(nullptr, GetWindow(Dialog(), GW_OWNER));
+    EXPECT_TRUE(CanSave());
+    Press(IDC_PREFERENCES_CANCEL);
+    AnswerAbandonQuestion(IDNO);
+    ExpectClosed();
+    EXPECT_EQ("_ORTHOVAL_BRANDING_AUTO = 0", AssignmentOf(CurrentBytes(), "_ORTHOVAL_BRANDING_AUTO"));
+}
+
+TEST_F(ExportsTest, AHostThatEndsIsAskedAboutTheChangesFirst)
+{
+    m_currentPath = m_folder / L"new.cfg";
+    ASSERT_TRUE(Open());
+    ClickOnPage(IDC_BRANDING_AUTO);
+    HWND editor = OpenValueEditor(PageControl(IDC_BRANDING_RENAME_BROWSE));
+    ASSERT_TRUE(editor);
+    PostThreadMessageW(HostThread::Get().Id(), WM_QUIT, 0, 0);
+    ASSERT_TRUE(AwaitGone(editor));
+    AnswerAbandonQuestion(IDCANCEL);
+    ExpectOpen();
+    PostThreadMessageW(HostThread::Get().Id(), WM_QUIT, 0, 0);
+    AnswerAbandonQuestion(IDYES);
+    ExpectClosed();
 }
 
 TEST_F(ExportsTest, WithoutAnyWindowTheDialogIsUnowned)
