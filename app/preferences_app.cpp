@@ -2,6 +2,7 @@
 
 #include "config/system_info.h"
 #include "controls/application.h"
+#include "controls/core/dialog_units.h"
 #include "pages/page_factory.h"
 #include "resources/ids.h"
 #include "wizard/application_texts.h"
@@ -76,21 +77,36 @@ int CPreferencesApp::DoMessageBox(const ov::Text& text, UINT type)
                              type | MB_SETFOREGROUND | MB_TOPMOST);
 }
 
-CFont* CPreferencesApp::GetDialogFont()
+// The main window is the first one to ask, with a font of this resolution.
+bool CPreferencesApp::DescribeDialogFont(UINT resolution)
 {
-    if (m_dialogFont.GetSafeHandle() != nullptr)
-        return &m_dialogFont;
     if (m_pMainWnd == nullptr || m_pMainWnd->GetSafeHwnd() == nullptr)
-        return nullptr;
-    LOGFONTW description{};
+        return false;
     const auto font = reinterpret_cast<HFONT>(m_pMainWnd->SendMessage(WM_GETFONT, 0, 0));
-    if (font == nullptr || ::GetObjectW(font, sizeof description, &description) == 0) {
-        description = {};
-        description.lfHeight = fallbackFontHeight;
-        description.lfPitchAndFamily = FF_SWISS;
-        ::lstrcpynW(description.lfFaceName, L"Tahoma", LF_FACESIZE);
+    if (font == nullptr || ::GetObjectW(font, sizeof m_dialogFont, &m_dialogFont) == 0) {
+        m_dialogFont = {};
+        m_dialogFont.lfHeight = fallbackFontHeight;
+        m_dialogFont.lfPitchAndFamily = FF_SWISS;
+        ::lstrcpynW(m_dialogFont.lfFaceName, L"Tahoma", LF_FACESIZE);
     }
-    return m_dialogFont.CreateFontIndirect(&description) ? &m_dialogFont : nullptr;
+    m_firstResolution = resolution;
+    return true;
+}
+
+CFont* CPreferencesApp::GetDialogFont(UINT resolution)
+{
+    if (m_firstResolution == 0 && !DescribeDialogFont(resolution))
+        return nullptr;
+    CFont& font = m_dialogFonts[resolution];
+    if (font.GetSafeHandle() == nullptr) {
+        LOGFONTW description = m_dialogFont;
+        if (resolution != m_firstResolution)
+            description.lfHeight =
+                ov::FontHeightAt(static_cast<int>(description.lfHeight), static_cast<int>(m_firstResolution),
+                                 static_cast<int>(resolution));
+        font.CreateFontIndirect(&description);
+    }
+    return font.GetSafeHandle() != nullptr ? &font : nullptr;
 }
 
 bool CPreferencesApp::ActivateOpenDialog()
@@ -126,9 +142,9 @@ const ov::Text& CPreferencesApp::GetUserName()
     return theCommandLine.m_userName;
 }
 
-CFont* GetSharedDialogFont()
+CFont* GetSharedDialogFont(UINT resolution)
 {
-    return theApp.GetDialogFont();
+    return theApp.GetDialogFont(resolution);
 }
 
 CToolTipControl* GetToolTipControl()

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <map>
+
 #include "app/cmd_line_info.h"
 #include "controls/tool_tip_control.h"
 #include "framework/afxwin.h"
@@ -13,9 +15,11 @@ class CPreferencesApp : public CWinApp
     int ExitInstance() override;
     int DoMessageBox(const ov::Text& text, UINT type) override;
 
-    /// The font of every dialog: a copy of the main window's font, or Tahoma 14
-    /// when it has none. Made on first request; none without a main window.
-    CFont* GetDialogFont();
+    /// The font of every dialog at a resolution in pixels per inch. On the first
+    /// request it is a copy of the main window's font, or Tahoma 14 when it has
+    /// none; at other resolutions it is the same type in the same points. None
+    /// without a main window.
+    CFont* GetDialogFont(UINT resolution);
 
     /// Shows the dialog modally. 0 when it was shown, 1 when it could not be
     /// set up or is open already.
@@ -29,7 +33,11 @@ class CPreferencesApp : public CWinApp
     const ov::Text& GetUserName();
 
   private:
-    CFont m_dialogFont;
+    bool DescribeDialogFont(UINT resolution);
+
+    std::map<UINT, CFont> m_dialogFonts; ///< by resolution
+    LOGFONTW m_dialogFont{};             ///< describes the first one, of m_firstResolution
+    UINT m_firstResolution = 0;
 };
 
 extern CPreferencesApp theApp;

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "controls/application.h"
+#include "controls/core/dialog_units.h"
 #include "controls/core/layout.h"
 #include "controls/tool_tip_control.h"
 #include "resources/ids.h"
@@ -14,7 +15,7 @@ namespace
 // File names are long: the dialog is so many pixels wider for them.
 constexpr int browsingExtraWidth = 200;
 constexpr int columnMargin = 5;
-constexpr int moveIconSize = 16;
+constexpr int moveIconSize = 16; // at the usual resolution
 // Posted by the dialog to itself; see OnRowChanged.
 constexpr UINT showSelectionMessage = WM_APP + 1;
 } // namespace
@@ -96,8 +97,6 @@ BOOL CConfigSettingDlg::OnInitDialog()
     // What an earlier window of this dialog posted went with it.
     m_selectionChanged = false;
     FillList();
-    SetMoveIcon(m_moveUpButton, IDI_MOVE_UP);
-    SetMoveIcon(m_moveDownButton, IDI_MOVE_DOWN);
     if (m_browsing) {
         CRect rectangle;
         GetWindowRect(&rectangle);
@@ -148,11 +147,18 @@ void CConfigSettingDlg::FillList()
         SelectRow(0);
 }
 
-void CConfigSettingDlg::SetMoveIcon(CButton& button, UINT iconId)
+void CConfigSettingDlg::OnTemplateLayout()
 {
-    // A shared icon needs no destroying.
-    button.SetIcon(static_cast<HICON>(::LoadImageW(AfxGetResourceHandle(), MAKEINTRESOURCEW(iconId),
-                                                   IMAGE_ICON, moveIconSize, moveIconSize, LR_SHARED)));
+    CResizableDlg::OnTemplateLayout();
+    ShowMoveIcon(m_moveUpButton, m_moveUpIcon, IDI_MOVE_UP);
+    ShowMoveIcon(m_moveDownButton, m_moveDownIcon, IDI_MOVE_DOWN);
+}
+
+void CConfigSettingDlg::ShowMoveIcon(CButton& button, ResourceIcon& shown, UINT iconId) const
+{
+    ResourceIcon icon = LoadResourceIcon(iconId, ov::PixelsAt(moveIconSize, static_cast<int>(Resolution())));
+    button.SetIcon(icon.get());
+    shown = std::move(icon);
 }
 
 // The dialog is opened again and again over one tooltip window.

@@ -6,6 +6,7 @@
 #include "controls/core/list_text.h"
 #include "controls/pref_list_ctrl.h"
 #include "controls/resizable_dlg.h"
+#include "controls/resource_icon.h"
 
 /// The "Multi-Entry Values" dialog: edits the text of a variable that holds
 /// several values, one entry a row. What the rows hold is ov::ListRows'
@@ -31,6 +32,9 @@ class CConfigSettingDlg : public CResizableDlg
     UINT AccessibleNameId(int controlId) const override;
     void OnOK() override;
 
+    /// Gives the buttons their icons in the size of the dialog's resolution.
+    void OnTemplateLayout() override;
+
     void OnDestroy();
     void OnGetMinMaxInfo(MINMAXINFO* info);
     void OnValueChanged();
@@ -48,7 +52,7 @@ class CConfigSettingDlg : public CResizableDlg
     void CreateColumns();
     void FillList();
     void RegisterTooltips();
-    void SetMoveIcon(CButton& button, UINT iconId);
+    void ShowMoveIcon(CButton& button, ResourceIcon& shown, UINT iconId) const;
     void ShowValue(ov::Text text);
     /// Shows the value of the row that was selected or deselected last, if that has not been done.
     void ShowSelection();
@@ -64,6 +68,8 @@ class CConfigSettingDlg : public CResizableDlg
     CEdit m_valueEdit;
     CButton m_moveUpButton;
     CButton m_moveDownButton;
+    ResourceIcon m_moveUpIcon;
+    ResourceIcon m_moveDownIcon;
     CButton m_deleteButton;
     CButton m_insertButton;
     CButton m_browseButton;

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <string>
 
+#include "framework/window_resolution.h"
+
 void FitDroppedWidth(HWND comboBox)
 {
     const HDC context = ::GetDC(comboBox);
@@ -22,7 +24,8 @@ void FitDroppedWidth(HWND comboBox)
     ::SelectObject(context, before);
     ::ReleaseDC(comboBox, context);
     // The list's borders, the space beside its entries, and a bar should it need one.
-    const int edges = 4 * ::GetSystemMetrics(SM_CXEDGE) + ::GetSystemMetrics(SM_CXVSCROLL);
+    const int edges =
+        4 * AfxGetFrameMetrics(comboBox, SM_CXEDGE) + AfxGetFrameMetrics(comboBox, SM_CXVSCROLL);
     ::SendMessageW(comboBox, CB_SETDROPPEDWIDTH, widest + static_cast<WPARAM>(edges), 0);
 }
 

@@ -1,9 +1,12 @@
 #include "controls/resizable_dlg.h"
 
+#include <algorithm>
 #include <cwchar>
 #include <optional>
 
 #include "controls/core/accessible_names.h"
+#include "controls/core/dialog_units.h"
+#include "framework/dialog_template.h"
 #include "resources/ids.h"
 
 namespace
@@ -98,6 +101,29 @@ std::optional<ov::ControlRole> RoleOf(HWND window)
     return std::nullopt;
 }
 
+/// Takes an up-down control from the edit that it sits in, and puts it back: it
+/// narrows the edit whenever it is put there.
+class DetachedUpDown
+{
+  public:
+    explicit DetachedUpDown(HWND upDown)
+        : m_upDown(upDown), m_buddy(reinterpret_cast<HWND>(::SendMessageW(upDown, UDM_GETBUDDY, 0, 0)))
+    {
+        SetBuddy(nullptr);
+    }
+    void Attach() const { SetBuddy(m_buddy); }
+
+  private:
+    void SetBuddy(HWND buddy) const
+    {
+        if (m_buddy != nullptr)
+            ::SendMessageW(m_upDown, UDM_SETBUDDY, reinterpret_cast<WPARAM>(buddy), 0);
+    }
+
+    HWND m_upDown;
+    HWND m_buddy;
+};
+
 ov::Text CaptionOf(HWND window)
 {
     ShortText caption;
@@ -127,11 +153,73 @@ BOOL CResizableDlg::OnInitDialog()
 {
     const BOOL result = CAbstractFontDlg::OnInitDialog();
     const CRect client = GetClientRectangle();
+    m_templateSize = CSize(client.Width(), client.Height());
     DialogControls controls(*this);
     ov::CaptureControls(m_controlLayout, controls, client.Width(), client.Height());
     m_isCaptured = true;
     NameControls();
+    OnTemplateLayout();
+    if (const UINT resolution = OpeningResolution(); resolution != Resolution())
+        OpenAt(resolution);
     return result;
+}
+
+// The system has made the dialog for another resolution.
+void CResizableDlg::OpenAt(UINT resolution)
+{
+    ChangeResolution(resolution);
+    if ((GetStyle() & WS_CHILD) != 0)
+        return; // the dialog around gives it a size
+    CRect window;
+    CRect client;
+    GetWindowRect(&window);
+    GetClientRect(&client);
+    const CSize growth(m_templateSize.cx - client.Width(), m_templateSize.cy - client.Height());
+    const bool isCentred = (GetStyle() & DS_CENTER) != 0;
+    const CPoint shift = isCentred ? CPoint(growth.cx / 2, growth.cy / 2) : CPoint();
+    SetWindowPos(nullptr, window.left - shift.x, window.top - shift.y, window.Width() + growth.cx,
+                 window.Height() + growth.cy, SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void CResizableDlg::OnResolutionChanged()
+{
+    const auto layout = AfxReadTemplateLayout(m_nIDTemplate);
+    if (!layout)
+        return;
+    PlaceControls(layout->controls);
+    CRect client(0, 0, layout->size.cx, layout->size.cy);
+    MapDialogRect(client);
+    m_templateSize = CSize(client.Width(), client.Height());
+    DialogControls controls(*this);
+    ov::RecaptureControls(m_controlLayout, controls, client.Width(), client.Height());
+    OnTemplateLayout();
+    // Everything that follows the dialog's size takes its place from there again.
+    if (IsIconic())
+        return;
+    GetClientRect(&client);
+    SendMessage(WM_SIZE, SIZE_RESTORED, MAKELPARAM(client.Width(), client.Height()));
+}
+
+void CResizableDlg::PlaceControls(const std::vector<RECT>& rectsInUnits) const
+{
+    std::vector<HWND> controls;
+    std::vector<DetachedUpDown> upDowns;
+    for (const HWND child : FirstChildren()) {
+        if (child != m_grip.m_hWnd)
+            controls.push_back(child);
+        if (AfxIsOfClass(child, UPDOWN_CLASSW))
+            upDowns.emplace_back(child);
+    }
+    const size_t count = std::min(controls.size(), rectsInUnits.size());
+    for (size_t i = 0; i < count; ++i) {
+        const RECT& units = rectsInUnits[i];
+        const ov::Rect rect =
+            ov::ControlInPixels({units.left, units.top, units.right, units.bottom}, Units());
+        ::SetWindowPos(controls[i], nullptr, rect.left, rect.top, rect.Width(), rect.Height(),
+                       SWP_NOZORDER | SWP_NOACTIVATE);
+    }
+    for (const DetachedUpDown& upDown : upDowns)
+        upDown.Attach();
 }
 
 UINT CResizableDlg::AccessibleNameId(int) const
@@ -143,8 +231,7 @@ void CResizableDlg::NameControls()
 {
     std::vector<HWND> windows;
     std::vector<ov::ControlToName> controls;
-    for (HWND window = ::GetWindow(m_hWnd, GW_CHILD); window != nullptr;
-         window = ::GetWindow(window, GW_HWNDNEXT)) {
+    for (const HWND window : FirstChildren()) {
         const std::optional<ov::ControlRole> role = RoleOf(window);
         if (!role)
             continue;
@@ -203,17 +290,27 @@ void CResizableDlg::LayoutPass()
     RepositionCurrentPage();
 }
 
+CRect CResizableDlg::WorkArea() const
+{
+    MONITORINFO monitor{};
+    monitor.cbSize = sizeof monitor;
+    ::GetMonitorInfoW(::MonitorFromWindow(m_hWnd, MONITOR_DEFAULTTONEAREST), &monitor);
+    return monitor.rcWork;
+}
+
 void CResizableDlg::ApplyMinimumSize(MINMAXINFO* info)
 {
-    const auto minimum = ov::MinimumTrackSize(m_designWidth, m_designHeight);
+    const CRect work = WorkArea();
+    const auto minimum =
+        ov::MinimumTrackSize(m_designWidth, m_designHeight, Units(), {work.Width(), work.Height()});
     if (!minimum) {
         CAbstractFontDlg::OnGetMinMaxInfo(info);
         return;
     }
     RepositionCurrentPage();
     info->ptMinTrackSize = {minimum->width, minimum->height};
-    // A window that is made smaller than its template, for it would be larger than
-    // the screen, would be captured with controls outside of it.
+    // Windows shrinks a dialog that does not fit the screen; captured then,
+    // controls would lie outside it.
     if (!m_isCaptured)
         info->ptMaxTrackSize = {largestSize, largestSize};
 }

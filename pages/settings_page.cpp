@@ -112,13 +112,17 @@ BOOL CSettingsPage::OnInitDialog()
     SetUpSpins();
     LiftTextLimits();
     CWizardPage::OnInitDialog();
-    for (const ov::EntriesRow& row : m_rows.entries)
-        FitDroppedWidth(GetDlgItem(row.controlId)->m_hWnd);
-    m_narrowestWidth = NarrowestWidth();
-    ReserveContent(CSize(m_narrowestWidth, ContentHeight()));
     LoadSettings(TakePendingSelector());
     RegisterTooltips();
     return TRUE;
+}
+
+void CSettingsPage::OnTemplateLayout()
+{
+    for (const ov::EntriesRow& row : m_rows.entries)
+        FitDroppedWidth(FindControl(row.controlId));
+    m_narrowestWidth = NarrowestWidth();
+    CWizardPage::OnTemplateLayout();
 }
 
 CRect CSettingsPage::GetClientRectangle() const
@@ -163,10 +167,9 @@ int CSettingsPage::NarrowestWidth() const
 {
     // The margin in a frame, and what still shows a word of an edit's text.
     CRect units(7, 0, 50, 0);
-    ::MapDialogRect(m_hWnd, &units);
-    CRect client;
-    GetClientRect(&client);
-    int spare = client.Width();
+    MapDialogRect(units);
+    const int width = TemplateSize().cx;
+    int spare = width;
     int fixed = 0;
     for (const ov::LayoutRow& row : m_layout) {
         const HWND control = FindControl(row.controlId);
@@ -178,16 +181,16 @@ int CSettingsPage::NarrowestWidth() const
         else if (!Follows(control))
             fixed = std::max<int>(fixed, rect.right);
     }
-    return std::max(client.Width() - std::max(spare, 0), fixed);
+    return std::max(width - std::max(spare, 0), fixed);
 }
 
-int CSettingsPage::ContentHeight() const
+CSize CSettingsPage::NeededSize() const
 {
     int bottom = 0;
     for (HWND control = ::GetWindow(m_hWnd, GW_CHILD); control != nullptr;
          control = ::GetWindow(control, GW_HWNDNEXT))
         bottom = std::max<int>(bottom, RectOn(m_hWnd, control).bottom);
-    return bottom;
+    return {m_narrowestWidth, bottom};
 }
 
 void CSettingsPage::FillLists()

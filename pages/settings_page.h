@@ -53,6 +53,10 @@ class CSettingsPage : public CWizardPage
     /// less room scrolls.
     CRect GetClientRectangle() const override;
 
+    /// Measures what the controls need, and what their lists need when open.
+    void OnTemplateLayout() override;
+    CSize NeededSize() const override;
+
     ov::PageValues& Values() { return m_values; }
     const ov::PageRows& Rows() const { return m_rows; }
 
@@ -63,7 +67,6 @@ class CSettingsPage : public CWizardPage
     bool Follows(HWND control) const;
     int NarrowestWidth(HWND control, const CRect& units) const;
     int NarrowestWidth() const;
-    int ContentHeight() const;
     bool ReportsChange(int id, int code) const;
     bool IsDependedOn(int id) const;
     int GroupOf(int id) const;

@@ -53,14 +53,26 @@ BOOL CLeftPane::OnInitDialog()
     CWizardPage::OnInitDialog();
     m_list.ShowNoHorizontalBar();
     if (m_list.GetColumnCount() == 0) {
-        CRect rectangle;
-        m_list.GetWindowRect(&rectangle);
-        m_list.InsertCaptionedColumn(0, IDS_PANE_COLUMN, rectangle.Width() - columnMargin);
+        m_list.InsertCaptionedColumn(0, IDS_PANE_COLUMN, ColumnWidth());
         m_list.SetExtendedStyle(LVS_EX_FULLROWSELECT | LVS_EX_INFOTIP);
     }
     FillList();
     RegisterTooltips();
     return TRUE;
+}
+
+int CLeftPane::ColumnWidth() const
+{
+    CRect rectangle;
+    m_list.GetWindowRect(&rectangle);
+    return rectangle.Width() - columnMargin;
+}
+
+void CLeftPane::OnTemplateLayout()
+{
+    CWizardPage::OnTemplateLayout();
+    if (m_list.GetColumnCount() > 0)
+        ListView_SetColumnWidth(m_list.m_hWnd, 0, ColumnWidth());
 }
 
 void CLeftPane::FillList()

@@ -22,12 +22,16 @@ class CLeftPane : public CWizardPage
     void DoDataExchange(CDataExchange* exchange) override;
     void InitControlLayout() override;
     UINT AccessibleNameId(int controlId) const override;
+
+    /// Fits the column to the list's width in the template.
+    void OnTemplateLayout() override;
     virtual void RegisterTooltips();
 
     void OnItemChanged(NMHDR* header, LRESULT* result);
     DECLARE_MESSAGE_MAP()
 
   private:
+    int ColumnWidth() const;
     void FillList();
 
     CPrefListCtrl m_list;

@@ -2,23 +2,30 @@
 
 #include <algorithm>
 
+#include "framework/window_resolution.h"
+
 CPageScroller::CPageScroller(CWnd& page, CSize displaySize) : m_page(page)
 {
     SetDisplaySize(displaySize);
 }
 
-void CPageScroller::SetDisplaySize(CSize displaySize)
+void CPageScroller::SetDisplaySize(CSize displaySize, CSize reserved)
 {
-    m_horizontal.displaySize = displaySize.cx;
-    m_vertical.displaySize = displaySize.cy;
+    const bool hasPage = m_page.GetSafeHwnd() != nullptr;
+    const CSize bars = hasPage ? BarThickness() : CSize();
+    const int width = std::max(displaySize.cx, reserved.cx > 0 ? reserved.cx + bars.cx : 0);
+    const int height = std::max(displaySize.cy, reserved.cy > 0 ? reserved.cy + bars.cy : 0);
+    if (width == m_horizontal.displaySize && height == m_vertical.displaySize)
+        return;
+    m_horizontal.displaySize = width;
+    m_vertical.displaySize = height;
+    if (hasPage)
+        UpdateScrollBars();
 }
 
-void CPageScroller::Reserve(CSize size)
+CSize CPageScroller::BarThickness() const
 {
-    m_horizontal.displaySize =
-        std::max<int>(m_horizontal.displaySize, size.cx + ::GetSystemMetrics(SM_CXVSCROLL));
-    m_vertical.displaySize =
-        std::max<int>(m_vertical.displaySize, size.cy + ::GetSystemMetrics(SM_CYHSCROLL));
+    return {AfxGetFrameMetrics(m_page, SM_CXVSCROLL), AfxGetFrameMetrics(m_page, SM_CYHSCROLL)};
 }
 
 CSize CPageScroller::AvailableSize() const
@@ -27,8 +34,9 @@ CSize CPageScroller::AvailableSize() const
     CRect client;
     m_page.GetWindowRect(&window);
     m_page.GetClientRect(&client);
-    return {ov::AvailableSize(window.Width(), client.Width(), ::GetSystemMetrics(SM_CXVSCROLL)),
-            ov::AvailableSize(window.Height(), client.Height(), ::GetSystemMetrics(SM_CYHSCROLL))};
+    const CSize bars = BarThickness();
+    return {ov::AvailableSize(window.Width(), client.Width(), bars.cx),
+            ov::AvailableSize(window.Height(), client.Height(), bars.cy)};
 }
 
 CSize CPageScroller::ReachableSize() const

@@ -11,12 +11,10 @@ class CPageScroller
     /// `displaySize` is the size of the page's whole content in pixels.
     CPageScroller(CWnd& page, CSize displaySize);
 
-    /// Size of the whole content from the next size of the page on.
-    void SetDisplaySize(CSize displaySize);
-
-    /// Makes the content at least so large that the given size can be brought
-    /// into view beside both bars.
-    void Reserve(CSize size);
+    /// Sets the size of the whole content in pixels. The content is at least so
+    /// large that `reserved` can be brought into view beside both bars. The bars
+    /// follow at once.
+    void SetDisplaySize(CSize displaySize, CSize reserved = {});
 
     /// The part of the page, from its origin, that can be brought into view.
     CSize ReachableSize() const;
@@ -41,6 +39,7 @@ class CPageScroller
     BOOL OnMouseWheel(short delta);
 
   private:
+    CSize BarThickness() const;
     CSize AvailableSize() const;
     void UpdateScrollBars();
     int UpdateScrollBar(int bar, ov::ScrollAxis& axis, int available);

@@ -5,6 +5,7 @@
 #include "controls/application.h"
 #include "controls/core/layout.h"
 #include "controls/tool_tip_control.h"
+#include "framework/window_resolution.h"
 #include "pages/core/page_catalogue.h"
 #include "resources/ids.h"
 #include "wizard/application_texts.h"
@@ -33,8 +34,7 @@ BEGIN_MESSAGE_MAP(CPreferencesWizard, CResizableDlg)
 END_MESSAGE_MAP()
 
 CPreferencesWizard::CPreferencesWizard(CWnd* parent)
-    : CResizableDlg(IDD_PREFERENCES, parent, true, ov::DesignWidth, ov::DesignHeight),
-      m_icon(AfxGetApp()->LoadIcon(IDI_PREFERENCES))
+    : CResizableDlg(IDD_PREFERENCES, parent, true, ov::DesignWidth, ov::DesignHeight)
 {
     CPreferencesWizard::InitControlLayout();
 }
@@ -105,8 +105,6 @@ bool CPreferencesWizard::CreateLeftPane()
 BOOL CPreferencesWizard::OnInitDialog()
 {
     CResizableDlg::OnInitDialog();
-    SetIcon(m_icon, TRUE);
-    SetIcon(m_icon, FALSE);
     if (!CreateLeftPane())
         return TRUE;
     RegisterTooltips();
@@ -137,14 +135,21 @@ BOOL CPreferencesWizard::OnInitDialog()
     return TRUE;
 }
 
+void CPreferencesWizard::OnTemplateLayout()
+{
+    CResizableDlg::OnTemplateLayout();
+    ResourceIcon icon = LoadResourceIcon(IDI_PREFERENCES, AfxGetMetrics(SM_CXICON, Resolution()));
+    if (!icon)
+        return;
+    SetIcon(icon.get(), TRUE);
+    SetIcon(icon.get(), FALSE);
+    m_icon = std::move(icon);
+}
+
 void CPreferencesWizard::FitIntoWorkArea()
 {
     // On a small screen the buttons at the bottom would lie under the task bar.
-    MONITORINFO monitor{};
-    monitor.cbSize = sizeof monitor;
-    if (!::GetMonitorInfoW(::MonitorFromWindow(m_hWnd, MONITOR_DEFAULTTONEAREST), &monitor))
-        return;
-    const CRect work(monitor.rcWork);
+    const CRect work = WorkArea();
     CRect window;
     GetWindowRect(&window);
     const int width = std::min(window.Width(), work.Width());
@@ -241,14 +246,14 @@ void CPreferencesWizard::OnPaint()
     CPaintDC paint(this);
     CRect client;
     GetClientRect(&client);
-    const int x = (client.Width() - ::GetSystemMetrics(SM_CXICON) + 1) / 2;
-    const int y = (client.Height() - ::GetSystemMetrics(SM_CYICON) + 1) / 2;
-    paint.DrawIcon(x, y, m_icon);
+    const int x = (client.Width() - AfxGetMetrics(SM_CXICON, Resolution()) + 1) / 2;
+    const int y = (client.Height() - AfxGetMetrics(SM_CYICON, Resolution()) + 1) / 2;
+    paint.DrawIcon(x, y, m_icon.get());
 }
 
 HCURSOR CPreferencesWizard::OnQueryDragIcon()
 {
-    return m_icon;
+    return m_icon.get();
 }
 
 BOOL CPreferencesWizard::PreTranslateMessage(MSG* message)

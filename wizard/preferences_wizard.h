@@ -6,6 +6,7 @@
 #include "config/core/setting_store.h"
 #include "config/text_file.h"
 #include "controls/resizable_dlg.h"
+#include "controls/resource_icon.h"
 #include "wizard/left_pane.h"
 #include "wizard/wizard_page.h"
 
@@ -64,6 +65,9 @@ class CPreferencesWizard : public CResizableDlg
     /// The program around us ends: the question is the same as for Cancel.
     void OnQuit() override { OnCancelCommand(); }
 
+    /// Gives the window its icon, in the size of its resolution.
+    void OnTemplateLayout() override;
+
     void OnSize(UINT type, int width, int height);
     void OnPaint();
     void OnSysCommand(UINT id, LPARAM lParam);
@@ -103,7 +107,7 @@ class CPreferencesWizard : public CResizableDlg
     CEdit m_focusDescriptionEdit;
     std::unique_ptr<CLeftPane> m_leftPane;
     int m_currentPage = -1;
-    HICON m_icon;
+    ResourceIcon m_icon;
     std::unique_ptr<CTextFileEx> m_configFile;
     CEdit m_focusVariableEdit;
     ov::Text m_savedHeader; ///< what the last save wrote above the variables

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "controls/config_setting_dlg.h"
+#include "controls/core/dialog_units.h"
 #include "controls/core/layout.h"
 #include "controls/dropped_list.h"
 #include "framework/focus.h"
@@ -16,9 +17,6 @@
 namespace
 {
 constexpr int pageColour = COLOR_MENU;
-// Pixels of four horizontal and eight vertical dialog units at 96 dpi, for which
-// the sizes of the pages' contents are given.
-constexpr SIZE usualUnits{6, 13};
 
 ov::KeyTarget TargetOf(const CWnd* window)
 {
@@ -54,21 +52,19 @@ CWizardPage::CWizardPage(CPreferencesWizard* owner, UINT pageId, CSize scrollSiz
 
 CWizardPage::~CWizardPage() = default;
 
-BOOL CWizardPage::OnInitDialog()
+void CWizardPage::OnTemplateLayout()
 {
-    // The template's units grow with the resolution, and the content with them.
-    CRect units(0, 0, 4, 8);
-    ::MapDialogRect(m_hWnd, &units);
-    m_hasUsualUnits = units.Width() == usualUnits.cx && units.Height() == usualUnits.cy;
-    m_scroller.SetDisplaySize(CSize(ov::SizeInUnits(m_contentSize.cx, units.Width(), usualUnits.cx),
-                                    ov::SizeInUnits(m_contentSize.cy, units.Height(), usualUnits.cy)));
-    return CResizableDlg::OnInitDialog();
+    CResizableDlg::OnTemplateLayout();
+    const ov::Size content = ov::SizeInUnits({m_contentSize.cx, m_contentSize.cy}, Units());
+    const CSize needed = Units() != ov::UsualUnits ? NeededSize() : CSize();
+    m_scroller.SetDisplaySize(CSize(content.width, content.height), needed);
 }
 
-void CWizardPage::ReserveContent(CSize size)
+void CWizardPage::OnResolutionChanged()
 {
-    if (!m_hasUsualUnits)
-        m_scroller.Reserve(size);
+    // The template's places are those of an unscrolled page.
+    m_scroller.ScrollToOrigin();
+    CResizableDlg::OnResolutionChanged();
 }
 
 BOOL CWizardPage::PreTranslateMessage(MSG* message)

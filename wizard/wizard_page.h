@@ -15,7 +15,7 @@ class CWizardPage : public CResizableDlg
 
   public:
     /// The page's window is made later, by CreateOrShow. `scrollSize` is the
-    /// size of the page's whole content in pixels.
+    /// size of the page's whole content in pixels at the usual resolution.
     CWizardPage(CPreferencesWizard* owner, UINT pageId, CSize scrollSize, UINT templateId);
     ~CWizardPage() override;
 
@@ -71,11 +71,14 @@ class CWizardPage : public CResizableDlg
     void SetPendingSelector(int selector) { m_pendingSelector = selector; }
 
   protected:
-    BOOL OnInitDialog() override;
+    /// Fits the scroll bars to the content, whose size grows with the units.
+    void OnTemplateLayout() override;
+    void OnResolutionChanged() override;
 
-    /// The page scrolls over at least that much, unless its resolution is the
-    /// usual one: at others a page grows by its units, and its texts not quite so.
-    void ReserveContent(CSize size);
+    /// The size that the page has to bring into view at least, unless its units are
+    /// the usual ones: at others the page grows with its units, and its texts do not
+    /// grow in quite the same proportion.
+    virtual CSize NeededSize() const { return {}; }
 
     /// The part of the page, from its origin, that scrolling brings into view.
     CSize ReachableSize() const { return m_scroller.ReachableSize(); }
@@ -110,6 +113,5 @@ class CWizardPage : public CResizableDlg
     UINT m_pageId;
     CPreferencesWizard* m_owner;
     CSize m_contentSize;
-    bool m_hasUsualUnits = true;
     CPageScroller m_scroller;
 };

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "controls/core/dialog_units.h"
+
 namespace ov
 {
 namespace
@@ -104,11 +106,15 @@ Rect GripRect(std::int32_t clientWidth, std::int32_t clientHeight)
     return {clientWidth - GripSize, clientHeight - GripSize, clientWidth, clientHeight};
 }
 
-std::optional<Size> MinimumTrackSize(std::uint32_t designWidth, std::uint32_t designHeight)
+std::optional<Size> MinimumTrackSize(std::uint32_t designWidth, std::uint32_t designHeight, const Size& units,
+                                     const Size& workArea)
 {
     if (designWidth == 0)
         return std::nullopt;
-    return Size{static_cast<std::int32_t>(designWidth), static_cast<std::int32_t>(designHeight)};
+    const Size design{static_cast<std::int32_t>(designWidth), static_cast<std::int32_t>(designHeight)};
+    const Size grown = SizeInUnits(design, units);
+    return Size{std::max(design.width, std::min(grown.width, workArea.width)),
+                std::max(design.height, std::min(grown.height, workArea.height))};
 }
 
 void CaptureControls(std::vector<CDlgControlInfo>& entries, LayoutControls& controls,
@@ -118,6 +124,14 @@ void CaptureControls(std::vector<CDlgControlInfo>& entries, LayoutControls& cont
         if (const std::optional<Rect> rect = controls.ControlRect(info.controlId))
             CaptureControl(info, *rect, clientWidth, clientHeight);
     }
+}
+
+void RecaptureControls(std::vector<CDlgControlInfo>& entries, LayoutControls& controls,
+                       std::int32_t clientWidth, std::int32_t clientHeight)
+{
+    for (CDlgControlInfo& info : entries)
+        info.captured = 0;
+    CaptureControls(entries, controls, clientWidth, clientHeight);
 }
 
 void ApplyLayout(const std::vector<CDlgControlInfo>& entries, LayoutControls& controls,

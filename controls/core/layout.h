@@ -54,11 +54,14 @@ inline constexpr std::int32_t GripSize = 11;
 /// The size grip's place in the bottom-right corner of the client area.
 Rect GripRect(std::int32_t clientWidth, std::int32_t clientHeight);
 
-/// Smallest size in pixels that the dialog may be tracked to; none once the
-/// design width is 0.
-std::optional<Size> MinimumTrackSize(std::uint32_t designWidth, std::uint32_t designHeight);
+/// Smallest size in pixels that a dialog with these units may be tracked to: the
+/// design size, which grows with the units as far as the work area has room. None
+/// once the design width is 0.
+std::optional<Size> MinimumTrackSize(std::uint32_t designWidth, std::uint32_t designHeight, const Size& units,
+                                     const Size& workArea);
 
-/// The design size of every dialog of the program, in pixels.
+/// The design size of every dialog of the program, in pixels at the usual
+/// resolution.
 inline constexpr std::uint32_t DesignWidth = 580;
 inline constexpr std::uint32_t DesignHeight = 400;
 
@@ -77,13 +80,18 @@ class LayoutControls
     /// Gives every column of a list control that width in pixels.
     virtual void SetListColumnWidths(std::uint16_t controlId, std::int32_t width) = 0;
 
-    /// Moves the control and has it drawn anew.
+    /// Moves the control and has it drawn again.
     virtual void MoveControl(std::uint16_t controlId, const Rect& rect) = 0;
 };
 
 /// Captures every entry whose control exists.
 void CaptureControls(std::vector<CDlgControlInfo>& entries, LayoutControls& controls,
                      std::int32_t clientWidth, std::int32_t clientHeight);
+
+/// The same for controls that have got other initial places, as at another
+/// resolution: what the entries had captured is replaced.
+void RecaptureControls(std::vector<CDlgControlInfo>& entries, LayoutControls& controls,
+                       std::int32_t clientWidth, std::int32_t clientHeight);
 
 /// Whether a dialog of that design size lays its controls out at all; a
 /// destroyed dialog has the design width 0.

@@ -9,6 +9,8 @@
 
 namespace
 {
+constexpr UINT usualResolution = 96;
+
 class SizeWindow : public CWnd
 {
 };
@@ -143,20 +145,35 @@ TEST_F(ProgramTest, TheApplicationsIconIsLoadedByAnExport)
 TEST_F(ProgramTest, TheSharedFontIsACopyOfTheMainWindowsFont)
 {
     Open(L"", L"");
-    CFont* const font = GetSharedDialogFont();
+    CFont* const font = GetSharedDialogFont(usualResolution);
     ASSERT_NE(font, nullptr);
     CFont* const dialogFont = dialog->GetFont();
     ASSERT_NE(dialogFont, nullptr);
     EXPECT_NE(font->GetSafeHandle(), dialogFont->GetSafeHandle());
     EXPECT_STREQ(DescriptionOf(*font).lfFaceName, DescriptionOf(*dialogFont).lfFaceName);
     EXPECT_EQ(DescriptionOf(*font).lfHeight, DescriptionOf(*dialogFont).lfHeight);
-    EXPECT_EQ(GetSharedDialogFont(), font);
+    EXPECT_EQ(GetSharedDialogFont(usualResolution), font);
+}
+
+TEST_F(ProgramTest, EachResolutionHasItsOwnSharedFontOfTheSameType)
+{
+    Open(L"", L"");
+    CFont* const font = GetSharedDialogFont(usualResolution);
+    CFont* const finer = GetSharedDialogFont(144);
+    ASSERT_NE(font, nullptr);
+    ASSERT_NE(finer, nullptr);
+    // Eight points, as the templates have them.
+    EXPECT_EQ(DescriptionOf(*font).lfHeight, -11);
+    EXPECT_EQ(DescriptionOf(*finer).lfHeight, -16);
+    EXPECT_STREQ(DescriptionOf(*finer).lfFaceName, DescriptionOf(*font).lfFaceName);
+    EXPECT_EQ(GetSharedDialogFont(144), finer);
+    EXPECT_EQ(GetSharedDialogFont(usualResolution), font);
 }
 
 TEST_F(ProgramTest, WithoutAMainWindowThereIsNoFont)
 {
     FreshApplication app;
-    EXPECT_EQ(app->GetDialogFont(), nullptr);
+    EXPECT_EQ(app->GetDialogFont(usualResolution), nullptr);
 }
 
 TEST_F(ProgramTest, AMainWindowWithoutAFontGivesTahoma)
@@ -165,7 +182,7 @@ TEST_F(ProgramTest, AMainWindowWithoutAFontGivesTahoma)
     ASSERT_TRUE(window.CreateEx(0, nullptr, L"", WS_POPUP, 0, 0, 10, 10, nullptr, nullptr));
     FreshApplication app;
     app->m_pMainWnd = &window;
-    CFont* const font = app->GetDialogFont();
+    CFont* const font = app->GetDialogFont(usualResolution);
     ASSERT_NE(font, nullptr);
     const LOGFONTW description = DescriptionOf(*font);
     EXPECT_STREQ(description.lfFaceName, L"Tahoma");

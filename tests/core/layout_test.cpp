@@ -324,10 +324,41 @@ TEST(Layout, GripSitsInTheBottomRightCorner)
     EXPECT_EQ(GripRect(580, 400), (Rect{569, 389, 580, 400}));
 }
 
+constexpr Size usualUnits{6, 13};
+constexpr Size largeWorkArea{3000, 2000};
+
 TEST(Layout, MinimumTrackSizeIsTheDesignSizeUntilDestruction)
 {
-    EXPECT_EQ(MinimumTrackSize(580, 400), (Size{580, 400}));
-    EXPECT_EQ(MinimumTrackSize(0, 400), std::nullopt);
+    EXPECT_EQ(MinimumTrackSize(580, 400, usualUnits, largeWorkArea), (Size{580, 400}));
+    EXPECT_EQ(MinimumTrackSize(0, 400, usualUnits, largeWorkArea), std::nullopt);
+}
+
+TEST(Layout, MinimumTrackSizeGrowsWithTheUnitsAndNeverShrinks)
+{
+    EXPECT_EQ(MinimumTrackSize(580, 400, {12, 26}, largeWorkArea), (Size{1160, 800}));
+    EXPECT_EQ(MinimumTrackSize(580, 400, {3, 7}, largeWorkArea), (Size{580, 400}));
+    // Before a dialog knows its units.
+    EXPECT_EQ(MinimumTrackSize(580, 400, {0, 0}, largeWorkArea), (Size{580, 400}));
+}
+
+TEST(Layout, MinimumTrackSizeFitsTheWorkAreaIfTheDesignSizeDoes)
+{
+    EXPECT_EQ(MinimumTrackSize(580, 400, {12, 26}, {1024, 728}), (Size{1024, 728}));
+    EXPECT_EQ(MinimumTrackSize(580, 400, {12, 26}, {500, 300}), (Size{580, 400}));
+}
+
+TEST(Layout, RecapturingReplacesWhatWasCaptured)
+{
+    Controls controls;
+    controls.rects[7] = {10, 20, 110, 40};
+    std::vector entries{Entry(7, LayoutStretchWidth | LayoutAnchorBottom)};
+    CaptureControls(entries, controls, 200, 100);
+    controls.rects[7] = {15, 30, 165, 60};
+    CaptureControls(entries, controls, 300, 150);
+    EXPECT_EQ(entries[0].initialRect, (Rect{10, 20, 110, 40}));
+    RecaptureControls(entries, controls, 300, 150);
+    ApplyLayout(entries, controls, designWidth, designHeight, 400, 200);
+    EXPECT_EQ(controls.rects[7], (Rect{15, 80, 265, 110}));
 }
 
 TEST(LayoutPass, StretchedListWithThreeColumnsAnd304PixelsGetsColumnsOf100)

@@ -279,22 +279,4 @@ TEST(PageScrollReach, IsAsFarAsTheLastPositionShows)
     EXPECT_EQ(ReachableSize(axis, 386, 369), axis.position + 369);
 }
 
-TEST(PageScrollUnits, SizesStandAtTheUsualResolution)
-{
-    EXPECT_EQ(SizeInUnits(290, 6, 6), 290);
-    EXPECT_EQ(SizeInUnits(750, 13, 13), 750);
-}
-
-TEST(PageScrollUnits, SizesGrowWithTheUnitsAndAreRoundedUp)
-{
-    EXPECT_EQ(SizeInUnits(290, 12, 6), 580);
-    EXPECT_EQ(SizeInUnits(290, 7, 6), 339);   // 338.3
-    EXPECT_EQ(SizeInUnits(750, 16, 13), 924); // 923.1
-}
-
-TEST(PageScrollUnits, SmallerUnitsLeaveTheSize)
-{
-    EXPECT_EQ(SizeInUnits(290, 5, 6), 290);
-}
-
 } // namespace

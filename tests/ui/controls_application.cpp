@@ -3,7 +3,7 @@
 CFont* sharedFont = nullptr;
 HICON applicationIcon = nullptr;
 
-CFont* GetSharedDialogFont()
+CFont* GetSharedDialogFont(UINT)
 {
     return sharedFont;
 }

@@ -115,6 +115,37 @@ TEST_F(Scroller, ContentSmallerThanTheAreaShowsNoBars)
     EXPECT_EQ(Scrolled(), CPoint(0, 0));
 }
 
+TEST_F(Scroller, BarsFollowANewDisplaySizeAtOnce)
+{
+    scroller.SetDisplaySize(CSize(900, 500));
+    EXPECT_EQ(Bar(SB_HORZ).nMax, 899);
+    EXPECT_EQ(Bar(SB_VERT).nMax, 499);
+    EXPECT_NE(page.GetStyle() & WS_HSCROLL, 0u);
+    scroller.SetDisplaySize(CSize(300, 100));
+    EXPECT_EQ(page.GetStyle() & (WS_VSCROLL | WS_HSCROLL), 0u);
+}
+
+TEST_F(Scroller, ContentFollowsANewDisplaySizeAtOnce)
+{
+    for (int i = 0; i < 3; ++i)
+        scroller.OnVScroll(SB_PAGEDOWN, nullptr);
+    ASSERT_EQ(Scrolled(), CPoint(0, 750));
+    scroller.SetDisplaySize(CSize(300, 600));
+    EXPECT_EQ(Scrolled(), CPoint(0, 349)); // the last position: 600 - 250 - 1
+    EXPECT_EQ(Bar(SB_VERT).nPos, 349);
+    scroller.SetDisplaySize(CSize(300, 100));
+    EXPECT_EQ(Scrolled(), CPoint(0, 0));
+}
+
+TEST_F(Scroller, ReservedSizeLeavesRoomForBothBars)
+{
+    scroller.SetDisplaySize(CSize(300, 200), CSize(900, 700));
+    EXPECT_EQ(Bar(SB_HORZ).nMax, 899 + ::GetSystemMetrics(SM_CXVSCROLL));
+    EXPECT_EQ(Bar(SB_VERT).nMax, 699 + ::GetSystemMetrics(SM_CYHSCROLL));
+    scroller.SetDisplaySize(CSize(300, 2000), CSize(0, 700));
+    EXPECT_EQ(Bar(SB_VERT).nMax, 1999);
+}
+
 TEST_F(Scroller, RequestsMoveTheChildWindows)
 {
     scroller.OnVScroll(SB_LINEDOWN, nullptr);

@@ -72,12 +72,6 @@ std::int32_t ReachableSize(const ScrollAxis& axis, std::int32_t available, std::
     return visible + std::max(axis.displaySize - available, 0);
 }
 
-std::int32_t SizeInUnits(std::int32_t size, std::int32_t unit, std::int32_t usualUnit)
-{
-    const std::int64_t scaled = (std::int64_t{size} * unit + usualUnit - 1) / usualUnit;
-    return std::max(size, static_cast<std::int32_t>(scaled));
-}
-
 std::int32_t PositionShowing(const ScrollAxis& axis, std::int32_t begin, std::int32_t end,
                              std::int32_t visible)
 {

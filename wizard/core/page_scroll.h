@@ -73,10 +73,6 @@ std::int32_t Scroll(ScrollAxis& axis, ScrollRequest request, std::int32_t trackP
 /// the scroll bars leave of that. A bar covers as much at the content's end.
 std::int32_t ReachableSize(const ScrollAxis& axis, std::int32_t available, std::int32_t visible);
 
-/// A size given in pixels for the usual unit of a dialog, on a screen where the
-/// unit is `unit` instead of `usualUnit` pixels. Never less than that size.
-std::int32_t SizeInUnits(std::int32_t size, std::int32_t unit, std::int32_t usualUnit);
-
 /// Where to scroll so that the content from `begin` to `end` comes into view:
 /// the shortest way, or to the origin where that shows it. Of what is longer
 /// than the view, as much as fills three quarters of it. `visible` is what the

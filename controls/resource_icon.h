@@ -1,0 +1,17 @@
+#pragma once
+
+#include <memory>
+#include <type_traits>
+
+#include "framework/windows_api.h"
+
+struct IconDestroyer {
+    void operator()(HICON icon) const { ::DestroyIcon(icon); }
+};
+
+/// Owns an icon.
+using ResourceIcon = std::unique_ptr<std::remove_pointer_t<HICON>, IconDestroyer>;
+
+/// Loads an icon of the module's resources with `size` pixels in both directions;
+/// null when it cannot be loaded.
+ResourceIcon LoadResourceIcon(UINT iconId, int size);
