@@ -21,6 +21,20 @@ HICON dialogIcon = nullptr;
 constexpr UINT toolTipSecondStyle = 8;
 constexpr LONG fallbackFontHeight = 14;
 
+/// A second call of an export can come before the dialog has a window and after
+/// it has lost it: enabling the owner sends messages, leaving COM dispatches them.
+class ShowingScope
+{
+  public:
+    explicit ShowingScope(bool& showing) : m_showing(showing) { m_showing = true; }
+    ~ShowingScope() { m_showing = false; }
+    ShowingScope(const ShowingScope&) = delete;
+    ShowingScope& operator=(const ShowingScope&) = delete;
+
+  private:
+    bool& m_showing;
+};
+
 /// Puts the previous main window back however the dialog ends.
 class MainWindowScope
 {
@@ -114,9 +128,9 @@ bool CPreferencesApp::ActivateOpenDialog()
     // Only one of the host's windows is disabled while the dialog is open, and
     // timers go on: a second call can come, and must not take the texts and the
     // tooltip window away from the dialog that uses them.
-    if (m_pMainWnd == nullptr)
+    if (!m_showing)
         return false;
-    if (m_pMainWnd->GetSafeHwnd() != nullptr)
+    if (m_pMainWnd != nullptr && m_pMainWnd->GetSafeHwnd() != nullptr)
         AfxBringForward(m_pMainWnd->m_hWnd);
     return true;
 }
@@ -127,6 +141,7 @@ unsigned int CPreferencesApp::ShowPreferences(CWnd* parent)
         return 1;
     if (dialogIcon == nullptr)
         dialogIcon = LoadIcon(IDI_TOOLTIP);
+    const ShowingScope showing(m_showing); // outlives the dialog
     CPreferencesWizard dialog(parent);
     const MainWindowScope mainWindow(&dialog);
     const ToolTipScope toolTip(&dialog);

@@ -25,7 +25,9 @@ class CPreferencesApp : public CWinApp
     /// set up or is open already.
     unsigned int ShowPreferences(CWnd* parent);
 
-    /// Brings the dialog forward when one is open; false when none is.
+    /// Brings the dialog forward when one is open. False when no ShowPreferences
+    /// is running; while the dialog is being set up or taken down there is nothing
+    /// to bring forward, yet the result is true.
     bool ActivateOpenDialog();
 
     /// The name for the saved file's header: as given, else the logged-on
@@ -38,6 +40,7 @@ class CPreferencesApp : public CWinApp
     std::map<UINT, CFont> m_dialogFonts; ///< by resolution
     LOGFONTW m_dialogFont{};             ///< describes the first one, of m_firstResolution
     UINT m_firstResolution = 0;
+    bool m_showing = false; ///< from the beginning of ShowPreferences to its end
 };
 
 extern CPreferencesApp theApp;

@@ -7,6 +7,8 @@
 
 #include <oleacc.h>
 
+#include <utility>
+
 namespace
 {
 // The control's inside, as a screen reader asks for it.
@@ -15,8 +17,9 @@ constexpr auto object = static_cast<DWORD>(OBJID_CLIENT);
 
 void CWindowNames::Set(HWND window, const ov::Text& name)
 {
-    if (!m_apartment) {
+    if (!m_apartment)
         m_apartment.emplace();
+    if (!std::exchange(m_servicesTried, true)) {
         void* services = nullptr;
         if (SUCCEEDED(::CoCreateInstance(CLSID_AccPropServices, nullptr, CLSCTX_INPROC_SERVER,
                                          IID_IAccPropServices, &services)))
@@ -35,5 +38,5 @@ void CWindowNames::Clear()
     if (m_services != nullptr)
         m_services->Release();
     m_services = nullptr;
-    m_apartment.reset();
+    m_servicesTried = false;
 }

@@ -10,7 +10,11 @@
 struct IAccPropServices;
 
 /// What screen readers call windows that neither show their name nor follow a
-/// label. The names belong to this object, which goes before their windows do.
+/// label. Call Clear before the windows are destroyed.
+///
+/// The first name makes the calling thread one that may use COM. Only the
+/// destructor leaves COM again: leaving it can dispatch messages, which a window
+/// that is being destroyed must not receive.
 class CWindowNames
 {
   public:
@@ -22,11 +26,12 @@ class CWindowNames
     /// Names the window. Where the system keeps no such names, nothing happens.
     void Set(HWND window, const ov::Text& name);
 
-    /// Takes all names back.
+    /// Takes all names back. COM stays.
     void Clear();
 
   private:
     std::optional<CComApartment> m_apartment; ///< none until the first name
-    IAccPropServices* m_services = nullptr;
+    bool m_servicesTried = false;
+    IAccPropServices* m_services = nullptr; ///< null where the system has no such service
     std::vector<HWND> m_named;
 };

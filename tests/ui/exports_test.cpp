@@ -4,7 +4,12 @@
 #include "tests/ui/expected_file.h"
 #include "tests/ui/value_editor.h"
 
+#include <objbase.h>
+
 #include <algorithm>
+
+// Interfaces have no virtual destructors; nothing is deleted through one.
+#pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
 
 using namespace uidriver;
 
@@ -259,6 +264,64 @@ TEST_F(ExportsTest, ControlsAreVersionSixThoughTheProgramHasNoManifest)
             << testing::PrintToString(path);
         EXPECT_TRUE(library.ends_with(L"\\comctl32.dll"));
     }
+    Cancel();
+}
+
+/// Calls a function whenever its thread is about to leave COM.
+class LeavingSpy final : public IInitializeSpy
+{
+  public:
+    explicit LeavingSpy(std::function<void()> onLeave) : m_onLeave(std::move(onLeave))
+    {
+        CoRegisterInitializeSpy(this, &m_cookie);
+    }
+    ~LeavingSpy() { CoRevokeInitializeSpy(m_cookie); }
+    LeavingSpy(const LeavingSpy&) = delete;
+    LeavingSpy& operator=(const LeavingSpy&) = delete;
+
+    ULONG STDMETHODCALLTYPE AddRef() override { return 2; }
+    ULONG STDMETHODCALLTYPE Release() override { return 1; }
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** result) override
+    {
+        const bool known = id == IID_IUnknown || id == __uuidof(IInitializeSpy);
+        *result = known ? this : nullptr;
+        return known ? S_OK : E_NOINTERFACE;
+    }
+    HRESULT STDMETHODCALLTYPE PreInitialize(DWORD, DWORD) override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE PostInitialize(HRESULT result, DWORD, DWORD) override { return result; }
+    HRESULT STDMETHODCALLTYPE PreUninitialize(DWORD) override
+    {
+        m_onLeave();
+        return S_OK;
+    }
+    HRESULT STDMETHODCALLTYPE PostUninitialize(DWORD) override { return S_OK; }
+
+  private:
+    std::function<void()> m_onLeave;
+    ULARGE_INTEGER m_cookie = {};
+};
+
+TEST_F(ExportsTest, ComIsLeftAfterTheWindowIsGoneAndACallMeanwhileChangesNothing)
+{
+    UseCurrent("_ORTHOVAL_BRANDING_AUTO = 1\r\n");
+    int leavings = 0;
+    bool windowExisted = false;
+    unsigned secondResult = OV_PREFERENCES_SHOWN;
+    ASSERT_TRUE(Open([&] {
+        const LeavingSpy spy([&] {
+            ++leavings;
+            windowExisted = windowExisted || IsWindow(Dialog());
+            secondResult = Library::Get().ShowDialogEx()(nullptr, L"other.cfg", L"other.cfg", L"Nobody");
+        });
+        return Library::Get().ShowDialogEx()(nullptr, L"", m_currentPath.c_str(), L"Ada Archer");
+    }));
+    Cancel();
+    EXPECT_LT(0, leavings);
+    EXPECT_FALSE(windowExisted);
+    EXPECT_EQ(OV_PREFERENCES_NOT_SHOWN, secondResult);
+    ASSERT_TRUE(Open(ShowWithoutArguments));
+    EXPECT_EQ(m_currentPath, ShownPath());
+    EXPECT_FALSE(CanLoadDefaults());
     Cancel();
 }
 
