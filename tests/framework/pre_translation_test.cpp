@@ -164,14 +164,11 @@ TEST_F(PreTranslation, DialogLeavesTheKeysOfWindowsThatItOwnsAlone)
     std::unique_ptr<CPopup> popup;
     outer.Then([&] {
         popup = std::make_unique<CPopup>(outer);
-        popup->m_edit.SetFocus();
-        for (const WPARAM key : {VK_ESCAPE, VK_TAB})
-            ::PostMessageW(popup->m_edit, WM_KEYDOWN, key, 1);
+        ::PostMessageW(popup->m_edit, WM_KEYDOWN, VK_ESCAPE, 1);
         ::PostMessageW(popup->m_edit, WM_CHAR, L'x', 1);
     });
     outer.Then([&] {
-        EXPECT_EQ(popup->m_edit.m_hWnd, ::GetFocus());
-        EXPECT_NE(ov::Text::npos, popup->m_edit.GetWindowText().find(u'x'));
+        EXPECT_EQ(u"x", popup->m_edit.GetWindowText());
         popup.reset();
     });
     EXPECT_EQ(scriptEnded, outer.DoModal()) << "Escape has cancelled the dialog";
