@@ -1,6 +1,6 @@
 #include "inspect/core/page_facts.h"
 
-#include "pages/core/all_page_rows.h"
+#include "pages/core/page_catalogue.h"
 #include "pages/core/help_texts.h"
 
 #include <algorithm>
