@@ -31,20 +31,6 @@ HANDLE Handle(ov::FileHandle file)
     return reinterpret_cast<HANDLE>(file);
 }
 
-/// None is CREATE_ALWAYS, which empties the file, refuses hidden ones and drops
-/// the attributes that a file has.
-DWORD Disposition(ov::CreateMode mode)
-{
-    switch (mode) {
-    case ov::CreateMode::New:
-        return CREATE_NEW;
-    case ov::CreateMode::Existing:
-        return OPEN_EXISTING;
-    default:
-        return OPEN_ALWAYS;
-    }
-}
-
 DWORD PieceOf(std::size_t size)
 {
     return static_cast<DWORD>(std::min<std::size_t>(size, std::numeric_limits<DWORD>::max()));
@@ -170,8 +156,11 @@ ov::FileResult CWin32FilePort::Read(ov::FileHandle file, std::span<char> buffer,
 
 ov::FileResult CWin32FilePort::Create(const ov::Text& path, ov::CreateMode mode, ov::FileHandle& file)
 {
-    const HANDLE created = ::CreateFileW(Wide(path), GENERIC_WRITE, FILE_SHARE_READ, nullptr,
-                                         Disposition(mode), FILE_ATTRIBUTE_NORMAL, nullptr);
+    // OPEN_ALWAYS rather than CREATE_ALWAYS, which empties the file, refuses
+    // hidden ones and drops the attributes that a file has.
+    const DWORD disposition = mode == ov::CreateMode::New ? CREATE_NEW : OPEN_ALWAYS;
+    const HANDLE created = ::CreateFileW(Wide(path), GENERIC_WRITE, FILE_SHARE_READ, nullptr, disposition,
+                                         FILE_ATTRIBUTE_NORMAL, nullptr);
     if (created == INVALID_HANDLE_VALUE)
         return Failed(::GetLastError());
     file = reinterpret_cast<ov::FileHandle>(created);

@@ -33,8 +33,7 @@ enum class FileKind {
 /// What Create does with a file that is already there.
 enum class CreateMode {
     New,      ///< Fails and leaves it alone.
-    Existing, ///< Opens it, with its content until something is written; fails when there is none.
-    Truncate, ///< The same, but creates a file when there is none.
+    Truncate, ///< Opens it; its content stays until something is written.
 };
 
 /// The file system as reading and saving need it. Every operation reports failure by its result;

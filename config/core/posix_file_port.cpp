@@ -48,9 +48,9 @@ int OpenExisting(const char* name, int access)
 int OpenForWriting(const char* name, CreateMode mode, bool& created)
 {
     created = false;
-    if (mode != CreateMode::New) {
+    if (mode == CreateMode::Truncate) {
         const int descriptor = OpenExisting(name, O_WRONLY);
-        if (descriptor >= 0 || errno != ENOENT || mode == CreateMode::Existing)
+        if (descriptor >= 0 || errno != ENOENT)
             return descriptor;
     }
     const int descriptor = open(name, O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);

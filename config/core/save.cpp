@@ -208,7 +208,7 @@ class Save
             if (creation || m_keep)
                 return creation;
         }
-        return Create(CreateMode::Existing, file);
+        return Create(CreateMode::Truncate, file);
     }
 
     FileResult Create(CreateMode mode, FileHandle& file)
@@ -316,7 +316,7 @@ class Save
     OldContent PutBackOrSay() noexcept
     {
         // The second try is made since often nothing but this memory holds the content any more.
-        if (m_oldContent && (Store(m_path, CreateMode::Existing) || Store(m_path, CreateMode::Existing))) {
+        if (m_oldContent && (Store(m_path, CreateMode::Truncate) || Store(m_path, CreateMode::Truncate))) {
             if (m_copied)
                 Remove(m_keptPath);
             return OldContent::Stands;

@@ -86,8 +86,7 @@ class MemoryFilePort final : public FilePort
         const Call call(*this);
         const bool exists = contents.contains(path) || links.contains(path);
         if (call.Fails() || directories.contains(path) || readOnly.contains(path) ||
-            (mode == CreateMode::New && exists) ||
-            (mode == CreateMode::Existing && !contents.contains(Followed(path))))
+            (mode == CreateMode::New && exists))
             return Fault();
         contents.try_emplace(Followed(path));
         file = Open(Followed(path));
