@@ -11,6 +11,13 @@ namespace ov::cli
 std::span<const CommandRow> AllCommands();
 
 // Each is defined in the source that has the command's name.
+std::unique_ptr<Command> MakeCheckCommand();
 std::unique_ptr<Command> MakeGetCommand();
+std::unique_ptr<Command> MakePreviewCommand();
+std::unique_ptr<Command> MakeExplainCommand();
+std::unique_ptr<Command> MakeFindCommand();
+std::unique_ptr<Command> MakeMatchCommand();
+std::unique_ptr<Command> MakeReferenceCommand();
+std::unique_ptr<Command> MakeRulesCommand();
 
 } // namespace ov::cli

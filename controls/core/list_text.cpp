@@ -13,8 +13,6 @@ namespace ov
 namespace
 {
 
-constexpr std::size_t kLongestField = 1024;
-
 Text Folded(TextView text)
 {
     Text folded(text);
@@ -50,8 +48,8 @@ class ForwardFinder
 class FieldReader
 {
   public:
-    FieldReader(TextView entry, const ListFormat& format)
-        : m_rest(entry), m_stops{format.fieldSeparator, u'\0'}, m_qualifier(format.qualifier)
+    FieldReader(TextView entry, const ListFormat& format, std::size_t longest = kLongestField)
+        : m_rest(entry), m_stops{format.fieldSeparator, u'\0'}, m_qualifier(format.qualifier), m_longest(longest)
     {
     }
 
@@ -60,7 +58,7 @@ class FieldReader
         Text field;
         const std::size_t consumed =
             ExtractTokenString(field, m_rest, u" ", u" ", nullptr, m_stops, nullptr,
-                               m_qualifier != u'\0' ? &m_qualifier : nullptr, kLongestField);
+                               m_qualifier != u'\0' ? &m_qualifier : nullptr, m_longest);
         m_rest.remove_prefix(std::min(consumed, m_rest.size()));
         return field;
     }
@@ -69,6 +67,7 @@ class FieldReader
     TextView m_rest;
     char16_t m_stops[2];
     char16_t m_qualifier;
+    std::size_t m_longest;
 };
 
 ListRows::Row ReadFields(TextView entry, const ListFormat& format)
@@ -130,9 +129,9 @@ std::vector<TextView> SplitEntries(TextView listText, const ListFormat& format)
     return entries;
 }
 
-Text ReadField(TextView entry, std::size_t field, const ListFormat& format)
+Text ReadField(TextView entry, std::size_t field, const ListFormat& format, std::size_t longest)
 {
-    FieldReader reader(entry, format);
+    FieldReader reader(entry, format, longest);
     for (; field > 0; --field)
         reader.Next();
     return reader.Next();

@@ -21,9 +21,13 @@ struct ListFormat {
 /// point into the given text.
 std::vector<TextView> SplitEntries(TextView listText, const ListFormat& format);
 
-/// Field `field`, counted from 0, of an entry: trimmed, without its qualifiers, of at most 1024
+/// The most characters of a field that the list editor keeps.
+inline constexpr std::size_t kLongestField = 1024;
+
+/// Field `field`, counted from 0, of an entry: trimmed, without its qualifiers, of at most so many
 /// characters; empty when the entry has fewer fields.
-Text ReadField(TextView entry, std::size_t field, const ListFormat& format);
+Text ReadField(TextView entry, std::size_t field, const ListFormat& format,
+               std::size_t longest = kLongestField);
 
 /// The rows that a list text is edited in: each holds one entry, split into as many fields as the
 /// format has.

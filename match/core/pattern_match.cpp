@@ -1,5 +1,6 @@
 #include "match/core/pattern_match.h"
 
+#include "match/core/perl_code.h"
 #include "match/core/wildcard_table.h"
 #include "match/core/wildcard_walk.h"
 
@@ -7,17 +8,10 @@
 #include <new>
 #include <string>
 
-#define PCRE2_CODE_UNIT_WIDTH 8
-#include <pcre2.h>
-
 namespace ov
 {
 namespace
 {
-
-struct ReleaseCode {
-    void operator()(pcre2_code* code) const { pcre2_code_free(code); }
-};
 
 struct ReleaseMatchData {
     void operator()(pcre2_match_data* data) const { pcre2_match_data_free(data); }
@@ -37,13 +31,8 @@ bool MatchWildcards(TextView pattern, TextView text, WildcardType type, bool exa
 std::uint32_t MatchPerl(std::uint32_t& match, TextView pattern, TextView text, bool exact)
 {
     match = 0;
-    const std::string expression = Utf8FromText(pattern);
     const std::string subject = Utf8FromText(text);
-    int error = 0;
-    PCRE2_SIZE offset = 0;
-    const std::unique_ptr<pcre2_code, ReleaseCode> code(
-        pcre2_compile(reinterpret_cast<PCRE2_SPTR>(expression.c_str()), PCRE2_ZERO_TERMINATED,
-                      PCRE2_UTF | (exact ? 0 : PCRE2_CASELESS), &error, &offset, nullptr));
+    const auto code = CompilePerl(pattern, exact).code;
     if (code == nullptr)
         return kMatchFailed;
     const std::unique_ptr<pcre2_match_data, ReleaseMatchData> data(

@@ -5,6 +5,7 @@
 #include "pages/core/string_table.h"
 
 #include <algorithm>
+#include <unordered_map>
 
 namespace ov
 {
@@ -20,9 +21,13 @@ unsigned HelpOfControl(const PageRows& page, int controlId)
     return setting != page.settings.end() ? setting->helpId : 0;
 }
 
-Text CommentOf(const SettingRow& row)
+const Text& CommentOf(const SettingRow& row)
 {
-    return MakeCommentBlock(Description(FindString(row.commentHelpId)));
+    static std::unordered_map<unsigned, Text> s_comments;
+    const auto [comment, isNew] = s_comments.try_emplace(row.commentHelpId);
+    if (isNew)
+        comment->second = MakeCommentBlock(Description(FindString(row.commentHelpId)));
+    return comment->second;
 }
 
 } // namespace ov

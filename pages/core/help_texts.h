@@ -11,7 +11,7 @@ unsigned HelpOfControl(const PageRows& page, int controlId);
 
 /// The comment block that a page which was shown gives a new setting: made from
 /// the description of the row's help text. Empty lines and "#" alone when that
-/// text has no description.
-Text CommentOf(const SettingRow& row);
+/// text has no description. The text is made once and stays.
+const Text& CommentOf(const SettingRow& row);
 
 } // namespace ov

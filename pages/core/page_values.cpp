@@ -37,6 +37,7 @@ void LoadNumber(const SettingStore& store, int table, const SettingRow& row, int
         break;
     }
 }
+} // namespace
 
 Text NumberToStore(Encoding encoding, int number)
 {
@@ -52,7 +53,6 @@ Text NumberToStore(Encoding encoding, int number)
         return FormatInteger(number);
     }
 }
-} // namespace
 
 PageValues::PageValues(const PageRows& rows) : m_rows(rows)
 {
@@ -190,7 +190,7 @@ void PageValues::Save(SettingStore& store, bool hasWindow)
             row.HoldsText() ? m_values[i].text : NumberToStore(row.encoding, m_values[i].number);
         // The store keeps the comment of a setting that it has.
         const bool needsComment = hasWindow && !store.HasSetting(row.variable, kCurrentTable);
-        store.SetSetting(row.variable, value, row.kind, needsComment ? CommentOf(row) : Text(),
+        store.SetSetting(row.variable, value, row.kind, needsComment ? TextView(CommentOf(row)) : TextView(),
                          kCurrentTable);
     }
 }

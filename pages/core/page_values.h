@@ -12,6 +12,10 @@
 namespace ov
 {
 
+/// What the store gets for a number of a page in that encoding, which is one of
+/// those that hold a number.
+Text NumberToStore(Encoding encoding, int number);
+
 /// The values that a page holds, one per row and companion: what its controls
 /// show and what it writes into the store. Settings are addressed by the index
 /// of their row or by their variable, companions by their control.

@@ -1,0 +1,117 @@
+#include "cli/commands.h"
+#include "cli/input.h"
+#include "cli/options.h"
+#include "cli/output.h"
+#include "cli/setting_text.h"
+#include "config/core/config_reader.h"
+#include "inspect/core/inspected_file.h"
+
+#include <algorithm>
+
+namespace ov::cli
+{
+namespace
+{
+
+class ExplainCommand final : public Command
+{
+  public:
+    void Declare(Options& options) override
+    {
+        options.Operands("NAME", m_names, 1, "The variables");
+        options.Text("--file", "FILE", m_path, "A configuration file: its value, lines and comment too");
+        m_encoding.Declare(options);
+    }
+
+    ExitCode Run(Output& output) override
+    {
+        std::optional<InspectedFile> file;
+        SettingStore store;
+        if (m_path) {
+            auto input = InputReader(m_encoding, output).Read(*m_path);
+            if (!input)
+                return ExitCode::Failed;
+            ReadConfig(store, kCurrentTable, input->bytes, input->charset);
+            file.emplace(std::move(input->bytes), input->charset);
+        }
+        ExitCode code = ExitCode::Done;
+        bool isFirst = true;
+        for (const std::string& given : m_names) {
+            const Text name = TextFromUtf8(given);
+            const SettingPlace* place = FindSetting(name);
+            if (place == nullptr) {
+                output.Problem("There is no setting " + given + Suggestions(name));
+                code = ExitCode::Found;
+                continue;
+            }
+            output.Print((isFirst ? "" : "\n") + SettingAsText(Describe(*place)));
+            isFirst = false;
+            if (file)
+                output.Print(InFile(name, *file, store));
+        }
+        return code;
+    }
+
+  private:
+    static std::string Suggestions(const Text& name)
+    {
+        if (const auto similar = SimilarVariable(name))
+            return "; is it " + Utf8FromText(*similar) + "?";
+        constexpr std::size_t kMost = 5;
+        Text folded(name);
+        std::ranges::transform(folded, folded.begin(), ToUpperAscii);
+        std::string found;
+        std::size_t count = 0;
+        for (const SettingPlace& place : AllSettings()) {
+            if (folded.empty() || TextView(place.row->variable).find(folded) == TextView::npos ||
+                count++ == kMost)
+                continue;
+            found += (found.empty() ? "; is it " : ", ") + Utf8FromText(place.row->variable);
+        }
+        return found.empty() ? found : found + "?";
+    }
+
+    std::string InFile(const Text& name, const InspectedFile& file, const SettingStore& store) const
+    {
+        const InspectedFile::Variable* variable = file.Find(name);
+        const auto record = store.FindSetting(TextView(name), kCurrentTable);
+        if (variable == nullptr || !record)
+            return "\n" + *m_path + ": not there\n";
+        std::string lines;
+        for (std::size_t line = variable->firstLine; line <= variable->lastLine; ++line) {
+            const std::size_t index = file.Lines()[line].variable;
+            if (index != InspectedFile::kNone && &file.Variables()[index] == variable)
+                lines += (lines.empty() ? "" : ", ") + std::to_string(line + 1);
+        }
+        std::string text = "\n" + *m_path + ":\n  Value: " + Utf8FromText(Text(record->value)) +
+                           "\n  Lines: " + lines + "\n";
+        if (!record->comment.empty())
+            text += "  Comment:\n" + Indented(Utf8FromText(Text(record->comment)));
+        return text;
+    }
+
+    static std::string Indented(const std::string& comment)
+    {
+        std::string text;
+        for (std::size_t start = 0; start < comment.size();) {
+            const std::size_t end = std::min(comment.find('\n', start), comment.size());
+            if (end > start)
+                text += "    " + comment.substr(start, end - start) + "\n";
+            start = end + 1;
+        }
+        return text;
+    }
+
+    std::vector<std::string> m_names;
+    std::optional<std::string> m_path;
+    EncodingOption m_encoding;
+};
+
+} // namespace
+
+std::unique_ptr<Command> MakeExplainCommand()
+{
+    return std::make_unique<ExplainCommand>();
+}
+
+} // namespace ov::cli

@@ -1,0 +1,60 @@
+#include "cli/commands.h"
+#include "cli/options.h"
+#include "cli/output.h"
+#include "cli/rule_text.h"
+
+#include <algorithm>
+#include <string_view>
+
+namespace ov::cli
+{
+namespace
+{
+
+class RulesCommand final : public Command
+{
+  public:
+    void Declare(Options& options) override
+    {
+        options.Operands("RULE", m_rules, 0, "Rules by their ids; without any, the table of all");
+        options.Choice("--format", m_format, {"text", "markdown"}, "The form of the output");
+    }
+
+    ExitCode Run(Output& output) override
+    {
+        if (m_format == Format::Markdown) {
+            output.Print(RulesAsMarkdown());
+            return ExitCode::Done;
+        }
+        if (m_rules.empty())
+            output.Print(TableOfRules());
+        ExitCode code = ExitCode::Done;
+        for (std::size_t i = 0; i < m_rules.size(); ++i) {
+            const auto rules = Rules();
+            const auto rule = std::ranges::find(rules, std::string_view(m_rules[i]),
+                                                [](const Rule& each) { return std::string_view(each.id); });
+            if (rule == rules.end()) {
+                output.Problem("There is no rule " + m_rules[i]);
+                code = ExitCode::Found;
+                continue;
+            }
+            output.Print((i > 0 ? "\n" : "") + RuleAsText(*rule));
+        }
+        return code;
+    }
+
+  private:
+    enum class Format { Text, Markdown };
+
+    std::vector<std::string> m_rules;
+    Format m_format = Format::Text;
+};
+
+} // namespace
+
+std::unique_ptr<Command> MakeRulesCommand()
+{
+    return std::make_unique<RulesCommand>();
+}
+
+} // namespace ov::cli
