@@ -1,3 +1,4 @@
+#include "framework/activation_context.h"
 #include "framework/application.h"
 #include "framework/dialog.h"
 #include "framework/exceptions.h"
@@ -62,11 +63,23 @@ void CWnd::EndModalLoop(int result)
 
 namespace
 {
-/// Does what one message asks for. The loop is called from handlers further out; a failure here is
-/// not theirs, and one message's failure does not end the dialog.
-template <class Step>
-void GuardedStep(Step step)
+/// Whether the window is a permanent object, lies in one or is owned by one.
+bool IsOwn(HWND window)
 {
+    while (window != nullptr && CWnd::FromHandlePermanent(window) == nullptr)
+        window = ParentOrOwner(window);
+    return window != nullptr;
+}
+
+/// Does what one message asks for, with the module's activation context if the work is the
+/// module's own. The loop is called from handlers further out; a failure here is not theirs, and
+/// one message's failure does not end the dialog.
+template <class Step>
+void GuardedStep(bool own, Step step)
+{
+    std::optional<CActivationScope> activation;
+    if (own)
+        activation.emplace();
     try {
         step();
     } catch (...) {
@@ -96,6 +109,7 @@ bool AnnounceFocus(HWND& known)
 int CWnd::RunModalLoop()
 {
     const HWND window = m_hWnd;
+    const CActivationPause hostMayRun;
     AFX_TEMP_MAPS& temporary = AfxGetThreadState().temporary;
     // Objects asked for before the loop belong to handlers that still wait for it.
     const AFX_TEMP_MAPS::Mark mark = temporary.GetMark();
@@ -128,7 +142,7 @@ int CWnd::RunModalLoop()
         }
         if (got == 0)
             quitCode = static_cast<int>(message.wParam);
-        GuardedStep([&] { got == 0 ? OnQuit() : Dispatch(message); });
+        GuardedStep(got == 0 || IsOwn(message.hwnd), [&] { got == 0 ? OnQuit() : Dispatch(message); });
         idle = true;
         idleCount = 0;
     }

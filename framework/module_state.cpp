@@ -69,8 +69,7 @@ AFX_MAINTAIN_STATE2::AFX_MAINTAIN_STATE2(AFX_MODULE_STATE* state)
     : m_previous(std::exchange(AfxGetThreadState().moduleState, state))
 {
     CreateContext(*state);
-    if (state->context != INVALID_HANDLE_VALUE)
-        m_activated = ::ActivateActCtx(state->context, &m_cookie) != FALSE;
+    m_activation.emplace();
     // Last, and it lets no exception out: a constructor that throws has no
     // destructor that would take the context back.
     InitialiseOnce(*state);
@@ -78,8 +77,7 @@ AFX_MAINTAIN_STATE2::AFX_MAINTAIN_STATE2(AFX_MODULE_STATE* state)
 
 AFX_MAINTAIN_STATE2::~AFX_MAINTAIN_STATE2()
 {
-    if (m_activated)
-        ::DeactivateActCtx(0, m_cookie);
+    m_activation.reset();
     AfxGetThreadState().moduleState = m_previous;
     // Outside the outermost call nobody is left who could hold a temporary object.
     if (m_previous == nullptr)

@@ -1,7 +1,10 @@
 #pragma once
 
 #include "base/text.h"
+#include "framework/activation_context.h"
 #include "framework/windows_api.h"
+
+#include <optional>
 
 class CWinApp;
 
@@ -29,7 +32,9 @@ bool AfxModuleReady();
 /// Switches the calling thread to a module's state until the scope ends, and
 /// activates the activation context of the module's manifest (resource 2), so
 /// that its windows get version 6 of the common controls whatever the host's
-/// manifest says. The first time it also runs the application's InitInstance, see
+/// manifest says. A modal loop takes the context away while the host's code may
+/// run (CActivationPause); the window procedure of each permanent window brings
+/// it back (CActivationScope). The first time it also runs the application's InitInstance, see
 /// AfxModuleReady.
 class AFX_MAINTAIN_STATE2
 {
@@ -41,8 +46,7 @@ class AFX_MAINTAIN_STATE2
 
   private:
     AFX_MODULE_STATE* m_previous;
-    ULONG_PTR m_cookie = 0;
-    bool m_activated = false;
+    std::optional<CActivationScope> m_activation;
 };
 
 /// At the start of every exported function.

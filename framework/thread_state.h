@@ -94,6 +94,13 @@ struct AFX_EXCHANGE_LOCK {
     const AFX_EXCHANGE_LOCK* outer;
 };
 
+/// An activation context that this thread has activated.
+struct AFX_ACTIVATION {
+    HANDLE context;
+    ULONG_PTR cookie;
+    const void* scope; ///< the CActivationScope that it lasts for; null once that has ended
+};
+
 struct AFX_THREAD_STATE {
     std::unordered_map<HWND, CWnd*> permanentWindows;
     /// The controls that have been asked for, by dialog and id.
@@ -104,6 +111,7 @@ struct AFX_THREAD_STATE {
     const AFX_EXCHANGE_LOCK* exchangeLocks = nullptr;
     COwnerWatch* ownerWatches = nullptr; ///< the innermost one
     AFX_MODULE_STATE* moduleState = nullptr;
+    std::vector<AFX_ACTIVATION> activations; ///< in the order of activation
     bool reportingException = false;
 };
 

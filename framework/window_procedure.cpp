@@ -1,3 +1,4 @@
+#include "framework/activation_context.h"
 #include "framework/application.h"
 #include "framework/exceptions.h"
 #include "framework/thread_state.h"
@@ -45,6 +46,7 @@ LRESULT CALLBACK AfxWndProc(HWND window, UINT message, WPARAM wParam, LPARAM lPa
     CWnd* const object = CWnd::FromHandlePermanent(window);
     if (object == nullptr)
         return ::DefWindowProcW(window, message, wParam, lParam);
+    const CActivationScope activation;
     MSG current{};
     current.hwnd = window;
     current.message = message;

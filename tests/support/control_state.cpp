@@ -4,6 +4,8 @@
 
 #include <commctrl.h>
 
+#include <string_view>
+
 namespace uidriver
 {
 
@@ -63,6 +65,21 @@ bool IsEnabled(HWND control)
 bool IsShown(HWND control)
 {
     return IsWindowVisible(control) != FALSE;
+}
+
+// The class's procedure lies in the library of its version, which has a folder of
+// its own, named for it.
+bool IsVersionSix(HWND control)
+{
+    HMODULE module = nullptr;
+    GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+                       reinterpret_cast<LPCWSTR>(GetClassLongPtrW(control, GCLP_WNDPROC)), &module);
+    wchar_t path[MAX_PATH] = {};
+    GetModuleFileNameW(module, path, MAX_PATH);
+    CharLowerW(path);
+    const std::wstring_view library = path;
+    return library.find(L"microsoft.windows.common-controls_6595b64144ccf1df_6.0.") != library.npos &&
+           library.ends_with(L"\\comctl32.dll");
 }
 
 int ComboSelection(HWND comboBox)

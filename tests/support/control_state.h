@@ -28,6 +28,10 @@ inline bool IsChecked(HWND button)
 bool IsEnabled(HWND control);
 bool IsShown(HWND control);
 
+/// Whether the control's class comes from version 6 of the common controls; for
+/// controls of this process.
+bool IsVersionSix(HWND control);
+
 /// The index of the combo box's selection, -1 when nothing is selected.
 int ComboSelection(HWND comboBox);
 /// The combo box's entries, in the order in which it lists them.

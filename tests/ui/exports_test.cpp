@@ -250,19 +250,7 @@ TEST_F(ExportsTest, ControlsAreVersionSixThoughTheProgramHasNoManifest)
     ASSERT_EQ(nullptr, FindResourceW(nullptr, MAKEINTRESOURCEW(1), MAKEINTRESOURCEW(24)));
     ASSERT_TRUE(Open());
     for (HWND control : {List(), Control(IDC_PREFERENCES_SAVE), PageControl(IDC_BRANDING_RENAME)}) {
-        // The class's procedure lies in the library of its version, which has
-        // a folder of its own, named for it.
-        HMODULE module = nullptr;
-        ASSERT_TRUE(GetModuleHandleExW(
-            GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
-            reinterpret_cast<LPCWSTR>(GetClassLongPtrW(control, GCLP_WNDPROC)), &module));
-        wchar_t path[MAX_PATH] = {};
-        GetModuleFileNameW(module, path, MAX_PATH);
-        CharLowerW(path);
-        const std::wstring_view library = path;
-        EXPECT_NE(library.npos, library.find(L"microsoft.windows.common-controls_6595b64144ccf1df_6.0."))
-            << testing::PrintToString(path);
-        EXPECT_TRUE(library.ends_with(L"\\comctl32.dll"));
+        EXPECT_TRUE(IsVersionSix(control)) << testing::PrintToString(ClassOf(control));
     }
     Cancel();
 }
