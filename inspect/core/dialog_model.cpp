@@ -1,7 +1,7 @@
 #include "inspect/core/dialog_model.h"
 
 #include "config/core/config_reader.h"
-#include "pages/core/all_page_rows.h"
+#include "pages/core/page_catalogue.h"
 
 #include <algorithm>
 

@@ -14,7 +14,7 @@ namespace
 {
 Text CaptionOfSetting(const SettingPlace& place)
 {
-    const PageTemplate& layout = *FindTemplate(FindPage(place.page->pageId)->templateId);
+    const PageTemplate& layout = *FindTemplate(place.page->info.templateId);
     const TextView variable = place.row->variable;
     for (const BarRow& bar : place.page->bars) {
         if (bar.variable == variable)
@@ -93,7 +93,7 @@ SettingDescription Describe(const SettingPlace& place)
     const TextView help = FindString(place.row->commentHelpId);
     SettingDescription setting;
     setting.variable = place.row->variable;
-    setting.page = FindString(FindPage(place.page->pageId)->titleId);
+    setting.page = FindString(place.page->info.titleId);
     setting.caption = CaptionOfSetting(place);
     setting.heading = Section(help, TooltipSection::Heading);
     setting.help = Description(help);
@@ -116,7 +116,7 @@ std::vector<SettingDescription> DescribeAll()
     std::vector<SettingDescription> settings;
     for (const PageInfo* page : PaneRows()) {
         for (const SettingPlace& place : AllSettings()) {
-            if (place.page->pageId == page->pageId)
+            if (place.page->info.pageId == page->pageId)
                 settings.push_back(Describe(place));
         }
     }

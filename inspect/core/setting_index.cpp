@@ -1,6 +1,5 @@
 #include "inspect/core/setting_index.h"
 
-#include "pages/core/all_page_rows.h"
 #include "pages/core/page_catalogue.h"
 #include "pages/core/page_template.h"
 #include "pages/core/page_values.h"
@@ -99,7 +98,7 @@ ControlKind KindOfControl(const PageRows& page, int controlId)
 
 const PageTemplate& TemplateOf(const PageRows& page)
 {
-    return *FindTemplate(FindPage(page.pageId)->templateId);
+    return *FindTemplate(page.info.templateId);
 }
 
 /// The captions of what a list or group of radio buttons offers.

@@ -111,7 +111,7 @@ TEST_F(PageMarks, ShowingAPageIsNoLoad)
     Open(L"", MakeFile(L"office.cfg", file));
     ReportCounter reports;
     for (const ov::PageInfo* page : ov::PageCatalogue())
-        dialog->SelectPage(static_cast<UINT>(page.pageId));
+        dialog->SelectPage(static_cast<UINT>(page->pageId));
     EXPECT_EQ(reports.TakePages(), std::set<UINT>{});
     EXPECT_FALSE(IsEnabled(IDC_PREFERENCES_SAVE));
 }

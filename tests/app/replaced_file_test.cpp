@@ -1,5 +1,6 @@
 // What Save asks before it replaces a file whose content the dialog does not know, what the answers
 // do, and what a failing save does to the dialog.
+#include "pages/branding/ids.h"
 #include "resources/ids.h"
 #include "tests/app/program.h"
 

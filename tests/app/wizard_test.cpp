@@ -163,10 +163,10 @@ TEST_F(Wizard, EveryPageScrollsOverTheSizeOfTheCatalogue)
         Page().MoveToRect(CRect(0, 0, 60, 50));
         SCROLLINFO range{};
         EXPECT_TRUE(Page().GetScrollInfo(SB_HORZ, &range, SIF_RANGE));
-        EXPECT_EQ(range.nMax, info.scrollWidth - 1);
+        EXPECT_EQ(range.nMax, info->scrollWidth - 1);
         EXPECT_TRUE(Page().GetScrollInfo(SB_VERT, &range, SIF_RANGE));
-        EXPECT_EQ(range.nMax, info.scrollHeight - 1);
-        Page().MoveToRect(CRect(0, 0, info.scrollWidth + 2, info.scrollHeight + 2));
+        EXPECT_EQ(range.nMax, info->scrollHeight - 1);
+        Page().MoveToRect(CRect(0, 0, info->scrollWidth + 2, info->scrollHeight + 2));
         EXPECT_EQ(::GetWindowLongPtrW(Page().m_hWnd, GWL_STYLE) & (WS_HSCROLL | WS_VSCROLL), 0);
     }
 }

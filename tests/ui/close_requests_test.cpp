@@ -1,5 +1,7 @@
 // Requests to close that come from elsewhere than the user's keys and mouse: while a modal window is open
 // over the dialog, and to what lies in the dialog.
+#include "pages/branding/ids.h"
+#include "resources/ids.h"
 #include "tests/ui/dialog_session.h"
 #include "tests/ui/value_editor.h"
 

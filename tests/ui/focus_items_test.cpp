@@ -3,7 +3,10 @@
 #include "tests/ui/expected_file.h"
 #include "tests/ui/value_editor.h"
 
-#include "resources/page_ids.h"
+#include "pages/branding/ids.h"
+#include "pages/conforming/ids.h"
+#include "pages/reporting/ids.h"
+#include "resources/ids.h"
 
 using namespace uidriver;
 

@@ -1,7 +1,9 @@
 // Windows that are told of another resolution, against the same windows as they
 // open at that resolution. A thread that is not aware of resolutions opens its
 // windows at 96 dpi, whatever the system's resolution is: ./test runs this at four.
-#include "resources/page_ids.h"
+#include "pages/branding/ids.h"
+#include "pages/misc/ids.h"
+#include "resources/ids.h"
 #include "tests/ui/dialog_session.h"
 
 #include <commctrl.h>

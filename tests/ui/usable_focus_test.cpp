@@ -3,7 +3,9 @@
 #include "tests/ui/dialog_session.h"
 #include "tests/ui/value_editor.h"
 
-#include "resources/page_ids.h"
+#include "pages/branding/ids.h"
+#include "pages/scan_period/ids.h"
+#include "resources/ids.h"
 
 using namespace uidriver;
 
