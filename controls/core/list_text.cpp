@@ -49,7 +49,8 @@ class FieldReader
 {
   public:
     FieldReader(TextView entry, const ListFormat& format, std::size_t longest = kLongestField)
-        : m_rest(entry), m_stops{format.fieldSeparator, u'\0'}, m_qualifier(format.qualifier), m_longest(longest)
+        : m_rest(entry), m_stops{format.fieldSeparator, u'\0'}, m_qualifier(format.qualifier),
+          m_longest(longest)
     {
     }
 

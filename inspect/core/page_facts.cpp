@@ -1,7 +1,7 @@
 #include "inspect/core/page_facts.h"
 
-#include "pages/core/page_catalogue.h"
 #include "pages/core/help_texts.h"
+#include "pages/core/page_catalogue.h"
 
 #include <algorithm>
 #include <unordered_map>

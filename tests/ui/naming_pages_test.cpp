@@ -1,7 +1,6 @@
 // The pages File Naming and Model Naming in the dialog.
 #include "tests/ui/page_doors.h"
 
-
 using namespace uidriver;
 
 namespace

@@ -1,7 +1,7 @@
 // Every window of the program, as its controls lie in it at several sizes. What
 // is said here holds at every resolution: ./test runs it at four.
-#include "pages/core/page_catalogue.h"
 #include "pages/branding/ids.h"
+#include "pages/core/page_catalogue.h"
 #include "pages/drawing_scales/ids.h"
 #include "pages/misc/ids.h"
 #include "resources/ids.h"

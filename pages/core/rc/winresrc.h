@@ -8,6 +8,7 @@
 
 // NOLINTBEGIN(cppcoreguidelines-macro-usage, bugprone-macro-parentheses)
 
+// clang-format off
 #define LANGUAGE
 #define LANG_ENGLISH 0
 #define SUBLANG_ENGLISH_UK 0,
@@ -58,5 +59,6 @@
 #define WS_TABSTOP 0
 #define WS_VISIBLE 0
 #define WS_VSCROLL 0
+// clang-format on
 
 // NOLINTEND(cppcoreguidelines-macro-usage, bugprone-macro-parentheses)
