@@ -44,7 +44,9 @@ class ExplainCommand final : public Command
                 code = ExitCode::Found;
                 continue;
             }
-            output.Print((isFirst ? "" : "\n") + SettingAsText(Describe(*place)));
+            if (!isFirst)
+                output.Print("\n");
+            output.Print(SettingAsText(Describe(*place)));
             isFirst = false;
             if (file)
                 output.Print(InFile(name, *file, store));

@@ -38,7 +38,9 @@ class RulesCommand final : public Command
                 code = ExitCode::Found;
                 continue;
             }
-            output.Print((i > 0 ? "\n" : "") + RuleAsText(*rule));
+            if (i > 0)
+                output.Print("\n");
+            output.Print(RuleAsText(*rule));
         }
         return code;
     }
