@@ -68,7 +68,7 @@ std::size_t Difference(TextView one, TextView other, std::size_t largest)
         if (smallest > largest)
             return largest + 1;
     }
-    return row.back();
+    return row[other.size()];
 }
 
 /// Whether a name may be similar to a known one, which all begin alike: of three pieces of that

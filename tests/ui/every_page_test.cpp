@@ -2,6 +2,7 @@
 // a file, of the defaults and of neither, what a person's changes save, what an
 // untouched page saves. OV_DIALOG_ROUNDS asks for more random files,
 // OV_DIALOG_SEED for others.
+#include "pages/branding/ids.h"
 #include "tests/pages/page_changes.h"
 #include "tests/pages/random_table.h"
 #include "tests/ui/built_pages.h"

@@ -1,5 +1,6 @@
 // The two exports: what they remember, whom they make modal, and whose
 // controls they show.
+#include "pages/branding/ids.h"
 #include "tests/ui/dialog_session.h"
 #include "tests/ui/expected_file.h"
 #include "tests/ui/value_editor.h"

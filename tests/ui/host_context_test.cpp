@@ -1,5 +1,6 @@
 // A host whose code runs while the dialog is open, and leaves an activation
 // context of its own active.
+#include "pages/branding/ids.h"
 #include "tests/ui/dialog_session.h"
 
 #include <utility>

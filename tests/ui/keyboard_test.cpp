@@ -1,4 +1,6 @@
 // The dialog without a mouse.
+#include "pages/branding/ids.h"
+#include "pages/conforming/ids.h"
 #include "tests/ui/built_pages.h"
 #include "tests/ui/dialog_session.h"
 #include "tests/ui/expected_file.h"

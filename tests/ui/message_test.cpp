@@ -1,5 +1,7 @@
 // Questions and choices of the dialog itself: abandoning changes, the defaults,
 // naming a file.
+#include "pages/branding/ids.h"
+#include "pages/conforming/ids.h"
 #include "tests/ui/dialog_session.h"
 #include "tests/ui/expected_file.h"
 

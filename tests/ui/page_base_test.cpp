@@ -1,4 +1,5 @@
 // What every page does: scrolling, the wheel, edits that hold no value.
+#include "pages/conforming/ids.h"
 #include "tests/ui/dialog_session.h"
 #include "tests/ui/expected_file.h"
 

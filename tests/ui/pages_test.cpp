@@ -1,4 +1,6 @@
 // The two pages: what their controls read, show and save.
+#include "pages/branding/ids.h"
+#include "pages/conforming/ids.h"
 #include "tests/ui/page_session.h"
 
 #include <algorithm>

@@ -1,4 +1,6 @@
 // The category pane.
+#include "pages/branding/ids.h"
+#include "pages/conforming/ids.h"
 #include "tests/ui/built_pages.h"
 #include "tests/ui/dialog_session.h"
 

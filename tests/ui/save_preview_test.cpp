@@ -2,7 +2,9 @@
 // the samples, and random files with and without defaults. OV_PREVIEW_FILES asks for
 // more of them, OV_PREVIEW_SEED for others.
 #include "config/core/config_reader.h"
+#include "framework/wide.h"
 #include "inspect/core/save_preview.h"
+#include "pages/branding/ids.h"
 #include "pages/scan_period/rows.h"
 #include "tests/data/test_data.h"
 #include "tests/pages/random_file.h"

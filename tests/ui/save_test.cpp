@@ -1,4 +1,6 @@
 // What Save writes, byte for byte, and what becomes of the backup.
+#include "pages/branding/ids.h"
+#include "pages/conforming/ids.h"
 #include "tests/ui/dialog_session.h"
 #include "tests/ui/expected_file.h"
 

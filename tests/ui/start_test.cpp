@@ -1,5 +1,7 @@
 // How the dialog opens: with neither file, with one, with both, and with a
 // current file that cannot be read.
+#include "pages/branding/ids.h"
+#include "pages/conforming/ids.h"
 #include "tests/ui/dialog_session.h"
 #include "tests/ui/expected_file.h"
 

@@ -1,5 +1,6 @@
 // New system colours while the dialog is open, as when a user turns on a
 // high-contrast theme: read from the pixels.
+#include "pages/branding/ids.h"
 #include "tests/ui/dialog_session.h"
 
 #include <array>
