@@ -4,11 +4,11 @@
 #include "pages/settings_page.h"
 
 /// A page without behaviour of its own: its rows say all there is to it.
-template <const ov::PageRows& (*Rows)()>
+template <const ov::PageRows& (*PlainRows)()>
 class CPlainPage : public CSettingsPage
 {
   public:
-    explicit CPlainPage(CPreferencesWizard* owner) : CSettingsPage(owner, Rows()) {}
+    explicit CPlainPage(CPreferencesWizard* owner) : CSettingsPage(owner, PlainRows()) {}
 };
 
 // The class of every page. Those with behaviour of their own are in their folder's
