@@ -128,7 +128,7 @@ bool CPreferencesApp::ActivateOpenDialog()
     // Only one of the host's windows is disabled while the dialog is open, and
     // timers go on: a second call can come, and must not take the texts and the
     // tooltip window away from the dialog that uses them.
-    if (!m_showing)
+    if (!m_showing && m_pMainWnd == nullptr)
         return false;
     if (m_pMainWnd != nullptr && m_pMainWnd->GetSafeHwnd() != nullptr)
         AfxBringForward(m_pMainWnd->m_hWnd);
