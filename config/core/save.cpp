@@ -55,7 +55,7 @@ class Save
             m_result.oldContent = OldContent::Stands;
             return std::move(m_result);
         }
-        // Exceptions up to here leave every file as it was; nothing is thrown once one is changed.
+        // Exceptions leave every file as it was: nothing is thrown once one is changed.
         if ((m_kind == FileKind::Absent || SecureOldContent()) && Write(bytes))
             DropOldContent();
         else

@@ -63,14 +63,14 @@ void PrintTo(const Situation& situation, std::ostream* stream)
 const Situation kSituations[] = {
     {.name = "File", .old = kOld},
     {.name = "EmptyFile", .old = ""},
-    {.name = "LongFile", .old = std::string(5000, 'x')},
+    {.name = "LongFile", .old = std::string(1000, 'x')},
     {.name = "NoFile", .old = {}},
     {.name = "StaleBackup",
      .old = kOld,
      .inPlace = true,
      .arrange = [](MemoryFilePort& files) { files.contents[kBackup] = kStale; }},
     {.name = "StaleBackupOfALongFile",
-     .old = std::string(5000, 'x'),
+     .old = std::string(1000, 'x'),
      .inPlace = true,
      .arrange = [](MemoryFilePort& files) { files.contents[kBackup] = kStale; }},
     {.name = "FileNamedAsBackup", .old = kOld, .inPlace = true, .path = kBackup},
@@ -423,7 +423,6 @@ TEST_P(SaveFault, OneOfTwoFailingOperationsMayBeDone)
 {
     const auto check = [&](const Run& run) { ExpectTrueResult(run); };
     SweepTwo(StepFault::FailsDone, StepFault::Fails, m_new.size() / 2, check);
-    SweepTwo(StepFault::FailsDone, StepFault::FailsDone, m_new.size() / 2, check);
     SweepTwo(StepFault::Fails, StepFault::FailsDone, m_new.size() / 2, check);
 }
 
@@ -446,6 +445,7 @@ TEST_P(SaveFault, ProcessMayEndBeforeWithinAndAfterEachOperation)
     }
 }
 
+// How far a write comes matters in each operation alone; here it comes half way.
 TEST_P(SaveFault, EachPairOfOperationsMayFail)
 {
     const auto check = [&](const Run& run) {
@@ -453,18 +453,17 @@ TEST_P(SaveFault, EachPairOfOperationsMayFail)
         ExpectTrueResult(run);
     };
     const std::size_t half = m_new.size() / 2;
-    SweepTwo(StepFault::Fails, StepFault::Fails, 0, check);
     SweepTwo(StepFault::Fails, StepFault::Fails, half, check);
     SweepTwo(StepFault::Fails, StepFault::OutOfMemory, half, check);
     SweepTwo(StepFault::OutOfMemory, StepFault::Fails, half, check);
-    SweepTwo(StepFault::OutOfMemory, StepFault::OutOfMemory, half, check);
 }
 
-TEST_P(SaveFault, ProcessMayEndAfterAnotherOperationFailed)
+// An end before or after an operation leaves what every run is checked for after each operation.
+TEST_P(SaveFault, ProcessMayEndWithinAnOperationAfterAnotherFailed)
 {
     for (const StepFault fault : {StepFault::Fails, StepFault::FailsDone}) {
-        for (const StepFault end : {StepFault::EndsBefore, StepFault::EndsWithin, StepFault::EndsAfter})
-            SweepTwo(fault, end, m_new.size() / 2, [&](const Run& run) { EXPECT_TRUE(run.port.ended); });
+        SweepTwo(fault, StepFault::EndsWithin, m_new.size() / 2,
+                 [&](const Run& run) { EXPECT_TRUE(run.port.ended); });
     }
 }
 
