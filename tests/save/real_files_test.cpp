@@ -55,6 +55,21 @@ TEST_F(RealSave, FileThatIsReadElsewhereIsReplacedAndItsReaderKeepsTheOldOne)
     EXPECT_EQ(bytes.str(), kOld);
 }
 
+TEST_F(RealSave, PermissionsAreThoseOfANewFileExceptInPlace)
+{
+    const auto permissions = [this] { return fs::status(folder / "a.cfg").permissions(); };
+    const mode_t before = umask(022);
+    Put("a.cfg", kOld);
+    fs::permissions(folder / "a.cfg", fs::perms{0660});
+    EXPECT_TRUE(Save("a.cfg", *m_small).Saved());
+    EXPECT_EQ(permissions(), fs::perms{0644});
+    Put("a.bak", kStale);
+    fs::permissions(folder / "a.cfg", fs::perms{0660});
+    EXPECT_TRUE(Save("a.cfg", *m_small).Saved());
+    EXPECT_EQ(permissions(), fs::perms{0660});
+    umask(before);
+}
+
 TEST_F(RealSave, FileThatASecondWriterHoldsIsLeftToItWhereNoBackupCanBeMade)
 {
     Put("a.cfg", kOld);

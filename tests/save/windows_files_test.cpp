@@ -141,6 +141,22 @@ TEST_F(WindowsSave, AReadOnlyFileIsReplacedAndItsBackupDeleted)
     EXPECT_EQ(folder.Names(), Names{L"a.cfg"});
 }
 
+TEST_F(WindowsSave, AttributesAreThoseOfANewFileExceptInPlace)
+{
+    const auto isHidden = [this] {
+        return (::GetFileAttributesW(path.c_str()) & FILE_ATTRIBUTE_HIDDEN) != 0;
+    };
+    ASSERT_TRUE(WriteBytes(path, oldBytes));
+    ASSERT_TRUE(::SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_HIDDEN));
+    ASSERT_TRUE(isHidden());
+    EXPECT_TRUE(Save().Saved());
+    EXPECT_FALSE(isHidden());
+    ASSERT_TRUE(::SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_HIDDEN));
+    ASSERT_TRUE(WriteBytes(backup, staleBytes));
+    EXPECT_TRUE(Save().Saved());
+    EXPECT_TRUE(isHidden());
+}
+
 // Not everywhere does the attribute hold everybody: Wine's superuser may write such files.
 TEST_F(WindowsSave, AReadOnlyFileWithoutABackupStandsUnlessItsUserMayWriteIt)
 {
