@@ -41,13 +41,37 @@
 /// user is asked first and may decide to stay. When the dialog has closed,
 /// WM_QUIT is posted again for the host's own message loop.
 ///
-/// One dialog at a time. A call while the dialog is open, from a timer say,
-/// brings that dialog forward, changes none of its texts and returns 1.
+/// One dialog at a time. A call while another one runs, from a timer say, brings
+/// the dialog forward, changes none of its texts and returns 1. It does so too
+/// while the first call closes its dialog.
 ///
-/// Files. The file's bytes are converted by the locale (`setlocale`) of the C
-/// runtime that this library uses, msvcrt.dll. It is the "C" locale unless
-/// somebody in the process sets it in that runtime: every byte is then one
-/// character of the same number.
+/// Activation contexts. The library's own manifest is active only while the
+/// library works. A host's code that runs in the dialog's message loop sees the
+/// context of its own thread; one that it leaves active is still active after
+/// the call.
+///
+/// Files. The file's bytes are converted by the locale (`setlocale`, category
+/// LC_CTYPE) of the C runtime that this library uses, msvcrt.dll. A host that is
+/// built for that runtime calls its own setlocale. A host that is built for the
+/// universal runtime, ucrtbase.dll, as Visual Studio does, has a locale of its
+/// own, which the library does not see. Such a host sets that of msvcrt.dll
+/// once, before the first call:
+///
+///     typedef char *(__cdecl *SetLocale)(int category, const char *locale);
+///     HMODULE runtime = LoadLibraryW(L"msvcrt.dll");
+///     SetLocale setMsvcrtLocale = (SetLocale)(void *)GetProcAddress(runtime, "setlocale");
+///     if (setMsvcrtLocale == NULL || setMsvcrtLocale(LC_CTYPE, "") == NULL)
+///         return false;
+///
+/// LC_CTYPE is the same number in both runtimes. The empty text means the ANSI
+/// code page of Windows; ".1252" is an example of a particular one. A null result
+/// means that msvcrt.dll does not have that locale, as with UTF-8.
+///
+/// Without these lines the locale is "C": every byte is one character of the
+/// same number, U+0000 to U+00FF. What is in the file is kept byte for byte, but
+/// the dialog shows wrong characters for the bytes 128 to 159 of code page 1252,
+/// and for more in others. A typed character above U+00FF, such as the euro
+/// sign, cannot be saved: Save says which, and writes nothing.
 #ifndef OV_PREFERENCES_H
 #define OV_PREFERENCES_H
 

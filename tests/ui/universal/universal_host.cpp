@@ -1,0 +1,49 @@
+// ovUniversalHost [--as-the-header-says] FILE: a host that is built for the
+// universal C runtime alone and opens the dialog on the file. It has none of the
+// compiler's own start code, which would bring the older runtime.
+//
+// Exit code: that of the call; 100 when the library cannot be loaded, 101 when the
+// locale of the older runtime cannot be set.
+#include "include/ovPreferences.h"
+
+#include <windows.h>
+
+#include <shellapi.h>
+
+#include <locale.h>
+
+namespace
+{
+
+// The lines are the host's own; a host has no need of this project's style.
+bool SetLocaleAsTheHeaderSays()
+{
+#include "set_locale_lines.inc"
+    return true;
+}
+
+unsigned ShowDialog(const wchar_t* file)
+{
+    const HMODULE library = LoadLibraryW(OV_PREFERENCES_LIBRARY);
+    const auto show = reinterpret_cast<ovPreferences_showDialogEx_t>(
+        reinterpret_cast<void*>(GetProcAddress(library, OV_PREFERENCES_SHOW_DIALOG_EX_NAME)));
+    return show != nullptr ? show(nullptr, L"", file, L"Ada Archer") : 100;
+}
+
+unsigned Run()
+{
+    int count = 0;
+    const wchar_t* const* const arguments = CommandLineToArgvW(GetCommandLineW(), &count);
+    // Of this host's runtime, as every host does; the library does not see it.
+    setlocale(LC_CTYPE, "");
+    if (count > 2 && !SetLocaleAsTheHeaderSays())
+        return 101;
+    return ShowDialog(arguments[count - 1]);
+}
+
+} // namespace
+
+extern "C" void StartUniversalHost()
+{
+    ExitProcess(Run());
+}
