@@ -159,14 +159,14 @@ TEST_F(ProgramTest, EachResolutionHasItsOwnSharedFontOfTheSameType)
 {
     Open(L"", L"");
     CFont* const font = GetSharedDialogFont(usualResolution);
-    CFont* const finer = GetSharedDialogFont(144);
+    CFont* const finer = GetSharedDialogFont(192);
     ASSERT_NE(font, nullptr);
     ASSERT_NE(finer, nullptr);
     // Eight points, as the templates have them.
     EXPECT_EQ(DescriptionOf(*font).lfHeight, -11);
-    EXPECT_EQ(DescriptionOf(*finer).lfHeight, -16);
+    EXPECT_EQ(DescriptionOf(*finer).lfHeight, -21);
     EXPECT_STREQ(DescriptionOf(*finer).lfFaceName, DescriptionOf(*font).lfFaceName);
-    EXPECT_EQ(GetSharedDialogFont(144), finer);
+    EXPECT_EQ(GetSharedDialogFont(192), finer);
     EXPECT_EQ(GetSharedDialogFont(usualResolution), font);
 }
 

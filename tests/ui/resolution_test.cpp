@@ -23,9 +23,10 @@ constexpr std::size_t pageCount = 27;
 constexpr UINT beforeParent = 0x02E2;
 constexpr UINT afterParent = 0x02E3;
 
-// Larger than the content of any page at any resolution, so that no page scrolls;
-// and so small that most of them do.
+// Page sizes: larger than any content at any resolution, so that no page scrolls; too
+// narrow for most; too small for most in both directions.
 constexpr SIZE largePage{1400, 1700};
+constexpr SIZE narrowPage{300, 1700};
 constexpr SIZE smallPage{300, 200};
 
 template <class Function>
@@ -153,10 +154,11 @@ std::vector<UINT> BarsOf(HWND page)
     return bars;
 }
 
-/// A page in two sizes: where its controls lie if it need not scroll, and how far it
-/// scrolls.
+/// A page in three sizes: where its controls lie if it need not scroll and if it is
+/// narrow, and how far it scrolls.
 struct PageMeasures {
     Layout layout;
+    Layout narrow;
     std::vector<UINT> bars;
 };
 
@@ -171,6 +173,8 @@ PageMeasures MeasurePage(HWND page)
     PageMeasures measures;
     SetSize(page, largePage);
     measures.layout = LayoutOf(page);
+    SetSize(page, narrowPage);
+    measures.narrow = LayoutOf(page);
     SetSize(page, smallPage);
     measures.bars = BarsOf(page);
     for (const UINT message : {WM_HSCROLL, WM_VSCROLL}) {
@@ -214,20 +218,15 @@ void ExpectSame(const Measures& expected, const Measures& measures)
     for (std::size_t i = 0; i < expected.pages.size(); ++i) {
         SCOPED_TRACE("child dialog " + std::to_string(i));
         ExpectSame(expected.pages[i].layout, measures.pages[i].layout);
+        ExpectSame(expected.pages[i].narrow, measures.pages[i].narrow);
         EXPECT_EQ(expected.pages[i].bars, measures.pages[i].bars);
     }
 }
 
-/// Tells the window of a resolution as the system does: child dialogs before and
-/// after the window itself, which gets a place.
+/// Tells the window of a resolution and gives it a place.
 void Tell(HWND window, UINT resolution, RECT rect)
 {
-    const std::vector<HWND> inside = ChildDialogs(window);
-    for (HWND child : inside)
-        Send(child, beforeParent);
     Send(window, WM_DPICHANGED, MAKEWPARAM(resolution, resolution), reinterpret_cast<LPARAM>(&rect));
-    for (HWND child : inside)
-        Send(child, afterParent);
 }
 
 /// The same with a place that leaves the window's top-left corner and gives it that
@@ -273,6 +272,40 @@ int IconSize(LRESULT icon)
     DeleteObject(info.hbmColor);
     DeleteObject(info.hbmMask);
     return static_cast<int>(bitmap.bmWidth);
+}
+
+/// As Tell, with the notices that newer systems send to child windows around it.
+void TellAll(HWND window, UINT resolution, SIZE client)
+{
+    const std::vector<HWND> inside = ChildDialogs(window);
+    for (HWND child : inside)
+        Send(child, beforeParent);
+    Tell(window, resolution, client);
+    for (HWND child : inside)
+        Send(child, afterParent);
+}
+
+void ExpectGrown(const Measures& usual, const Measures& finer)
+{
+    EXPECT_NE(usual.layout, finer.layout);
+    ASSERT_EQ(usual.pages.size(), finer.pages.size());
+    for (std::size_t i = 0; i < usual.pages.size(); ++i) {
+        EXPECT_NE(usual.pages[i].layout, finer.pages[i].layout);
+        EXPECT_LT(usual.pages[i].bars, finer.pages[i].bars);
+    }
+}
+
+/// A resize to the same size moves nothing.
+void ExpectLaidOutAtOnce(HWND window)
+{
+    std::vector<HWND> windows = ChildDialogs(window);
+    windows.push_back(window);
+    for (HWND each : windows) {
+        const Layout atOnce = LayoutOf(each);
+        const SIZE client = ClientSize(each);
+        Send(each, WM_SIZE, SIZE_RESTORED, MAKELPARAM(client.cx, client.cy));
+        ExpectSame(atOnce, LayoutOf(each));
+    }
 }
 
 class ResolutionTest : public DialogSession
@@ -334,12 +367,13 @@ class ResolutionTest : public DialogSession
         ASSERT_TRUE(window);
         const Measures own = Measure(window);
         Tell(window, Other(), expected ? expected->client : own.client);
+        ExpectLaidOutAtOnce(window);
         const Measures other = Measure(window);
         if (expected)
             ExpectSame(*expected, other);
         else
-            EXPECT_NE(own.layout, other.layout);
-        Tell(window, ThreadResolution(), own.client);
+            ExpectGrown(own, other);
+        TellAll(window, ThreadResolution(), own.client);
         ExpectSame(own, Measure(window));
     }
 };
@@ -433,13 +467,14 @@ TEST_F(ResolutionTest, MinimisedDialogIsLaidOutWhenItIsRestored)
     const RECT place = WindowRect(Dialog());
     Tell(Dialog(), Other(), place);
     const Measures expected = Measure(Dialog());
-    Tell(Dialog(), ThreadResolution(), {place.left, place.top, place.right - 40, place.bottom - 30});
+    Tell(Dialog(), ThreadResolution(), place);
     ShowWindow(Dialog(), SW_MINIMIZE);
     ASSERT_TRUE(Await([&] { return IsIconic(Dialog()) != FALSE; }));
     Tell(Dialog(), Other(), place);
     EXPECT_TRUE(IsIconic(Dialog()));
     ShowWindow(Dialog(), SW_RESTORE);
     ASSERT_TRUE(Await([&] { return !IsIconic(Dialog()) && ClientSize(Dialog()).cx == expected.client.cx; }));
+    Settle(Dialog());
     ExpectSame(expected, Measure(Dialog()));
     Cancel();
 }
