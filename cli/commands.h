@@ -19,5 +19,10 @@ std::unique_ptr<Command> MakeFindCommand();
 std::unique_ptr<Command> MakeMatchCommand();
 std::unique_ptr<Command> MakeReferenceCommand();
 std::unique_ptr<Command> MakeRulesCommand();
+std::unique_ptr<Command> MakeSetCommand();
+std::unique_ptr<Command> MakeUnsetCommand();
+std::unique_ptr<Command> MakeListCommand();
+std::unique_ptr<Command> MakeDiffCommand();
+std::unique_ptr<Command> MakeMergeCommand();
 
 } // namespace ov::cli

@@ -36,7 +36,7 @@ class GetCommand final : public Command
         ReadConfig(store, kCurrentTable, file->bytes, file->charset);
         ExitCode code = ExitCode::Done;
         const Values values = m_names.empty() ? AllValues(store) : NamedValues(store, output, code);
-        if (m_format == Format::Json)
+        if (m_format == Format::AsJson)
             PrintJson(values, output);
         else
             PrintText(values, output);
@@ -44,7 +44,7 @@ class GetCommand final : public Command
     }
 
   private:
-    enum class Format { Text, Json };
+    enum class Format { AsText, AsJson };
 
     static Values AllValues(const SettingStore& store)
     {
@@ -82,7 +82,7 @@ class GetCommand final : public Command
 
     static void PrintJson(const Values& values, Output& output)
     {
-        auto json = nlohmann::ordered_json::object();
+        auto json = nlohmann::json::object();
         for (const auto& [name, value] : values)
             json[name] = value;
         output.Print(json.dump(2) + "\n");
@@ -90,7 +90,7 @@ class GetCommand final : public Command
 
     std::string m_path;
     std::vector<std::string> m_names;
-    Format m_format = Format::Text;
+    Format m_format = Format::AsText;
     EncodingOption m_encoding;
 };
 

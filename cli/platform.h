@@ -40,4 +40,22 @@ bool ReadAll(const std::string& path, std::string& bytes, std::string& problem);
 /// The file port of this system, for writing.
 std::unique_ptr<FilePort> MakeFilePort();
 
+/// Gives a file that is replaced by another one its permissions and owner again, as far as the system
+/// allows. Without effect on Windows, where the folder decides. Meanwhile new files of the process are
+/// not more accessible than the file.
+class AttributeKeeper
+{
+  public:
+    /// Notes the attributes of the file, if there is one.
+    explicit AttributeKeeper(const std::string& path);
+    AttributeKeeper(const AttributeKeeper&) = delete;
+    AttributeKeeper& operator=(const AttributeKeeper&) = delete;
+    ~AttributeKeeper();
+
+  private:
+    struct Attributes;
+    std::string m_path;
+    std::unique_ptr<Attributes> m_attributes; ///< Null without a file, and on Windows.
+};
+
 } // namespace ov::cli

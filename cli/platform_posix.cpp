@@ -7,6 +7,7 @@
 #include <csignal>
 #include <cstdlib>
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
 
@@ -95,6 +96,37 @@ bool ReadAll(const std::string& path, std::string& bytes, std::string& problem)
 std::unique_ptr<FilePort> MakeFilePort()
 {
     return std::make_unique<PosixFilePort>();
+}
+
+struct AttributeKeeper::Attributes {
+    struct stat status {
+    };
+    mode_t maskBefore = 0;
+};
+
+AttributeKeeper::AttributeKeeper(const std::string& path) : m_path(path)
+{
+    Attributes attributes;
+    if (stat(path.c_str(), &attributes.status) != 0)
+        return;
+    attributes.maskBefore = umask(~attributes.status.st_mode & 0777);
+    m_attributes = std::make_unique<Attributes>(attributes);
+}
+
+AttributeKeeper::~AttributeKeeper()
+{
+    if (!m_attributes)
+        return;
+    umask(m_attributes->maskBefore);
+    struct stat now {
+    };
+    const struct stat& before = m_attributes->status;
+    if (stat(m_path.c_str(), &now) != 0)
+        return;
+    // A new owner takes special bits away; the mode comes last.
+    const bool sameOwner = now.st_uid == before.st_uid && now.st_gid == before.st_gid;
+    if (sameOwner || chown(m_path.c_str(), before.st_uid, before.st_gid) == 0)
+        chmod(m_path.c_str(), before.st_mode & 07777);
 }
 
 } // namespace ov::cli

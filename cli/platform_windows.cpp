@@ -132,4 +132,11 @@ std::unique_ptr<FilePort> MakeFilePort()
     return std::make_unique<CWin32FilePort>();
 }
 
+struct AttributeKeeper::Attributes {
+};
+
+AttributeKeeper::AttributeKeeper(const std::string& path) : m_path(path) {}
+
+AttributeKeeper::~AttributeKeeper() = default;
+
 } // namespace ov::cli

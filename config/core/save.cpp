@@ -375,6 +375,51 @@ class Save
     std::optional<std::string> m_left;
 };
 
+// Where a save writes to.
+struct Target {
+    Text file; // The path, or what a symbolic link leads to.
+    FileKind kind;
+};
+
+// A link is written through, not replaced by a file of its own.
+Target TargetOf(const Text& path, FilePort& files)
+{
+    Text link = files.LinkTarget(path);
+    Target target{link.empty() ? path : std::move(link), FileKind::Absent};
+    target.kind = files.Kind(target.file);
+    return target;
+}
+
+// The result when nothing can be written there; else what a refusal for another reason begins with.
+SaveResult CheckTarget(const Target& target)
+{
+    SaveResult result;
+    // Where the system does not say what is there, renaming it will show.
+    if (target.kind == FileKind::File || target.kind == FileKind::Unknown)
+        result.oldContent = OldContent::Stands;
+    if (target.kind == FileKind::Directory)
+        result.outcome = SaveOutcome::PathIsDirectory;
+    else if (target.kind == FileKind::Other)
+        result.outcome = SaveOutcome::PathIsNoFile;
+    return result;
+}
+
+SaveResult WriteTo(const Target& target, const Text& path, std::string bytes, std::optional<KnownFile>& known,
+                   FilePort& files, SavePrompts& prompts)
+{
+    const bool isKnown = known && known->path == path;
+    KnownFile left{path, {}};
+    Save save(target.file, target.kind, isKnown ? &known->content : nullptr, files, prompts);
+    SaveResult result = save.Run(bytes);
+    std::optional<std::string> leftContent =
+        result.Saved() ? std::optional(std::move(bytes)) : save.TakeLeftContent();
+    if (leftContent) {
+        left.content = std::move(*leftContent);
+        known = std::move(left);
+    }
+    return result;
+}
+
 } // namespace
 
 Text BackupPath(TextView path)
@@ -386,24 +431,12 @@ Text BackupPath(TextView path)
 SaveResult SaveConfigFile(const SettingStore& store, const Text& path, std::optional<KnownFile>& known,
                           FilePort& files, SaveSurroundings& surroundings, SavePrompts& prompts)
 {
-    SaveResult refused;
-    if (path.empty()) {
-        refused.outcome = SaveOutcome::NoPath;
+    if (path.empty())
+        return {.outcome = SaveOutcome::NoPath};
+    const Target target = TargetOf(path, files);
+    SaveResult refused = CheckTarget(target);
+    if (!refused.Saved())
         return refused;
-    }
-    // A link is written through, not replaced by a file of its own.
-    const Text target = files.LinkTarget(path);
-    const Text& file = target.empty() ? path : target;
-    const FileKind kind = files.Kind(file);
-    // Where the system does not say what is there, renaming it will show.
-    if (kind == FileKind::File || kind == FileKind::Unknown)
-        refused.oldContent = OldContent::Stands;
-    if (kind == FileKind::Directory || kind == FileKind::Other) {
-        refused.outcome =
-            kind == FileKind::Directory ? SaveOutcome::PathIsDirectory : SaveOutcome::PathIsNoFile;
-        return refused;
-    }
-
     Text header = MakeHeader(
         {FormatSaveDate(surroundings.LocalTime()), surroundings.UserName(), surroundings.ComputerName()});
     std::string bytes;
@@ -415,19 +448,17 @@ SaveResult SaveConfigFile(const SettingStore& store, const Text& path, std::opti
         refused.header = std::move(header);
         return refused;
     }
-
-    const bool isKnown = known && known->path == path;
-    KnownFile left{path, {}};
-    Save save(file, kind, isKnown ? &known->content : nullptr, files, prompts);
-    SaveResult result = save.Run(bytes);
+    SaveResult result = WriteTo(target, path, std::move(bytes), known, files, prompts);
     result.header = std::move(header);
-    std::optional<std::string> leftContent =
-        result.Saved() ? std::optional(std::move(bytes)) : save.TakeLeftContent();
-    if (leftContent) {
-        left.content = std::move(*leftContent);
-        known = std::move(left);
-    }
     return result;
+}
+
+SaveResult SaveBytes(const std::string& bytes, const Text& path, std::optional<KnownFile>& known,
+                     FilePort& files, SavePrompts& prompts)
+{
+    const Target target = TargetOf(path, files);
+    SaveResult refused = CheckTarget(target);
+    return refused.Saved() ? WriteTo(target, path, bytes, known, files, prompts) : refused;
 }
 
 } // namespace ov

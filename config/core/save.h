@@ -7,6 +7,7 @@
 
 #include <ctime>
 #include <optional>
+#include <string>
 
 namespace ov
 {
@@ -108,5 +109,10 @@ Text BackupPath(TextView path);
 /// nothing is thrown later. The store's modified mark is left to the caller.
 SaveResult SaveConfigFile(const SettingStore& store, const Text& path, std::optional<KnownFile>& known,
                           FilePort& files, SaveSurroundings& surroundings, SavePrompts& prompts);
+
+/// Writes other bytes to a file by the steps of SaveConfigFile, with the same guarantees. The result
+/// has no header.
+SaveResult SaveBytes(const std::string& bytes, const Text& path, std::optional<KnownFile>& known,
+                     FilePort& files, SavePrompts& prompts);
 
 } // namespace ov

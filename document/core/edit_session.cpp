@@ -23,6 +23,18 @@ std::vector<Text> LinesOfBlock(const Text& block)
     return lines;
 }
 
+// The number of lines above the blank line that ends the header, which the reader drops; 0 when an
+// assignment comes before a blank line.
+std::size_t HeaderLineCount(const Document& document)
+{
+    for (std::size_t i = 0; i < document.LineCount(); ++i) {
+        const LineKind kind = document.Parts(i).kind;
+        if (kind != LineKind::Comment && kind != LineKind::Directive)
+            return kind == LineKind::Blank ? i : 0;
+    }
+    return 0;
+}
+
 // A name with the value of its variable.
 using NamedValue = std::pair<CompactView, CompactView>;
 
@@ -41,7 +53,8 @@ std::vector<NamedValue> ValuesOfOthers(const SettingStore& store, const std::set
 
 EditSession::EditSession(const EditedFile& file, const FactsOf& factsOf)
     : m_file(file), m_factsOf(factsOf), m_charset(file.CharsetOf(file.bytes)),
-      m_document(std::string(file.bytes)), m_lines(m_document), m_edits(m_document)
+      m_document(std::string(file.bytes)), m_lines(m_document), m_headerLines(HeaderLineCount(m_document)),
+      m_edits(m_document)
 {
     ReadConfig(m_before, kCurrentTable, m_document.Bytes(), m_charset);
 }
@@ -129,7 +142,7 @@ void EditSession::RemoveVariable(TextView name)
                 m_edits.Erase(i);
         }
         for (std::size_t i = start - CommentLinesAbove(m_document, start); i < start; ++i)
-            left |= m_document.Parts(i).kind == LineKind::Comment && !m_edits.IsErased(i) && !InHeader(i);
+            left |= i >= m_headerLines && m_document.Parts(i).kind == LineKind::Comment;
     }
     if (left)
         m_result.commentsLeft.emplace_back(name);
@@ -150,28 +163,21 @@ std::size_t EditSession::DialogCommentAbove(std::size_t line, const Text& commen
     return block.size();
 }
 
-// True when the line is above the first blank line that is left, and above all assignments: there
-// the reader drops comments.
-bool EditSession::InHeader(std::size_t line) const
-{
-    for (std::size_t i = 0; i < line; ++i) {
-        const LineKind kind = m_document.Parts(i).kind;
-        if (!m_edits.IsErased(i) && kind != LineKind::Comment && kind != LineKind::Directive)
-            return false;
-    }
-    return true;
-}
-
 // True when a blank line ends the header and, without it, the header would be taken for the comment of
 // the variable that follows the removed lines.
 bool EditSession::SeparatesHeader(std::size_t blankLine, std::size_t lastRemoved) const
 {
-    if (m_document.Parts(blankLine).kind != LineKind::Blank || !InHeader(blankLine))
+    if (m_document.Parts(blankLine).kind != LineKind::Blank)
         return false;
+    for (std::size_t i = m_headerLines; i < blankLine; ++i) {
+        if (!m_edits.IsErased(i))
+            return false;
+    }
     std::size_t next = lastRemoved;
     while (next < m_document.LineCount() && m_edits.IsErased(next))
         ++next;
-    return next < m_document.LineCount() && m_document.Parts(next).kind != LineKind::Blank;
+    return m_headerLines > 0 && next < m_document.LineCount() &&
+           m_document.Parts(next).kind != LineKind::Blank;
 }
 
 std::string EditSession::Indentation(std::size_t line) const

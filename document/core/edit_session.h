@@ -62,7 +62,6 @@ class EditSession
     std::optional<std::string> Encoded(TextView name, TextView text);
     std::string Indentation(std::size_t line) const;
     std::size_t DialogCommentAbove(std::size_t line, const Text& comment) const;
-    bool InHeader(std::size_t line) const;
     bool SeparatesHeader(std::size_t blankLine, std::size_t lastRemoved) const;
     void Check();
 
@@ -71,6 +70,7 @@ class EditSession
     Charset m_charset;
     Document m_document;
     VariableLines m_lines;
+    std::size_t m_headerLines; ///< Above the blank line that ends the header.
     LineEdits m_edits;
     SettingStore m_before;
     std::vector<std::pair<Text, std::optional<Text>>> m_wanted;

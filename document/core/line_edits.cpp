@@ -61,6 +61,11 @@ void LineEdits::InsertBelow(std::size_t line, std::string text)
     m_changes[line].below.push_back(std::move(text));
 }
 
+void LineEdits::InsertAbove(std::size_t line, std::string text)
+{
+    m_changes[line].above.push_back(std::move(text));
+}
+
 void LineEdits::Append(std::string text)
 {
     m_appended.push_back(std::move(text));
@@ -78,6 +83,8 @@ std::string LineEdits::Apply() const
             continue;
         }
         const Change& change = (next++)->second;
+        for (const std::string& text : change.above)
+            joiner.Add(text, m_document.EndBelow(i), {});
         if (!change.erased)
             joiner.Add(change.replaced ? change.text : line.text, line.end, m_document.EndBelow(i));
         for (const std::string& text : change.below)

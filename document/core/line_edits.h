@@ -31,6 +31,9 @@ class LineEdits
     /// line that is removed.
     void InsertBelow(std::size_t line, std::string text);
 
+    /// Inserts a line above the given one, behind those that were inserted there before.
+    void InsertAbove(std::size_t line, std::string text);
+
     /// Adds a line at the end of the file, behind those that were added before.
     void Append(std::string text);
 
@@ -43,6 +46,7 @@ class LineEdits
         bool replaced = false;
         bool erased = false;
         std::string text;               ///< Of a replaced line.
+        std::vector<std::string> above; ///< Lines inserted above it.
         std::vector<std::string> below; ///< Lines inserted below it.
     };
 

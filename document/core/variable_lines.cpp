@@ -21,19 +21,26 @@ bool IsDirective(std::string_view directive, std::string_view word)
 
 } // namespace
 
+void ConditionDepth::Pass(const ConfigLine& line)
+{
+    if (line.kind != LineKind::Directive)
+        return;
+    if (IsDirective(line.text, "IF"))
+        ++m_open;
+    else if (IsDirective(line.text, "ENDIF") && m_open > 0)
+        --m_open;
+}
+
 VariableLines::VariableLines(const Document& document)
 {
-    std::size_t open = 0;
+    ConditionDepth depth;
     for (std::size_t i = 0; i < document.LineCount(); ++i) {
         const ConfigLine parts = document.Parts(i);
+        depth.Pass(parts);
         if (parts.kind == LineKind::Assignment)
-            m_lines[parts.name].push_back({i, parts.operation, open > 0});
-        else if (parts.kind == LineKind::Directive && IsDirective(parts.text, "IF"))
-            ++open;
-        else if (parts.kind == LineKind::Directive && IsDirective(parts.text, "ENDIF") && open > 0)
-            --open;
+            m_lines[parts.name].push_back({i, parts.operation, depth.IsOpen()});
     }
-    m_endsInCondition = open > 0;
+    m_endsInCondition = depth.IsOpen();
 }
 
 std::span<const VariableLine> VariableLines::Of(std::string_view name) const

@@ -18,6 +18,20 @@ struct VariableLine {
     bool conditional; ///< Between "%if" in any form and "%endif", or behind an open "%if".
 };
 
+/// How many conditions are open, line by line: "%if" in any form opens one, "%endif" closes one.
+class ConditionDepth
+{
+  public:
+    /// Goes on to the next line of the file.
+    void Pass(const ConfigLine& line);
+
+    /// True when a condition is open behind the lines so far.
+    bool IsOpen() const { return m_open > 0; }
+
+  private:
+    std::size_t m_open = 0;
+};
+
 /// Which lines of a document assign which variable. The document must outlive it.
 class VariableLines
 {

@@ -1,0 +1,347 @@
+#include "inspect/core/merge.h"
+
+#include "config/core/config_reader.h"
+#include "config/core/config_writer.h"
+#include "inspect/core/list_merge.h"
+#include "inspect/core/merge_others.h"
+#include "inspect/core/merge_output.h"
+#include "inspect/core/merge_side.h"
+
+#include <algorithm>
+#include <map>
+#include <optional>
+#include <set>
+#include <utility>
+
+namespace ov
+{
+namespace
+{
+
+// True when two files assign a variable alike, comments aside; also when neither does.
+bool SameValue(const MergeVariable* first, const MergeVariable* second)
+{
+    if (first == nullptr || second == nullptr)
+        return first == second;
+    return first->value == second->value && first->inherits == second->inherits &&
+           first->conditional == second->conditional;
+}
+
+// Whose version of a variable, or of its comment, is the right one.
+enum class Choice { Ours, Theirs, Both };
+
+Choice ChooseValue(const MergeVariable* base, const MergeVariable* ours, const MergeVariable* theirs)
+{
+    if (SameValue(theirs, base) || SameValue(theirs, ours))
+        return Choice::Ours;
+    return SameValue(ours, base) ? Choice::Theirs : Choice::Both;
+}
+
+// Both files assign the variable. Without a common version a comment is better than none.
+Choice ChooseComment(const MergeVariable* base, const MergeVariable& ours, const MergeVariable& theirs)
+{
+    const Text common = base != nullptr ? base->comment : Text();
+    if (theirs.comment == common || theirs.comment == ours.comment)
+        return Choice::Ours;
+    return ours.comment == common ? Choice::Theirs : Choice::Both;
+}
+
+// The entries of a list by the lines that add them: in front of what is inherited, or behind it.
+struct ListParts {
+    ListEntries front;
+    ListEntries back;
+};
+
+std::optional<ListParts> PartsOf(const MergeSide& side, const MergeVariable* variable,
+                                 const ListFormat& format)
+{
+    ListParts parts;
+    if (variable == nullptr)
+        return parts;
+    if (!variable->inherits) {
+        parts.back = EntriesOf(variable->value, format);
+        return parts;
+    }
+    for (const std::size_t line : variable->lines) {
+        const char operation = side.File().Parts(line).operation;
+        if (operation != '>' && operation != '<')
+            return std::nullopt;
+        const ListEntries entries = EntriesOf(side.LineValue(line), format);
+        ListEntries& part = operation == '<' ? parts.front : parts.back;
+        part.insert(operation == '<' ? part.begin() : part.end(), entries.begin(), entries.end());
+    }
+    return parts;
+}
+
+class Merger
+{
+  public:
+    Merger(const MergeSide& base, const MergeSide& ours, const MergeSide& theirs, const FactsOf& factsOf,
+           std::set<Text> refused)
+        : m_base(base), m_ours(ours), m_theirs(theirs), m_factsOf(factsOf), m_refused(std::move(refused)),
+          m_output(ours, theirs)
+    {
+    }
+
+    MergeResult Run()
+    {
+        m_result.otherLines = !MergeOtherLines(m_base, m_ours, m_theirs, m_output);
+        for (const MergeVariable& ours : m_ours.Variables()) {
+            if (!ours.lines.empty())
+                MergeOurs(ours);
+        }
+        MergeNewOnes();
+        m_result.bytes = m_output.Finish();
+        std::sort(m_result.conflicts.begin(), m_result.conflicts.end());
+        return m_result;
+    }
+
+    // The variables that are not read back from the result as they were merged.
+    std::set<Text> NotKept() const
+    {
+        SettingStore store;
+        ReadConfig(store, kCurrentTable, m_result.bytes, m_output.Encoding());
+        std::set<Text> names;
+        for (const auto& [name, value] : m_wanted) {
+            const bool there = store.HasSetting(name, kCurrentTable);
+            if (there != value.has_value() || (there && store.GetSettingValue(name, kCurrentTable) != *value))
+                names.insert(name);
+        }
+        return names;
+    }
+
+  private:
+    void MergeOurs(const MergeVariable& ours)
+    {
+        const MergeVariable* const base = m_base.Find(ours.name);
+        const MergeVariable* const theirs = m_theirs.Find(ours.name);
+        const Choice choice = ChooseValue(base, &ours, theirs);
+        if (theirs == nullptr) {
+            if (choice == Choice::Ours)
+                Want(ours.name, &ours);
+            else
+                RemoveOurs(ours,
+                           choice == Choice::Theirs && base != nullptr && base->comment == ours.comment);
+            return;
+        }
+        Choice comment = ChooseComment(base, ours, *theirs);
+        if (base == nullptr && comment == Choice::Both && choice == Choice::Ours)
+            comment = Choice::Ours;
+        if (m_refused.contains(ours.name))
+            comment = Choice::Both;
+        if (comment == Choice::Both) {
+            PutConflict(ours, theirs, true);
+            return;
+        }
+        if (comment == Choice::Theirs)
+            ReplaceComment(ours, *theirs);
+        if (choice == Choice::Ours)
+            Want(ours.name, &ours);
+        else if (choice == Choice::Theirs)
+            TakeTheirs(ours, *theirs);
+        else if (!MergeLists(base, ours, *theirs))
+            PutConflict(ours, theirs, false);
+    }
+
+    // A conflict when we changed what they removed.
+    void RemoveOurs(const MergeVariable& ours, bool unchanged)
+    {
+        if (!unchanged || m_refused.contains(ours.name)) {
+            PutConflict(ours, nullptr, false);
+            return;
+        }
+        RemoveLines(ours);
+    }
+
+    void RemoveLines(const MergeVariable& ours)
+    {
+        Want(ours.name, nullptr);
+        m_output.Replace(ours.lines, {});
+        m_output.EraseComment(ours);
+    }
+
+    void TakeTheirs(const MergeVariable& ours, const MergeVariable& theirs)
+    {
+        const std::vector<std::string> lines = m_output.TheirLines(theirs.lines);
+        if (m_output.TakeLossy()) {
+            PutConflict(ours, &theirs, false);
+            return;
+        }
+        Want(ours.name, &theirs);
+        m_output.Replace(ours.lines, lines);
+    }
+
+    void ReplaceComment(const MergeVariable& ours, const MergeVariable& theirs)
+    {
+        std::vector<std::size_t> lines = LineNumbers(theirs.commentStart, theirs.lines.front());
+        const bool belowHeader = ours.commentStart == m_ours.BlankBelowHeader();
+        if (belowHeader && !lines.empty() && m_theirs.File().Parts(lines.front()).kind == LineKind::Blank)
+            lines.erase(lines.begin());
+        m_output.EraseComment(ours);
+        m_output.InsertAbove(ours.lines.front(), m_output.TheirLines(lines));
+    }
+
+    // False when the variable is no list, or its lines cannot be merged entry by entry.
+    bool MergeLists(const MergeVariable* base, const MergeVariable& ours, const MergeVariable& theirs)
+    {
+        const VariableFacts facts = m_factsOf(ours.name);
+        const auto holdsSeveral = [&](const MergeVariable* variable) {
+            return variable != nullptr && variable->value.find(facts.list.separator) != Text::npos;
+        };
+        if (!(facts.isList || holdsSeveral(base) || holdsSeveral(&ours) || holdsSeveral(&theirs)) ||
+            ours.inherits != theirs.inherits || ours.conditional || theirs.conditional ||
+            (base != nullptr && base->conditional))
+            return false;
+        const auto baseParts = PartsOf(m_base, base, facts.list);
+        const auto ourParts = PartsOf(m_ours, &ours, facts.list);
+        const auto theirParts = PartsOf(m_theirs, &theirs, facts.list);
+        if (!baseParts || !ourParts || !theirParts)
+            return false;
+        const auto front = MergeEntries(baseParts->front, ourParts->front, theirParts->front, facts.list);
+        const auto back = MergeEntries(baseParts->back, ourParts->back, theirParts->back, facts.list);
+        return front && back && WriteList(ours, *front, *back, facts);
+    }
+
+    bool WriteList(const MergeVariable& ours, const ListEntries& front, const ListEntries& back,
+                   const VariableFacts& facts)
+    {
+        ListEntries entries = front;
+        entries.insert(entries.end(), back.begin(), back.end());
+        if (ours.inherits && entries.empty()) {
+            RemoveLines(ours);
+            return true;
+        }
+        const Text prefix = ours.name + u' ';
+        std::vector<Text> lines;
+        const Text value = JoinEntries(entries, facts.list);
+        if (ours.inherits) {
+            for (auto entry = front.rbegin(); entry != front.rend(); ++entry)
+                lines.push_back(prefix + u"< " + *entry);
+            for (const Text& entry : back)
+                lines.push_back(prefix + u"> " + entry);
+        } else {
+            for (const Text& text : WrittenValues(value, facts.kind.value_or(ClassifyValue(value))))
+                lines.push_back(prefix + (lines.empty() ? u"= " : u"> ") + text);
+        }
+        std::vector<std::string> bytes;
+        std::transform(lines.begin(), lines.end(), std::back_inserter(bytes),
+                       [this](const Text& line) { return m_output.NewLine(line); });
+        if (m_output.TakeLossy() || lines.empty())
+            return false;
+        m_wanted[ours.name] = value;
+        m_output.Replace(ours.lines, bytes);
+        return true;
+    }
+
+    // The variables that only they have go below the one that is above them in their file; those above
+    // all common ones go above the first of these.
+    void MergeNewOnes()
+    {
+        const MergeVariable* above = nullptr;
+        const MergeVariable* first = nullptr;
+        for (const MergeVariable& theirs : m_theirs.Variables()) {
+            if (first == nullptr)
+                first = m_ours.Find(theirs.name);
+        }
+        for (const MergeVariable& theirs : m_theirs.Variables()) {
+            if (const MergeVariable* const ours = m_ours.Find(theirs.name))
+                above = ours;
+            else if (!theirs.lines.empty())
+                MergeNew(theirs, above, first);
+        }
+    }
+
+    // Added by them, or removed by us.
+    void MergeNew(const MergeVariable& theirs, const MergeVariable* above, const MergeVariable* first)
+    {
+        const MergeVariable* const base = m_base.Find(theirs.name);
+        if (SameValue(&theirs, base) && theirs.comment == base->comment && !m_refused.contains(theirs.name)) {
+            Want(theirs.name, nullptr);
+            return;
+        }
+        std::vector<std::string> lines =
+            m_output.TheirLines(LineNumbers(theirs.commentStart, theirs.lines.front()));
+        const std::vector<std::string> assignments = m_output.TheirLines(theirs.lines);
+        lines.insert(lines.end(), assignments.begin(), assignments.end());
+        if (m_output.TakeLossy() || base != nullptr || m_refused.contains(theirs.name)) {
+            m_result.conflicts.push_back(theirs.name);
+            lines = MergeOutput::Conflict({}, lines);
+        } else {
+            Want(theirs.name, &theirs);
+        }
+        if (above != nullptr)
+            m_output.InsertBelow(above->lines.back(), lines);
+        else
+            InsertAboveFirst(first, lines);
+    }
+
+    void InsertAboveFirst(const MergeVariable* first, const std::vector<std::string>& lines)
+    {
+        const std::size_t place = first != nullptr ? first->commentStart : m_ours.File().LineCount();
+        // Directly below the header, the header would become their comment.
+        if (!m_ours.HeaderLines().empty() && !TrimBytes(lines.front()).empty())
+            m_output.InsertAbove(place, {std::string()});
+        m_output.InsertAbove(place, lines);
+    }
+
+    void PutConflict(const MergeVariable& ours, const MergeVariable* theirs, bool withComments)
+    {
+        std::vector<std::size_t> ourLines = ours.lines;
+        std::vector<std::size_t> theirLines;
+        if (theirs != nullptr)
+            theirLines = theirs->lines;
+        if (withComments && theirs != nullptr) {
+            const auto above = LineNumbers(ours.commentStart, ours.lines.front());
+            const auto theirAbove = LineNumbers(theirs->commentStart, theirs->lines.front());
+            ourLines.insert(ourLines.begin(), above.begin(), above.end());
+            theirLines.insert(theirLines.begin(), theirAbove.begin(), theirAbove.end());
+        }
+        m_result.conflicts.push_back(ours.name);
+        m_output.Replace(ourLines,
+                         MergeOutput::Conflict(m_output.OurLines(ourLines), m_output.TheirLines(theirLines)));
+        m_output.TakeLossy();
+    }
+
+    // What the variable is to be afterwards; a conditional one is not looked at.
+    void Want(const Text& name, const MergeVariable* variable)
+    {
+        if (variable == nullptr)
+            m_wanted[name] = std::nullopt;
+        else if (!variable->conditional)
+            m_wanted[name] = variable->value;
+    }
+
+    const MergeSide& m_base;
+    const MergeSide& m_ours;
+    const MergeSide& m_theirs;
+    const FactsOf& m_factsOf;
+    const std::set<Text> m_refused; // Variables that a first attempt did not keep.
+    MergeOutput m_output;
+    MergeResult m_result;
+    std::map<Text, std::optional<Text>> m_wanted;
+};
+
+} // namespace
+
+MergeResult MergeFiles(const MergeInput& base, const MergeInput& ours, const MergeInput& theirs,
+                       const FactsOf& factsOf)
+{
+    if (theirs.bytes == base.bytes || theirs.bytes == ours.bytes)
+        return {std::string(ours.bytes), {}, false};
+    if (ours.bytes == base.bytes)
+        return {std::string(theirs.bytes), {}, false};
+    const MergeSide baseSide(base.bytes, base.charset);
+    const MergeSide ourSide(ours.bytes, ours.charset);
+    const MergeSide theirSide(theirs.bytes, theirs.charset);
+    std::set<Text> refused;
+    for (;;) {
+        Merger merger(baseSide, ourSide, theirSide, factsOf, refused);
+        MergeResult result = merger.Run();
+        const std::size_t before = refused.size();
+        refused.merge(merger.NotKept());
+        if (refused.size() == before)
+            return result;
+    }
+}
+
+} // namespace ov

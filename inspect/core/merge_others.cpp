@@ -1,0 +1,189 @@
+#include "inspect/core/merge_others.h"
+
+#include "document/core/line_diff.h"
+
+#include <algorithm>
+#include <optional>
+#include <string>
+
+namespace ov
+{
+namespace
+{
+
+using LineNumberList = std::vector<std::size_t>;
+
+std::vector<std::string> Utf8Of(const std::vector<Text>& texts)
+{
+    std::vector<std::string> lines;
+    std::transform(texts.begin(), texts.end(), std::back_inserter(lines),
+                   [](const Text& text) { return Utf8FromText(text); });
+    return lines;
+}
+
+std::vector<LineChange> Changes(const std::vector<Text>& before, const std::vector<Text>& after)
+{
+    const std::vector<std::string> oldTexts = Utf8Of(before);
+    const std::vector<std::string> newTexts = Utf8Of(after);
+    return DiffLines(std::vector<std::string_view>(oldTexts.begin(), oldTexts.end()),
+                     std::vector<std::string_view>(newTexts.begin(), newTexts.end()));
+}
+
+bool Touch(const LineChange& first, const LineChange& second)
+{
+    return first.oldStart <= second.oldStart + second.oldCount &&
+           second.oldStart <= first.oldStart + first.oldCount;
+}
+
+LineNumberList Part(const LineNumberList& lines, std::size_t start, std::size_t count)
+{
+    const auto first = lines.begin() + static_cast<std::ptrdiff_t>(start);
+    return {first, first + static_cast<std::ptrdiff_t>(count)};
+}
+
+class OtherLinesMerger
+{
+  public:
+    OtherLinesMerger(const MergeSide& base, const MergeSide& ours, const MergeSide& theirs,
+                     MergeOutput& output)
+        : m_ours(ours), m_theirs(theirs), m_output(output),
+          m_ourChanges(Changes(base.Texts(base.OtherLines()), ours.Texts(ours.OtherLines()))),
+          m_theirChanges(Changes(base.Texts(base.OtherLines()), theirs.Texts(theirs.OtherLines())))
+    {
+    }
+
+    bool Run()
+    {
+        bool clean = true;
+        for (const LineChange& change : m_theirChanges)
+            clean &= Merge(change);
+        return clean;
+    }
+
+  private:
+    bool Merge(const LineChange& change)
+    {
+        const LineNumberList theirLines = Part(m_theirs.OtherLines(), change.newStart, change.newCount);
+        const auto touching = std::find_if(m_ourChanges.begin(), m_ourChanges.end(),
+                                           [&](const LineChange& our) { return Touch(our, change); });
+        if (touching != m_ourChanges.end())
+            return MergeTouching(*touching, change, theirLines);
+        const std::size_t start = OurPlace(change.oldStart);
+        const LineNumberList ourLines = Part(m_ours.OtherLines(), start, change.oldCount);
+        std::vector<std::string> texts = m_output.TheirLines(theirLines);
+        const bool lossy = m_output.TakeLossy();
+        if (lossy)
+            texts = MergeOutput::Conflict(m_output.OurLines(ourLines), texts);
+        if (!ourLines.empty())
+            m_output.Replace(ourLines, texts);
+        else
+            m_output.InsertAbove(LineToInsertAbove(start, theirLines), texts);
+        return !lossy;
+    }
+
+    // Both sides changed the same place: nothing is to be done where they did the same.
+    bool MergeTouching(const LineChange& our, const LineChange& their, const LineNumberList& theirLines)
+    {
+        const LineNumberList ourLines = Part(m_ours.OtherLines(), our.newStart, our.newCount);
+        if (our.oldStart == their.oldStart && our.oldCount == their.oldCount &&
+            m_ours.Texts(ourLines) == m_theirs.Texts(theirLines))
+            return true;
+        const std::vector<std::string> texts =
+            MergeOutput::Conflict(m_output.OurLines(ourLines), m_output.TheirLines(theirLines));
+        m_output.TakeLossy();
+        const bool taken = !ourLines.empty() && m_output.Edits().IsErased(ourLines.front());
+        if (ourLines.empty() || taken)
+            m_output.InsertAbove(LineToInsertAbove(our.newStart, theirLines), texts);
+        else
+            m_output.Replace(ourLines, texts);
+        return false;
+    }
+
+    // Where in our other lines a line of the base is that we did not change.
+    std::size_t OurPlace(std::size_t basePlace) const
+    {
+        std::size_t place = basePlace;
+        for (const LineChange& our : m_ourChanges) {
+            if (our.oldStart < basePlace)
+                place = place + our.newCount - our.oldCount;
+        }
+        return place;
+    }
+
+    // Their new lines go between our other lines `place - 1` and `place`: where one of these is their
+    // neighbour on their side, else below the variable that is above them there.
+    std::size_t LineToInsertAbove(std::size_t place, const LineNumberList& theirLines) const
+    {
+        const LineNumberList& ourOthers = m_ours.OtherLines();
+        const std::size_t lowest = place > 0 ? ourOthers[place - 1] + 1 : 0;
+        const std::size_t highest = place < ourOthers.size() ? ourOthers[place] : m_ours.File().LineCount();
+        if (theirLines.empty())
+            return highest;
+        const std::size_t first = theirLines.front();
+        const std::size_t last = theirLines.back();
+        const LineNumberList& theirOthers = m_theirs.OtherLines();
+        if (first > 0 && std::binary_search(theirOthers.begin(), theirOthers.end(), first - 1))
+            return lowest;
+        if (std::binary_search(theirOthers.begin(), theirOthers.end(), last + 1))
+            return highest;
+        const auto below = BelowVariableAbove(first);
+        return below && *below >= lowest && *below <= highest ? *below : highest;
+    }
+
+    // The line below ours of the nearest variable above their line that we have too.
+    std::optional<std::size_t> BelowVariableAbove(std::size_t theirLine) const
+    {
+        std::optional<std::size_t> below;
+        std::size_t nearest = 0;
+        for (const MergeVariable& variable : m_theirs.Variables()) {
+            const MergeVariable* const ours = m_ours.Find(variable.name);
+            if (variable.lines.empty() || ours == nullptr || variable.lines.back() > theirLine ||
+                variable.lines.back() < nearest)
+                continue;
+            nearest = variable.lines.back();
+            below = ours->lines.back() + 1;
+        }
+        return below;
+    }
+
+    const MergeSide& m_ours;
+    const MergeSide& m_theirs;
+    MergeOutput& m_output;
+    std::vector<LineChange> m_ourChanges;
+    std::vector<LineChange> m_theirChanges;
+};
+
+// Their header where only they changed it; ours where either is one that Save has written.
+bool MergeHeader(const MergeSide& base, const MergeSide& ours, const MergeSide& theirs, MergeOutput& output)
+{
+    const auto textsOf = [](const MergeSide& side) { return side.Texts(side.HeaderLines()); };
+    if (textsOf(theirs) == textsOf(base) || textsOf(theirs) == textsOf(ours) || ours.HasSavedHeader())
+        return true;
+    const bool unchanged = textsOf(ours) == textsOf(base);
+    if (!unchanged && theirs.HasSavedHeader())
+        return true;
+    std::vector<std::string> texts = output.TheirLines(theirs.HeaderLines());
+    const bool clean = !output.TakeLossy() && unchanged;
+    if (!clean)
+        texts = MergeOutput::Conflict(output.OurLines(ours.HeaderLines()), texts);
+    if (!ours.HeaderLines().empty()) {
+        output.Replace(ours.HeaderLines(), texts);
+        return clean;
+    }
+    // Without a blank line below, the first variable would take the header for its comment.
+    if (ours.File().LineCount() > 0 && ours.File().Parts(0).kind != LineKind::Blank)
+        texts.emplace_back();
+    output.InsertAbove(0, texts);
+    return clean;
+}
+
+} // namespace
+
+bool MergeOtherLines(const MergeSide& base, const MergeSide& ours, const MergeSide& theirs,
+                     MergeOutput& output)
+{
+    const bool header = MergeHeader(base, ours, theirs, output);
+    return OtherLinesMerger(base, ours, theirs, output).Run() && header;
+}
+
+} // namespace ov
