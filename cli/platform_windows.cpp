@@ -23,7 +23,8 @@ HANDLE HandleOf(Stream stream)
 
 bool IsEndOfPipe(DWORD error)
 {
-    return error == ERROR_BROKEN_PIPE || error == ERROR_NO_DATA || error == ERROR_HANDLE_EOF;
+    return error == ERROR_BROKEN_PIPE || error == ERROR_NO_DATA || error == ERROR_PIPE_NOT_CONNECTED ||
+           error == ERROR_HANDLE_EOF;
 }
 
 bool ReadFrom(HANDLE file, std::string& bytes, std::string& problem)
