@@ -1,6 +1,7 @@
 #include "controls/config_setting_dlg.h"
 
 #include <algorithm>
+#include <initializer_list>
 #include <utility>
 
 #include "controls/application.h"
@@ -64,8 +65,9 @@ void CConfigSettingDlg::InitControlLayout()
     AddLayout(IDC_CONFIG_SETTING_LIST, LayoutKeepTop | LayoutStretchWidth | LayoutStretchHeight);
     AddLayout(IDC_CONFIG_SETTING_VALUE, LayoutAnchorBottom | LayoutStretchWidth);
     AddLayout(IDC_CONFIG_SETTING_BROWSE, LayoutAnchorRight | LayoutAnchorBottom);
-    for (const UINT button : {IDC_CONFIG_SETTING_INSERT, IDC_CONFIG_SETTING_DELETE,
-                              IDC_CONFIG_SETTING_MOVE_UP, IDC_CONFIG_SETTING_MOVE_DOWN, IDOK, IDCANCEL})
+    for (const UINT button : std::initializer_list<UINT>{IDC_CONFIG_SETTING_INSERT, IDC_CONFIG_SETTING_DELETE,
+                                                         IDC_CONFIG_SETTING_MOVE_UP,
+                                                         IDC_CONFIG_SETTING_MOVE_DOWN, IDOK, IDCANCEL})
         AddLayout(button, LayoutKeepTop | LayoutAnchorRight);
 }
 

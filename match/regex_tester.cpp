@@ -1,5 +1,6 @@
 #include "match/regex_tester.h"
 
+#include <initializer_list>
 #include <utility>
 
 #include "controls/core/layout.h"
@@ -49,12 +50,12 @@ void RegexTester::DoDataExchange(CDataExchange* exchange)
 void RegexTester::InitControlLayout()
 {
     using namespace ov;
-    for (const UINT fixed :
-         {IDC_REGEX_TESTER_TYPE_LABEL, IDC_REGEX_TESTER_TEMPLATE_LABEL, IDC_REGEX_TESTER_TEST_STRING_LABEL,
-          IDC_REGEX_TESTER_RESULT_LABEL, IDC_REGEX_TESTER_RESULT, IDC_REGEX_TESTER_NO_CONTROL})
+    for (const UINT fixed : std::initializer_list<UINT>{
+             IDC_REGEX_TESTER_TYPE_LABEL, IDC_REGEX_TESTER_TEMPLATE_LABEL, IDC_REGEX_TESTER_TEST_STRING_LABEL,
+             IDC_REGEX_TESTER_RESULT_LABEL, IDC_REGEX_TESTER_RESULT, IDC_REGEX_TESTER_NO_CONTROL})
         AddLayout(fixed, LayoutKeepLeft | LayoutKeepTop);
-    for (const UINT stretched :
-         {IDC_REGEX_TESTER_TYPE, IDC_REGEX_TESTER_TEMPLATE, IDC_REGEX_TESTER_TEST_STRING})
+    for (const UINT stretched : std::initializer_list<UINT>{IDC_REGEX_TESTER_TYPE, IDC_REGEX_TESTER_TEMPLATE,
+                                                            IDC_REGEX_TESTER_TEST_STRING})
         AddLayout(stretched, LayoutKeepTop | LayoutStretchWidth);
 }
 

@@ -160,7 +160,7 @@ void CPreferencesWizard::FitIntoWorkArea()
         MoveWindow(x, y, width, height);
 }
 
-CRect CPreferencesWizard::PlaceholderRect(UINT id) const
+CRect CPreferencesWizard::PlaceholderRect(int id) const
 {
     CRect rectangle;
     if (const CWnd* placeholder = GetDlgItem(id)) {
@@ -170,7 +170,7 @@ CRect CPreferencesWizard::PlaceholderRect(UINT id) const
     return rectangle;
 }
 
-void CPreferencesWizard::PlaceAfter(CWnd& child, UINT placeholderId)
+void CPreferencesWizard::PlaceAfter(CWnd& child, int placeholderId)
 {
     // The tab order is the Z order: the child takes its placeholder's turn.
     if (const CWnd* placeholder = GetDlgItem(placeholderId))

@@ -92,8 +92,8 @@ class CPreferencesWizard : public CResizableDlg
     void UpdateFocusItems();
     void ScrollToFocus();
     void FitIntoWorkArea();
-    CRect PlaceholderRect(UINT id) const;
-    void PlaceAfter(CWnd& child, UINT placeholderId);
+    CRect PlaceholderRect(int id) const;
+    void PlaceAfter(CWnd& child, int placeholderId);
     int ShowMessage(const ov::Text& text, UINT type);
 
     CEdit m_configPathEdit;
