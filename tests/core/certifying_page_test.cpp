@@ -113,7 +113,7 @@ TEST(CertifyingPage, IsSavedFromTheMarkerCellToTheReferences)
 
 TEST(CertifyingPage, RefusalMovesTheFocusForTheSecondKeyinOnly)
 {
-    ASSERT_EQ(ov::CertifyingRows().browses.size(), 2u);
+    ASSERT_GE(ov::CertifyingRows().browses.size(), 2u);
     EXPECT_EQ(ov::CertifyingRows().browses[0].focusOnRefusal, ov::kFocusStays);
     EXPECT_EQ(ov::CertifyingRows().browses[1].focusOnRefusal, 3330);
     for (const ov::BrowseRow& row : ov::CertifyingRows().browses) {

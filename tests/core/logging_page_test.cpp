@@ -63,7 +63,7 @@ TEST(LoggingPage, NeverShownAddsWhatIsMissingWithItsBuiltInValues)
 // More than 16 bits hold.
 TEST(LoggingPage, LogFileMayBeAHundredMegabytes)
 {
-    ASSERT_EQ(ov::LoggingRows().spins.size(), 1u);
+    ASSERT_GE(ov::LoggingRows().spins.size(), 1u);
     const ov::SpinRow& spin = ov::LoggingRows().spins[0];
     EXPECT_EQ(spin.controlId, 3112);
     EXPECT_EQ(spin.buddyId, 3111);

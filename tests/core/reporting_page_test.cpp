@@ -117,7 +117,7 @@ TEST_F(ReportingPage, NeverShownKeepsTheModelsThatAreThereAndAddsSixOtherwise)
 
 TEST_F(ReportingPage, ModelsAreListedInTheirOwnOrder)
 {
-    ASSERT_EQ(ov::ReportingRows().entries.size(), 1u);
+    ASSERT_GE(ov::ReportingRows().entries.size(), 1u);
     std::vector<std::string> entries;
     for (const unsigned id : ov::ReportingRows().entries[0].stringIds)
         entries.push_back(ov::Utf8FromText(ov::FindString(id)));
@@ -205,7 +205,7 @@ TEST_F(ReportingPage, NumbersAreKeptAsTyped)
 
 TEST_F(ReportingPage, ArrowsHaveTheirRanges)
 {
-    ASSERT_EQ(ov::ReportingRows().spins.size(), 2u);
+    ASSERT_GE(ov::ReportingRows().spins.size(), 2u);
     const ov::SpinRow& errors = ov::ReportingRows().spins[0];
     EXPECT_EQ(errors.controlId, 3105);
     EXPECT_EQ(errors.buddyId, 3103);

@@ -51,7 +51,7 @@ TEST(WatermarkPlacementPage, IsSavedFromTheScalingToTheUsersString)
 
 TEST(WatermarkPlacementPage, CrossIsAListWhoseRefusalGoesToItsEdit)
 {
-    ASSERT_EQ(ov::WatermarkPlacementRows().browses.size(), 1u);
+    ASSERT_GE(ov::WatermarkPlacementRows().browses.size(), 1u);
     const ov::BrowseRow& row = ov::WatermarkPlacementRows().browses[0];
     EXPECT_EQ(row.buttonId, 3321);
     EXPECT_EQ(row.browsing, 0u);
