@@ -22,10 +22,7 @@ BOOL CAbstractFontDlg::OnInitDialog()
     CRect units(0, 0, 4, 8);
     ::MapDialogRect(m_hWnd, &units);
     m_units = {units.Width(), units.Height()};
-    m_firstChildren.clear();
-    for (HWND child = ::GetWindow(m_hWnd, GW_CHILD); child != nullptr;
-         child = ::GetWindow(child, GW_HWNDNEXT))
-        m_firstChildren.push_back(child);
+    m_firstChildren = AfxChildWindows(m_hWnd);
     if (const CFont* const font = GetSharedDialogFont(m_resolution))
         GiveFont(*font);
     return result;
@@ -86,8 +83,7 @@ void CAbstractFontDlg::ChangeResolution(UINT resolution)
     GiveFont(*font);
     MeasureUnits(*font);
     OnResolutionChanged();
-    for (HWND child = ::GetWindow(m_hWnd, GW_CHILD); child != nullptr;
-         child = ::GetWindow(child, GW_HWNDNEXT)) {
+    for (const HWND child : AfxChildWindows(m_hWnd)) {
         if (auto* const inside = DYNAMIC_DOWNCAST(CAbstractFontDlg, CWnd::FromHandlePermanent(child)))
             inside->ChangeResolution(resolution);
     }

@@ -167,8 +167,7 @@ void CConfigSettingDlg::ShowMoveIcon(CButton& button, ResourceIcon& shown, UINT 
 void CConfigSettingDlg::OnDestroy()
 {
     if (CToolTipControl* tips = GetToolTipControl()) {
-        for (HWND child = ::GetWindow(m_hWnd, GW_CHILD); child != nullptr;
-             child = ::GetWindow(child, GW_HWNDNEXT))
+        for (const HWND child : AfxChildWindows(m_hWnd))
             tips->DelTool(CWnd::FromHandle(child));
     }
     CResizableDlg::OnDestroy();

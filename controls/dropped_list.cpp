@@ -43,8 +43,7 @@ void CloseCalendar(HWND datePicker)
 
 void CloseDropped(HWND dialog)
 {
-    for (HWND control = ::GetWindow(dialog, GW_CHILD); control != nullptr;
-         control = ::GetWindow(control, GW_HWNDNEXT)) {
+    for (const HWND control : AfxChildWindows(dialog)) {
         if (AfxIsOfClass(control, WC_COMBOBOXW) && ::SendMessageW(control, CB_GETDROPPEDSTATE, 0, 0) != 0)
             ::SendMessageW(control, CB_SHOWDROPDOWN, FALSE, 0);
         else if (AfxIsOfClass(control, DATETIMEPICK_CLASSW))

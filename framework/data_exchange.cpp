@@ -4,6 +4,7 @@
 #include "framework/focus.h"
 #include "framework/thread_state.h"
 
+#include <algorithm>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -120,13 +121,15 @@ void DDX_Check(CDataExchange* exchange, int id, int& value)
 void DDX_Radio(CDataExchange* exchange, int id, int& value)
 {
     std::vector<HWND> buttons;
-    HWND control = exchange->PrepareCtrl(id);
-    do {
-        // Other controls may stand within the group; they are not counted.
-        if (IsRadioButton(control))
-            buttons.push_back(control);
-        control = ::GetWindow(control, GW_HWNDNEXT);
-    } while (control != nullptr && (::GetWindowLongPtrW(control, GWL_STYLE) & WS_GROUP) == 0);
+    const HWND first = exchange->PrepareCtrl(id);
+    const std::vector<HWND> siblings = AfxChildWindows(::GetParent(first));
+    for (auto control = std::ranges::find(siblings, first); control != siblings.end(); ++control) {
+        if (*control != first && (::GetWindowLongPtrW(*control, GWL_STYLE) & WS_GROUP) != 0)
+            break;
+        // Other controls may be inside the group; they are not counted.
+        if (IsRadioButton(*control))
+            buttons.push_back(*control);
+    }
 
     const int count = static_cast<int>(buttons.size());
     int chosen = -1;

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 IMPLEMENT_DYNAMIC(CWnd, CCmdTarget)
 
@@ -104,14 +105,22 @@ HWND CWnd::UnsubclassWindow()
 
 HWND CWnd::FindControl(int id) const
 {
-    // Nobody would tell when the window of a temporary object goes.
+    // A temporary object gets no notice when its window is destroyed.
     if (FromHandlePermanent(m_hWnd) == nullptr)
         return ::GetDlgItem(m_hWnd, id);
-    HWND& control = AfxGetThreadState().foundControls[m_hWnd][id];
-    if (control == nullptr || !::IsWindow(control) || ::GetParent(control) != m_hWnd ||
-        ::GetDlgCtrlID(control) != id)
-        control = ::GetDlgItem(m_hWnd, id);
-    return control;
+    auto& controls = AfxGetThreadState().foundControls[m_hWnd];
+    const auto isCurrent = [&](HWND control) {
+        return control != nullptr && ::IsWindow(control) && ::GetParent(control) == m_hWnd &&
+               ::GetDlgCtrlID(control) == id;
+    };
+    if (const auto found = controls.find(id); found != controls.end() && isCurrent(found->second))
+        return found->second;
+    // All at once: most dialogs look up most of their controls.
+    controls.clear();
+    for (const HWND child : AfxChildWindows(m_hWnd))
+        controls.try_emplace(::GetDlgCtrlID(child), child);
+    const auto found = controls.find(id);
+    return found != controls.end() ? found->second : nullptr;
 }
 
 BOOL CWnd::EnableWindow(BOOL enable)
@@ -244,6 +253,24 @@ ov::Text CWnd::GetDlgItemText(int id) const
 {
     const CWnd* const control = GetDlgItem(id);
     return control != nullptr ? control->GetWindowText() : ov::Text();
+}
+
+std::vector<HWND> AfxChildWindows(HWND parent)
+{
+    struct Search {
+        HWND parent;
+        std::vector<HWND> children{};
+    } search{parent};
+    const auto add = [](HWND window, LPARAM parameter) -> BOOL {
+        auto& found = *reinterpret_cast<Search*>(parameter);
+        if (::GetParent(window) == found.parent)
+            found.children.push_back(window);
+        return TRUE;
+    };
+    // With a null parent this would be all top-level windows.
+    if (parent != nullptr)
+        ::EnumChildWindows(parent, add, reinterpret_cast<LPARAM>(&search));
+    return std::move(search.children);
 }
 
 bool AfxIsOfClass(HWND window, LPCWSTR className)

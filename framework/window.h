@@ -5,6 +5,8 @@
 #include "framework/message_map.h"
 #include "framework/wide.h"
 
+#include <vector>
+
 class CDataExchange;
 class CFont;
 class CRgn;
@@ -206,6 +208,10 @@ inline HWND AfxSafeHwnd(const CWnd* window)
 {
     return window != nullptr ? window->m_hWnd : nullptr;
 }
+
+/// The direct children of a window in Z order, from the top. One request to the
+/// system, where a walk from sibling to sibling takes one for each.
+std::vector<HWND> AfxChildWindows(HWND parent);
 
 /// Whether a window is of the class, whose name is compared without regard to
 /// case; false for null.

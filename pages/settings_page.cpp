@@ -148,8 +148,7 @@ int CSettingsPage::NarrowestWidth(HWND control, const CRect& units) const
     const CRect rect = RectOn(m_hWnd, control);
     if (IsFrame(control)) {
         int width = 0;
-        for (HWND member = ::GetWindow(m_hWnd, GW_CHILD); member != nullptr;
-             member = ::GetWindow(member, GW_HWNDNEXT)) {
+        for (const HWND member : AfxChildWindows(m_hWnd)) {
             const CRect inner = RectOn(m_hWnd, member);
             if (member != control && rect.PtInRect(inner.TopLeft()) && !Follows(member))
                 width = std::max<int>(width, inner.right + units.left - rect.left);
@@ -187,8 +186,7 @@ int CSettingsPage::NarrowestWidth() const
 CSize CSettingsPage::NeededSize() const
 {
     int bottom = 0;
-    for (HWND control = ::GetWindow(m_hWnd, GW_CHILD); control != nullptr;
-         control = ::GetWindow(control, GW_HWNDNEXT))
+    for (const HWND control : AfxChildWindows(m_hWnd))
         bottom = std::max<int>(bottom, RectOn(m_hWnd, control).bottom);
     return {m_narrowestWidth, bottom};
 }

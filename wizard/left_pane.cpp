@@ -77,10 +77,13 @@ void CLeftPane::OnTemplateLayout()
 
 void CLeftPane::FillList()
 {
+    // With drawing on, each row would move the list's header and draw the list.
+    m_list.SetRedraw(FALSE);
     for (const ov::PageInfo* page : ov::PaneRows()) {
         const int row = m_list.AppendRow(AfxLoadString(page->titleId));
         m_list.SetItemData(row, static_cast<DWORD_PTR>(page->pageId));
     }
+    m_list.SetRedraw(TRUE);
     m_list.SetItemState(0, LVIS_SELECTED, LVIS_SELECTED);
 }
 

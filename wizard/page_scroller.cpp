@@ -143,8 +143,7 @@ void CPageScroller::ScrollContent(int dx, int dy)
     }
     // Windows scrolls nothing in a hidden window, and a page is resized before
     // it is shown again: its controls are moved one by one.
-    for (HWND child = ::GetWindow(m_page.m_hWnd, GW_CHILD); child != nullptr;
-         child = ::GetWindow(child, GW_HWNDNEXT)) {
+    for (const HWND child : AfxChildWindows(m_page.m_hWnd)) {
         CRect rect;
         ::GetWindowRect(child, &rect);
         m_page.ScreenToClient(&rect);
