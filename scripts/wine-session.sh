@@ -68,7 +68,7 @@ use_prefix() {
     fi
     mkdir -p "$WINEPREFIX"
     if ! { wineboot -i && wineserver -w; } >"$WINEPREFIX/wineboot.log" 2>&1; then
-        session_fail "Wine cannot be set up: $(tail -n 1 "$WINEPREFIX/wineboot.log")"
+        session_fail "Wine cannot be set up: $(tail -n 1 "$WINEPREFIX/wineboot.log")$(missing_from_wine)"
         return 1
     fi
     # Wine does not look into the folder that its own fonts are packaged in.
@@ -77,6 +77,13 @@ use_prefix() {
     wineserver -k || true
     wineserver -w
     touch "$WINEPREFIX/.complete"
+}
+
+# The most frequent reason, which Wine does not name.
+missing_from_wine() {
+    local missing
+    missing=$(dpkg --verify libwine wine64 2>/dev/null | grep '^missing' | head -n 3) || return 0
+    printf '\n%s' "$missing"
 }
 
 # use_resolution DPI: of all programs that begin in the prefix from now on.
