@@ -129,6 +129,8 @@ Json AsJson(const SettingDescription& setting)
                  {"caption", nullptr},
                  {"kind", setting.kind},
                  {"separator", nullptr},
+                 {"fieldSeparator", nullptr},
+                 {"fields", nullptr},
                  {"values", nullptr},
                  {"minimum", nullptr},
                  {"maximum", nullptr},
@@ -139,8 +141,12 @@ Json AsJson(const SettingDescription& setting)
                  {"help", Utf8FromText(setting.help)}};
     if (!setting.caption.empty())
         json["caption"] = Utf8FromText(setting.caption);
-    if (setting.isList)
+    if (setting.isList) {
         json["separator"] = Utf8FromText(Text(1, setting.separator));
+        json["fields"] = setting.fieldCount;
+        if (setting.fieldSeparator != u'\0')
+            json["fieldSeparator"] = Utf8FromText(Text(1, setting.fieldSeparator));
+    }
     if (setting.kind == "flag")
         json["values"] = {{{"value", "0"}, {"meaning", "off"}}, {{"value", "1"}, {"meaning", "on"}}};
     for (const Choice& choice : setting.choices)
@@ -242,7 +248,12 @@ std::string ReferenceAsJson()
     Json settings = Json::array();
     for (const SettingDescription& setting : DescribeAll())
         settings.push_back(AsJson(setting));
-    return PrintedJson({{"version", 1}, {"settings", std::move(settings)}});
+    Json older = Json::array();
+    for (const OlderVariable& variable : OlderVariables())
+        older.push_back(
+            {{"variable", Utf8FromText(variable.variable)}, {"page", Utf8FromText(variable.page)}});
+    return PrintedJson(
+        {{"version", 1}, {"settings", std::move(settings)}, {"olderVariables", std::move(older)}});
 }
 
 std::string ReferenceAsSchema()

@@ -100,6 +100,8 @@ SettingDescription Describe(const SettingPlace& place)
     if (const auto format = ListFormatOf(place)) {
         setting.isList = true;
         setting.separator = format->separator;
+        setting.fieldSeparator = format->fieldSeparator;
+        setting.fieldCount = format->fieldCount;
     }
     const std::span<const Choice> choices = ChoicesOf(place);
     setting.choices.assign(choices.begin(), choices.end());
@@ -121,6 +123,20 @@ std::vector<SettingDescription> DescribeAll()
         }
     }
     return settings;
+}
+
+std::vector<OlderVariable> OlderVariables()
+{
+    std::vector<OlderVariable> older;
+    for (const PageInfo* info : PaneRows()) {
+        for (const PageRows* page : AllPageRows()) {
+            if (page->info.pageId != info->pageId)
+                continue;
+            for (const char16_t* variable : page->olderVariables)
+                older.push_back({variable, Text(FindString(info->titleId))});
+        }
+    }
+    return older;
 }
 
 } // namespace ov
