@@ -16,7 +16,7 @@ void CCmdLineInfo::ParseParam(LPCWSTR parameter, BOOL isFlag, BOOL isLast)
     const ov::Text text = FromWide(parameter);
     for (const Keyword& keyword : keywords) {
         // Found anywhere, yet cut by length from the start: a keyword belongs
-        // at the very beginning, and nothing checks that it stands there.
+        // at the very beginning, and nothing checks its position.
         if (text.find(keyword.word) != ov::Text::npos) {
             keyword.target = text.substr(keyword.word.size());
             return;

@@ -29,7 +29,7 @@ unsigned int Guarded(Work work)
             AfxReportCurrentException();
         }
     } catch (...) {
-        // Not even the module's state could be set up: there is nothing to tell
+        // Not even the module's state could be set up: there is no way to show
         // it with.
     }
     return OV_PREFERENCES_NOT_SHOWN;

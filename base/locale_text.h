@@ -58,7 +58,7 @@ class LocaleDecoder
     ByteTable m_table{};
 };
 
-/// What came of an encoding.
+/// The result of an encoding.
 struct EncodeResult {
     bool ok;              ///< False when a character cannot be written in the locale.
     std::size_t position; ///< Index of the first character that cannot be written.

@@ -9,7 +9,7 @@
 namespace ov
 {
 
-/// What stands in a text for something that is no character.
+/// The replacement for something that is no character.
 inline constexpr char32_t kReplacementCharacter = 0xFFFD;
 
 /// One character read from the front of a text.

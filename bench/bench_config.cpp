@@ -152,7 +152,7 @@ class ConfigBench
                              document.reset();
                          }));
         }
-        // As when the person chooses another file: the store holds one already.
+        // As when the user chooses another file: the store is not empty.
         ov::SettingStore store;
         SystemFilePort files;
         const Race::Entry again = race.Add([&, path = plain.u16string()] {

@@ -115,7 +115,7 @@ struct Hard {
     ov::WildcardType type;
     ov::Text pattern;
     ov::Text text;
-    double limit; ///< What it may take, in milliseconds; 0: just told.
+    double limit; ///< What it may take, in milliseconds; 0: only reported.
 };
 
 std::vector<Hard> MakeHardOnes()

@@ -1,6 +1,6 @@
 // Measures the memory that reading a configuration file takes, beside other libraries: for each
-// figure this program starts itself anew, so that nothing of an earlier reading is in it. The time
-// of such a first reading, with all its memory still to be got from the system, is told too.
+// figure this program starts itself again, so that no earlier reading affects it. The time
+// of such a first reading, with all its memory still to be requested from the system, is reported too.
 
 #include "bench/config_input.h"
 #include "bench/contenders.h"
@@ -69,13 +69,13 @@ double StatusBytes(const std::string& name)
         if (word == name + ":" && status >> kilobytes)
             return kilobytes * 1024;
     }
-    throw std::runtime_error("the system does not tell " + name);
+    throw std::runtime_error("the system does not report " + name);
 }
 
-// The started process: reads the file and tells what that took.
+// The started process: reads the file and reports the cost.
 int ReadOnce(const Contender& contender, const char* path)
 {
-    // From now on the peak is counted anew.
+    // The peak is counted from here on.
     std::ofstream("/proc/self/clear_refs") << 5;
     const double residentBefore = StatusBytes("VmRSS");
     const std::size_t allocatedBefore = g_allocated;

@@ -18,14 +18,14 @@ class Document
     /// The number of variables.
     virtual std::size_t Count() const = 0;
 
-    /// Makes the bytes of the file anew, drops them, and gives their number.
+    /// Makes the bytes of the file, drops them, and returns their number.
     virtual std::size_t Write() const = 0;
 };
 
 /// A reader of configuration files: this program's, or another library's for comparison.
 struct Contender {
     std::string name;
-    bool needsGroup;   ///< The variables must stand under a group line, "[bench]".
+    bool needsGroup;   ///< The variables must follow a group line, "[bench]".
     bool keepsComment; ///< What is written holds the comments that were read.
     bool writes;
     bool countsMemory; ///< All that it allocates it gets by the C++ operators.

@@ -1,4 +1,4 @@
-// GLib's GKeyFile, told to keep comments. It keeps every comment line as an entry of its own and
+// GLib's GKeyFile, with comments kept. It keeps every comment line as an entry of its own and
 // needs a group line; what it reads is else the same.
 
 #include "bench/contenders.h"

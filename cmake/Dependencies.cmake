@@ -44,7 +44,7 @@ if(NOT EXISTS "${OV_PCRE2_LIBRARY}")
                           COMMAND_ERROR_IS_FATAL ANY OUTPUT_QUIET)
   file(RENAME "${OV_PCRE2_PARTIAL}" "${OV_PCRE2_PREFIX}" RESULT OV_PCRE2_RENAMED)
   if(NOT EXISTS "${OV_PCRE2_LIBRARY}")
-    # What stands in the way has no library: it is what was left by an interruption.
+    # The folder has no library: an interrupted run left it.
     file(REMOVE_RECURSE "${OV_PCRE2_PREFIX}")
     file(RENAME "${OV_PCRE2_PARTIAL}" "${OV_PCRE2_PREFIX}")
   elseif(OV_PCRE2_RENAMED)

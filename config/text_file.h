@@ -20,12 +20,12 @@ class CTextFileEx
     CTextFileEx(const CTextFileEx&) = delete;
     CTextFileEx& operator=(const CTextFileEx&) = delete;
 
-    /// Lets the person choose a configuration file, to be opened or to be
+    /// Lets the user choose a configuration file, to be opened or to be
     /// saved. True with the full path when they confirmed.
     virtual bool BrowseForFile(bool save, ov::Text& path);
 
     /// Replaces `lines` by the file's lines; asks for a file when the path is
-    /// empty. False when the person cancelled or, after a message, when the
+    /// empty. False when the user cancelled or, after a message, when the
     /// file could not be read; `lines` is as it was then.
     bool ReadLines(ov::Text path, std::vector<ov::Text>& lines);
 

@@ -37,7 +37,7 @@ DWORD PieceOf(std::size_t size)
 }
 
 /// A full path without the prefix that the system puts before it, which other
-/// programs and the person do not know.
+/// programs and users do not know.
 ov::Text WithoutPrefix(ov::Text path)
 {
     constexpr ov::TextView network = u"\\\\?\\UNC\\";
@@ -59,7 +59,7 @@ bool IsDevice(const ov::Text& path)
     return length < full.size() && full.starts_with(L"\\\\.\\");
 }
 
-/// What tells one file from another, whatever path leads to it.
+/// Identifies a file, whatever path leads to it.
 bool IdentityOf(const ov::Text& path, BY_HANDLE_FILE_INFORMATION& identity)
 {
     const HANDLE file = ::CreateFileW(Wide(path), 0, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,

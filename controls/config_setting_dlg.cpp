@@ -214,8 +214,8 @@ void CConfigSettingDlg::SelectRow(int row)
 
 void CConfigSettingDlg::RemoveShownRow(int row)
 {
-    // Some lists tell of a row's end as of its being deselected. Shown as the
-    // value it would overwrite what the person may have typed there.
+    // Some lists report a deleted row as deselected. Shown as the
+    // value it would overwrite what the user may have typed there.
     m_removingRow = true;
     m_list.DeleteRow(row);
     m_removingRow = false;
@@ -324,8 +324,8 @@ void CConfigSettingDlg::OnRowChanged(NMHDR* header, LRESULT* result)
                            ((change->uNewState ^ change->uOldState) & LVIS_SELECTED) != 0;
     if (!selection || m_removingRow)
         return;
-    // Selecting thousands of rows tells of each. What they come to is shown once,
-    // when all have been told: before any input, since posted messages go first.
+    // Selecting thousands of rows sends a notification for each. The result is shown once,
+    // after all of them: before any input, since posted messages come first.
     if (!m_selectionChanged)
         m_selectionChanged = PostMessage(showSelectionMessage) != FALSE;
     // A change of all rows at once names none.

@@ -10,7 +10,7 @@
 
 /// The "Multi-Entry Values" dialog: edits the text of a variable that holds
 /// several values, one entry a row. What the rows hold is ov::ListRows'
-/// business; the dialog shows it and says what the person did.
+/// business; the dialog shows it and reports what the user did.
 class CConfigSettingDlg : public CResizableDlg
 {
     DECLARE_DYNAMIC(CConfigSettingDlg)

@@ -40,8 +40,8 @@ class CResizableDlg : public CAbstractFontDlg
     /// The part of the dialog's monitor that task bars leave free.
     CRect WorkArea() const;
 
-    /// The string that names the control to screen readers, 0 where what stands
-    /// around it does. "%1" in the string stands for the name of the input
+    /// The string that names the control to screen readers, 0 where the text
+    /// around it does. "%1" in the string is the name of the input
     /// before the control.
     virtual UINT AccessibleNameId(int controlId) const;
 

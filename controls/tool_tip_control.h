@@ -40,7 +40,7 @@ struct ToolTipEntry {
 
 /// The program's one tooltip window and, behind it, the registry of the
 /// controls' help texts. Nothing in the program shows the window: no control
-/// arms it, and the texts reach the person through the fields of the dialog and
+/// arms it, and the texts reach the user through the fields of the dialog and
 /// the comments of the saved file.
 class CToolTipControl : public CWnd
 {

@@ -29,7 +29,7 @@ class CWinApp : public CCmdTarget
     /// Called when the module is unloaded, if InitInstance succeeded.
     virtual int ExitInstance() { return 0; }
 
-    /// What AfxMessageBox does, and so how an exception is told. A program
+    /// What AfxMessageBox does, and so how an exception is reported. A program
     /// overrides it to give its boxes a caption of its own.
     virtual int DoMessageBox(const ov::Text& text, UINT type);
 

@@ -3,7 +3,7 @@
 #include "base/text.h"
 #include "framework/window.h"
 
-/// One run of DoDataExchange: which way values move, and who is told off.
+/// One run of DoDataExchange: its direction, and the control that failed.
 class CDataExchange
 {
   public:
@@ -16,7 +16,7 @@ class CDataExchange
     HWND PrepareCtrl(int id);
     /// The same for an edit, whose text Fail will select.
     HWND PrepareEditCtrl(int id);
-    /// Refuses a value that the user has been told about: the control last
+    /// Refuses a value after the user has seen a message: the control last
     /// prepared gets the focus and the exchange ends; UpdateData returns FALSE.
     [[noreturn]] void Fail();
 

@@ -201,8 +201,8 @@ LRESULT CDialog::OnClose(WPARAM, LPARAM)
 
 LRESULT CDialog::OnSystemChange(WPARAM wParam, LPARAM lParam)
 {
-    // The system tells only top-level windows of new colours and settings. Of a new
-    // theme it tells every window; opening it once more does no harm.
+    // The system notifies only top-level windows of new colours and settings. It
+    // notifies every window of a new theme; opening the theme twice does no harm.
     const UINT message = AfxGetThreadState().currentMessage.message;
     const LRESULT result = Default();
     if ((GetStyle() & WS_CHILD) == 0) {

@@ -2,7 +2,7 @@
 
 #include <exception>
 
-/// Thrown to leave an operation after the user has been told why, as
+/// Thrown to leave an operation after a message to the user, as
 /// CDataExchange::Fail does. Whoever catches it shows nothing.
 class CUserException : public std::exception
 {

@@ -65,7 +65,7 @@ BOOL CListCtrl::SetItemText(int row, int column, const ov::Text& text)
 
 ov::Text CListCtrl::GetItemText(int row, int column) const
 {
-    // The list does not tell how long a text is: a copy that fills the room may
+    // The list does not report the length of a text: a copy that fills the room may
     // have been cut.
     for (ov::Text text(256, u'\0');; text.resize(text.size() * 2)) {
         LVITEMW item{};

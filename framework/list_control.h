@@ -3,7 +3,7 @@
 #include "base/text.h"
 #include "framework/window.h"
 
-/// A list view. Rows and columns count from 0; -1 stands for none.
+/// A list view. Rows and columns count from 0; -1 means none.
 class CListCtrl : public CWnd
 {
     DECLARE_DYNAMIC(CListCtrl)

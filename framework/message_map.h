@@ -103,7 +103,7 @@ void AfxThunkQueryDragIcon(CCmdTarget& target, AFX_HANDLER_CALL& call)
 
 // The sender is a CWnd*, not a CScrollBar*: up-down controls and sliders send
 // these messages too. It is a plain CWnd unless the program made an object for
-// the control, so it is the window's class (AfxIsOfClass) that tells which it was.
+// the control, so the window's class (AfxIsOfClass) decides which it was.
 template <auto Handler>
 void AfxThunkScroll(CCmdTarget& target, AFX_HANDLER_CALL& call)
 {
@@ -137,7 +137,7 @@ void AfxThunkTimer(CCmdTarget& target, AFX_HANDLER_CALL& call)
     static const AFX_MSGMAP* GetThisMessageMap();                                                            \
     const AFX_MSGMAP* GetMessageMap() const override;
 
-/// In the source: the map's rows stand between this and END_MESSAGE_MAP.
+/// In the source: the map's rows are between this and END_MESSAGE_MAP.
 #define BEGIN_MESSAGE_MAP(class_name, base_class_name)                                                       \
     const AFX_MSGMAP* class_name::GetMessageMap() const                                                      \
     {                                                                                                        \

@@ -173,7 +173,7 @@ void AfxReportCurrentException() noexcept
             ReportException("An unexpected error has occurred.");
         }
     } catch (...) {
-        // Even telling failed; there is nobody left to tell.
+        // Even the message box failed; nothing else can be shown.
         ::OutputDebugStringW(L"An error could not be reported.\n");
     }
 }

@@ -25,7 +25,7 @@ struct CFolderBrowserRequest {
     HWND owner;
 };
 
-/// What the user chose; an empty path stands for cancelling.
+/// What the user chose; an empty path means cancelled.
 struct CPathAnswer {
     ov::Text path;
 };

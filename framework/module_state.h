@@ -26,7 +26,7 @@ AFX_MODULE_STATE* AfxGetStaticModuleState();
 AFX_MODULE_STATE* AfxGetModuleState();
 /// Whether the calling thread's present module can be worked with: false when its
 /// application's InitInstance has not succeeded. To be asked after AFX_MANAGE_STATE,
-/// which has called it and told of an exception; the next AFX_MANAGE_STATE tries again.
+/// which has called it and reported an exception; the next AFX_MANAGE_STATE tries again.
 bool AfxModuleReady();
 
 /// Switches the calling thread to a module's state until the scope ends, and

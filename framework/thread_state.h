@@ -51,7 +51,7 @@ class CTempMap
         return nullptr;
     }
 
-    /// Deletes all but the first `count` objects; what the handles stand for stays.
+    /// Deletes all but the first `count` objects; the windows themselves remain.
     void DeleteFrom(std::size_t count)
     {
         while (m_entries.size() > count) {
@@ -169,7 +169,7 @@ class CCreationHook
     std::exception_ptr m_failure;
 };
 
-/// The window procedure of every window that a permanent object stands for.
+/// The window procedure of every window with a permanent object.
 LRESULT CALLBACK AfxWndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
 /// Unregisters the window classes of AfxRegisterWndClass.

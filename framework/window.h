@@ -47,7 +47,7 @@ class CWnd : public CCmdTarget
     /// Creates a child window. The object handles its messages from the first on.
     BOOL Create(LPCWSTR className, LPCWSTR text, DWORD style, const RECT& rectangle, CWnd* parent, UINT id);
     /// Creates any window; `menuOrId` is the id for a child. A null class name
-    /// stands for a plain class of the framework's.
+    /// means a plain class of the framework.
     BOOL CreateEx(DWORD exStyle, LPCWSTR className, LPCWSTR text, DWORD style, int x, int y, int width,
                   int height, HWND parent, HMENU menuOrId);
     BOOL CreateEx(DWORD exStyle, LPCWSTR className, LPCWSTR text, DWORD style, const RECT& rectangle,
@@ -106,7 +106,7 @@ class CWnd : public CCmdTarget
     {
         return ::PostMessageW(m_hWnd, message, wParam, lParam);
     }
-    /// Starts a timer of the window, or starts it anew; 0 when that failed.
+    /// Starts or restarts a timer of the window; 0 on failure.
     UINT_PTR SetTimer(UINT_PTR id, UINT milliseconds)
     {
         return ::SetTimer(m_hWnd, id, milliseconds, nullptr);
@@ -136,7 +136,7 @@ class CWnd : public CCmdTarget
     // --- data exchange ---------------------------------------------------------
     /// Moves values from the controls into the members (TRUE) or back. While it
     /// runs, notifications of this window's controls are not handled. False when
-    /// a value was refused; the user has been told then.
+    /// a value was refused; the user has then seen a message.
     BOOL UpdateData(BOOL saveAndValidate = TRUE);
 
     // --- pre-translation and modal loops --------------------------------------

@@ -6,7 +6,7 @@
 
 /// Lets go of a console that Windows has opened for this process alone, as it
 /// does for a start from a folder or a shortcut: the dialog is the window that
-/// the person asked for. Call once, first.
+/// the user asked for. Call once, first.
 void DropOwnConsole();
 
 /// Says something that was asked for (stdout, or an information box).

@@ -87,7 +87,7 @@
 #endif
 #endif
 
-/// The dialog was shown, whether the person then saved or cancelled.
+/// The dialog was shown, whether the user then saved or cancelled.
 #define OV_PREFERENCES_SHOWN 0u
 /// The dialog could not be set up and was not shown.
 #define OV_PREFERENCES_NOT_SHOWN 1u
@@ -107,7 +107,7 @@ typedef struct CWnd CWnd;
 /// Shows the dialog, with no parent and with the texts that an earlier
 /// ovPreferences_showDialogEx has set in this process (all empty at first).
 /// With neither a defaults file nor a current file the dialog opens with
-/// everything off and empty, and the person names the file to be written.
+/// everything off and empty, and the user names the file to be written.
 /// @return OV_PREFERENCES_SHOWN or OV_PREFERENCES_NOT_SHOWN.
 OV_PREFERENCES_API unsigned int ovPreferences_showDialog(void);
 
@@ -126,7 +126,7 @@ OV_PREFERENCES_API unsigned int ovPreferences_showDialog(void);
 /// @param userName     The name written into the header of the saved file.
 ///                     Empty: the name of the Windows user.
 /// @return OV_PREFERENCES_SHOWN or OV_PREFERENCES_NOT_SHOWN. A file that
-///         cannot be read is reported to the person, not to the host.
+///         cannot be read is reported to the user, not to the host.
 OV_PREFERENCES_API unsigned int ovPreferences_showDialogEx(CWnd* parent, const wchar_t* defaultPath,
                                                            const wchar_t* currentPath,
                                                            const wchar_t* userName);

@@ -72,7 +72,7 @@
 #define IDS_NO_CONFIG_FILE 5030
 #define IDS_CANNOT_RENAME_BACKUP 2068
 
-// Why a save failed, and where the file's old content is. %1 and %2 stand for
+// Why a save failed, and where the file's old content is. %1 and %2 are replaced by
 // what the rows say.
 #define IDS_SAVE_PLACE_TAKEN_BY_FOLDER 5100
 #define IDS_SAVE_CREATE_FAILED 5101
@@ -107,7 +107,7 @@
 #define IDS_REGEX_MATCH 5129
 #define IDS_REGEX_NO_MATCH 5130
 
-// Names for screen readers. %1 stands for the name of the input before.
+// Names for screen readers. %1 is the name of the input before.
 #define IDS_NAME_BROWSE 5440
 #define IDS_NAME_EDIT_LIST 5441
 #define IDS_NAME_VALUE 5442

@@ -4,7 +4,7 @@
 #include "wizard/wizard_page.h"
 
 /// The category list on the left: one row per page; selecting a row shows its
-/// page. A page itself by its looks, but it holds no settings.
+/// page. It looks like a page but holds no settings.
 class CLeftPane : public CWizardPage
 {
     DECLARE_DYNAMIC(CLeftPane)

@@ -159,7 +159,7 @@ void CPageScroller::OnHScroll(UINT code, const CWnd*)
 
 void CPageScroller::OnVScroll(UINT code, const CWnd* sender)
 {
-    // Spin buttons tell their parent about presses by the vertical scroll message.
+    // Spin buttons report presses to their parent by the vertical scroll message.
     if (!AfxIsOfClass(AfxSafeHwnd(sender), UPDOWN_CLASSW))
         Request(SB_VERT, static_cast<ov::ScrollRequest>(code));
 }

@@ -346,7 +346,7 @@ void CPreferencesWizard::OnCancelCommand()
 
 void CPreferencesWizard::OnOK()
 {
-    // Enter in one of the read-only fields arrives as OK. No button stands for
+    // Enter in one of the read-only fields arrives as OK. No button exists for
     // it, and closing here would drop the edits without a question.
 }
 

@@ -251,7 +251,7 @@ LRESULT CWizardPage::OnPrintClient(WPARAM context, LPARAM)
 
 LRESULT CWizardPage::OnCtlColorStatic(WPARAM context, LPARAM control)
 {
-    // Labels and boxes stand on the page's colour, which need not be a dialog's.
+    // Labels and boxes have the page's colour as background, which may differ from a dialog's.
     if (TargetOf(CWnd::FromHandle(reinterpret_cast<HWND>(control))) != ov::KeyTarget::Other)
         return Default();
     ::SetTextColor(reinterpret_cast<HDC>(context), ::GetSysColor(COLOR_MENUTEXT));

@@ -55,10 +55,10 @@ class CWizardPage : public CResizableDlg
     /// The dialog that the page's window sits in; none while there is no window.
     virtual CPreferencesWizard* GetParentWizard() const;
 
-    /// Lets the person choose a folder into `text`.
+    /// Lets the user choose a folder into `text`.
     virtual void BrowseFolder(ov::Text& text);
 
-    /// Lets the person choose a file into `text`, or, for a list, edit its
+    /// Lets the user choose a file into `text`, or, for a list, edit its
     /// entries with browsing on.
     virtual void BrowseFileOrList(ov::Text& text, bool list);
 

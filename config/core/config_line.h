@@ -87,7 +87,7 @@ inline ConfigLine ParseConfigLine(std::string_view line)
     return parts;
 }
 
-/// True when the value of a line stands in quotes: its first and its last character are quotes, which
+/// True when the value of a line is quoted: its first and its last character are quotes, which
 /// may be the same one.
 inline bool IsQuoted(std::string_view value)
 {

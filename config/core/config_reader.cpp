@@ -13,7 +13,7 @@ namespace ov
 namespace
 {
 
-// What stands between the items of a list.
+// The separator of list items.
 constexpr CompactView kSeparator = CompactView::OfBytes(";");
 
 // The kind of two values joined without a separator, when the first has the given kind.
@@ -98,7 +98,7 @@ class ConfigReader
 
     bool ForCurrent() const { return m_table == kCurrentTable; }
 
-    // A quoted value loses its quotes and what follows a "#"; any other is taken as it stands. It is
+    // A quoted value loses its quotes and what follows a "#"; any other value is taken unchanged. It is
     // decoded before: the bytes on both sides of a quote are never one character.
     CompactView ValueOf(std::string_view bytes)
     {

@@ -11,7 +11,7 @@
 namespace ov
 {
 
-/// What the header of a written file tells about the save.
+/// What the header of a written file records about the save.
 struct HeaderInfo {
     Text date; ///< As FormatSaveDate gives it.
     Text user;

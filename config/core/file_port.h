@@ -10,7 +10,7 @@
 namespace ov
 {
 
-/// What became of a file operation.
+/// The result of a file operation.
 struct FileResult {
     bool ok = true;
     Text systemText; ///< The system's words for a failure, without a line end; may be empty.
@@ -21,7 +21,7 @@ struct FileResult {
 /// An open file, in the port's own meaning.
 using FileHandle = std::intptr_t;
 
-/// What stands under a path.
+/// What a path leads to.
 enum class FileKind {
     Absent,
     File,
@@ -37,13 +37,13 @@ enum class CreateMode {
 };
 
 /// The file system as reading and saving need it. Every operation reports failure by its result;
-/// none shows anything, and none throws but for want of memory. Paths are in the system's notation.
+/// none shows anything, and none throws except std::bad_alloc. Paths are in the system's notation.
 class FilePort
 {
   public:
     virtual ~FilePort() = default;
 
-    /// What stands under the path.
+    /// What the path leads to.
     virtual FileKind Kind(const Text& path) = 0;
 
     /// The full path of what a symbolic link leads to, which need not be there; empty when the path
@@ -72,10 +72,10 @@ class FilePort
     /// Has the written bytes put on the disk.
     virtual FileResult Flush(FileHandle file) = 0;
 
-    /// Closes the file, also when it reports a failure.
+    /// Closes the file, even when it reports a failure.
     virtual FileResult Close(FileHandle file) = 0;
 
-    /// Renames a file. Never replaces what stands under the new name: that is a failure.
+    /// Renames a file. Never replaces an existing file: that is a failure.
     virtual FileResult Rename(const Text& from, const Text& to) = 0;
 
     /// Deletes a file, also a read-only one.

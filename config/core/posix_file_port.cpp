@@ -44,7 +44,7 @@ int OpenExisting(const char* name, int access)
     return -1;
 }
 
-// Opens a file for writing and tells whether it was not there before.
+// Opens a file for writing and reports whether it is new.
 int OpenForWriting(const char* name, CreateMode mode, bool& created)
 {
     created = false;

@@ -72,10 +72,10 @@ enum class OldContent {
     Lost,            ///< No backup could be made, the write failed, and putting it back did too.
 };
 
-/// What came of a save.
+/// The result of a save.
 struct SaveResult {
     SaveOutcome outcome = SaveOutcome::Saved;
-    OldContent oldContent = OldContent::NoneBefore; ///< Only of meaning when the save failed.
+    OldContent oldContent = OldContent::NoneBefore; ///< Meaningful only when the save failed.
     Text systemText{};                              ///< The system's words; empty when it ran out of memory.
     Text backupPath{};     ///< The name that the old content got; empty when none was to be made.
     Text keptPath{};       ///< Saved: where replaced content is kept that no question announced.

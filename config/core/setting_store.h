@@ -36,7 +36,7 @@ class SettingStore
     /// value set the modified mark; a changed kind alone does not.
     void SetSetting(TextView name, TextView value, std::int32_t kind, TextView comment, int table);
 
-    /// The variable's record, nothing when it is absent. Its texts stand until the next change.
+    /// The variable's record, nothing when it is absent. Its texts are valid until the next change.
     std::optional<SettingRecord> FindSetting(CompactView name, int table) const;
 
     /// Puts a whole new table in the place of the selected one. As emptying the table, which

@@ -21,11 +21,11 @@ enum SettingKind : std::int32_t {
     SettingKindReal = 5,    ///< A number with a decimal point.
 };
 
-/// One configuration variable as a table holds it. The texts belong to the table and stand
+/// One configuration variable as a table holds it. The texts belong to the table and are valid
 /// until the variable is changed or the table is cleared.
 struct SettingRecord {
     CompactView name;
-    CompactView value;   ///< After the file's operators were applied; list items stand between ";".
+    CompactView value;   ///< After the file's operators were applied; list items are separated by ";".
     CompactView comment; ///< The lines above the variable, each ended by "\n"; may be empty.
     std::int32_t kind;
 };

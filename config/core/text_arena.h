@@ -24,7 +24,7 @@ class TextArena
         return *this;
     }
 
-    /// Room for so many bytes, not initialised and on an even address; stands until the arena is
+    /// Room for so many bytes, not initialised and on an even address; valid until the arena is
     /// destroyed.
     char* Allocate(std::size_t bytes);
 

@@ -30,7 +30,7 @@ class LineSplitter
 {
   public:
     /// Calls `line`, a function of a std::string_view, for each line that the block completes,
-    /// without its line end. The line stands during the call.
+    /// without its line end. The line is valid during the call.
     template <typename LineFunction>
     void Feed(std::string_view block, const LineFunction& line)
     {
@@ -71,7 +71,7 @@ FileResult ReadBlocks(FilePort& files, const Text& path, const std::function<voi
 /// the file cannot be opened or read, `lines` is left as it was and the result says why.
 FileResult ReadLines(FilePort& files, const Text& path, std::vector<Text>& lines);
 
-/// Appends bytes with every LF as CR LF, as they stand on the disk.
+/// Appends bytes with every LF as CR LF, as on disk.
 void AppendWithLineEnds(std::string_view bytes, std::string& out);
 
 /// Creates the file, emptying one that exists, and writes each text followed by a line end, by the

@@ -24,7 +24,7 @@ struct ControlToName {
     ControlRole role;
     Text caption;
     /// What it is to be called in place of what is found here. "%1" in it
-    /// stands for the name of the input before it.
+    /// is replaced by the name of the input before it.
     Text given;
 };
 

@@ -43,7 +43,7 @@ std::vector<TooltipPart> SplitTooltip(TextView text)
         if (TakeSection(text, section, position, parts) && parts.back().text.empty())
             parts.pop_back();
     }
-    // Each kind has a position of its own: a description that stands before the
+    // Each kind has a position of its own: a description before the
     // first sub-heading would be passed over otherwise.
     std::size_t subHeading = 0;
     std::size_t description = 0;

@@ -13,7 +13,7 @@ namespace ov
 
 /// One piece of a help text, as the tooltip window shows it.
 struct TooltipPart {
-    TooltipSection section = TooltipSection::Description; ///< tells font and colour
+    TooltipSection section = TooltipSection::Description; ///< decides font and colour
     TextView text;
     Size extent; ///< the text's size in its font, to be filled in by whoever has the fonts
 

@@ -34,7 +34,7 @@ std::size_t PositionNoCase(TextView haystack, TextView needle, std::size_t from)
     return from + static_cast<std::size_t>(found - rest.begin());
 }
 
-// Appends a text, in which qualifiers stand in pairs only, with one for each pair.
+// Appends a text that contains qualifiers in pairs only, with one for each pair.
 void AppendUndoubled(Text& token, TextView text, char16_t qualifier)
 {
     for (std::size_t i = 0; i < text.size(); ++i) {
@@ -135,7 +135,7 @@ class TokenReader
     std::size_t Scan(Text& token) const
     {
         bool inside = false;
-        std::size_t kept = 0; // What stands before the last closing qualifier is not trimmed.
+        std::size_t kept = 0; // Text before the last closing qualifier is not trimmed.
         std::size_t next = m_source.size();
         for (std::size_t i = m_start; i < m_end; ++i) {
             const char16_t c = m_source[i];

@@ -29,12 +29,12 @@ std::uint32_t ReplaceAll(char16_t* destination, const char16_t* source, const ch
 /// Each set is a text of characters and may be null: those skipped before the token, those trimmed
 /// from its end, those removed within it, those that end it and are consumed, those that end it
 /// and are left. `qualifier` points at the one quote character or is null: stops count for nothing
-/// between qualifiers, and a doubled qualifier stands for one.
+/// between qualifiers, and a doubled qualifier means one.
 std::size_t ExtractToken(char16_t* destination, const char16_t* source, const char16_t* leadingSkip,
                          const char16_t* trailingTrim, const char16_t* remove, const char16_t* consumedStops,
                          const char16_t* keptStops, const char16_t* qualifier, std::size_t capacity);
 
-/// As ExtractToken, into a text that grows as needed; a capacity of 0 stands for 512. The source
+/// As ExtractToken, into a text that grows as needed; a capacity of 0 means 512. The source
 /// may hold NUL characters. Throws std::bad_alloc when memory runs out: its callers must not take a
 /// part of a list for the whole.
 std::size_t ExtractTokenString(Text& token, TextView source, const char16_t* leadingSkip,

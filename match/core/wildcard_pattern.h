@@ -60,7 +60,7 @@ struct PatternElement {
     Kind kind = Kind::Literal;
     bool negates = false;   ///< From here on all classes and lists are negated.
     char16_t character = 0; ///< Literal: as it is compared.
-    std::size_t begin = 0;  ///< Where it stands in the template.
+    std::size_t begin = 0;  ///< Its position in the pattern.
     TextView content{};     ///< Class and List: between the brackets; points into the template.
 };
 

@@ -212,7 +212,7 @@ class WildcardTable
         }
     }
 
-    // How many characters stand before each element: outside these bounds its row is of no interest.
+    // How many characters precede each element: outside these bounds its row is of no interest.
     void MeasureBefore(Start start)
     {
         Lengths before{0, start == Start::AtFront ? 0 : kUnbounded};
@@ -261,7 +261,7 @@ class WildcardTable
     }
 
     // Which places fit from element `i` on, within a walk that has met a "[^" or has not. What
-    // stands behind the element is in m_next.
+    // follows the element is in m_next.
     void FillRow(std::size_t i, bool negated)
     {
         const PatternElement& element = m_elements[i];

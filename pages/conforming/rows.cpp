@@ -41,7 +41,7 @@ constexpr LayoutRow layout[] = {
 };
 
 // A refusal takes the keyboard focus away altogether: this page has always
-// handed it to an edit that stands for no control.
+// handed it to an edit without a control.
 constexpr BrowseRow browses[] = {
     BrowseList(IDC_CONFORMING_IGNORED_LEVELS_BROWSE, u"_ORTHOVAL_CHECK_IGNORED_LEVELS", u',', kFocusRemoved),
 };

@@ -178,7 +178,7 @@ inline constexpr std::uint32_t kTopRight = LayoutKeepTop | LayoutAnchorRight;
 inline constexpr std::uint32_t kStretched = LayoutKeepTop | LayoutStretchWidth;
 
 /// The entries of a drop-down list, in order, as string ids. Where the template
-/// gives the list the style of sorting, they stand in the sorted order.
+/// gives the list the style of sorting, they are in the sorted order.
 struct EntriesRow {
     int controlId;
     std::span<const unsigned> stringIds;
@@ -310,7 +310,7 @@ struct RangeRow {
 };
 
 /// A page as data. The hooks are for what rows cannot say; they see values and
-/// no window, and stand beside the rows.
+/// no window, and are defined beside the rows.
 struct PageRows {
     PageInfo info;
     std::span<const SettingRow> settings; ///< in the order of loading and saving
@@ -334,7 +334,7 @@ struct PageRows {
 
     /// When a control that dependencies name has changed, after a load, and
     /// whenever the page is shown; the dependencies apply afterwards. Returns
-    /// whether the controls are to show the values anew.
+    /// whether the controls must show the values again.
     bool (*refresh)(PageValues& values) = nullptr;
 
     /// Before the settings are written: works them out from the companions.

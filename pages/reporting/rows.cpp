@@ -99,7 +99,7 @@ constexpr DependencyRow dependencies[] = {
 };
 
 // A refusal takes the keyboard focus away altogether: this page has always
-// handed it to an edit that stands for no control.
+// handed it to an edit without a control.
 constexpr BrowseRow browses[] = {
     BrowseFiles(IDC_REPORTING_IGNORED_BROWSE, u"_ORTHOVAL_REPORT_IGNORED_REFFILES", kFocusRemoved),
 };

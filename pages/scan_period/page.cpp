@@ -69,7 +69,7 @@ void CPageScanPeriod::UpdateScanPeriodControls()
 BOOL CPageScanPeriod::OnCmdMsg(UINT id, int code, NMHDR* notify, LRESULT* result)
 {
     const BOOL handled = CSettingsPage::OnCmdMsg(id, code, notify, result);
-    // From here on the fixed period is what the person says.
+    // From here on the user's input decides the fixed period.
     if (handled && id != IDC_SCAN_PERIOD_ALLOW_USER)
         Values().HoldBack(ov::kScanPeriodVariable, false);
     return handled;

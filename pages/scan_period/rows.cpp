@@ -13,7 +13,7 @@ namespace
 {
 constexpr char16_t kOlderVariable[] = u"_ORTHOVAL_SCANPERIOD_VALUE";
 
-// What stands in for a date that is not one.
+// The replacement for an impossible date.
 constexpr ScanDate kFirstDate = {1, 8, 2007};
 constexpr ScanDate kSecondDate = {6, 5, 2016};
 
@@ -197,7 +197,7 @@ void TakePeriod(PageValues& values, const SettingStore& store, int table)
         values.HoldBack(kScanPeriodVariable, false);
         return;
     }
-    // The rest stays at hand for the person who defines a new period.
+    // The rest is kept for a user who defines a new period.
     period.dateOneActive = false;
     if (!CanShow(period.dateOne))
         period.dateOne = kFirstDate;

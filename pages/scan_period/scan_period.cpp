@@ -64,7 +64,7 @@ class NumberTokens
     TextView m_rest;
 };
 
-// The older form told the day itself from the time before and after it; here both are one.
+// The older form distinguished the day from the time before and after it; this form does not.
 void SelectByCode(int code, ScanPeriod& period)
 {
     switch (code) {

@@ -53,7 +53,7 @@ void ParseScanPeriod(TextView settings, const ScanDate& today, ScanPeriod& perio
 Text FormatScanPeriod(const ScanPeriod& period);
 
 /// Whether the page takes the date: a day of 1 to 31 and a month of 1 to 12 from 1970 on, or 31
-/// December 1969, which is where the clock stands at its start in the west. Days that a month
+/// December 1969, which is the clock's start in western time zones. Days that a month
 /// does not have are left to the calendar.
 bool IsScanDate(const ScanDate& date);
 

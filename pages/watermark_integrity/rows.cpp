@@ -59,7 +59,7 @@ constexpr EntriesRow entries[] = {
 };
 
 // A refusal of the levels takes the keyboard focus away altogether: this page
-// has always handed it to an edit that stands for no control.
+// has always handed it to an edit without a control.
 constexpr BrowseRow browses[] = {
     BrowseList(IDC_WATERMARK_INTEGRITY_CELLS_BROWSE, u"_ORTHOVAL_WATERMARK_CELL_EXCLUSIONS", u',',
                IDC_WATERMARK_INTEGRITY_CELLS),

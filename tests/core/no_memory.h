@@ -3,7 +3,7 @@
 namespace ov::test
 {
 
-/// While it stands, this thread gets no memory from operator new.
+/// While it exists, this thread gets no memory from operator new.
 class NoMemory
 {
   public:

@@ -1,6 +1,6 @@
 // Lets every operation of a save fail, run out of memory and be the process's last, alone and in
 // pairs, in every situation that a save can meet. After every single operation a complete copy of
-// the file, old or new, must stand under the file's or the backup's name.
+// the file, old or new, must exist under the file's or the backup's name.
 
 #include "config/core/save.h"
 
@@ -206,7 +206,7 @@ class SaveFault : public testing::TestWithParam<Situation>
         GetParam().arrange(m_before);
     }
 
-    // Saves; after every operation a complete copy stands.
+    // Saves; after every operation a complete copy exists.
     void Save(Run& run)
     {
         run.port.end = [] { throw End(); };

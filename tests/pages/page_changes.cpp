@@ -21,7 +21,7 @@ std::vector<int> ButtonsOf(int firstButton, int pageId)
     return {};
 }
 
-/// The buttons that choose a preset: none, each preset, the person's own text.
+/// The buttons that choose a preset: none, each preset, the user's own text.
 std::vector<int> PresetButtonsOf(int edit)
 {
     return edit == 9373 ? std::vector<int>{9368, 9369, 9370, 9371, 9372}

@@ -26,7 +26,7 @@ const std::string kOld = "OLD = content\r\n";
 struct Situation {
     const char* name;
     const char* file;
-    const char* backup; ///< What stands beforehand under the backup's name, if anything.
+    const char* backup; ///< What exists beforehand under the backup's name, if anything.
     bool link = false;
 };
 

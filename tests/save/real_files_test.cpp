@@ -1,4 +1,4 @@
-// Saves on real file systems: full, read-only and guarded ones, and what else stands under a path.
+// Saves on real file systems: full, read-only and guarded ones, and what else a path may lead to.
 
 #include "tests/save/real_folder.h"
 #include "tests/save/step_file_port.h"

@@ -46,7 +46,7 @@ class WindowsSave : public testing::Test
     ov::SaveResult Save(ov::FilePort& port) { return Save(port, ReadBytes(path).value_or("")); }
     ov::SaveResult Save() { return Save(files); }
 
-    // What the person is told at the end.
+    // The message that the user gets at the end.
     static ov::Text Message(const ov::SaveResult& result)
     {
         return ov::SaveFailureText(result, [](unsigned id) { return ov::Text(ov::FindString(id)); });

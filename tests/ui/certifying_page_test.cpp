@@ -69,7 +69,7 @@ TEST_F(CertifyingPageTest, CheckingOnlyTheSecondBoxSavesTheMarkerCellAsOn)
               Saved("_ORTHOVAL_CERTIFY_CHECK_REFERENCE_MARKERCELLS"));
 }
 
-// The values are read and shown anew; the second box has the last word there too.
+// The values are read and shown again; the second box has the last word there too.
 TEST_F(CertifyingPageTest, EditorOfTheKeyinsTakesTheFirstBoxBack)
 {
     ASSERT_TRUE(OpenPage());

@@ -1,4 +1,4 @@
-/// What a saved configuration file has to look like, worked out anew.
+/// The expected content of a saved configuration file, computed independently.
 #pragma once
 
 #include <map>

@@ -81,7 +81,7 @@ class TabOrderTest : public DialogSession
         return passed;
     }
 
-    /// The control is where the person sees it, or its beginning is, if it is
+    /// The control is where the user sees it, or its beginning is, if it is
     /// wider than what the scroll bars leave of the page.
     void ExpectInView(HWND control)
     {

@@ -46,7 +46,7 @@ enum class ScrollRequest : std::uint32_t {
     ThumbTrack = 5,
 };
 
-/// The scroll steps that a wheel movement stands for.
+/// The scroll steps of a wheel movement.
 struct WheelSteps {
     ScrollRequest request = ScrollRequest::LineForward;
     std::uint64_t count = 0;
