@@ -12,7 +12,7 @@ HANDLE CurrentContext()
 {
     HANDLE context = nullptr;
     ::GetCurrentActCtx(&context);
-    // Only compared; whoever has activated it holds it.
+    // The handle is only compared; the code that activated the context keeps a reference.
     if (context != nullptr)
         ::ReleaseActCtx(context);
     return context;
@@ -23,14 +23,14 @@ void Activate(AFX_THREAD_STATE& thread, HANDLE context, const void* scope) noexc
     try {
         thread.activations.reserve(thread.activations.size() + 1);
     } catch (const std::bad_alloc&) {
-        return; // the controls look old then
+        return; // without the context the controls only look old-fashioned
     }
     ULONG_PTR cookie = 0;
     if (::ActivateActCtx(context, &cookie))
         thread.activations.push_back({context, cookie, scope});
 }
 
-/// Whether nothing lies above the last context that this thread has activated here.
+/// True if the last context that this thread activated here is the active one.
 bool IsLastOnTop(const AFX_THREAD_STATE& thread)
 {
     return !thread.activations.empty() && thread.activations.back().context == CurrentContext();
@@ -40,7 +40,7 @@ void DeactivateLast(AFX_THREAD_STATE& thread)
 {
     const AFX_ACTIVATION last = thread.activations.back();
     thread.activations.pop_back();
-    // Should a host have activated this very context above, the flag avoids the exception.
+    // The host may have activated this same context on top; the flag avoids the exception.
     ::DeactivateActCtx(DEACTIVATE_ACTCTX_FLAG_FORCE_EARLY_DEACTIVATION, last.cookie);
 }
 

@@ -4,11 +4,11 @@
 /// scope ends. Outside AFX_MANAGE_STATE, and for a module without a manifest, it
 /// does nothing.
 ///
-/// A host's code that runs meanwhile may activate a context of its own and leave
-/// it active. Deactivating a context below another one raises an exception, and
-/// taking the host's away would raise it in the host. So such a scope leaves its
-/// context where it is; the next scope that begins or ends after the host has
-/// deactivated its own removes it.
+/// Host code that runs meanwhile may activate a context of its own and leave it
+/// active. Deactivating a context that is not on top raises an exception, and
+/// deactivating the host's context would raise it in the host's call. Such a scope
+/// therefore leaves its context on the stack. The next scope that begins or ends
+/// after the host has deactivated its own context removes it.
 class CActivationScope
 {
   public:
@@ -18,9 +18,9 @@ class CActivationScope
     CActivationScope& operator=(const CActivationScope&) = delete;
 };
 
-/// Takes the context of the innermost CActivationScope away until this scope
-/// ends: for a message loop, which runs the host's code too. What the host
-/// activates in the loop then lies above its own contexts only.
+/// Deactivates the context of the innermost CActivationScope until this scope
+/// ends. Used for a message loop, which also runs host code. A context that the
+/// host activates in the loop is then on top of the host's contexts only.
 class CActivationPause
 {
   public:
@@ -30,6 +30,6 @@ class CActivationPause
     CActivationPause& operator=(const CActivationPause&) = delete;
 
   private:
-    const void* m_scope = nullptr; ///< whose context is to come back; null for none
+    const void* m_scope = nullptr; ///< the scope whose context is restored; null for none
     void* m_context = nullptr;
 };

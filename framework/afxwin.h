@@ -1,7 +1,7 @@
 #pragma once
 
-// All of the framework: a small layer over Win32 with MFC's names and
-// semantics, as far as the program uses them.
+// Includes the whole framework: a small layer over Win32 with MFC's names and
+// semantics, limited to what the program uses.
 #include "framework/application.h"
 #include "framework/command_target.h"
 #include "framework/controls.h"

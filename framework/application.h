@@ -6,16 +6,16 @@
 
 class CWnd;
 
-/// Takes a command line apart, one parameter after the other.
+/// Parses a command line, one parameter at a time.
 class CCommandLineInfo : public CObject
 {
   public:
-    /// Takes one parameter. `isFlag`: it began with "-" or "/", which has been
-    /// removed; `isLast`: none follows.
+    /// Handles one parameter. `isFlag`: it began with "-" or "/", which has been
+    /// removed. `isLast`: it is the last parameter.
     virtual void ParseParam(LPCWSTR parameter, BOOL isFlag, BOOL isLast) = 0;
 };
 
-/// The application object: there is one in a module, constructed when the
+/// The application object. A module has one, constructed when the
 /// module is loaded.
 class CWinApp : public CCmdTarget
 {
@@ -23,32 +23,32 @@ class CWinApp : public CCmdTarget
     CWinApp();
     ~CWinApp() override;
 
-    /// Called once before the module's first export does its work; FALSE means
-    /// that it failed and is to be called again the next time.
+    /// Called once, before the module's first export does its work. FALSE means
+    /// failure; the next export then calls it again.
     virtual BOOL InitInstance() { return TRUE; }
     /// Called when the module is unloaded, if InitInstance succeeded.
     virtual int ExitInstance() { return 0; }
 
-    /// What AfxMessageBox does, and so how an exception is reported. A program
-    /// overrides it to give its boxes a caption of its own.
+    /// Implements AfxMessageBox, and so also shows reported exceptions. A program
+    /// overrides it to give its message boxes a caption of its own.
     virtual int DoMessageBox(const ov::Text& text, UINT type);
 
-    /// An icon of the module; null when there is none. It needs no destroying.
+    /// Loads an icon of the module. Null if there is none. The caller must not destroy it.
     HICON LoadIcon(UINT id) const;
-    /// Names the company under whose registry key the program keeps its settings.
+    /// Sets the company name of the registry key under which the program keeps its settings.
     void SetRegistryKey(LPCWSTR key);
     const ov::Text& GetRegistryKey() const { return m_registryKey; }
 
-    CWnd* m_pMainWnd = nullptr; ///< cleared when its window is destroyed
+    CWnd* m_pMainWnd = nullptr; ///< set to null when its window is destroyed
 
   private:
     ov::Text m_registryKey;
 };
 
-/// The application object; null when the module has none.
+/// The application object. Null if the module has none.
 CWinApp* AfxGetApp();
-/// The application's main window; null when there is none.
+/// The application's main window. Null if there is none.
 CWnd* AfxGetMainWnd();
-/// Does nothing: the program's dialogs hold no ActiveX controls. It stays in
-/// InitInstance as the place where a container would be switched on.
+/// Does nothing, because the program's dialogs have no ActiveX controls. InitInstance
+/// still calls it; an ActiveX container would be enabled here.
 void AfxEnableControlContainer();

@@ -4,8 +4,8 @@
 
 #include <objbase.h>
 
-// S_FALSE, for a thread that was set up so before, counts as an entry and is to be
-// paid back too; RPC_E_CHANGED_MODE does not, and the host's choice is good enough.
+// S_FALSE means that the thread was already initialised in this way; it needs a matching
+// CoUninitialize too. RPC_E_CHANGED_MODE does not: the apartment that the host chose is used.
 CComApartment::CComApartment()
     : m_entered(SUCCEEDED(::CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED | COINIT_DISABLE_OLE1DDE)))
 {

@@ -1,8 +1,8 @@
 #pragma once
 
-/// Makes the calling thread one that may use COM, apartment-threaded as the
-/// shell's windows want it, until the scope ends. A thread that already is set up
-/// otherwise stays so.
+/// Initialises COM on the calling thread until the scope ends, in a single-threaded
+/// apartment as the shell's windows require. A thread that is already in another
+/// apartment stays in it.
 class CComApartment
 {
   public:

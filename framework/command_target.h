@@ -4,36 +4,36 @@
 
 class CCmdTarget;
 
-/// What a message-map handler is called with; a thunk picks what it needs.
+/// The arguments of a message-map handler. A thunk passes on those that the handler takes.
 struct AFX_HANDLER_CALL {
     WPARAM wParam = 0;
     LPARAM lParam = 0;
     UINT id = 0;             ///< commands and notifications: the control's id
-    NMHDR* header = nullptr; ///< notifications only
-    LRESULT result = 0;      ///< what the message returns
-    bool handled = true;     ///< cleared by a handler that leaves the message to the default
+    NMHDR* header = nullptr; ///< notifications only, otherwise null
+    LRESULT result = 0;      ///< the return value of the message
+    bool handled = true;     ///< a handler sets it to false to request the default handling
 };
 
-/// Calls the handler of an entry on an object of the map's class.
+/// Calls an entry's handler on an object of the map's class.
 using AFX_HANDLER = void (*)(CCmdTarget& target, AFX_HANDLER_CALL& call);
 
 /// A row of a message map.
 struct AFX_MSGMAP_ENTRY {
-    UINT message; ///< the window message; WM_COMMAND or WM_NOTIFY for those
+    UINT message; ///< the window message; WM_COMMAND and WM_NOTIFY for commands and notifications
     UINT code;    ///< notification code, 0 for commands and plain messages
-    UINT firstId; ///< control ids from firstId to lastId, both included
+    UINT firstId; ///< the range of control ids from firstId to lastId, both included
     UINT lastId;
-    AFX_HANDLER handler; ///< null ends the map
+    AFX_HANDLER handler; ///< null in the entry that ends the map
 };
 
-/// A class's message map and the way to its base class's.
+/// A class's message map, with the function that returns the base class's map.
 struct AFX_MSGMAP {
-    const AFX_MSGMAP* (*baseMap)(); ///< null at the root
+    const AFX_MSGMAP* (*baseMap)(); ///< null in the root class
     const AFX_MSGMAP_ENTRY* entries;
 };
 
-/// The code under which a command from a menu or an accelerator is routed; the
-/// same number as BN_CLICKED, so a command entry catches buttons too.
+/// The notification code of a command from a menu or an accelerator. It has the
+/// same value as BN_CLICKED, so a command entry handles buttons too.
 constexpr int CN_COMMAND = 0;
 
 /// A class whose objects handle messages through a message map.
@@ -41,10 +41,10 @@ class CCmdTarget : public CObject
 {
     DECLARE_DYNAMIC(CCmdTarget)
 
-    /// Hands a command (WM_COMMAND code) or a notification to the handler in
-    /// the map; false when there is none. For a notification `code` is its code,
-    /// `notify` its header and `result` takes what is returned to the control;
-    /// both are null for a command.
+    /// Passes a command (WM_COMMAND code) or a notification to its handler in the
+    /// map. FALSE if there is none. For a notification `code` is its code, `notify`
+    /// its header, and `result` receives the value returned to the control; both
+    /// pointers are null for a command.
     virtual BOOL OnCmdMsg(UINT id, int code, NMHDR* notify, LRESULT* result);
 
   protected:
@@ -52,6 +52,6 @@ class CCmdTarget : public CObject
     static const AFX_MSGMAP* GetThisMessageMap();
     virtual const AFX_MSGMAP* GetMessageMap() const;
 
-    /// The entry for a message in this class's map or the nearest base's.
+    /// The entry for a message in this class's map, or in the nearest base class that has one.
     const AFX_MSGMAP_ENTRY* FindMessageEntry(UINT message, UINT code, UINT id) const;
 };

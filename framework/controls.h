@@ -2,21 +2,21 @@
 
 #include "framework/window.h"
 
-// The controls of dialogs. The wrappers are thin: each operation is the message
-// of the same name.
+// Wrappers for dialog controls. They are thin: each operation sends the message
+// with the same name.
 
 class CButton : public CWnd
 {
     DECLARE_DYNAMIC(CButton)
-    /// Shows an icon in place of the caption.
+    /// Shows an icon instead of the caption.
     HICON SetIcon(HICON icon);
 };
 
 class CEdit : public CWnd
 {
     DECLARE_DYNAMIC(CEdit)
-    /// How many characters a person may type; 0 for as many as the control can
-    /// hold. On its own account it takes some 30,000.
+    /// Sets the most characters that the user can type; 0 for as many as the control
+    /// can hold. The default of an edit control is about 30,000.
     void SetLimitText(UINT count = 0);
 };
 
@@ -29,7 +29,7 @@ class CScrollBar : public CWnd
 class CSpinButtonCtrl : public CWnd
 {
     DECLARE_DYNAMIC(CSpinButtonCtrl)
-    /// With the message of 16 bits, for bounds from UD_MINVAL to UD_MAXVAL.
+    /// Uses the message for 16-bit bounds; they range from UD_MINVAL to UD_MAXVAL.
     void SetRange(short lower, short upper);
     void SetRange32(int lower, int upper);
     BOOL SetAccel(int count, UDACCEL* steps);

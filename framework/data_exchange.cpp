@@ -11,7 +11,7 @@
 
 namespace
 {
-/// Locks a window's notifications out for its life.
+/// Suppresses the handling of a window's notifications while it exists.
 class CExchangeLock
 {
   public:
@@ -33,7 +33,7 @@ ov::Text TextOf(HWND control)
     return window.GetWindowText();
 }
 
-// Setting an equal text would lose the caret and flicker.
+// Setting an equal text would move the caret and flicker.
 void SetTextOf(HWND control, const ov::Text& text)
 {
     if (TextOf(control) != text)
@@ -106,8 +106,8 @@ void DDX_Text(CDataExchange* exchange, int id, ov::Text& text)
         SetTextOf(control, text);
 }
 
-// What a control shows already is not set again: it would be drawn again, and of
-// radio buttons each would look through the whole group.
+// A state that the control already shows is not set again: setting it redraws the
+// control, and each radio button would also search its whole group.
 void DDX_Check(CDataExchange* exchange, int id, int& value)
 {
     const HWND control = exchange->PrepareCtrl(id);
@@ -126,7 +126,7 @@ void DDX_Radio(CDataExchange* exchange, int id, int& value)
     for (auto control = std::ranges::find(siblings, first); control != siblings.end(); ++control) {
         if (*control != first && (::GetWindowLongPtrW(*control, GWL_STYLE) & WS_GROUP) != 0)
             break;
-        // Other controls may be inside the group; they are not counted.
+        // The group may contain other controls; they are not counted.
         if (IsRadioButton(*control))
             buttons.push_back(*control);
     }
@@ -144,7 +144,7 @@ void DDX_Radio(CDataExchange* exchange, int id, int& value)
         value = chosen;
         return;
     }
-    // Nothing chosen is set all the same: which button Tab stops at depends on it.
+    // "None checked" is set even so, because it decides at which button Tab stops.
     if (chosen == value && chosenCount == 1)
         return;
     for (int index = 0; index < count; ++index)
@@ -159,7 +159,7 @@ void DDX_CBIndex(CDataExchange* exchange, int id, int& index)
         index = static_cast<int>(::SendMessageW(control, CB_GETCURSEL, 0, 0));
         return;
     }
-    // Asked for an entry that it does not have, a box may keep its selection.
+    // A combo box may keep its selection when asked for an entry that it does not have.
     const auto count = static_cast<int>(::SendMessageW(control, CB_GETCOUNT, 0, 0));
     const int selected = index >= 0 && index < count ? index : -1;
     ::SendMessageW(control, CB_SETCURSEL, static_cast<WPARAM>(selected), 0);

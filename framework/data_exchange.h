@@ -3,7 +3,7 @@
 #include "base/text.h"
 #include "framework/window.h"
 
-/// One run of DoDataExchange: its direction, and the control that failed.
+/// One call of DoDataExchange: its direction, and the control that failed.
 class CDataExchange
 {
   public:
@@ -12,12 +12,12 @@ class CDataExchange
     BOOL m_bSaveAndValidate; ///< TRUE: from the controls into the members
     CWnd* m_pDlgWnd;         ///< the window that holds the controls
 
-    /// The control; throws std::runtime_error when the window has none of this id.
+    /// Returns the control. Throws std::runtime_error if the window has none with this id.
     HWND PrepareCtrl(int id);
-    /// The same for an edit, whose text Fail will select.
+    /// The same for an edit control; Fail selects its text.
     HWND PrepareEditCtrl(int id);
-    /// Refuses a value after the user has seen a message: the control last
-    /// prepared gets the focus and the exchange ends; UpdateData returns FALSE.
+    /// Rejects a value after the user has seen a message: the control prepared last
+    /// gets the focus and the exchange ends. UpdateData returns FALSE.
     [[noreturn]] void Fail();
 
   private:
@@ -25,15 +25,15 @@ class CDataExchange
     bool m_lastIsEdit = false;
 };
 
-/// Binds the object to its control, once.
+/// Attaches the object to its control, once.
 void DDX_Control(CDataExchange* exchange, int id, CWnd& control);
 /// A text of any length.
 void DDX_Text(CDataExchange* exchange, int id, ov::Text& text);
 /// A check box: BST_UNCHECKED, BST_CHECKED or BST_INDETERMINATE.
 void DDX_Check(CDataExchange* exchange, int id, int& value);
-/// The index of the checked button in the group that the given first button (the
-/// one with WS_GROUP) begins; -1 when none is.
+/// The index of the checked button in the group that begins with the given button
+/// (the one with WS_GROUP); -1 if none is checked.
 void DDX_Radio(CDataExchange* exchange, int id, int& value);
 /// The index of the selected entry of a combo box; -1 for none, and for an index
-/// that the box does not have.
+/// out of range.
 void DDX_CBIndex(CDataExchange* exchange, int id, int& index);

@@ -5,34 +5,34 @@
 
 class CWnd;
 
-/// A drawing context. It deletes the context that it owns; CPaintDC and
-/// CClientDC give theirs back instead.
+/// A device context. The destructor deletes a context that the object owns; CPaintDC
+/// and CClientDC release theirs instead.
 class CDC : public CObject
 {
     DECLARE_DYNAMIC(CDC)
     CDC() = default;
     ~CDC() override;
 
-    /// A context object for a handle; it owns nothing and lives until the next
-    /// idle time.
+    /// A context object for a handle. It does not own the handle and lives until the
+    /// next idle time.
     static CDC* FromHandle(HDC context);
     HDC GetSafeHdc() const { return m_hDC; }
     operator HDC() const { return m_hDC; }
     BOOL Attach(HDC context);
     HDC Detach();
 
-    /// A context that draws into memory like the given one; null is the screen.
+    /// Creates a memory context compatible with the given one; null for the screen.
     BOOL CreateCompatibleDC(CDC* context);
     BOOL DeleteDC();
     BOOL IsPrinting() const { return ::GetDeviceCaps(m_hDC, TECHNOLOGY) == DT_RASPRINTER; }
 
-    /// Selects the font; the one that was selected before, null when that failed.
+    /// Selects the font. Returns the one that was selected before, or null on failure.
     CFont* SelectObject(CFont* font);
     COLORREF SetTextColor(COLORREF colour) { return ::SetTextColor(m_hDC, colour); }
     int SetBkMode(int mode) { return ::SetBkMode(m_hDC, mode); }
     CPoint SetWindowOrg(int x, int y);
 
-    /// Draws or, with DT_CALCRECT, measures into the rectangle; the text's height.
+    /// Draws into the rectangle or, with DT_CALCRECT, measures. Returns the text's height.
     int DrawText(ov::TextView text, LPRECT rectangle, UINT format);
 
     void FillSolidRect(LPCRECT rectangle, COLORREF colour);
@@ -42,7 +42,7 @@ class CDC : public CObject
         return ::DrawEdge(m_hDC, rectangle, edge, flags);
     }
     BOOL FillRgn(CRgn* region, CBrush* brush) { return ::FillRgn(m_hDC, *region, *brush); }
-    /// Draws the region's border, inside of it.
+    /// Draws a border along the inside of the region.
     BOOL FrameRgn(CRgn* region, CBrush* brush, int width, int height)
     {
         return ::FrameRgn(m_hDC, *region, *brush, width, height);
@@ -53,7 +53,7 @@ class CDC : public CObject
     HDC m_hDC = nullptr;
 };
 
-/// Paints a window while WM_PAINT is handled.
+/// Paints a window during WM_PAINT.
 class CPaintDC : public CDC
 {
   public:

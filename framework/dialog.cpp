@@ -26,8 +26,8 @@ END_MESSAGE_MAP()
 
 namespace
 {
-// All messages reach the object through its window procedure; the system's
-// dialog procedure only has to exist, else WM_INITDIALOG is not sent at all.
+// All messages reach the object through its window procedure. The system's dialog
+// procedure must exist all the same, because WM_INITDIALOG is not sent without it.
 INT_PTR CALLBACK AfxDlgProc(HWND, UINT message, WPARAM, LPARAM)
 {
     return message == WM_INITDIALOG;
@@ -38,7 +38,7 @@ bool IsMultiLineEdit(HWND window)
     return AfxIsOfClass(window, WC_EDITW) && (::GetWindowLongPtrW(window, GWL_STYLE) & ES_MULTILINE) != 0;
 }
 
-/// Whether the second parameter of a WM_COMMAND is a push button, or null as in a command.
+/// True if a WM_COMMAND comes from a push button or, with a null parameter, from a command.
 bool IsCommandSource(LPARAM control)
 {
     constexpr LRESULT pushButton = DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON;
@@ -51,14 +51,14 @@ CDialog::CDialog(UINT templateId, CWnd* parent) : m_nIDTemplate(templateId), m_p
 
 CDialog::~CDialog()
 {
-    // While the object still is a dialog, for its children's notifications.
+    // Now, while the object is still a CDialog, because its children send notifications.
     if (m_hWnd != nullptr)
         CDialog::DestroyWindow();
 }
 
 bool CDialog::CreateWindowFromTemplate(UINT templateId, HWND parent)
 {
-    // From here on EndDialog has something to end, though the loop is yet to run.
+    // From here on EndDialog takes effect, although the modal loop has not started yet.
     m_continueModal = true;
     m_nModalResult = -1;
     bool bound = false;
@@ -92,7 +92,7 @@ INT_PTR CDialog::DoModal()
             return *answer;
     }
     {
-        // Reset on every way out, the object may be run again.
+        // Reset on every return path, because the object may be run again.
         const CRestoreValue modal(m_modal, true);
         CModalOwner owner(AfxGetModalOwner(AfxSafeHwnd(m_pParentWnd)));
         if (CreateWindowFromTemplate(m_nIDTemplate, owner.GetHandle())) {
@@ -108,7 +108,7 @@ INT_PTR CDialog::DoModal()
 void CDialog::EndDialog(int result)
 {
     EndModalLoop(result);
-    // A modal dialog must stay until its owner is enabled again: hidden earlier,
+    // A modal dialog must stay visible until its owner is enabled again. Hidden earlier,
     // it would make the system activate another program's window.
     if (!m_modal)
         ::EndDialog(m_hWnd, result);
@@ -116,13 +116,13 @@ void CDialog::EndDialog(int result)
 
 LRESULT CDialog::HandleInitDialog(WPARAM, LPARAM)
 {
-    // Not through the system's dialog procedure, whose frames an exception of
-    // OnInitDialog must not pass.
+    // Not from the system's dialog procedure: an exception from OnInitDialog must not
+    // unwind through the system's stack frames.
     try {
         return Initialise();
     } catch (...) {
-        // Half prepared it must not be worked with: saving, say, what it has not
-        // read would destroy the file.
+        // A half-initialised dialog must not be used: saving values that it has not read
+        // would destroy the file.
         AfxReportCurrentException();
         if (m_hWnd != nullptr)
             EndDialog(-1);
@@ -139,7 +139,7 @@ BOOL CDialog::Initialise()
     if (m_hWnd != nullptr && m_continueModal && (GetStyle() & WS_CHILD) == 0 &&
         AfxIsTemplateWithoutPlace(m_nIDTemplate)) {
         GetWindowRect(after);
-        // Unless the dialog has found itself a place.
+        // Skipped if the dialog has positioned itself.
         if (before.TopLeft() == after.TopLeft())
             CenterWindow();
     }
@@ -162,7 +162,7 @@ HWND CDialog::FocusAfterLosing(HWND lost) const
 
 LRESULT CDialog::OnFocusRestored(WPARAM, LPARAM)
 {
-    // The system gives the focus back to the control that had it, whatever has become of it.
+    // The system restores the focus to the control that had it, even if that is now hidden or disabled.
     const LRESULT result = Default();
     AfxRepairFocus(m_hWnd);
     return result;
@@ -170,7 +170,7 @@ LRESULT CDialog::OnFocusRestored(WPARAM, LPARAM)
 
 LRESULT CDialog::OnNextDlgCtl(WPARAM wParam, LPARAM lParam)
 {
-    // With lParam 0 the system searches from the focus on, else wParam is the control.
+    // With lParam 0 the system searches from the focus onward; otherwise wParam is the control.
     AfxRepairFocus(m_hWnd);
     if (LOWORD(lParam) != 0 && wParam != 0 && !AfxCanHoldFocus(reinterpret_cast<HWND>(wParam)))
         return 0;
@@ -188,7 +188,7 @@ bool CDialog::YieldToModalWindow() const
 
 BOOL CDialog::OnCommand(WPARAM wParam, LPARAM lParam)
 {
-    // The system keeps the user's input from a disabled window, but not what other programs send.
+    // The system withholds user input from a disabled window, but not messages from other programs.
     if (HIWORD(wParam) == BN_CLICKED && IsCommandSource(lParam) && YieldToModalWindow())
         return TRUE;
     return CWnd::OnCommand(wParam, lParam);
@@ -201,8 +201,8 @@ LRESULT CDialog::OnClose(WPARAM, LPARAM)
 
 LRESULT CDialog::OnSystemChange(WPARAM wParam, LPARAM lParam)
 {
-    // The system notifies only top-level windows of new colours and settings. It
-    // notifies every window of a new theme; opening the theme twice does no harm.
+    // The system sends changes of colours and settings to top-level windows only. It sends
+    // a theme change to every window; handling that twice does no harm.
     const UINT message = AfxGetThreadState().currentMessage.message;
     const LRESULT result = Default();
     if ((GetStyle() & WS_CHILD) == 0) {
@@ -232,12 +232,12 @@ BOOL CDialog::PreTranslateMessage(MSG* message)
 {
     if (CWnd::PreTranslateMessage(message))
         return TRUE;
-    // The messages of dialogs that this one owns come here too; only their own dialog may
-    // navigate by them.
+    // Messages of dialogs that this one owns arrive here too. Only their own dialog may use them
+    // for navigation.
     if (message->hwnd != m_hWnd && !::IsChild(m_hWnd, message->hwnd))
         return FALSE;
-    // A multi-line edit answers Escape by closing the dialog it lies in, which
-    // for one on a child dialog would be that child. Escape means the whole.
+    // A multi-line edit closes its dialog on Escape. On a child dialog it would close
+    // only that child; Escape has to close the outermost dialog.
     if (!IsChildPage() && message->message == WM_KEYDOWN && message->wParam == VK_ESCAPE &&
         IsMultiLineEdit(message->hwnd)) {
         const HWND cancel = ::GetDlgItem(m_hWnd, IDCANCEL);
@@ -251,10 +251,10 @@ BOOL CDialog::PreTranslateMessage(MSG* message)
 
 BOOL CDialog::PreTranslateInput(MSG* message)
 {
-    // A child dialog that is a control parent leaves the navigation to the
-    // dialog it sits in. Did it call IsDialogMessage itself, Tab would circle
-    // within the child and mnemonics would find only the child's controls; the
-    // outermost dialog's call sees the controls of all as one row.
+    // A child dialog that is a control parent leaves keyboard navigation to its outer
+    // dialog. If it called IsDialogMessage itself, Tab would cycle within the child
+    // and mnemonics would find only the child's controls. The call of the outermost
+    // dialog treats the controls of both as one sequence.
     if (IsChildPage())
         return FALSE;
     return CWnd::PreTranslateInput(message);

@@ -7,15 +7,15 @@
 
 namespace
 {
-// The beginning of an extended template as it lies in the resource, which no
-// Windows header declares.
+// The header of an extended dialog template as stored in the resource. No Windows
+// header declares it.
 constexpr WORD extendedSignature = 0xFFFF;
 constexpr std::size_t signatureOffset = 2;
 constexpr std::size_t extendedStyleOffset = 12;
 constexpr std::size_t extendedCountOffset = 16;
 constexpr std::size_t extendedPlaceOffset = 18;
 
-// In place of a text: the number in the next word stands for it.
+// Replaces a text: the next word holds an ordinal.
 constexpr WORD ordinalSignature = 0xFFFF;
 
 struct Place {
@@ -37,7 +37,7 @@ Value Read(const std::byte* from)
     return value;
 }
 
-/// Takes the parts of an extended template one after another.
+/// Reads the parts of an extended template in order.
 class TemplateReader
 {
   public:

@@ -5,17 +5,17 @@
 #include <optional>
 #include <vector>
 
-/// True when a dialog template of the module states no place: its position is
-/// 0, 0 and no style says where the dialog is to appear. Such a dialog is
-/// centred over its owner. False also when there is no such template.
+/// True if a dialog template of the module specifies no position: its origin is
+/// 0, 0 and no style determines where the dialog appears. Such a dialog is
+/// centred over its owner. Also false if the template does not exist.
 bool AfxIsTemplateWithoutPlace(UINT templateId);
 
-/// What a dialog template says of sizes and places, in dialog units.
+/// Sizes and positions in a dialog template, in dialog units.
 struct AFX_TEMPLATE_LAYOUT {
-    SIZE size;                  ///< of the dialog's client area
-    std::vector<RECT> controls; ///< in the order in which the system creates them
+    SIZE size;                  ///< the size of the dialog's client area
+    std::vector<RECT> controls; ///< the controls' rectangles, in the order of creation
 };
 
-/// Reads a dialog template of the module. None when there is no such template, or
-/// it is not of the extended form (DIALOGEX).
+/// Reads a dialog template of the module. Returns nothing if the template does not exist
+/// or is not in the extended form (DIALOGEX).
 std::optional<AFX_TEMPLATE_LAYOUT> AfxReadTemplateLayout(UINT templateId);

@@ -2,15 +2,15 @@
 
 #include <exception>
 
-/// Thrown to leave an operation after a message to the user, as
-/// CDataExchange::Fail does. Whoever catches it shows nothing.
+/// Thrown to abandon an operation after the user has seen a message, as
+/// CDataExchange::Fail does. The handler must not show another one.
 class CUserException : public std::exception
 {
   public:
     const char* what() const noexcept override { return "The operation was given up."; }
 };
 
-/// Shows the exception that is being handled in a message box (its what(), a
-/// general text when it has none; nothing for CUserException). To be called
-/// inside a catch clause. Lets no exception out.
+/// Shows the exception that is being handled in a message box: its what(), or a
+/// general text if it has none; nothing for CUserException. Call it only inside a
+/// catch clause. It throws nothing.
 void AfxReportCurrentException() noexcept;

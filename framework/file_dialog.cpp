@@ -6,10 +6,10 @@
 
 namespace
 {
-// The longest path that Windows knows, in characters.
+// The longest path in Windows, in characters.
 constexpr std::size_t longestPath = 32768;
 
-/// Puts the process's current directory back when the scope ends.
+/// Restores the current directory of the process when the scope ends.
 class CKeepDirectory
 {
   public:
@@ -53,7 +53,7 @@ INT_PTR CFileDialog::DoModal()
     }
     std::vector<wchar_t> path(longestPath);
     m_fileName.copy(reinterpret_cast<char16_t*>(path.data()), longestPath - 1);
-    // The system wants the parts of the filter zero-terminated, the list twice.
+    // The system expects the parts of the filter null-terminated and the list to end with two nulls.
     ov::Text filter = m_filter;
     std::replace(filter.begin(), filter.end(), u'|', u'\0');
     filter.push_back(u'\0');
@@ -61,8 +61,8 @@ INT_PTR CFileDialog::DoModal()
     m_ofn.lpstrDefExt = m_defaultExtension.empty() ? nullptr : Wide(m_defaultExtension);
     m_ofn.lpstrFile = path.data();
     m_ofn.nMaxFile = static_cast<DWORD>(path.size());
-    // The chooser makes the chosen file's folder the current directory, which
-    // belongs to the host and not to a dialog in it.
+    // The file chooser makes the chosen file's folder the current directory. That directory
+    // is the host's, and a dialog must not change it.
     const CKeepDirectory directory;
     const BOOL chosen = m_open ? ::GetOpenFileNameW(&m_ofn) : ::GetSaveFileNameW(&m_ofn);
     m_ofn.lpstrFilter = nullptr;

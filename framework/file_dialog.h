@@ -5,11 +5,11 @@
 
 #include <vector>
 
-/// The system's file chooser. The current directory stays as it is.
+/// The system's file chooser. It does not change the current directory.
 class CFileDialog
 {
   public:
-    /// `openFileDialog`: choose a file to open, else a name to save under.
+    /// `openFileDialog`: TRUE to choose a file to open, FALSE for a name to save under.
     /// `flags` are OFN_*; `filter` is "Text (*.x)|*.x||" or null.
     explicit CFileDialog(BOOL openFileDialog, LPCWSTR defaultExtension = nullptr, LPCWSTR fileName = nullptr,
                          DWORD flags = OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT, LPCWSTR filter = nullptr,
@@ -19,11 +19,11 @@ class CFileDialog
 
     /// IDOK or IDCANCEL.
     INT_PTR DoModal();
-    /// The full path that was chosen; empty before.
+    /// The chosen full path; empty before DoModal.
     const ov::Text& GetPathName() const { return m_path; }
 
-    /// For what the constructor does not take, the title above all. The texts it
-    /// points to must live as long as DoModal runs.
+    /// For options that the constructor does not take, such as the title. The texts
+    /// that it points to must outlive DoModal.
     OPENFILENAMEW m_ofn{};
 
   private:

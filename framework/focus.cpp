@@ -22,9 +22,9 @@ bool IsOrHolds(HWND window, HWND other)
 
 struct TabStops {
     HWND lost;
-    bool passed = false;   ///< `lost` lies behind
-    HWND before = nullptr; ///< the first one of all
-    HWND after = nullptr;  ///< the first one after `lost`
+    bool passed = false;   ///< `lost` has been visited
+    HWND before = nullptr; ///< the first tab stop before `lost`
+    HWND after = nullptr;  ///< the first tab stop after `lost`
 };
 
 void FindTabStops(HWND parent, TabStops& stops)
@@ -51,7 +51,7 @@ void MoveFocusFrom(HWND lost)
     CWnd* const object = CWnd::FromHandlePermanent(root);
     const auto* const dialog = DYNAMIC_DOWNCAST(CDialog, object);
     const HWND next = dialog != nullptr ? dialog->FocusAfterLosing(lost) : AfxNextTabStop(lost);
-    // As Tab does it, so that a button becomes the default one and a text is selected.
+    // As Tab does, so that a button becomes the default button and an edit's text is selected.
     if (next != nullptr && dialog != nullptr)
         ::SendMessageW(root, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(next), TRUE);
     else

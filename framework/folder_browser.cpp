@@ -31,7 +31,7 @@ INT_PTR CFolderBrowser::DoModal()
             return m_path.empty() ? IDCANCEL : IDOK;
         }
     }
-    // Before the item, so that it is freed while COM still is there.
+    // Declared before the item, so that the item is freed while COM is still initialised.
     const CComApartment apartment;
     wchar_t path[pathCapacity] = L"";
     BROWSEINFOW description{};

@@ -9,9 +9,9 @@ class CFolderBrowser
   public:
     explicit CFolderBrowser(const ov::Text& title, CWnd* owner = nullptr);
 
-    /// IDOK when a folder was chosen that has a path, else IDCANCEL.
+    /// IDOK if the user chose a folder that has a path, otherwise IDCANCEL.
     INT_PTR DoModal();
-    /// The path that was chosen; empty before.
+    /// The chosen path; empty before DoModal.
     const ov::Text& GetPathName() const { return m_path; }
 
   private:

@@ -5,19 +5,19 @@
 
 class CDC;
 
-/// Owns a drawing object; deletes it when destroyed. Objects that FromHandle
-/// gives belong to the framework, own nothing and live until the next idle time.
+/// Owns a GDI object and deletes it in the destructor. Objects returned by FromHandle
+/// belong to the framework, do not own their handle and live until the next idle time.
 class CGdiObject : public CObject
 {
     DECLARE_DYNAMIC(CGdiObject)
     ~CGdiObject() override;
 
     HGDIOBJ GetSafeHandle() const { return m_hObject; }
-    /// Takes ownership of a handle; false when it is null.
+    /// Takes ownership of a handle. FALSE if it is null.
     BOOL Attach(HGDIOBJ object);
-    /// Gives ownership away.
+    /// Releases ownership of the handle and returns it.
     HGDIOBJ Detach();
-    /// Deletes the drawing object; it must not be selected anywhere.
+    /// Deletes the GDI object, which must not be selected into a device context.
     BOOL DeleteObject();
 
     HGDIOBJ m_hObject = nullptr;
@@ -32,7 +32,7 @@ class CFont : public CGdiObject
     static CFont* FromHandle(HFONT font);
     operator HFONT() const { return static_cast<HFONT>(m_hObject); }
     BOOL CreateFontIndirect(const LOGFONTW* description);
-    /// Describes the font; false when there is none.
+    /// Gets the font's description. FALSE if there is no font.
     BOOL GetLogFont(LOGFONTW* description) const;
 };
 
@@ -56,6 +56,6 @@ class CRgn : public CGdiObject
     BOOL CreateRectRgnIndirect(LPCRECT rectangle);
     BOOL CreateRoundRectRgn(int left, int top, int right, int bottom, int ellipseWidth, int ellipseHeight);
     BOOL CreatePolygonRgn(const POINT* points, int count, int fillMode);
-    /// Makes this existing region the combination; the region type or ERROR.
+    /// Sets this existing region to the combination. Returns the region type or ERROR.
     int CombineRgn(const CRgn* first, const CRgn* second, int mode);
 };

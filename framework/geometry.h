@@ -2,7 +2,7 @@
 
 #include "framework/windows_api.h"
 
-/// An extent in pixels.
+/// A size in pixels.
 class CSize : public SIZE
 {
   public:
@@ -12,14 +12,14 @@ class CSize : public SIZE
     constexpr bool operator==(const CSize& other) const { return cx == other.cx && cy == other.cy; }
 };
 
-/// A place in pixels.
+/// A point in pixels.
 class CPoint : public POINT
 {
   public:
     constexpr CPoint() : POINT{0, 0} {}
     constexpr CPoint(int left, int top) : POINT{left, top} {}
     constexpr CPoint(POINT point) : POINT(point) {}
-    /// From the packed pair that mouse messages carry; coordinates may be negative.
+    /// From the packed coordinates of a mouse message; they may be negative.
     explicit CPoint(LPARAM packed)
         : POINT{static_cast<short>(LOWORD(packed)), static_cast<short>(HIWORD(packed))}
     {
@@ -27,8 +27,8 @@ class CPoint : public POINT
     constexpr bool operator==(const CPoint& other) const { return x == other.x && y == other.y; }
 };
 
-/// A rectangle in pixels; right and bottom lie outside. It converts to the
-/// pointers that Windows calls take.
+/// A rectangle in pixels; right and bottom are exclusive. Converts to the
+/// pointers that Windows functions take.
 class CRect : public RECT
 {
   public:

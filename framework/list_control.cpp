@@ -4,7 +4,7 @@ IMPLEMENT_DYNAMIC(CListCtrl, CWnd)
 
 namespace
 {
-// List views take texts through pointers to non-const and do not write to them.
+// List view functions take texts as pointers to non-const but do not write to them.
 wchar_t* Writable(const ov::Text& text)
 {
     return const_cast<wchar_t*>(Wide(text));
@@ -65,8 +65,8 @@ BOOL CListCtrl::SetItemText(int row, int column, const ov::Text& text)
 
 ov::Text CListCtrl::GetItemText(int row, int column) const
 {
-    // The list does not report the length of a text: a copy that fills the room may
-    // have been cut.
+    // A list view does not report the length of a text: a copy that fills the buffer may
+    // have been truncated.
     for (ov::Text text(256, u'\0');; text.resize(text.size() * 2)) {
         LVITEMW item{};
         item.iSubItem = column;

@@ -5,16 +5,16 @@
 
 #include <type_traits>
 
-// The macros of message maps. Every entry names a member function as a
-// template argument; a thunk made for exactly that function unpacks the message
-// and calls it, so that a handler with the wrong signature does not compile.
+// The message map macros. Every entry passes a member function as a template
+// argument. A thunk instantiated for that function unpacks the message and calls
+// it, so a handler with the wrong signature does not compile.
 
 class CWnd;
 class CDC;
 
-/// The window object for a control that a message brings; null for none.
+/// The window object for a control handle in a message; null for none.
 CWnd* AfxWindowFromParam(LPARAM handle);
-/// The drawing context that a message brings.
+/// The device context in a message parameter.
 CDC* AfxContextFromParam(WPARAM handle);
 
 template <class>
@@ -101,9 +101,9 @@ void AfxThunkQueryDragIcon(CCmdTarget& target, AFX_HANDLER_CALL& call)
     call.result = reinterpret_cast<LRESULT>((AfxTarget<Handler>(target).*Handler)());
 }
 
-// The sender is a CWnd*, not a CScrollBar*: up-down controls and sliders send
-// these messages too. It is a plain CWnd unless the program made an object for
-// the control, so the window's class (AfxIsOfClass) decides which it was.
+// The sender is a CWnd*, not a CScrollBar*, because up-down controls and sliders send
+// these messages too. It is a plain CWnd unless the program made an object for the
+// control; use AfxIsOfClass to find out which kind of control it is.
 template <auto Handler>
 void AfxThunkScroll(CCmdTarget& target, AFX_HANDLER_CALL& call)
 {
@@ -120,7 +120,7 @@ void AfxThunkMouseWheel(CCmdTarget& target, AFX_HANDLER_CALL& call)
                   "ON_WM_MOUSEWHEEL: BOOL OnMouseWheel(UINT keys, short delta, CPoint)");
     call.result = (AfxTarget<Handler>(target).*Handler)(
         LOWORD(call.wParam), static_cast<short>(HIWORD(call.wParam)), CPoint(call.lParam));
-    // A wheel that nobody here wants goes on to the parent window.
+    // A wheel message that the handler does not use goes on to the parent window.
     call.handled = call.result != 0;
 }
 
@@ -131,13 +131,13 @@ void AfxThunkTimer(CCmdTarget& target, AFX_HANDLER_CALL& call)
     (AfxTarget<Handler>(target).*Handler)(static_cast<UINT_PTR>(call.wParam));
 }
 
-/// In the class: it has a message map. The access that follows is protected.
+/// Declares a message map in a class. The access that follows is protected.
 #define DECLARE_MESSAGE_MAP()                                                                                \
   protected:                                                                                                 \
     static const AFX_MSGMAP* GetThisMessageMap();                                                            \
     const AFX_MSGMAP* GetMessageMap() const override;
 
-/// In the source: the map's rows are between this and END_MESSAGE_MAP.
+/// Begins a message map in a source file; END_MESSAGE_MAP ends it.
 #define BEGIN_MESSAGE_MAP(class_name, base_class_name)                                                       \
     const AFX_MSGMAP* class_name::GetMessageMap() const                                                      \
     {                                                                                                        \

@@ -10,7 +10,7 @@ namespace
 {
 CModalHook* modalHook = nullptr;
 
-/// The name of the module's file.
+/// The path of the module's file.
 ov::Text ModuleName()
 {
     wchar_t path[MAX_PATH] = L"";
@@ -53,9 +53,9 @@ CModalHook* AfxGetModalHook()
 
 namespace
 {
-/// Looks for a window that can be worked with among a thread's top-level windows.
+/// Searches a thread's top-level windows for one that is visible and enabled.
 struct ModalSearch {
-    HWND owner; ///< that the window belongs to, through however many owners; null: any
+    HWND owner; ///< its direct or indirect owner; null for any
     HWND found = nullptr;
 };
 
@@ -69,7 +69,7 @@ bool IsOwnedBy(HWND window, HWND owner)
 BOOL CALLBACK FindModalWindow(HWND window, LPARAM parameter)
 {
     auto& search = *reinterpret_cast<ModalSearch*>(parameter);
-    // Tool windows are tooltips and the open lists of combo boxes.
+    // Tool windows are tooltips and the drop-down lists of combo boxes.
     const bool isTool = (::GetWindowLongPtrW(window, GWL_EXSTYLE) & WS_EX_TOOLWINDOW) != 0;
     if (isTool || !::IsWindowVisible(window) || !::IsWindowEnabled(window) ||
         (search.owner != nullptr && !IsOwnedBy(window, search.owner)))
@@ -100,7 +100,7 @@ HWND AfxGetModalTop(HWND dialog)
 
 void AfxBringForward(HWND dialog)
 {
-    // An owner that is minimised hides the windows that it owns.
+    // A minimised owner hides the windows that it owns.
     for (HWND window = dialog; window != nullptr; window = ::GetWindow(window, GW_OWNER)) {
         if (::IsIconic(window))
             ::ShowWindow(window, SW_RESTORE);
@@ -120,15 +120,15 @@ HWND AfxGetModalOwner(HWND given)
 
 int AfxShowMessageBox(HWND owner, const ov::Text& text, const ov::Text& caption, UINT type)
 {
-    // The system disables exactly the window that it is given: over a child
-    // window, a page say, the dialog around it could be worked with meanwhile.
+    // The system disables exactly the window that is passed as the owner. With a child
+    // window such as a page, the dialog around it would stay usable.
     if (owner != nullptr)
         owner = ::GetAncestor(owner, GA_ROOT);
     if (modalHook != nullptr) {
         if (const std::optional<int> answer = modalHook->OnMessageBox(owner, text, caption, type))
             return *answer;
     }
-    // Without an owner to disable, the system would leave all windows of the thread usable under the box.
+    // Without an owner to disable, the system would leave all windows of the thread enabled.
     if (owner == nullptr)
         type |= MB_TASKMODAL;
     return ::MessageBoxW(owner, Wide(text), Wide(caption), type);
@@ -151,8 +151,8 @@ namespace
 void ReportException(const char* what)
 {
     AFX_THREAD_STATE& state = AfxGetThreadState();
-    // A handler that fails again and again, on a timer say, must not bury the
-    // screen in boxes: while one is open the next ones are passed over.
+    // A handler that fails repeatedly, for example on a timer, must not fill the screen
+    // with message boxes: while one is open, further exceptions are not shown.
     if (state.reportingException)
         return;
     const CRestoreValue reporting(state.reportingException, true);

@@ -31,10 +31,10 @@ BOOL CWnd::PreTranslateInput(MSG* message)
         return FALSE;
     const HWND lost = AfxRepairFocus(m_hWnd);
     if (key) {
-        // What was typed into a control that has gone since is for nobody.
+        // Discard input for a control that is no longer visible or enabled.
         if (lost != nullptr && lost == message->hwnd)
             return TRUE;
-        // The search for a mnemonic begins at the message's window, too.
+        // IsDialogMessage starts its search for a mnemonic at the message's window, too.
         if (!AfxCanHoldFocus(message->hwnd))
             return FALSE;
     }
@@ -56,14 +56,14 @@ BOOL CWnd::WalkPreTranslateTree(HWND stop, MSG* message)
 void CWnd::EndModalLoop(int result)
 {
     m_nModalResult = result;
-    // A loop that waits for a message has to be woken.
+    // Wakes a loop that is waiting for a message.
     if (std::exchange(m_continueModal, false))
         PostMessage(WM_NULL);
 }
 
 namespace
 {
-/// Whether the window is a permanent object, lies in one or is owned by one.
+/// True if the window has a permanent object, or if a parent or owner of it has.
 bool IsOwn(HWND window)
 {
     while (window != nullptr && CWnd::FromHandlePermanent(window) == nullptr)
@@ -71,9 +71,9 @@ bool IsOwn(HWND window)
     return window != nullptr;
 }
 
-/// Does what one message asks for, with the module's activation context if the work is the
-/// module's own. The loop is called from handlers further out; a failure here is not theirs, and
-/// one message's failure does not end the dialog.
+/// Processes one message, with the module's activation context if the message is for one of the
+/// module's own windows. An exception is reported here: it must not reach the handlers that run
+/// the loop, and one failed message must not end the dialog.
 template <class Step>
 void GuardedStep(bool own, Step step)
 {
@@ -95,10 +95,10 @@ void Dispatch(MSG& message)
     ::DispatchMessageW(&message);
 }
 
-/// Sends a message through the pre-translation when the focus has moved since the last call.
-/// An inner dialog keeps its keys and clicks to itself; without this message the windows that
-/// own it would learn of the new focus only with the next message of another kind.
-/// @return whether a message was posted.
+/// Posts a message to the focused window if the focus has moved since the last call. An inner dialog
+/// handles its own keys and clicks; without this message the windows that own it would notice the
+/// new focus only when another message arrives.
+/// @return true if a message was posted.
 bool AnnounceFocus(HWND& known)
 {
     const HWND before = std::exchange(known, ::GetFocus());
@@ -111,7 +111,7 @@ int CWnd::RunModalLoop()
     const HWND window = m_hWnd;
     const CActivationPause hostMayRun;
     AFX_TEMP_MAPS& temporary = AfxGetThreadState().temporary;
-    // Objects asked for before the loop belong to handlers that still wait for it.
+    // Objects requested before the loop belong to handlers that are still running.
     const AFX_TEMP_MAPS::Mark mark = temporary.GetMark();
     const HWND owner = ::GetWindow(window, GW_OWNER);
     m_continueModal = true;

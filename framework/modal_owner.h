@@ -2,8 +2,8 @@
 
 #include "framework/windows_api.h"
 
-/// Disables the window over which something modal opens, and the top-level
-/// window that owns it, and enables again what it disabled.
+/// Disables the window that a modal window opens over, and that window's top-level
+/// owner. Enables again only what it disabled.
 class CModalOwner
 {
   public:
@@ -13,10 +13,10 @@ class CModalOwner
     CModalOwner& operator=(const CModalOwner&) = delete;
 
     HWND GetHandle() const { return m_owner; }
-    /// Enables the windows and, when the modal window was the active one, gives
-    /// activation and focus back to the owner. To be called while the modal
-    /// window still is there: once it were gone with nothing enabled beneath,
-    /// the system would activate another program.
+    /// Enables the windows and, if the modal window was active, gives activation and
+    /// focus back to the owner. Call it while the modal window still exists: if it were
+    /// destroyed while every window beneath it was disabled, the system would activate
+    /// another program.
     void Release(HWND modalWindow);
 
   private:

@@ -8,10 +8,10 @@
 
 namespace
 {
-// Where a library keeps its manifest; an executable's is number 1.
+// The resource id of a library's manifest; an executable's is 1.
 constexpr WORD libraryManifestId = 2;
 
-/// The program file that this code has been linked into.
+/// The module that this code is linked into.
 HINSTANCE OwnModule()
 {
     HMODULE module = nullptr;
@@ -30,7 +30,7 @@ void CreateContext(AFX_MODULE_STATE& state)
     description.dwFlags = ACTCTX_FLAG_HMODULE_VALID | ACTCTX_FLAG_RESOURCE_NAME_VALID;
     description.hModule = state.instance;
     description.lpResourceName = MAKEINTRESOURCEW(libraryManifestId);
-    // Without a manifest there is no context, and the host's remains in force.
+    // Without a manifest there is no context, and the host's stays active.
     state.context = ::CreateActCtxW(&description);
 }
 
@@ -70,8 +70,8 @@ AFX_MAINTAIN_STATE2::AFX_MAINTAIN_STATE2(AFX_MODULE_STATE* state)
 {
     CreateContext(*state);
     m_activation.emplace();
-    // Last, and it lets no exception out: a constructor that throws has no
-    // destructor that would take the context back.
+    // Last, because a constructor that throws never runs the destructor that deactivates
+    // the context. InitialiseOnce throws nothing.
     InitialiseOnce(*state);
 }
 
@@ -79,7 +79,7 @@ AFX_MAINTAIN_STATE2::~AFX_MAINTAIN_STATE2()
 {
     m_activation.reset();
     AfxGetThreadState().moduleState = m_previous;
-    // Outside the outermost call nobody is left who could hold a temporary object.
+    // After the outermost call no code can hold a temporary object.
     if (m_previous == nullptr)
         AfxDeleteTempMap();
 }
@@ -99,7 +99,7 @@ void AfxTermLibrary() noexcept
         try {
             state.application->ExitInstance();
         } catch (...) {
-            // No box under the loader lock: it would never answer.
+            // No message box while the loader lock is held: it would deadlock.
             ::OutputDebugStringW(L"ExitInstance failed.\n");
         }
     }
@@ -122,7 +122,7 @@ HINSTANCE AfxGetResourceHandle()
 
 ov::Text AfxLoadString(UINT id)
 {
-    // A buffer of size 0 asks for the text itself, which lies in the module.
+    // A buffer size of 0 returns a pointer to the text itself, inside the module.
     const wchar_t* text = nullptr;
     const int length = ::LoadStringW(AfxGetResourceHandle(), id, reinterpret_cast<wchar_t*>(&text), 0);
     if (length <= 0)

@@ -8,8 +8,8 @@
 
 class CWinApp;
 
-/// What belongs to one program file (library or executable) that the framework
-/// is linked into: its handles, its application object and its activation
+/// The state of one module (library or executable) that the framework is linked
+/// into: its handles, its application object and its activation
 /// context.
 struct AFX_MODULE_STATE {
     HINSTANCE instance;
@@ -22,19 +22,19 @@ struct AFX_MODULE_STATE {
 
 /// The state of the module that this code is linked into.
 AFX_MODULE_STATE* AfxGetStaticModuleState();
-/// The state that the calling thread works with at present.
+/// The state of the module that the calling thread currently runs.
 AFX_MODULE_STATE* AfxGetModuleState();
-/// Whether the calling thread's present module can be worked with: false when its
-/// application's InitInstance has not succeeded. To be asked after AFX_MANAGE_STATE,
-/// which has called it and reported an exception; the next AFX_MANAGE_STATE tries again.
+/// True if the calling thread's current module can be used: its application's InitInstance
+/// has succeeded. Call it after AFX_MANAGE_STATE, which calls InitInstance and reports an
+/// exception. After a failure the next AFX_MANAGE_STATE tries again.
 bool AfxModuleReady();
 
 /// Switches the calling thread to a module's state until the scope ends, and
-/// activates the activation context of the module's manifest (resource 2), so
-/// that its windows get version 6 of the common controls whatever the host's
-/// manifest says. A modal loop takes the context away while the host's code may
-/// run (CActivationPause); the window procedure of each permanent window brings
-/// it back (CActivationScope). The first time it also runs the application's InitInstance, see
+/// activates the activation context of the module's manifest (resource 2). The
+/// module's windows then get version 6 of the common controls, independent of the
+/// host's manifest. A modal loop deactivates the context while host code may
+/// run (CActivationPause); the window procedure of each permanent window activates
+/// it again (CActivationScope). The first scope also calls the application's InitInstance; see
 /// AfxModuleReady.
 class AFX_MAINTAIN_STATE2
 {
@@ -49,18 +49,18 @@ class AFX_MAINTAIN_STATE2
     std::optional<CActivationScope> m_activation;
 };
 
-/// At the start of every exported function.
+/// Belongs at the beginning of every exported function.
 #define AFX_MANAGE_STATE(state) const AFX_MAINTAIN_STATE2 afxManagedState(state)
 
-/// For DllMain at DLL_PROCESS_ATTACH. It only records the instance: the loader
+/// Call it from DllMain for DLL_PROCESS_ATTACH. It only records the instance: the loader
 /// lock is held, so InitInstance waits for the first AFX_MANAGE_STATE.
 BOOL AfxInitLibrary(HINSTANCE instance);
-/// For DllMain at DLL_PROCESS_DETACH, when the library is unloaded and not when
-/// the whole process ends: ExitInstance if InitInstance ran, then gives back what
+/// Call it from DllMain for DLL_PROCESS_DETACH when the library is unloaded, not when
+/// the process ends. Calls ExitInstance if InitInstance succeeded, then frees what
 /// the framework holds for the module and for the calling thread.
 void AfxTermLibrary() noexcept;
 
 HINSTANCE AfxGetInstanceHandle();
 HINSTANCE AfxGetResourceHandle();
-/// A text of the string table, of any length; empty when there is none.
+/// Loads a text of any length from the string table. Empty if there is none.
 ov::Text AfxLoadString(UINT id);

@@ -2,7 +2,7 @@
 
 #include "framework/windows_api.h"
 
-/// What is known of a class at run time: its name and its base.
+/// The run-time information about a class: its name and its base class.
 struct CRuntimeClass {
     const char* m_lpszClassName;
     const CRuntimeClass* m_pBaseClass; ///< null for CObject
@@ -10,7 +10,7 @@ struct CRuntimeClass {
     bool IsDerivedFrom(const CRuntimeClass* base) const;
 };
 
-/// The root of all classes that know their own class at run time.
+/// The root of all classes with run-time class information.
 class CObject
 {
   public:
@@ -20,14 +20,14 @@ class CObject
 
     static const CRuntimeClass classCObject;
     virtual const CRuntimeClass* GetRuntimeClass() const;
-    /// True for an object of the class or of one derived from it.
+    /// True if the object's class is the given class or derived from it.
     bool IsKindOf(const CRuntimeClass* base) const;
 
   protected:
     CObject() = default;
 };
 
-/// The object when it is of the class, else null; null for null.
+/// The object if it is of the class, otherwise null; null for null.
 template <class Class>
 Class* AfxDynamicDownCast(CObject* object)
 {
@@ -37,7 +37,7 @@ Class* AfxDynamicDownCast(CObject* object)
 
 #define DYNAMIC_DOWNCAST(class_name, object) (AfxDynamicDownCast<class_name>(object))
 
-/// In the class: makes its objects know their class. The access that follows is
+/// Adds run-time class information to a class. The access that follows is
 /// public.
 #define DECLARE_DYNAMIC(class_name)                                                                          \
   public:                                                                                                    \
@@ -48,7 +48,7 @@ Class* AfxDynamicDownCast(CObject* object)
     }                                                                                                        \
     const CRuntimeClass* GetRuntimeClass() const override;
 
-/// In the source, once for each DECLARE_DYNAMIC.
+/// Belongs in a source file, once for each DECLARE_DYNAMIC.
 #define IMPLEMENT_DYNAMIC(class_name, base_class_name)                                                       \
     const CRuntimeClass class_name::class##class_name = {#class_name,                                        \
                                                          &base_class_name::class##base_class_name};          \

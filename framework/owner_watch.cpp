@@ -22,10 +22,10 @@ COwnerWatch::~COwnerWatch()
 LRESULT CALLBACK COwnerWatch::HookProc(int code, WPARAM wParam, LPARAM lParam)
 {
     const LRESULT result = ::CallNextHookEx(nullptr, code, wParam, lParam);
-    // Another hook may refuse the destruction.
+    // Another hook may prevent the destruction.
     if (code != HCBT_DESTROYWND || result != 0)
         return result;
-    // This comes before the system looks for the windows to be destroyed with the owner.
+    // The hook runs before the system collects the windows that it destroys with their owner.
     for (const COwnerWatch* watch = AfxGetThreadState().ownerWatches; watch != nullptr;
          watch = watch->m_outer) {
         if (watch->m_hook != nullptr &&

@@ -2,14 +2,14 @@
 
 #include "framework/windows_api.h"
 
-/// Keeps a modal dialog when the window that owns it is destroyed by the program around us: the system
-/// would destroy the dialog along with it, and nobody could ask whether its changes are to be lost.
-/// The dialog goes on without an owner instead. Only for an owner of the same thread, and none of this
-/// module's own windows: a dialog over one of those belongs to it and ends with it.
+/// Keeps a modal dialog open when the host destroys the window that owns it. The system would destroy the
+/// dialog with its owner, and the user would lose unsaved changes without being asked. The dialog continues
+/// without an owner instead. Applies only to an owner of the same thread that is not one of this module's own
+/// windows: a dialog over one of those ends with it.
 class COwnerWatch
 {
   public:
-    /// To be destroyed while the dialog's window still exists, or after it.
+    /// Destroy it while the dialog's window still exists, or after it.
     explicit COwnerWatch(HWND dialog);
     ~COwnerWatch();
     COwnerWatch(const COwnerWatch&) = delete;
@@ -20,5 +20,5 @@ class COwnerWatch
 
     HWND m_dialog;
     HHOOK m_hook = nullptr;
-    COwnerWatch* m_outer; ///< of another dialog of the thread
+    COwnerWatch* m_outer; ///< the watch of the enclosing dialog on this thread
 };

@@ -9,13 +9,13 @@
 #include <unordered_map>
 #include <vector>
 
-// What the framework remembers for each thread. For the framework's own
-// sources only.
+// The framework's state of each thread. Only for the framework's own
+// sources.
 
 struct AFX_MODULE_STATE;
 
-/// The temporary objects for handles that belong to somebody else, in the order
-/// in which they were asked for.
+/// The temporary objects for handles that the framework does not own, in the
+/// order of creation.
 template <class Handle, class Object, auto Member>
 class CTempMap
 {
@@ -40,8 +40,8 @@ class CTempMap
 
     std::size_t Count() const { return m_entries.size(); }
 
-    /// The handle of the object at that address; null when none is there. Nothing is read through
-    /// the pointer.
+    /// The handle of the object at that address; null if there is none. The pointer is not
+    /// dereferenced.
     Handle HandleAt(const void* address) const
     {
         for (const Entry& entry : m_entries) {
@@ -51,12 +51,12 @@ class CTempMap
         return nullptr;
     }
 
-    /// Deletes all but the first `count` objects; the windows themselves remain.
+    /// Deletes all but the first `count` objects. The windows themselves remain.
     void DeleteFrom(std::size_t count)
     {
         while (m_entries.size() > count) {
             m_byHandle.erase(m_entries.back().handle);
-            // Without its handle the object has nothing to destroy.
+            // Without a handle the destructor has nothing to destroy.
             (*m_entries.back().object).*Member = nullptr;
             m_entries.pop_back();
         }
@@ -81,14 +81,14 @@ struct AFX_TEMP_MAPS {
         std::size_t windows = 0, contexts = 0, fonts = 0;
     };
     Mark GetMark() const;
-    /// Deletes what was asked for after the mark was taken.
+    /// Deletes the objects created after the mark was taken.
     void DeleteFrom(const Mark& mark);
 };
 
 class CCreationHook;
 class COwnerWatch;
 
-/// A window whose data exchange runs, as a list from the innermost outwards.
+/// A window whose data exchange is running. The locks form a list, innermost first.
 struct AFX_EXCHANGE_LOCK {
     HWND window;
     const AFX_EXCHANGE_LOCK* outer;
@@ -98,32 +98,32 @@ struct AFX_EXCHANGE_LOCK {
 struct AFX_ACTIVATION {
     HANDLE context;
     ULONG_PTR cookie;
-    const void* scope; ///< the CActivationScope that it lasts for; null once that has ended
+    const void* scope; ///< the CActivationScope that activated it; null once that has ended
 };
 
 struct AFX_THREAD_STATE {
     std::unordered_map<HWND, CWnd*> permanentWindows;
-    /// The controls that have been asked for, by dialog and id.
+    /// Controls already looked up, by dialog and id.
     std::unordered_map<HWND, std::unordered_map<int, HWND>> foundControls;
     AFX_TEMP_MAPS temporary;
     MSG currentMessage{};
-    CCreationHook* creation = nullptr; ///< waits for its window
+    CCreationHook* creation = nullptr; ///< waiting for its window to be created
     const AFX_EXCHANGE_LOCK* exchangeLocks = nullptr;
     COwnerWatch* ownerWatches = nullptr; ///< the innermost one
     AFX_MODULE_STATE* moduleState = nullptr;
-    std::vector<AFX_ACTIVATION> activations; ///< in the order of activation
+    std::vector<AFX_ACTIVATION> activations; ///< in order of activation
     bool reportingException = false;
 };
 
-/// This thread's state; made when first asked for.
+/// This thread's state, created on the first call.
 AFX_THREAD_STATE& AfxGetThreadState();
 /// This thread's state if it has one, else null.
 AFX_THREAD_STATE* AfxPeekThreadState();
-/// Frees this thread's state. It is done by hand: a destructor registered for
-/// the thread would keep a library loaded until the thread ends.
+/// Frees this thread's state. This is explicit, because a destructor registered for
+/// the thread would keep the library loaded until the thread ends.
 void AfxFreeThreadState();
 
-/// Sets a variable for the life of a scope.
+/// Sets a variable until the scope ends, then restores the old value.
 template <class Value>
 class CRestoreValue
 {
@@ -142,7 +142,7 @@ class CRestoreValue
 };
 
 /// Binds the object to the next window that this thread creates, before that
-/// window's first message. When that cannot be done there is to be no window.
+/// window's first message. If binding fails, the window is not created.
 class CCreationHook
 {
   public:
@@ -151,14 +151,14 @@ class CCreationHook
     CCreationHook(const CCreationHook&) = delete;
     CCreationHook& operator=(const CCreationHook&) = delete;
 
-    /// To be called with what the system's creation gave. False when the object
-    /// was not bound; then it reports why, if there is an exception, and destroys
-    /// a window that was made nevertheless.
+    /// Call it with the result of the system's creation function. False if the object
+    /// was not bound: it then reports the exception, if any, and destroys the
+    /// window if one was created nevertheless.
     bool Finish(HWND created) const;
 
   private:
     static LRESULT CALLBACK HookProc(int code, WPARAM wParam, LPARAM lParam);
-    /// False when the window must not come to be.
+    /// False if the window must not be created.
     bool Meet(HWND window) noexcept;
     void Unhook() noexcept;
 
@@ -172,5 +172,5 @@ class CCreationHook
 /// The window procedure of every window with a permanent object.
 LRESULT CALLBACK AfxWndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
-/// Unregisters the window classes of AfxRegisterWndClass.
+/// Unregisters all window classes registered by AfxRegisterWndClass.
 void AfxUnregisterWndClasses();

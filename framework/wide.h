@@ -4,11 +4,11 @@
 
 #include <string_view>
 
-// One 16-bit text type in the program, another at the border of Windows: the
-// same units under two names, so the bridge costs nothing.
+// The program's texts are char16_t, those of Windows wchar_t. Both are the same
+// 16-bit units, so the conversion costs nothing.
 static_assert(sizeof(wchar_t) == sizeof(char16_t));
 
-/// The text for a Windows call; valid as long as the text stays unchanged.
+/// The text for a Windows call. Valid as long as the text is not modified.
 inline const wchar_t* Wide(const ov::Text& text)
 {
     return reinterpret_cast<const wchar_t*>(text.c_str());
@@ -20,7 +20,7 @@ inline ov::Text FromWide(std::wstring_view text)
     return {reinterpret_cast<const char16_t*>(text.data()), text.size()};
 }
 
-/// A copy of a zero-terminated Windows text; empty for none.
+/// A copy of a null-terminated Windows text; empty for null.
 inline ov::Text FromWide(const wchar_t* text)
 {
     return text == nullptr ? ov::Text() : FromWide(std::wstring_view(text));

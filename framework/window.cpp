@@ -11,15 +11,15 @@ IMPLEMENT_DYNAMIC(CWnd, CCmdTarget)
 
 CWnd::~CWnd()
 {
-    // Temporary objects carry a handle that is not theirs.
+    // Temporary objects hold a handle that they do not own.
     if (m_hWnd != nullptr && FromHandlePermanent(m_hWnd) == this)
         CWnd::DestroyWindow();
 }
 
 CWnd* CWnd::FromHandlePermanent(HWND window)
 {
-    // Asked by destructors and for messages after the thread's state has been
-    // freed, too, when nobody would free a new one.
+    // Destructors call this, and messages arrive, even after the thread's state has been
+    // freed. A new state would then never be freed, so none is created.
     const AFX_THREAD_STATE* const state = AfxPeekThreadState();
     if (state == nullptr)
         return nullptr;
@@ -46,7 +46,7 @@ CWnd* CWnd::FromForeign(const void* pointer)
         return own->second;
     if (const HWND window = state.temporary.windows.HandleAt(pointer))
         return FromHandle(window);
-    // The system looks at no more than 32 bits of a handle, so that an object's address could pass for one.
+    // The system uses only 32 bits of a handle, so an object's address could pass for one.
     const auto window = static_cast<HWND>(const_cast<void*>(pointer));
     const bool isHandle =
         LongToHandle(HandleToLong(window)) == window || UlongToHandle(HandleToULong(window)) == window;
@@ -105,7 +105,7 @@ HWND CWnd::UnsubclassWindow()
 
 HWND CWnd::FindControl(int id) const
 {
-    // A temporary object gets no notice when its window is destroyed.
+    // A temporary object is not notified when its window is destroyed.
     if (FromHandlePermanent(m_hWnd) == nullptr)
         return ::GetDlgItem(m_hWnd, id);
     auto& controls = AfxGetThreadState().foundControls[m_hWnd];
@@ -115,7 +115,7 @@ HWND CWnd::FindControl(int id) const
     };
     if (const auto found = controls.find(id); found != controls.end() && isCurrent(found->second))
         return found->second;
-    // All at once: most dialogs look up most of their controls.
+    // Collects all controls at once, because most dialogs look up most of their controls.
     controls.clear();
     for (const HWND child : AfxChildWindows(m_hWnd))
         controls.try_emplace(::GetDlgCtrlID(child), child);
@@ -153,7 +153,7 @@ ov::Text CWnd::GetWindowText() const
     if (!text.empty()) {
         const int copied = ::GetWindowTextW(m_hWnd, reinterpret_cast<wchar_t*>(text.data()),
                                             static_cast<int>(text.size()) + 1);
-        // The length asked for may be more than there is, never less.
+        // The reported length can be more than the actual one, never less.
         text.resize(static_cast<std::size_t>(copied));
     }
     return text;
@@ -187,8 +187,8 @@ BOOL CWnd::SetWindowPos(const CWnd* insertAfter, int x, int y, int width, int he
     return ::SetWindowPos(m_hWnd, AfxSafeHwnd(insertAfter), x, y, width, height, flags);
 }
 
-// Both corners in one call: only so does a mirrored window get a rectangle with
-// its left on the left.
+// Both corners in one call: only then does a mirrored window get a rectangle whose
+// left is smaller than its right.
 void CWnd::ScreenToClient(LPRECT rectangle) const
 {
     ::MapWindowPoints(nullptr, m_hWnd, reinterpret_cast<POINT*>(rectangle), 2);
@@ -211,7 +211,7 @@ void CWnd::CenterWindow()
     GetWindowRect(own);
     int x = (target.left + target.right - own.Width()) / 2;
     int y = (target.top + target.bottom - own.Height()) / 2;
-    // The caption must stay in reach: left and top win over right and bottom.
+    // The caption must stay reachable: left and top take precedence over right and bottom.
     x = std::max(std::min(x, static_cast<int>(work.right) - own.Width()), static_cast<int>(work.left));
     y = std::max(std::min(y, static_cast<int>(work.bottom) - own.Height()), static_cast<int>(work.top));
     SetWindowPos(nullptr, x, y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
@@ -267,7 +267,7 @@ std::vector<HWND> AfxChildWindows(HWND parent)
             found.children.push_back(window);
         return TRUE;
     };
-    // With a null parent this would be all top-level windows.
+    // A null parent would enumerate all top-level windows.
     if (parent != nullptr)
         ::EnumChildWindows(parent, add, reinterpret_cast<LPARAM>(&search));
     return std::move(search.children);
@@ -275,7 +275,7 @@ std::vector<HWND> AfxChildWindows(HWND parent)
 
 bool AfxIsOfClass(HWND window, LPCWSTR className)
 {
-    // The longest name that a class can have, with its end.
+    // The longest possible class name, with its terminator.
     wchar_t name[257] = L"";
     return window != nullptr && ::GetClassNameW(window, name, static_cast<int>(std::size(name))) != 0 &&
            ::lstrcmpiW(name, className) == 0;

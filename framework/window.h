@@ -11,10 +11,10 @@ class CDataExchange;
 class CFont;
 class CRgn;
 
-/// A window. The object and its window are bound by a handle map of the thread:
-/// a permanent entry for objects that the program made, a temporary one for
-/// windows that FromHandle was asked about (such an object lives until the next
-/// idle time and handles no messages). Deleting an object destroys its window.
+/// A window. The thread's handle map links the object and its window: with a
+/// permanent entry for objects that the program made, with a temporary one for
+/// windows passed to FromHandle (such an object lives until the next idle time
+/// and handles no messages). Deleting a permanent object destroys its window.
 class CWnd : public CCmdTarget
 {
     DECLARE_DYNAMIC(CWnd)
@@ -25,29 +25,29 @@ class CWnd : public CCmdTarget
     HWND m_hWnd = nullptr;
     HWND GetSafeHwnd() const { return m_hWnd; }
     operator HWND() const { return m_hWnd; }
-    /// The object for a window, a temporary one when the program made none;
+    /// The object for a window, a temporary one if the program made none;
     /// null for null.
     static CWnd* FromHandle(HWND window);
-    /// The object that the program made for a window, else null.
+    /// The object that the program made for a window, or null.
     static CWnd* FromHandlePermanent(HWND window);
-    /// The window object that a caller from outside means by a pointer that may be anything: one of
-    /// this thread's objects, or a window handle in an object's place. Null for anything else. Nothing
-    /// is read through the pointer.
+    /// The window object for a pointer from a caller outside the module, which may have any value: one
+    /// of this thread's objects, or a window handle passed in place of an object. Null for anything
+    /// else. The pointer is not dereferenced.
     static CWnd* FromForeign(const void* pointer);
-    /// Binds the object to a window, without taking over its messages.
+    /// Binds the object to a window without subclassing it.
     BOOL Attach(HWND window);
-    /// Undoes Attach; the window stays.
+    /// Undoes Attach. The window remains.
     HWND Detach();
-    /// Binds the object to a window and takes over its messages.
+    /// Binds the object to a window and handles its messages.
     BOOL SubclassWindow(HWND window);
-    /// Undoes SubclassWindow. A procedure that somebody has put before ours stays.
+    /// Undoes SubclassWindow. A window procedure that was installed over ours remains.
     HWND UnsubclassWindow();
 
     // --- creation and destruction -----------------------------------------
-    /// Creates a child window. The object handles its messages from the first on.
+    /// Creates a child window. The object handles its messages from the first one on.
     BOOL Create(LPCWSTR className, LPCWSTR text, DWORD style, const RECT& rectangle, CWnd* parent, UINT id);
-    /// Creates any window; `menuOrId` is the id for a child. A null class name
-    /// means a plain class of the framework.
+    /// Creates a window of any kind; `menuOrId` is the id of a child window. A null
+    /// class name selects a plain window class of the framework.
     BOOL CreateEx(DWORD exStyle, LPCWSTR className, LPCWSTR text, DWORD style, int x, int y, int width,
                   int height, HWND parent, HMENU menuOrId);
     BOOL CreateEx(DWORD exStyle, LPCWSTR className, LPCWSTR text, DWORD style, const RECT& rectangle,
@@ -57,7 +57,7 @@ class CWnd : public CCmdTarget
     // --- text, state, style -------------------------------------------------
     void SetWindowText(const ov::Text& text);
     ov::Text GetWindowText() const;
-    /// A control that is disabled or hidden by these two gives the focus away first, see AfxReleaseFocus.
+    /// A focused control that one of these two disables or hides passes the focus on first; see
     BOOL EnableWindow(BOOL enable = TRUE);
     BOOL ShowWindow(int command);
     BOOL IsWindowEnabled() const { return ::IsWindowEnabled(m_hWnd); }
@@ -68,30 +68,30 @@ class CWnd : public CCmdTarget
     HICON SetIcon(HICON icon, BOOL big);
     CFont* GetFont() const;
 
-    // --- size and place -----------------------------------------------------
+    // --- size and position --------------------------------------------------
     void MoveWindow(int x, int y, int width, int height, BOOL repaint = TRUE);
     void MoveWindow(LPCRECT rectangle, BOOL repaint = TRUE);
     BOOL SetWindowPos(const CWnd* insertAfter, int x, int y, int width, int height, UINT flags);
     void GetWindowRect(LPRECT rectangle) const { ::GetWindowRect(m_hWnd, rectangle); }
     void GetClientRect(LPRECT rectangle) const { ::GetClientRect(m_hWnd, rectangle); }
     void ScreenToClient(LPRECT rectangle) const;
-    /// Cuts the window to a region in its own coordinates, which belongs to the
-    /// window from then on; 0 when that failed.
+    /// Sets the window's region, in window coordinates. On success the window owns
+    /// the region; 0 means failure.
     int SetWindowRgn(HRGN region, BOOL redraw) { return ::SetWindowRgn(m_hWnd, region, redraw); }
-    /// Centres a top-level window over its owner, else on the screen, within
+    /// Centres a top-level window over its owner, or on the screen if it has none,
     /// the work area.
     void CenterWindow();
 
-    // --- the tree ------------------------------------------------------------
+    // --- parents and children ------------------------------------------------
     CWnd* GetParent() const { return FromHandle(::GetParent(m_hWnd)); }
     CWnd* GetDlgItem(int id) const { return FromHandle(FindControl(id)); }
-    /// The child window of that id, or null. What was found is remembered, since the
-    /// system looks through all the children each time.
+    /// The child window with that id, or null. Results are cached, because the system
+    /// searches all children each time.
     HWND FindControl(int id) const;
 
     // --- painting --------------------------------------------------------------
     void Invalidate(BOOL erase = TRUE) { ::InvalidateRect(m_hWnd, nullptr, erase); }
-    /// Sends the message to the window's children, to theirs, and so on.
+    /// Sends the message to all descendants of the window.
     static void SendMessageToDescendants(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
     BOOL RedrawWindow(LPCRECT rectangle = nullptr, CRgn* region = nullptr,
                       UINT flags = RDW_INVALIDATE | RDW_UPDATENOW | RDW_ERASE);
@@ -106,13 +106,13 @@ class CWnd : public CCmdTarget
     {
         return ::PostMessageW(m_hWnd, message, wParam, lParam);
     }
-    /// Starts or restarts a timer of the window; 0 on failure.
+    /// Starts or restarts a timer of the window. Returns 0 on failure.
     UINT_PTR SetTimer(UINT_PTR id, UINT milliseconds)
     {
         return ::SetTimer(m_hWnd, id, milliseconds, nullptr);
     }
     BOOL KillTimer(UINT_PTR id) { return ::KillTimer(m_hWnd, id); }
-    /// Does nothing for a control that is hidden or disabled. Returns the window that had the focus.
+    /// Does nothing for a hidden or disabled control. Returns the window that had the focus.
     CWnd* SetFocus();
 
     // --- scrolling -----------------------------------------------------------
@@ -124,7 +124,7 @@ class CWnd : public CCmdTarget
         return ::SetScrollPos(m_hWnd, bar, position, redraw);
     }
     void GetScrollRange(int bar, int* minimum, int* maximum) const;
-    /// Scrolls the contents, child windows included.
+    /// Scrolls the contents, including child windows.
     void ScrollWindow(int dx, int dy, LPCRECT rectangle = nullptr, LPCRECT clip = nullptr)
     {
         ::ScrollWindow(m_hWnd, dx, dy, rectangle, clip);
@@ -134,20 +134,20 @@ class CWnd : public CCmdTarget
     ov::Text GetDlgItemText(int id) const;
 
     // --- data exchange ---------------------------------------------------------
-    /// Moves values from the controls into the members (TRUE) or back. While it
-    /// runs, notifications of this window's controls are not handled. False when
-    /// a value was refused; the user has then seen a message.
+    /// Transfers values from the controls into the members (TRUE) or back (FALSE).
+    /// While it runs, notifications of this window's controls are not handled. FALSE
+    /// if a value was rejected; the user has then seen a message.
     BOOL UpdateData(BOOL saveAndValidate = TRUE);
 
     // --- pre-translation and modal loops --------------------------------------
-    /// Looks at a message before it is dispatched; TRUE takes it away.
+    /// Inspects a message before it is dispatched. TRUE means that it was handled.
     virtual BOOL PreTranslateMessage(MSG* message);
-    /// Lets the permanent objects of the message's window, of its parents and of their owners look
-    /// at the message, innermost first, until one takes it. The object of `stop` is the last one;
+    /// Calls PreTranslateMessage of the permanent objects for the message's window and for its parents
+    /// and owners, innermost first, until one returns TRUE. `stop` is the last window that is asked;
     /// null asks all of them. Modal loops stop at the application's main window.
     static BOOL WalkPreTranslateTree(HWND stop, MSG* message);
-    /// Dispatches messages until EndModalLoop; returns its result. WM_QUIT calls
-    /// OnQuit; once the loop has ended, the message is posted again for the loop
+    /// Dispatches messages until EndModalLoop is called, and returns its result. WM_QUIT
+    /// calls OnQuit and is posted again when the loop has ended, for the loop
     /// outside.
     int RunModalLoop();
     virtual void EndModalLoop(int result);
@@ -155,24 +155,24 @@ class CWnd : public CCmdTarget
   protected:
     DECLARE_MESSAGE_MAP()
 
-    // --- the way of a message ---------------------------------------------
+    // --- message handling --------------------------------------------------
     virtual LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam);
     virtual BOOL OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result);
     virtual BOOL OnCommand(WPARAM wParam, LPARAM lParam);
     virtual BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result);
     virtual LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam);
-    /// The default handling of the message that is being handled.
+    /// Performs the default handling of the current message.
     LRESULT Default();
 
     virtual void DoDataExchange(CDataExchange*) {}
-    /// The program is to end while the object's modal loop runs. Ends the loop as if cancelled; an
-    /// override may go on and end it later.
+    /// WM_QUIT arrived while the object's modal loop runs. Ends the loop with IDCANCEL; an
+    /// override may keep the loop running and end it later.
     virtual void OnQuit() { EndModalLoop(IDCANCEL); }
-    /// Called when the object is bound, before the window's messages are taken over.
+    /// Called when the object is bound, before the window is subclassed.
     virtual void PreSubclassWindow() {}
-    /// Called last when the window is gone; the object may delete itself.
+    /// Called last, after the window is destroyed. The object may delete itself.
     virtual void PostNcDestroy() {}
-    /// IsDialogMessage for keyboard and mouse messages.
+    /// Calls IsDialogMessage for keyboard and mouse messages.
     virtual BOOL PreTranslateInput(MSG* message);
 
     // --- handlers; each does the default handling -------------------------
@@ -189,39 +189,39 @@ class CWnd : public CCmdTarget
     BOOL OnMouseWheel(UINT, short, CPoint) { return Default() != 0; }
     void OnTimer(UINT_PTR) { Default(); }
 
-    bool m_continueModal = false; ///< a modal loop runs or may begin
-    int m_nModalResult = -1;      ///< what EndModalLoop was given, else -1
+    bool m_continueModal = false; ///< a modal loop is running or may begin
+    int m_nModalResult = -1;      ///< the result passed to EndModalLoop, initially -1
 
   private:
     friend class CCreationHook;
     friend LRESULT CALLBACK AfxWndProc(HWND, UINT, WPARAM, LPARAM);
-    /// Attach, PreSubclassWindow, then the window procedure. False, and nothing
-    /// bound, when Attach refuses; the same before PreSubclassWindow's exception.
+    /// Attaches, calls PreSubclassWindow, then replaces the window procedure. False, with
+    /// nothing bound, if Attach fails; also unbound if PreSubclassWindow throws.
     bool Bind(HWND window);
     void FinishNcDestroy();
 
     WNDPROC m_superWndProc = nullptr;
 };
 
-/// The handle of a window object that may be null.
+/// The handle of a window object, which may be null.
 inline HWND AfxSafeHwnd(const CWnd* window)
 {
     return window != nullptr ? window->m_hWnd : nullptr;
 }
 
-/// The direct children of a window in Z order, from the top. One request to the
-/// system, where a walk from sibling to sibling takes one for each.
+/// The direct children of a window in Z order, topmost first. One request to the
+/// system; going from sibling to sibling would take one request per child.
 std::vector<HWND> AfxChildWindows(HWND parent);
 
-/// Whether a window is of the class, whose name is compared without regard to
-/// case; false for null.
+/// True if the window is of the given class; the name is compared without regard to
+/// case. False for null.
 bool AfxIsOfClass(HWND window, LPCWSTR className);
 
-/// Registers a plain window class of the framework's, once for each combination;
-/// its name.
+/// Registers a plain window class of the framework, once for each combination of
+/// arguments. Returns its name.
 LPCWSTR AfxRegisterWndClass(UINT style, HCURSOR cursor = nullptr, HBRUSH background = nullptr,
                             HICON icon = nullptr);
 
-/// Deletes the objects that FromHandle made, of windows and drawing objects.
-/// Modal loops do it when idle; pointers are good until then.
+/// Deletes the objects that FromHandle made, for windows and GDI objects.
+/// Modal loops call it when idle; pointers from FromHandle are valid until then.
 void AfxDeleteTempMap();

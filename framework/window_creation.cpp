@@ -9,8 +9,8 @@
 
 namespace
 {
-// A new thread's first window makes the system create its input method window
-// in between; that one is never ours.
+// When a thread creates its first window, the system also creates its input method
+// window. The hook must not bind that one.
 bool IsInputMethodWindow(HWND window)
 {
     if ((::GetClassLongPtrW(window, GCL_STYLE) & CS_IME) != 0)
@@ -35,7 +35,7 @@ LRESULT CALLBACK CCreationHook::HookProc(int code, WPARAM wParam, LPARAM lParam)
     if (!creation->Meet(created))
         return 1;
     const LRESULT result = ::CallNextHookEx(nullptr, code, wParam, lParam);
-    // Else it would be called for every control of a dialog.
+    // Otherwise the hook would run for every control of a dialog.
     creation->Unhook();
     return result;
 }
@@ -59,8 +59,8 @@ void CCreationHook::Unhook() noexcept
 
 bool CCreationHook::Meet(HWND window) noexcept
 {
-    // Nothing may unwind through the system: a refusal makes the creation fail
-    // instead.
+    // No exception may unwind through the system. Returning false makes the creation
+    // fail instead.
     try {
         m_bound = m_window->Bind(window);
     } catch (...) {
@@ -99,7 +99,7 @@ BOOL CWnd::CreateEx(DWORD exStyle, LPCWSTR className, LPCWSTR text, DWORD style,
         if (hook.Finish(created))
             return created != nullptr;
     }
-    // The window never existed: what follows its end is still owed.
+    // The window was never created, but the object still expects PostNcDestroy.
     PostNcDestroy();
     return FALSE;
 }
@@ -124,8 +124,8 @@ BOOL CWnd::DestroyWindow()
     const HWND window = m_hWnd;
     const bool permanent = FromHandlePermanent(window) == this;
     const BOOL destroyed = ::DestroyWindow(window);
-    // A window whose messages were taken over has let go of the object by
-    // itself, and the object may be gone; one that was merely attached has not.
+    // A subclassed window has already released its object, which may be deleted by now.
+    // An object that was only attached is still bound.
     if (permanent && FromHandlePermanent(window) == this)
         Detach();
     return destroyed;

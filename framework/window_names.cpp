@@ -11,7 +11,7 @@
 
 namespace
 {
-// The control's inside, as a screen reader asks for it.
+// The object that a screen reader queries for the inside of a control.
 constexpr auto object = static_cast<DWORD>(OBJID_CLIENT);
 } // namespace
 

@@ -9,12 +9,12 @@
 
 struct IAccPropServices;
 
-/// What screen readers call windows that neither show their name nor follow a
-/// label. Call Clear before the windows are destroyed.
+/// Accessible names of windows that neither show their name nor follow a label.
+/// Call Clear before the windows are destroyed.
 ///
-/// The first name makes the calling thread one that may use COM. Only the
-/// destructor leaves COM again: leaving it can dispatch messages, which a window
-/// that is being destroyed must not receive.
+/// The first Set initialises COM on the calling thread. Only the destructor
+/// uninitialises it: doing so can dispatch messages, and a window that is being
+/// destroyed must not receive them.
 class CWindowNames
 {
   public:
@@ -23,15 +23,15 @@ class CWindowNames
     CWindowNames(const CWindowNames&) = delete;
     CWindowNames& operator=(const CWindowNames&) = delete;
 
-    /// Names the window. Where the system keeps no such names, nothing happens.
+    /// Names the window. Does nothing if the system does not support such names.
     void Set(HWND window, const ov::Text& name);
 
-    /// Takes all names back. COM stays.
+    /// Removes all names. COM stays initialised.
     void Clear();
 
   private:
-    std::optional<CComApartment> m_apartment; ///< none until the first name
+    std::optional<CComApartment> m_apartment; ///< empty until the first name is set
     bool m_servicesTried = false;
-    IAccPropServices* m_services = nullptr; ///< null where the system has no such service
+    IAccPropServices* m_services = nullptr; ///< null if the system has no such service
     std::vector<HWND> m_named;
 };

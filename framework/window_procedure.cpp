@@ -5,7 +5,7 @@
 
 #include <utility>
 
-// The way of a message: AfxWndProc -> WindowProc -> OnWndMsg -> OnCommand or
+// The path of a message: AfxWndProc -> WindowProc -> OnWndMsg -> OnCommand or
 // OnNotify -> OnCmdMsg -> the handler in the map.
 
 BEGIN_MESSAGE_MAP(CWnd, CCmdTarget)
@@ -13,14 +13,14 @@ END_MESSAGE_MAP()
 
 namespace
 {
-/// What the sender of a message gets whose handler failed.
+/// The result of a message whose handler threw an exception.
 LRESULT ResultAfterException(const MSG& message)
 {
     switch (message.message) {
     case WM_CREATE:
         return -1;
     case WM_PAINT:
-        // Else it would come again at once, and with it the failure.
+        // Otherwise the system would send WM_PAINT again at once, and it would fail again.
         ::ValidateRect(message.hwnd, nullptr);
         return 0;
     case WM_COMMAND:
@@ -54,7 +54,7 @@ LRESULT CALLBACK AfxWndProc(HWND window, UINT message, WPARAM wParam, LPARAM lPa
     current.lParam = lParam;
     const CRestoreValue scope(AfxGetThreadState().currentMessage, current);
     LRESULT result = 0;
-    // The system called us: no exception may pass from here.
+    // The system calls this function: no exception may leave it.
     try {
         result = object->WindowProc(message, wParam, lParam);
     } catch (...) {
@@ -76,8 +76,8 @@ void CWnd::FinishNcDestroy()
     CWinApp* const application = AfxGetApp();
     if (application != nullptr && application->m_pMainWnd == this)
         application->m_pMainWnd = nullptr;
-    // Destroyed by somebody else while its modal loop runs: the loop is over,
-    // and there is no window left that could wake it.
+    // The window was destroyed from outside while its modal loop runs: end the loop here,
+    // because no window is left to wake it.
     if (std::exchange(m_continueModal, false))
         ::PostThreadMessageW(::GetCurrentThreadId(), WM_NULL, 0, 0);
     UnsubclassWindow();
@@ -121,7 +121,7 @@ BOOL CWnd::OnCommand(WPARAM wParam, LPARAM lParam)
     const bool fromControl = lParam != 0;
     if (fromControl && IsExchangeLocked(m_hWnd))
         return TRUE;
-    // Controls without an identity of their own notify nobody.
+    // Controls without an id of their own are not handled.
     if (id == 0)
         return FALSE;
     return OnCmdMsg(id, fromControl ? HIWORD(wParam) : CN_COMMAND, nullptr, nullptr);

@@ -3,7 +3,7 @@
 namespace
 {
 
-/// The functions of newer versions of Windows; null where they are missing.
+/// Functions of newer Windows versions; null if missing.
 struct ResolutionFunctions {
     UINT(WINAPI* windowResolution)(HWND);
     UINT(WINAPI* systemResolution)();
@@ -48,7 +48,7 @@ UINT ScreenResolution()
     return static_cast<UINT>(resolution);
 }
 
-// Only the second version of per-monitor awareness scales frames and dialogs.
+// Only per-monitor awareness version 2 scales frames and dialogs.
 bool HasFollowingFrame(HWND window)
 {
     const ResolutionFunctions& functions = Functions();

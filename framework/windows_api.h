@@ -1,6 +1,6 @@
 #pragma once
 
-// The one place that pulls in the Windows headers, in the order they want.
+// The only file that includes the Windows headers, in the required order.
 #include <windows.h>
 
 #include <commctrl.h>
