@@ -14,7 +14,7 @@ namespace ov
 namespace
 {
 
-// Bytes that mean nothing in the locale travel as lone surrogates, which no locale can spell.
+// A byte that is invalid in the locale becomes a lone surrogate, which no locale can encode.
 constexpr char16_t kEscapeBase = 0xDC00;
 constexpr char16_t kNoByte = 0xFFFF;
 
@@ -28,7 +28,7 @@ constexpr bool IsEscape(char32_t unit)
     return unit >= kEscapeBase + 0x80u && unit <= kEscapeBase + 0xFFu;
 }
 
-// The characters of the bytes 0x80 to 0x9F in Windows code page 1252; all others have the byte's number.
+// The characters of bytes 0x80 to 0x9F in Windows code page 1252. All other bytes equal their code point.
 constexpr std::array<char16_t, 32> kWindows1252{
     0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
@@ -51,8 +51,8 @@ LocaleCoding LocaleCodingNow()
         return LocaleCoding::Identity;
     if (MB_CUR_MAX == 1)
         return LocaleCoding::SingleByte;
-    // Only UTF-8 spells the euro sign with these three bytes. It is read and written here, since
-    // the runtimes differ on characters beyond 16 bits.
+    // Only UTF-8 encodes the euro sign as these three bytes. UTF-8 is converted in this file because
+    // the C runtimes differ for characters above U+FFFF.
     std::mbtowc(nullptr, nullptr, 0);
     wchar_t euro = 0;
     if (std::mbtowc(&euro, "\xE2\x82\xAC", 3) == 3 && euro == 0x20AC)
@@ -73,7 +73,7 @@ LocaleCoding CodingOf(Charset charset)
     return LocaleCodingNow();
 }
 
-// The number of ASCII bytes at the front.
+// The number of leading ASCII bytes.
 std::size_t AsciiLength(std::string_view bytes)
 {
     std::size_t length = 0;
@@ -87,8 +87,8 @@ std::size_t AsciiLength(std::string_view bytes)
     return length;
 }
 
-// True when the locale spells every ASCII character as the byte of its value. Some encodings of
-// several bytes have another character in the place of the backslash or the tilde.
+// True if the locale encodes every ASCII character as the byte with the same value. Some multi-byte
+// encodings have another character at the code of the backslash or the tilde.
 bool SpellsAsciiPlainly(LocaleCoding coding)
 {
     if (coding == LocaleCoding::Identity || coding == LocaleCoding::Utf8)
@@ -129,8 +129,8 @@ void AppendWide(wchar_t character, Text& text)
         AppendUtf16(text, static_cast<char32_t>(character));
 }
 
-// How many bytes at the front may be one character. Line ends, blanks and most marks of ASCII never
-// are the later byte of a character, but some runtimes swallow one that follows half a character.
+// The most leading bytes that one character can take. Control characters, blanks and most ASCII
+// punctuation are never trail bytes, but some runtimes consume one that follows a lead byte.
 std::size_t LongestCharacter(std::string_view bytes)
 {
     constexpr unsigned char kLowestLaterByte = 0x30;
@@ -202,8 +202,8 @@ EncodeResult EncodeUtf8(TextView text, std::string& bytes)
     return {true, text.size()};
 }
 
-// Appends one character by the runtime; false when what it wrote does not read back as the same
-// character, since some runtimes write a similar one.
+// Appends one character with the C runtime. Returns false if the bytes written do not decode to the same
+// character, because some runtimes substitute a similar one.
 bool AppendMultiByte(wchar_t character, std::string& bytes)
 {
     std::string buffer(static_cast<std::size_t>(MB_CUR_MAX), '\0');
@@ -239,7 +239,7 @@ EncodeResult EncodeIdentity(TextView text, std::string& bytes)
     const std::size_t start = bytes.size();
     bytes.resize(start + text.size());
     char* out = bytes.data() + start;
-    // All units together first: the loop then runs without a branch for each.
+    // Combines all units first, so that the loop needs no branch per unit.
     unsigned seen = 0;
     for (std::size_t i = 0; i < text.size(); ++i) {
         seen |= text[i];
@@ -308,7 +308,7 @@ LocaleEncoder::LocaleEncoder(Charset charset)
 {
     if (m_coding != LocaleCoding::SingleByte)
         return;
-    // Built from the decoding table, so that exactly what was read can be written.
+    // Built from the decoding table, so that every text that was decoded can be encoded again.
     m_low.fill(kNoByte);
     const ByteTable table = SingleByteTable(charset);
     for (unsigned value = 0; value < table.size(); ++value) {
@@ -379,7 +379,7 @@ EncodeResult EncodeLocale(TextView text, std::string& bytes)
 Text FormatTime(const char* pattern, const std::tm& time, std::size_t capacity)
 {
     const std::wstring widePattern(pattern, pattern + std::strlen(pattern));
-    // One character more than allowed: some runtimes leave out the terminator when the result fills
+    // One character more than the capacity: some runtimes omit the terminator when the result fills
     // the buffer exactly.
     std::wstring buffer(capacity + 1, L'\0');
     buffer.resize(std::wcsftime(buffer.data(), buffer.size(), widePattern.c_str(), &time));

@@ -9,21 +9,21 @@
 namespace ov
 {
 
-/// The replacement for something that is no character.
+/// Replaces an invalid unit or byte.
 inline constexpr char32_t kReplacementCharacter = 0xFFFD;
 
 /// One character read from the front of a text.
 struct CodePoint {
-    char32_t value;     ///< The character; for an invalid one the unit or byte itself.
-    std::size_t length; ///< Units or bytes taken, at least 1.
-    bool valid;         ///< False for half a surrogate pair or a byte outside any valid sequence.
+    char32_t value;     ///< The character. If invalid, the unit or byte itself.
+    std::size_t length; ///< Units or bytes consumed, at least 1.
+    bool valid;         ///< False for an unpaired surrogate or a byte outside any valid sequence.
 };
 
-/// The first character of a text that is not empty.
+/// Reads the first character of a text, which must not be empty.
 CodePoint ReadUtf16(TextView text);
 
-/// The first character of UTF-8 bytes that are not empty. Over-long forms, surrogates and
-/// values beyond U+10FFFF are invalid; an invalid byte is taken alone.
+/// Reads the first character of UTF-8 bytes, which must not be empty. Over-long forms, surrogates
+/// and values above U+10FFFF are invalid. An invalid byte is consumed alone.
 CodePoint ReadUtf8(std::string_view bytes);
 
 /// Appends a character (at most U+10FFFF) as one or two units.
