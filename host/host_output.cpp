@@ -7,7 +7,7 @@ namespace
 
 constexpr const wchar_t* Caption = L"Orthoval Preferences";
 
-// UTF-8 into files and pipes, characters to a console.
+// Writes UTF-8 to files and pipes, and UTF-16 characters to a console.
 bool WriteTo(DWORD stream, const std::wstring& text)
 {
     HANDLE output = GetStdHandle(stream);

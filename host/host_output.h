@@ -1,16 +1,16 @@
-/// Where the launcher's texts go: to the console or the file that the caller
-/// has given, else into a message box.
+/// The launcher's output: to the console or to redirected output if there is one,
+/// otherwise into a message box.
 #pragma once
 
 #include <string>
 
-/// Lets go of a console that Windows has opened for this process alone, as it
-/// does for a start from a folder or a shortcut: the dialog is the window that
-/// the user asked for. Call once, first.
+/// Detaches from a console that Windows opened for this process alone, as it does
+/// when the launcher is started from a folder or a shortcut: the user asked for the
+/// dialog only. Call it once, before anything else.
 void DropOwnConsole();
 
-/// Says something that was asked for (stdout, or an information box).
+/// Shows text that the user asked for (stdout, or an information box).
 void ShowText(const std::wstring& text);
 
-/// Says what went wrong (stderr, or a box with the warning icon).
+/// Shows an error (stderr, or a message box with the warning icon).
 void ShowError(const std::wstring& text);

@@ -1,5 +1,5 @@
-// ovPreferencesHost: opens the Preferences dialog from a command line. A
-// console program, so that scripts wait for it and see its output and result.
+// ovPreferencesHost opens the Preferences dialog from a command line. It is a
+// console program, so that scripts wait for it and see its output and exit code.
 #include "app/cmd_line_info.h"
 #include "framework/wide.h"
 #include "host/host_output.h"
@@ -13,7 +13,7 @@
 namespace
 {
 
-// The exit code besides the library's own results.
+// Exit code of the launcher itself; all others are results of the library.
 constexpr int ExitNotStarted = 2;
 
 constexpr const wchar_t* Usage =
@@ -32,7 +32,7 @@ constexpr const wchar_t* Usage =
     L"Exit code: 0 the dialog was shown, 1 it could not be set up,\n"
     L"2 wrong option, or ovPreferences.dll is missing or not the right one.";
 
-// The library beside this program, and no other of that name.
+// The path of the library in this program's folder; no other folder is searched.
 std::wstring LibraryPath()
 {
     std::wstring path(MAX_PATH, L'\0');
@@ -58,26 +58,26 @@ std::wstring SystemText(DWORD error)
     return result;
 }
 
-// A leading "-" or "/" makes a switch.
+// A leading "-" or "/" makes a parameter a switch.
 bool IsSwitch(const wchar_t* text)
 {
     return *text == L'-' || *text == L'/';
 }
 
-// Whether the command-line texts take the switch: with a keyword behind it, one
-// of them changes.
+// True if CCmdLineInfo knows the switch: passed together with its value, it changes
+// one of the texts.
 bool IsKnownSwitch(const wchar_t* text)
 {
     if (std::wcsncmp(text, L"--", 2) == 0)
         return false;
-    const ov::Text before(1, u'\0'); // which no parameter can hold
+    const ov::Text before(1, u'\0'); // a value that no parameter can have
     CCmdLineInfo info;
     info.m_defaultPath = info.m_currentPath = info.m_userName = before;
     info.ParseParam(text + 1, TRUE, FALSE);
     return info.m_defaultPath != before || info.m_currentPath != before || info.m_userName != before;
 }
 
-// Hands the parameters on, the switches without their first character.
+// Passes the parameters on; switches lose their first character.
 void Parse(CCmdLineInfo& info, int count, wchar_t** texts)
 {
     for (int index = 1; index < count; ++index) {
@@ -92,7 +92,7 @@ const wchar_t* NullIfEmpty(const ov::Text& text)
     return text.empty() ? nullptr : Wide(text);
 }
 
-// One of the program's string resources, with "%1" and "%2" filled in.
+// A string resource of the program with "%1" and "%2" replaced.
 std::wstring Message(UINT id, const std::wstring& first, const std::wstring& second)
 {
     const wchar_t* resource = nullptr;
@@ -151,10 +151,10 @@ int wmain(int count, wchar_t** texts)
             return ExitNotStarted;
         }
     }
-    // The library reads and writes the file's bytes by the process's C locale,
-    // which is its host's to choose. Here that is this program: left alone, the
-    // locale "C" would take each byte for the character of that number, whatever
-    // the system's code page is.
+    // The library converts the file's bytes with the C locale of the process, which the
+    // host has to set. The host is this program. In the default locale "C" each byte
+    // would become the character with the same number, whatever the code page of the
+    // system is.
     std::setlocale(LC_CTYPE, "");
     CCmdLineInfo info;
     Parse(info, count, texts);
