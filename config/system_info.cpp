@@ -6,7 +6,7 @@
 
 namespace
 {
-// What the system's name functions may fill at most, in characters.
+// The longest result of the system's name functions, in characters.
 constexpr DWORD nameCapacity = 32767;
 
 ov::Text AskName(BOOL(WINAPI* ask)(LPWSTR, LPDWORD))
@@ -31,8 +31,8 @@ ov::Text GetMachineName()
 
 std::tm GetLocalTimeNow()
 {
-    // Not the C library's: it takes the time zone from a variable of the
-    // environment that other programs spell in ways it does not know.
+    // Not the C library's function: it takes the time zone from an environment variable
+    // that other programs set in formats it does not understand.
     SYSTEMTIME now{};
     ::GetLocalTime(&now);
     std::tm local{};

@@ -4,12 +4,12 @@
 
 #include "base/text.h"
 
-/// The logged-on user's name; empty when the system does not provide it.
+/// The logged-on user's name; empty if the system does not provide it.
 ov::Text GetLogonUserName();
 
-/// The computer's name; empty when the system does not provide it.
+/// The computer's name; empty if the system does not provide it.
 ov::Text GetMachineName();
 
-/// The local time now, in the system's time zone. Whether daylight saving is in
-/// force and the day of the year are left open.
+/// The current local time, in the system's time zone. The daylight saving flag and
+/// the day of the year are not set.
 std::tm GetLocalTimeNow();

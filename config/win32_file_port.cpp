@@ -10,10 +10,10 @@
 
 namespace
 {
-// How much of the system's text a message shows, in characters.
+// The most characters of a system message that a message box shows.
 constexpr std::size_t systemTextCapacity = 256;
 
-// The system's code for a person's full share of a disk; the headers lack it.
+// The system's error code for an exhausted disk quota; the headers lack it.
 constexpr DWORD diskQuotaExceeded = 1295;
 
 ov::FileResult Failed(DWORD error)
@@ -36,8 +36,8 @@ DWORD PieceOf(std::size_t size)
     return static_cast<DWORD>(std::min<std::size_t>(size, std::numeric_limits<DWORD>::max()));
 }
 
-/// A full path without the prefix that the system puts before it, which other
-/// programs and users do not know.
+/// A full path without the prefix that the system adds, because other programs and
+/// users do not know it.
 ov::Text WithoutPrefix(ov::Text path)
 {
     constexpr ov::TextView network = u"\\\\?\\UNC\\";
@@ -49,8 +49,8 @@ ov::Text WithoutPrefix(ov::Text path)
     return path;
 }
 
-/// True for a path that leads to a device or a pipe: NUL, COM1, \\.\pipe\name. It
-/// is not opened, since that alone may do something.
+/// True for the path of a device or a pipe: NUL, COM1, \\.\pipe\name. It is not
+/// opened, because opening alone may have effects.
 bool IsDevice(const ov::Text& path)
 {
     std::wstring full(::GetFullPathNameW(Wide(path), 0, nullptr, nullptr), L'\0');
@@ -59,7 +59,7 @@ bool IsDevice(const ov::Text& path)
     return length < full.size() && full.starts_with(L"\\\\.\\");
 }
 
-/// Identifies a file, whatever path leads to it.
+/// Identifies a file independently of its path.
 bool IdentityOf(const ov::Text& path, BY_HANDLE_FILE_INFORMATION& identity)
 {
     const HANDLE file = ::CreateFileW(Wide(path), 0, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
@@ -68,7 +68,7 @@ bool IdentityOf(const ov::Text& path, BY_HANDLE_FILE_INFORMATION& identity)
         return false;
     const bool asked = ::GetFileInformationByHandle(file, &identity) != FALSE;
     ::CloseHandle(file);
-    // A file system without such numbers gives 0 for every file.
+    // A file system without file ids returns 0 for every file.
     return asked && (identity.nFileIndexHigh != 0 || identity.nFileIndexLow != 0);
 }
 } // namespace
@@ -156,8 +156,8 @@ ov::FileResult CWin32FilePort::Read(ov::FileHandle file, std::span<char> buffer,
 
 ov::FileResult CWin32FilePort::Create(const ov::Text& path, ov::CreateMode mode, ov::FileHandle& file)
 {
-    // OPEN_ALWAYS rather than CREATE_ALWAYS, which empties the file, refuses
-    // hidden ones and drops the attributes that a file has.
+    // OPEN_ALWAYS instead of CREATE_ALWAYS, which empties the file, fails for
+    // hidden files and drops the file's attributes.
     const DWORD disposition = mode == ov::CreateMode::New ? CREATE_NEW : OPEN_ALWAYS;
     const HANDLE created = ::CreateFileW(Wide(path), GENERIC_WRITE, FILE_SHARE_READ, nullptr, disposition,
                                          FILE_ATTRIBUTE_NORMAL, nullptr);
@@ -172,7 +172,7 @@ ov::FileResult CWin32FilePort::Reserve(ov::FileHandle file, std::size_t size)
     LARGE_INTEGER current{};
     FILE_ALLOCATION_INFO room{};
     room.AllocationSize.QuadPart = static_cast<LONGLONG>(size);
-    // Less than the file holds would cut it.
+    // An allocation smaller than the file would truncate it.
     if (!::GetFileSizeEx(Handle(file), &current) || current.QuadPart >= room.AllocationSize.QuadPart ||
         ::SetFileInformationByHandle(Handle(file), FileAllocationInfo, &room, sizeof room))
         return {};

@@ -2,11 +2,11 @@
 
 #include "config/core/file_port.h"
 
-/// The system's words for one of its error codes, at most 256 characters; "Error N." where it has
+/// The system's message for one of its error codes, at most 256 characters; "Error N." if it has
 /// none.
 ov::Text SystemErrorText(unsigned long error);
 
-/// The file port over Windows calls.
+/// The file port for Windows.
 class CWin32FilePort final : public ov::FilePort
 {
   public:

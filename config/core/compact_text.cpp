@@ -24,7 +24,7 @@ bool CompactView::FitsNarrow() const
 {
     if (IsNarrow())
         return true;
-    // All units together: the loop then runs without a branch for each.
+    // Combines all units first, so that the loop needs no branch per unit.
     unsigned seen = 0;
     for (const char16_t unit : Wide())
         seen |= unit;
@@ -68,7 +68,7 @@ bool operator==(CompactView a, CompactView b)
 
 std::strong_ordering operator<=>(CompactView a, CompactView b)
 {
-    // Bytes are ordered by their values as unsigned numbers.
+    // Bytes are compared as unsigned numbers.
     if (a.IsNarrow() && b.IsNarrow())
         return a.Narrow() <=> b.Narrow();
     if (!a.IsNarrow() && !b.IsNarrow())

@@ -10,40 +10,40 @@
 namespace ov
 {
 
-// How a line of a configuration file is understood. Everything that looks at lines uses these
-// functions, so that there is one meaning.
+// How a line of a configuration file is parsed. All code that examines lines uses these functions,
+// so that every line has one meaning.
 //
-// Lines are taken apart as bytes. In every encoding that is supported the marks below are single
-// bytes of ASCII, and none of them is a later byte of another character: those are 0x80 and above in
-// UTF-8 and EUC, 0x40 and above, or digits, in the other encodings.
+// Lines are parsed as bytes. In every supported encoding the characters searched for below are single
+// ASCII bytes, and none of them is a trail byte of another character: trail bytes are 0x80 and above
+// in UTF-8 and EUC, and 0x40 and above, or digits, in the other encodings.
 
 /// The kinds of lines.
 enum class LineKind : std::uint8_t {
     Blank,
     Comment,    ///< Begins with "#".
     Directive,  ///< Begins with "%"; the reader skips it.
-    Assignment, ///< A name, an operator, a value that may be empty.
-    Ignored,    ///< Anything else: the second word holds no operator. The reader skips it.
+    Assignment, ///< A name, an operator and a value, which may be empty.
+    Ignored,    ///< Anything else: the second word contains no operator. The reader skips it.
 };
 
-/// A line taken apart. The parts point into the line.
+/// A parsed line. The parts point into the line.
 struct ConfigLine {
     LineKind kind = LineKind::Blank;
     char operation = '\0';          ///< Assignment: '=', '>', '<', '+' or ':'.
-    std::string_view text;          ///< The line without the white space at its ends.
+    std::string_view text;          ///< The line without leading and trailing white space.
     std::string_view name;          ///< Assignment and Ignored: the first word.
     std::string_view operatorToken; ///< Assignment and Ignored: the second word; may be empty.
-    std::string_view value;         ///< Assignment and Ignored: what follows the one separator after
-                                    ///< the second word, quotes included; may be empty.
+    std::string_view value;         ///< Assignment and Ignored: the text after the one separator that
+                                    ///< follows the second word, quotes included; may be empty.
 };
 
-/// True for what separates the words of a line.
+/// True for the characters that separate the words of a line.
 constexpr bool IsBlank(char c)
 {
     return c == ' ' || c == '\t';
 }
 
-/// The bytes without the white space at both ends.
+/// The bytes without leading and trailing white space.
 inline std::string_view TrimBytes(std::string_view line)
 {
     const auto isSpace = [](char c) { return IsWhiteSpace(static_cast<unsigned char>(c)); };
@@ -54,7 +54,7 @@ inline std::string_view TrimBytes(std::string_view line)
     return line;
 }
 
-/// The character that decides what an operator token does; NUL when it holds none.
+/// The operator in a token, which decides how the line is applied; NUL if it contains none.
 inline char OperatorOf(std::string_view token)
 {
     for (const char c : std::string_view("=><+:")) {
@@ -64,7 +64,7 @@ inline char OperatorOf(std::string_view token)
     return '\0';
 }
 
-/// Takes a line apart, which is given without its line end.
+/// Parses a line, which is passed without its line end.
 inline ConfigLine ParseConfigLine(std::string_view line)
 {
     ConfigLine parts;
@@ -87,15 +87,15 @@ inline ConfigLine ParseConfigLine(std::string_view line)
     return parts;
 }
 
-/// True when the value of a line is quoted: its first and its last character are quotes, which
-/// may be the same one.
+/// True if the value of a line is quoted: its first and last characters are quotes. They may be
+/// the same character.
 inline bool IsQuoted(std::string_view value)
 {
     return !value.empty() && value.front() == '"' && value.back() == '"';
 }
 
-/// A value for which IsQuoted holds as it is read: without all quotes and without what follows a "#"
-/// that is not its first character. `room` takes the value when quotes are inside it.
+/// The value of a line for which IsQuoted is true: without any quotes, and without the part from the first
+/// "#" after its first character. `room` receives the value if quotes have to be removed inside it.
 template <typename Unit>
 std::basic_string_view<Unit> Unquoted(std::basic_string_view<Unit> value, std::basic_string<Unit>& room)
 {

@@ -16,7 +16,7 @@ namespace
 // The separator of list items.
 constexpr CompactView kSeparator = CompactView::OfBytes(";");
 
-// The kind of two values joined without a separator, when the first has the given kind.
+// The kind of two values joined without a separator, if the first has the given kind.
 SettingKind ClassifyJoined(CompactView first, SettingKind kind, CompactView second)
 {
     if (first.empty())
@@ -29,8 +29,8 @@ SettingKind ClassifyJoined(CompactView first, SettingKind kind, CompactView seco
     return added == SettingKindInteger ? kind : added;
 }
 
-// Builds a table from the blocks of a file. The table is a new one, so that a file that cannot be
-// read to its end leaves the store as it was.
+// Builds a table from the blocks of a file. It is a new table, so that the store keeps its old one
+// if the file cannot be read completely.
 class ConfigReader
 {
   public:
@@ -44,7 +44,7 @@ class ConfigReader
         m_splitter.Feed(block, [this](std::string_view line) { AddLine(line); });
     }
 
-    // After the last block: puts the table into the store.
+    // Call it after the last block: moves the table into the store.
     void Finish()
     {
         m_splitter.Finish([this](std::string_view line) { AddLine(line); });
@@ -61,7 +61,7 @@ class ConfigReader
         const ConfigLine line = ParseConfigLine(bytes);
         switch (line.kind) {
         case LineKind::Blank:
-            // Above the first empty line is the header, which the writer makes again.
+            // The lines above the first empty line are the header. The writer generates that again.
             if (m_inHeader)
                 m_comment.clear();
             m_inHeader = false;
@@ -98,8 +98,8 @@ class ConfigReader
 
     bool ForCurrent() const { return m_table == kCurrentTable; }
 
-    // A quoted value loses its quotes and what follows a "#"; any other value is taken unchanged. It is
-    // decoded before: the bytes on both sides of a quote are never one character.
+    // A quoted value loses its quotes and the part from "#" on; any other value is unchanged. The value is
+    // decoded first. This is safe because the bytes on both sides of a quote never form one character.
     CompactView ValueOf(std::string_view bytes)
     {
         const CompactView value = Decoded(bytes, m_value);
@@ -123,7 +123,7 @@ class ConfigReader
             m_operations[index] = operation;
     }
 
-    // While the current file is read, its earlier lines are the current values.
+    // Earlier lines of the current file are the current values while it is read.
     void Combine(SettingTable::Index index, char operation, CompactView value)
     {
         if (operation == '>') {
@@ -136,12 +136,12 @@ class ConfigReader
             const SettingRecord record = m_records.At(index);
             const auto kind = static_cast<SettingKind>(record.kind);
             m_records.ExtendValue(index, {}, value, ClassifyJoined(record.value, kind, value));
-        } // ":" leaves a value that is there alone.
+        } // ":" keeps an existing value.
     }
 
-    // The defaults file combines with the current table, not with its own earlier lines: what the
-    // person's file says at that time decides. So only a name's last line counts, and the current
-    // value, which may be long, is looked at once.
+    // The defaults file is combined with the current table, not with its own earlier lines: the user's
+    // file as read so far decides. Only the last line of each name therefore counts, and the current
+    // value, which may be long, is accessed once.
     void CombineWithCurrent()
     {
         for (std::size_t i = 0; i < m_operations.size(); ++i) {
@@ -169,7 +169,7 @@ class ConfigReader
         }
     }
 
-    // The text of the bytes: the bytes themselves where they can be taken for it, else in `room`.
+    // The decoded bytes: a view of the bytes themselves if they are plain, otherwise a text in `room`.
     CompactView Decoded(std::string_view bytes, Text& room) const
     {
         if (m_decoder.IsPlain(bytes))
@@ -184,11 +184,11 @@ class ConfigReader
     const LocaleDecoder m_decoder;
     LineSplitter m_splitter;
     SettingTable m_records;
-    std::vector<char> m_operations; // Of each variable's last line; only for the defaults file.
-    std::string m_comment;          // The lines above the next variable.
+    std::vector<char> m_operations; // The operator of each variable's last line; only for the defaults file.
+    std::string m_comment;          // The comment lines collected for the next variable.
     bool m_inHeader = true;
     bool m_anyLine = false;
-    // Room for what differs from the bytes of the line; kept from line to line.
+    // Buffers for text that differs from the bytes of the line; reused for every line.
     Text m_name;
     Text m_value;
     Text m_decodedComment;
@@ -224,7 +224,7 @@ ReadResult ReadConfigFile(SettingStore& store, int table, const Text& path, File
 {
     if (path.empty())
         return {ReadOutcome::NothingToRead};
-    // Reading from a device or a pipe may wait for ever.
+    // Reading from a device or a pipe may block forever.
     const FileKind kind = files.Kind(path);
     if (kind == FileKind::Absent || kind == FileKind::Other)
         return {ReadOutcome::NothingToRead};

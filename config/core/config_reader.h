@@ -12,31 +12,31 @@
 namespace ov
 {
 
-/// The kind that a value read from a file gets: text (also when empty), whole number or number
-/// with a decimal point.
+/// The kind of a value read from a file: text (also if empty), whole number, or number with a
+/// decimal point.
 SettingKind ClassifyValue(CompactView value);
 
-/// Reads the bytes of a configuration file into a table of the store. The table is replaced; no bytes
-/// at all leave it as it was.
+/// Reads the bytes of a configuration file into a table of the store, replacing the table. Empty input
+/// leaves the table unchanged.
 void ReadConfig(SettingStore& store, int table, std::string_view bytes, Charset charset = Charset::OfProcess);
 
-/// How the reading of a configuration file ended.
+/// How reading a configuration file ended.
 enum class ReadOutcome {
-    Read,          ///< To the file's end; an empty file counts and leaves the table as it was.
-    NothingToRead, ///< No file is named, or there is none, or it is a device or a pipe.
-    Failed,        ///< There is a file, but it could not be read.
+    Read,          ///< The whole file was read. An empty file counts and leaves the table unchanged.
+    NothingToRead, ///< The path is empty, the file does not exist, or it is a device or a pipe.
+    Failed,        ///< The file exists but could not be read.
 };
 
-/// What came of reading a configuration file.
+/// The result of reading a configuration file.
 struct ReadResult {
     ReadOutcome outcome;
-    Text systemText{}; ///< Failed: the system's words for it; may be empty.
+    Text systemText{}; ///< Failed: the system's error message; may be empty.
 };
 
-/// Reads a configuration file into a table of the store. An empty path, a file that does not exist
-/// and what is no file are nothing to read. The store is unchanged unless the whole file was read.
+/// Reads a configuration file into a table of the store. An empty path, a missing file and a path to
+/// something other than a file give NothingToRead. The store changes only if the whole file was read.
 /// `known`, if given, then receives the path and the bytes that were read; otherwise it is unchanged
-/// too.
+/// as well.
 ReadResult ReadConfigFile(SettingStore& store, int table, const Text& path, FilePort& files,
                           std::optional<KnownFile>* known = nullptr);
 

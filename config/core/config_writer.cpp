@@ -35,13 +35,13 @@ void ReplacePlaceholder(Text& text, TextView placeholder, TextView value)
         text.replace(at, placeholder.size(), value);
 }
 
-// Calls the function with each item of a list that is not empty. Quotes are not parts of items.
+// Calls the function with each non-empty item of a list. Quotes are not part of an item.
 template <typename ItemFunction>
 void VisitItems(Text value, const ItemFunction& visit)
 {
     std::erase(value, u'"');
-    // Blanks at the very end belong to no item; taken away once, they are not skipped again for
-    // every item. A list has a semicolon at least.
+    // Blanks at the end of the value belong to no item. Removing them once avoids skipping them again for
+    // every item. A list contains at least one semicolon, so the loop ends.
     while (value.back() == u' ')
         value.pop_back();
     TextView rest = value;
@@ -58,7 +58,7 @@ void VisitItems(Text value, const ItemFunction& visit)
     }
 }
 
-// Appends a list's items, the first with "=" under the comment, each further one with ">".
+// Appends the items of a list: the first with "=" under the comment, each other one with ">".
 void AppendList(Text& lines, const SettingRecord& record, CompactView comment)
 {
     bool first = true;
@@ -71,7 +71,7 @@ void AppendList(Text& lines, const SettingRecord& record, CompactView comment)
     });
 }
 
-// The whole character at an index, both units of a surrogate pair.
+// The whole character at an index: both units of a surrogate pair.
 Text CharacterAt(TextView text, std::size_t index)
 {
     const bool pair = text[index] >= 0xD800 && text[index] <= 0xDBFF && index + 1 < text.size() &&
@@ -79,13 +79,13 @@ Text CharacterAt(TextView text, std::size_t index)
     return Text(text.substr(index, pair ? 2 : 1));
 }
 
-// Turns text into the bytes of a file. What is appended must end where a character ends.
+// Converts text to the bytes of a file. Each appended text must end at a character boundary.
 class FileBytes
 {
   public:
     FileBytes(std::string& bytes, Charset charset) : m_encoder(charset), m_bytes(bytes) { m_bytes.clear(); }
 
-    // Gives the first character that the encoding lacks, nothing when all were written.
+    // Returns the first character that the encoding lacks; empty if the whole text was written.
     Text Append(TextView text)
     {
         m_encoded.clear();
@@ -95,7 +95,7 @@ class FileBytes
         return {};
     }
 
-    // As appending the pieces joined into one text.
+    // Appends the pieces as if they were one text.
     Text Append(std::span<const CompactView> pieces)
     {
         if (std::all_of(pieces.begin(), pieces.end(), [this](CompactView piece) { return IsPlain(piece); })) {
@@ -118,7 +118,7 @@ class FileBytes
     Text m_joined;
 };
 
-// The setting's lines; nothing, or the first character that the encoding lacks.
+// Appends the setting's lines. Returns the first character that the encoding lacks; empty on success.
 Text AppendSetting(FileBytes& output, const SettingRecord& record, CompactView comment)
 {
     if (record.value.Contains(u';')) {
@@ -161,7 +161,7 @@ std::vector<Text> WrittenValues(TextView value, int kind)
 WriteResult WriteConfig(const SettingStore& store, TextView header, std::string& bytes, Charset charset)
 {
     FileBytes output(bytes, charset);
-    // Enough for nearly every file: one byte more for a line of 16, and the marks around a value.
+    // Enough for nearly every file: one byte more per line of 16 bytes, and the characters around a value.
     const std::size_t textBytes = store.TextBytes(kCurrentTable);
     bytes.reserve(header.size() * 2 + textBytes + textBytes / 16 + store.Count(kCurrentTable) * 8);
     if (Text refused = output.Append(Text(header) + u"\n"); !refused.empty())

@@ -13,72 +13,72 @@ namespace ov
 /// The result of a file operation.
 struct FileResult {
     bool ok = true;
-    Text systemText; ///< The system's words for a failure, without a line end; may be empty.
+    Text systemText; ///< The system's message for a failure, without a line end; may be empty.
 
     explicit operator bool() const { return ok; }
 };
 
-/// An open file, in the port's own meaning.
+/// An open file. Only the port that returned it knows its meaning.
 using FileHandle = std::intptr_t;
 
-/// What a path leads to.
+/// What kind of object a path refers to.
 enum class FileKind {
     Absent,
     File,
     Directory,
-    Other,   ///< Neither: a device, a pipe, links that lead in a circle.
-    Unknown, ///< The system would not say.
+    Other,   ///< None of these: a device, a pipe, or symbolic links that form a cycle.
+    Unknown, ///< The system does not report it.
 };
 
-/// What Create does with a file that is already there.
+/// What Create does with an existing file.
 enum class CreateMode {
-    New,      ///< Fails and leaves it alone.
-    Truncate, ///< Opens it; its content stays until something is written.
+    New,      ///< Fails and leaves the file unchanged.
+    Truncate, ///< Opens the file; its content remains until something is written.
 };
 
-/// The file system as reading and saving need it. Every operation reports failure by its result;
-/// none shows anything, and none throws except std::bad_alloc. Paths are in the system's notation.
+/// The file system operations for reading and saving. Every operation reports failure in its result;
+/// none shows a message, and none throws except std::bad_alloc. Paths are in the system's notation.
 class FilePort
 {
   public:
     virtual ~FilePort() = default;
 
-    /// What the path leads to.
+    /// The kind of object that the path refers to.
     virtual FileKind Kind(const Text& path) = 0;
 
-    /// The full path of what a symbolic link leads to, which need not be there; empty when the path
-    /// is no link or the link cannot be followed.
+    /// The full path of a symbolic link's target, which need not exist; empty if the path is not a link
+    /// or the link cannot be followed.
     virtual Text LinkTarget(const Text& path) = 0;
 
-    /// True when both paths are known to lead to one and the same file.
+    /// True if both paths are known to refer to the same file.
     virtual bool IsSameFile(const Text& first, const Text& second) = 0;
 
-    /// Opens a file for reading; others may read and write it meanwhile.
+    /// Opens a file for reading; other programs may read and write it meanwhile.
     virtual FileResult OpenForReading(const Text& path, FileHandle& file) = 0;
 
-    /// Reads the next bytes; `count` 0 is the end of the file.
+    /// Reads the next bytes; `count` is 0 at the end of the file.
     virtual FileResult Read(FileHandle file, std::span<char> buffer, std::size_t& count) = 0;
 
-    /// Opens a file for writing and shuts out a second writer. On failure nothing is changed.
+    /// Opens a file for writing and prevents a second writer. On failure nothing is changed.
     virtual FileResult Create(const Text& path, CreateMode mode, FileHandle& file) = 0;
 
-    /// Makes room for a content of so many bytes; what the file holds stays. A system that cannot
-    /// say whether there is room succeeds.
+    /// Reserves disk space for a content of `size` bytes; the file's present content remains. Succeeds on
+    /// a system that cannot report whether there is enough space.
     virtual FileResult Reserve(FileHandle file, std::size_t size) = 0;
 
-    /// Makes the bytes the whole content of the file; anything less is a failure.
+    /// Replaces the whole content of the file by the bytes; a partial write is a failure.
     virtual FileResult Write(FileHandle file, std::string_view bytes) = 0;
 
-    /// Has the written bytes put on the disk.
+    /// Forces the written bytes to the disk.
     virtual FileResult Flush(FileHandle file) = 0;
 
-    /// Closes the file, even when it reports a failure.
+    /// Closes the file, even if it reports a failure.
     virtual FileResult Close(FileHandle file) = 0;
 
     /// Renames a file. Never replaces an existing file: that is a failure.
     virtual FileResult Rename(const Text& from, const Text& to) = 0;
 
-    /// Deletes a file, also a read-only one.
+    /// Deletes a file, even a read-only one.
     virtual FileResult Remove(const Text& path) = 0;
 };
 

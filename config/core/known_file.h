@@ -8,26 +8,26 @@
 namespace ov
 {
 
-/// What the program knows of a file's content: the bytes that it last read from the path, or left
-/// there itself.
+/// What the program knows about a file's content: the bytes that it last read from the path or wrote
+/// there.
 struct KnownFile {
     Text path;
     std::string content;
 };
 
-/// How a file on the disk compares with known content.
+/// The result of comparing a file on disk with known content.
 enum class ContentMatch {
     Same,
     Different,
-    Unreadable, ///< The file could not be read to its end.
+    Unreadable, ///< The file could not be read completely.
 };
 
 /// Compares the bytes of a file with the known ones. Throws std::bad_alloc.
 ContentMatch CompareContent(FilePort& files, const Text& path, const std::string& known);
 
-/// A name beside the file under which nothing exists: "office (replaced).cfg", then
-/// "office (replaced 2).cfg" and so on up to 99. When all are taken, the last of them. A name whose
-/// existence the port cannot determine counts as taken.
+/// An unused name in the file's folder: "office (replaced).cfg", then "office (replaced 2).cfg" and so on
+/// up to 99. If all exist, returns the last of them. A name counts as used if the port cannot determine
+/// whether it exists.
 Text FreeNameBeside(FilePort& files, TextView path);
 
 } // namespace ov

@@ -30,8 +30,8 @@ int DescriptorOf(FileHandle file)
     return static_cast<int>(file);
 }
 
-// Opens what is there. Opening a pipe must not wait for its other end, and nothing but a file is
-// read or written.
+// Opens an existing file. Opening a pipe must not block until its other end is opened, and only regular
+// files are read or written.
 int OpenExisting(const char* name, int access)
 {
     const int descriptor = open(name, access | O_CLOEXEC | O_NONBLOCK);
@@ -44,7 +44,7 @@ int OpenExisting(const char* name, int access)
     return -1;
 }
 
-// Opens a file for writing and reports whether it is new.
+// Opens a file for writing and reports whether it was created.
 int OpenForWriting(const char* name, CreateMode mode, bool& created)
 {
     created = false;
@@ -90,7 +90,7 @@ Text PosixFilePort::LinkTarget(const Text& path)
     std::error_code error;
     if (const fs::path target = fs::canonical(name, error); !error)
         return TextFromUtf8(target.string());
-    // Where the last link leads to nothing, the file is to be made there.
+    // If the last link's target does not exist, the file is created at that target.
     for (int links = 0; IsLink(name); ++links) {
         const fs::path target = fs::read_symlink(name, error);
         if (error || links == kMostLinks)
@@ -189,7 +189,7 @@ FileResult PosixFilePort::Rename(const Text& from, const Text& to)
         return {};
     if (errno != EINVAL && errno != ENOSYS)
         return Failure(errno);
-    // A file system that cannot rename without replacing can at least link without replacing.
+    // A file system without rename-without-replace may at least support link, which never replaces.
     if (link(oldName.c_str(), newName.c_str()) != 0)
         return Failure(errno);
     if (unlink(oldName.c_str()) == 0)

@@ -5,8 +5,8 @@
 namespace ov
 {
 
-/// The file port over POSIX calls. Paths are UTF-8 on the disk; a second writer is shut out by an
-/// advisory lock.
+/// The file port for POSIX. Paths are UTF-8 on disk. An advisory lock prevents a second
+/// writer.
 class PosixFilePort final : public FilePort
 {
   public:

@@ -15,7 +15,7 @@ namespace
 
 constexpr std::size_t kLongestSystemText = 255;
 
-// True for a name that is its own backup's: it ends in ".bak" in any case.
+// True for a file that would be its own backup: its name ends in ".bak", in upper or lower case.
 bool EndsInBackupExtension(TextView path)
 {
     constexpr TextView kExtension = u".BAK";
@@ -27,7 +27,7 @@ bool EndsInBackupExtension(TextView path)
     return end == kExtension;
 }
 
-// An operation that runs out of memory has failed like any other; the system has no words for it.
+// Running out of memory is a failure like any other, without a system message.
 template <class Operation>
 FileResult Try(Operation operation) noexcept
 {
@@ -38,11 +38,11 @@ FileResult Try(Operation operation) noexcept
     }
 }
 
-// One save: where the old content is, and the way back.
+// One save. It tracks where the old content is and how to restore it.
 class Save
 {
   public:
-    // `known` is the content that was last read or left under the path; null when there is none.
+    // `known` is the content last read from or written to the path; null if there is none.
     Save(const Text& path, FileKind kind, const std::string* known, FilePort& files, SavePrompts& prompts)
         : m_path(path), m_kind(kind), m_known(known), m_files(files), m_prompts(prompts)
     {
@@ -55,7 +55,7 @@ class Save
             m_result.oldContent = OldContent::Stands;
             return std::move(m_result);
         }
-        // Exceptions leave every file as it was: nothing is thrown once one is changed.
+        // An exception leaves every file unchanged: nothing is thrown after the first change.
         if ((m_kind == FileKind::Absent || SecureOldContent()) && Write(bytes))
             DropOldContent();
         else
@@ -63,15 +63,15 @@ class Save
         return std::move(m_result);
     }
 
-    // After a failure: what this save has left under the path in place of the old content.
+    // After a failure: the content that this save left under the path instead of the old one.
     std::optional<std::string> TakeLeftContent() noexcept { return std::move(m_left); }
 
   private:
     // Where the old content is after a rename that reported a failure.
     enum class Whereabouts { UnderOwnName, UnderBackupName, Nowhere, Unknown };
 
-    // A file that was read and cannot be compared now is not asked about: what cannot be compared
-    // later either is not deleted.
+    // A file that was read before but cannot be compared now is replaced without a question. If its content
+    // cannot be compared later either, it is not deleted.
     bool MayReplace()
     {
         if (m_known != nullptr && CompareContent(m_files, m_path, *m_known) != ContentMatch::Different)
@@ -82,7 +82,7 @@ class Save
         return m_keep;
     }
 
-    // A file that is to be kept gets its new name at once; it is the backup meanwhile.
+    // A file that is to be kept is renamed to its new name at once; that file then serves as the backup.
     bool SecureOldContent()
     {
         if (!m_keep) {
@@ -107,7 +107,7 @@ class Save
         return SecureInMemory();
     }
 
-    // Also a rename that was done may report a failure, for example over a network.
+    // A rename may report a failure although it was done, for example over a network.
     Whereabouts LocateOldContent() noexcept
     {
         const FileKind here = KindOf(m_path);
@@ -116,13 +116,13 @@ class Save
         const FileKind there = KindOf(m_result.backupPath);
         if (here != FileKind::Absent || (there != FileKind::File && there != FileKind::Absent))
             return Whereabouts::Unknown;
-        // The name for a file that is to be kept was free. Under the backup's there may be a leftover.
+        // The name for a kept file was unused before, but the backup's name may hold a leftover file.
         const bool isBackup =
             there == FileKind::File && (m_keep || MatchOf(m_result.backupPath) != ContentMatch::Different);
         return isBackup ? Whereabouts::UnderBackupName : Whereabouts::Nowhere;
     }
 
-    // Asks twice if necessary: after one failure the answer decides what the user is told.
+    // Asks twice if necessary, because the answer decides what the user is told about the failure.
     FileKind KindOf(const Text& path) noexcept
     {
         FileKind kind = FileKind::Unknown;
@@ -145,9 +145,9 @@ class Save
         return match;
     }
 
-    // Where no backup can be made, a file that is to be kept, or has changed since it was compared, is
-    // copied. The content is read after the notice: until the user has answered, another program may
-    // change it.
+    // Without a backup, a file that is to be kept, or that has changed since the comparison, is copied.
+    // The content is read after the user has seen the notice, because another program may change it
+    // until then.
     bool SecureInMemory()
     {
         const FileResult reading = KeepOldContentInMemory();
@@ -163,9 +163,9 @@ class Save
         return copied;
     }
 
-    // A file that was read before and cannot be read now is overwritten all the same: a save is not
-    // given up for lack of a backup. Reading is tried twice, since the memory is the only backup there
-    // will be.
+    // A file that was read before and cannot be read now is overwritten nevertheless: a missing backup does
+    // not prevent a save. Reading is tried twice, because the copy in memory will be the only
+    // backup.
     FileResult KeepOldContentInMemory()
     {
         FileResult reading;
@@ -189,7 +189,7 @@ class Save
         return written && Check(std::move(closing), SaveOutcome::CloseFailed);
     }
 
-    // A file that was not there is never opened for overwriting, should it have come up meanwhile.
+    // If the file did not exist, it is never opened for overwriting, even if it has appeared meanwhile.
     FileResult Create(FileHandle& file)
     {
         if (m_renamed || m_kind == FileKind::Absent) {
@@ -198,7 +198,7 @@ class Save
             return creation;
         }
         if (m_kind == FileKind::Unknown && !m_oldContent) {
-            // Whether there was one shows now at the latest.
+            // Creating a new file shows whether one existed.
             FileResult creation = Create(CreateMode::New, file);
             if (creation) {
                 m_kind = FileKind::Absent;
@@ -216,7 +216,7 @@ class Save
         return Try([&] { return m_files.Create(m_path, mode, file); });
     }
 
-    // Over the old content nothing is written before there is room for the new one.
+    // Old content is overwritten only after disk space for the new content has been reserved.
     FileResult WriteInto(FileHandle file, const std::string& bytes)
     {
         if (!m_created) {
@@ -253,7 +253,7 @@ class Save
         return false;
     }
 
-    // The new content is on the disk.
+    // Called when the new content is on the disk.
     void DropOldContent() noexcept
     {
         if (m_renamed && !m_keep) {
@@ -269,7 +269,7 @@ class Save
             m_result.keptPath = std::move(m_keptPath);
     }
 
-    // Another program changed the file between the comparison and the rename, or writes to it still.
+    // Another program changed the file between the comparison and the rename, or is still writing to it.
     void KeepBackup() noexcept
     {
         Text name;
@@ -282,7 +282,7 @@ class Save
         m_result.keptPath = std::move(m_keptPath);
     }
 
-    // True also when the rename was done and reported a failure.
+    // Also true if the rename was done although it reported a failure.
     bool RenameBackupTo(const Text& path) noexcept
     {
         return Try([&] { return m_files.Rename(m_result.backupPath, path); }) ||
@@ -315,7 +315,7 @@ class Save
 
     OldContent PutBackOrSay() noexcept
     {
-        // The second try is made since often nothing but this memory holds the content any more.
+        // Tried twice, because the copy in memory is often the only one left.
         if (m_oldContent && (Store(m_path, CreateMode::Truncate) || Store(m_path, CreateMode::Truncate))) {
             if (m_copied)
                 Remove(m_keptPath);
@@ -329,7 +329,7 @@ class Save
         return OldContent::UnderBackupName;
     }
 
-    // Writes the old content from the memory; a new file that cannot be finished is removed.
+    // Writes the old content from memory. A new file that cannot be completed is removed.
     FileResult Store(const Text& path, CreateMode mode) noexcept
     {
         FileHandle file{};
@@ -359,29 +359,29 @@ class Save
     }
 
     const Text& m_path;
-    FileKind m_kind;            ///< Of what exists under the path before the save.
-    const std::string* m_known; ///< Not null once a file may be replaced that is not to be kept.
+    FileKind m_kind;            ///< What existed under the path before the save.
+    const std::string* m_known; ///< Not null if the file may be replaced without being kept.
     FilePort& m_files;
     SavePrompts& m_prompts;
     SaveResult m_result;
-    Text m_keptPath;            ///< What the old content is called if it is kept.
-    bool m_keep = false;        ///< The old content is kept also when the save succeeds.
-    bool m_copied = false;      ///< It was copied to that name.
-    bool m_renamed = false;     ///< The old file is under the backup's name.
-    bool m_staleBackup = false; ///< The backup's name could not be taken.
-    bool m_created = false;     ///< The file is this save's own.
-    bool m_overwritten = false; ///< Old content may have been written over.
+    Text m_keptPath;            ///< The name of the old content if it is kept.
+    bool m_keep = false;        ///< The old content is kept even if the save succeeds.
+    bool m_copied = false;      ///< The old content was copied to m_keptPath.
+    bool m_renamed = false;     ///< The old file has the backup's name.
+    bool m_staleBackup = false; ///< The backup's name could not be used.
+    bool m_created = false;     ///< This save created the file.
+    bool m_overwritten = false; ///< Old content may have been overwritten.
     std::optional<std::string> m_oldContent;
     std::optional<std::string> m_left;
 };
 
-// Where a save writes to.
+// The file that a save writes.
 struct Target {
-    Text file; // The path, or what a symbolic link leads to.
+    Text file; // The path, or the target of a symbolic link.
     FileKind kind;
 };
 
-// A link is written through, not replaced by a file of its own.
+// The target of a link is written; the link itself is not replaced by a file.
 Target TargetOf(const Text& path, FilePort& files)
 {
     Text link = files.LinkTarget(path);
@@ -390,11 +390,11 @@ Target TargetOf(const Text& path, FilePort& files)
     return target;
 }
 
-// The result when nothing can be written there; else what a refusal for another reason begins with.
+// The result if the target cannot be written; otherwise the start of the result for any other refusal.
 SaveResult CheckTarget(const Target& target)
 {
     SaveResult result;
-    // Where the system does not say what is there, renaming it will show.
+    // If the system does not report the kind, renaming will show whether a file exists.
     if (target.kind == FileKind::File || target.kind == FileKind::Unknown)
         result.oldContent = OldContent::Stands;
     if (target.kind == FileKind::Directory)

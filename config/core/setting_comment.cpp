@@ -5,13 +5,13 @@ namespace ov
 namespace
 {
 
-// Turns the last blank before each 100th column into a line break. A longer word stays whole, and
-// a blank at the very front is never used.
+// Replaces the last blank before every 100th column by a line break. A longer word is not broken, and
+// a blank at the very beginning is not replaced.
 Text WrapAtBlanks(TextView description)
 {
     constexpr std::size_t kColumns = 100;
     Text text(description);
-    std::size_t blank = 0; // The last blank that may be used; 0 is none.
+    std::size_t blank = 0; // The last blank that may be replaced; 0 if none.
     std::size_t column = 0;
     for (std::size_t i = 0; i < text.size(); ++i) {
         if (text[i] == u'\n') {

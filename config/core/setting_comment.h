@@ -6,8 +6,8 @@ namespace ov
 {
 
 /// The comment block for a variable: an empty line, "#", the description wrapped at 100 columns
-/// with each line after "# ", and "#"; every line ended by "\n". A variable without a description
-/// gets the block as well.
+/// with "# " before each line, and "#". Every line ends with "\n". A variable without a description
+/// also gets the block.
 Text MakeCommentBlock(TextView description);
 
 } // namespace ov

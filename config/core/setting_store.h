@@ -11,7 +11,7 @@
 namespace ov
 {
 
-/// Table selectors. Every operation takes 0 for the current table and any other value for
+/// Table selectors. Every operation treats 0 as the current table and any other value as
 /// the default table.
 inline constexpr int kCurrentTable = 0;
 inline constexpr int kDefaultTable = 1;
@@ -22,38 +22,38 @@ inline constexpr int kDefaultTable = 1;
 class SettingStore
 {
   public:
-    /// The variable's value; empty when it is absent.
+    /// The variable's value; empty if the variable is absent.
     Text GetSettingValue(TextView name, int table) const;
 
-    /// True exactly when the variable's value is "1".
+    /// True if and only if the variable's value is "1".
     bool GetSettingFlag(TextView name, int table) const;
 
-    /// True when the variable is present, even with an empty value.
+    /// True if the variable is present, even with an empty value.
     bool HasSetting(TextView name, int table) const;
 
-    /// Inserts or updates a variable. An update keeps the comment that the variable has, so that
-    /// what a file says above it survives edits. In the current table an insertion and a changed
-    /// value set the modified mark; a changed kind alone does not.
+    /// Inserts or updates a variable. An update keeps the variable's existing comment, so that
+    /// comments in the file survive edits. In the current table, an insertion or a changed
+    /// value sets the modified mark; a changed kind alone does not.
     void SetSetting(TextView name, TextView value, std::int32_t kind, TextView comment, int table);
 
-    /// The variable's record, nothing when it is absent. Its texts are valid until the next change.
+    /// The variable's record, or nothing if it is absent. Its texts are valid until the next change.
     std::optional<SettingRecord> FindSetting(CompactView name, int table) const;
 
-    /// Puts a whole new table in the place of the selected one. As emptying the table, which
-    /// clears the current table's modified mark, and inserting every variable, which sets it.
+    /// Replaces a whole table. It is equivalent to clearing the table, which also clears the current
+    /// table's modified mark, and inserting every variable, which sets the mark.
     void Replace(int table, SettingTable&& records);
 
     /// The number of variables in the table.
     std::size_t Count(int table) const { return Table(table).Count(); }
 
-    /// At least the number of bytes that the texts of the table take, and not much more.
+    /// An upper bound, close to the actual number, of the bytes that the table's texts occupy.
     std::size_t TextBytes(int table) const { return Table(table).TextBytes(); }
 
     /// Calls the function with every record of the table in ordinal order of the names, until it
     /// returns false.
     void VisitInOrder(int table, const std::function<bool(const SettingRecord&)>& visit) const;
 
-    /// True when the current table was changed since the mark was last cleared.
+    /// True if the current table was changed since the mark was last cleared.
     bool IsModified() const { return m_modified; }
     void SetModified(bool modified) { m_modified = modified; }
 

@@ -11,7 +11,7 @@ namespace ov
 namespace
 {
 
-// A name in the form in which a table keeps it.
+// The hash of a name in the form in which a table stores it.
 std::uint32_t HashOf(CompactView name)
 {
     const std::size_t hash =
@@ -52,7 +52,7 @@ SettingTable::Index SettingTable::FindInOrder(CompactView name) const
     auto end = static_cast<Index>(Count());
     if (end == 0)
         return kNone;
-    // A file in order asks for the last name, or for one that comes behind it.
+    // In a sorted file the name is either the last one inserted or comes after it.
     const std::strong_ordering order = name <=> EntryAt(end - 1).name;
     if (std::is_gteq(order))
         return std::is_eq(order) ? end - 1 : kNone;
@@ -124,7 +124,7 @@ void SettingTable::SetValue(Index index, CompactView value, std::int32_t kind)
     char* block = entry.value - entry.roomBefore;
     std::size_t capacity = entry.roomBefore + ByteLength(entry.Value(), entry.narrowValue) + entry.roomAfter;
     if (length > capacity) {
-        // At least twice the room, so that a value that keeps growing leaves little behind.
+        // At least double the capacity, so that a value that keeps growing leaves little unused memory.
         capacity = std::max(length, capacity * 2);
         block = m_arena.Allocate(capacity);
     }
@@ -144,13 +144,13 @@ void SettingTable::ExtendValue(Index index, CompactView before, CompactView afte
     const bool lacksBefore = beforeBytes > entry.roomBefore;
     const bool lacksAfter = afterBytes > entry.roomAfter;
     if (lacksBefore || lacksAfter || narrow != entry.narrowValue) {
-        // Room as large as the value on the side that ran out; the other side keeps its room, so
-        // that a list growing at both ends does not move at every line.
+        // The side without room gets as much as the value is long. The other side keeps its room, so that a
+        // list growing at both ends does not move with every line.
         constexpr std::size_t kMostRoom = std::size_t{1} << 31;
         const std::size_t length = beforeBytes + valueBytes + afterBytes;
         const std::size_t most = std::min(length, kMostRoom);
         std::size_t roomBefore = lacksBefore ? most : std::min<std::size_t>(entry.roomBefore, most);
-        roomBefore += roomBefore % 2; // Units of 16 bits lie on even addresses.
+        roomBefore += roomBefore % 2; // 16-bit units need even addresses.
         const std::size_t roomAfter = lacksAfter ? most : std::min<std::size_t>(entry.roomAfter, most);
         char* const block = m_arena.Allocate(roomBefore + length + roomAfter);
         entry.PutValue(entry.Value(), narrow, block + roomBefore + beforeBytes);
@@ -182,8 +182,8 @@ void SettingTable::VisitInOrder(const std::function<bool(const SettingRecord&)>&
     }
 }
 
-// The names of a file have a long beginning in common; what follows it, taken as one number,
-// decides nearly every comparison without looking at a name.
+// The names of a file share a long beginning. The characters after it, taken as one number,
+// decide nearly every comparison without accessing the names.
 std::vector<SettingTable::SortKey> SettingTable::SortedKeys() const
 {
     const std::size_t shared = SharedBeginning();
@@ -192,7 +192,7 @@ std::vector<SettingTable::SortKey> SettingTable::SortedKeys() const
     for (Index index = 0; index < Count(); ++index) {
         const CompactView name = EntryAt(index).name;
         std::uint64_t following = 0;
-        bool fits = true; // A unit beyond 8 bits says no more than that, and ends the number.
+        bool fits = true; // A unit beyond 8 bits counts as 0xFF and ends the number.
         for (std::size_t i = shared; i < shared + sizeof following; ++i) {
             const unsigned unit = fits && i < name.size() ? name[i] : 0;
             fits = fits && unit < 0xFF;

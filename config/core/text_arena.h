@@ -8,7 +8,7 @@
 namespace ov
 {
 
-/// Room for many texts that live and die together. Grows in blocks and never moves a text.
+/// Memory for many texts that are freed together. Grows in blocks and never moves a text.
 class TextArena
 {
   public:
@@ -24,11 +24,11 @@ class TextArena
         return *this;
     }
 
-    /// Room for so many bytes, not initialised and on an even address; valid until the arena is
+    /// Allocates `bytes` bytes, uninitialised and at an even address. They are valid until the arena is
     /// destroyed.
     char* Allocate(std::size_t bytes);
 
-    /// The bytes of all blocks together.
+    /// The total size of all blocks in bytes.
     std::size_t Total() const { return m_total; }
 
   private:

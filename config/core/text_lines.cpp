@@ -27,7 +27,7 @@ FileResult ReadBlocks(FilePort& files, const Text& path, const std::function<voi
         files.Close(file);
         throw;
     }
-    // Nothing was written, so a failing close loses nothing.
+    // Nothing was written, so a failure to close loses nothing.
     files.Close(file);
     return result;
 }

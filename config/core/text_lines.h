@@ -12,7 +12,7 @@
 namespace ov
 {
 
-/// A line that was ended by LF without the CR that belongs to its line end, if there is one.
+/// Removes the CR of a CR LF line end from a line that was cut at LF.
 inline std::string_view WithoutCarriageReturn(std::string_view line)
 {
     if (!line.empty() && line.back() == '\r')
@@ -20,12 +20,12 @@ inline std::string_view WithoutCarriageReturn(std::string_view line)
     return line;
 }
 
-/// Cuts bytes that come in blocks into lines.
+/// Splits bytes that arrive in blocks into lines.
 ///
 /// LF ends a line, and one CR before it belongs to the line end. Every other byte is part of its
-/// line: a CR elsewhere, NUL, and also 0x1A, which some runtimes take for the end of the file;
-/// ending there would lose what follows at the next save. The last line needs no line end. No
-/// byte-order mark is recognised: its bytes are the beginning of the first line.
+/// line: a CR elsewhere, NUL, and also 0x1A, which some runtimes treat as the end of the file. Stopping
+/// there would lose the rest of the file at the next save. The last line needs no line end. A
+/// byte-order mark is not recognised: its bytes are the beginning of the first line.
 class LineSplitter
 {
   public:
@@ -61,21 +61,21 @@ class LineSplitter
     }
 
   private:
-    std::string m_rest; ///< The beginning of a line whose end has not come yet.
+    std::string m_rest; ///< The beginning of a line whose end has not arrived yet.
 };
 
-/// Reads a file from beginning to end and gives its bytes in blocks.
+/// Reads a whole file and passes its bytes on in blocks.
 FileResult ReadBlocks(FilePort& files, const Text& path, const std::function<void(std::string_view)>& block);
 
-/// Empties `lines` and reads the file into it, a text for each line, by the process's locale. When
-/// the file cannot be opened or read, `lines` is left as it was and the result says why.
+/// Replaces `lines` by the file's lines, decoded in the locale of the process. If the file cannot be
+/// opened or read, `lines` is unchanged and the result contains the reason.
 FileResult ReadLines(FilePort& files, const Text& path, std::vector<Text>& lines);
 
-/// Appends bytes with every LF as CR LF, as on disk.
+/// Appends bytes with every LF replaced by CR LF, as on disk.
 void AppendWithLineEnds(std::string_view bytes, std::string& out);
 
-/// Creates the file, emptying one that exists, and writes each text followed by a line end, by the
-/// process's locale. A text that the locale cannot write is a failure before the file is touched.
+/// Creates or empties the file and writes each text followed by a line end, in the locale of the
+/// process. If the locale cannot represent a text, the call fails before the file is changed.
 FileResult WriteLines(FilePort& files, const Text& path, std::span<const Text> lines);
 
 } // namespace ov
