@@ -82,15 +82,15 @@ void RegexTester::FillTypes()
 void RegexTester::LayoutPass()
 {
     CResizableDlg::LayoutPass();
-    // A list forgets a width that it had anyway when it was set.
+    // A combo box discards a drop-down width that it already had when it was set.
     if (m_typeCombo.m_hWnd != nullptr)
         FitDroppedWidth(m_typeCombo.m_hWnd);
 }
 
 BOOL RegexTester::PreTranslateMessage(MSG* message)
 {
-    // A multi-line edit would press the default button. With Ctrl it begins a
-    // new line.
+    // A multi-line edit would press the default button. Ctrl+Enter starts a new
+    // line.
     if (message->message == WM_KEYDOWN && message->wParam == VK_RETURN && ::GetKeyState(VK_CONTROL) >= 0 &&
         (message->hwnd == m_templateEdit.m_hWnd || message->hwnd == m_testStringEdit.m_hWnd)) {
         SendMessage(WM_COMMAND, IDOK, 0);
@@ -101,8 +101,8 @@ BOOL RegexTester::PreTranslateMessage(MSG* message)
 
 LRESULT RegexTester::OnGetDefaultId(WPARAM, LPARAM)
 {
-    // "Test Match" looks like the default button; Enter presses it while it has
-    // the focus.
+    // "Test Match" is drawn as the default button, but Enter presses it only while it
+    // has the focus.
     return MAKELRESULT(IDOK, DC_HASDEFID);
 }
 
@@ -120,7 +120,7 @@ void RegexTester::OnTextChanged()
 void RegexTester::OnTestMatch()
 {
     UpdateData(TRUE);
-    // A template and a text of tens of thousands of characters can take seconds.
+    // Patterns and texts of tens of thousands of characters can take seconds.
     const HCURSOR before = ::SetCursor(::LoadCursorW(nullptr, IDC_WAIT));
     m_result = Evaluate();
     ::SetCursor(before);

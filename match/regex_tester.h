@@ -5,16 +5,16 @@
 #include "base/text.h"
 #include "controls/resizable_dlg.h"
 
-/// The "Regular Expression Tester" dialog: tries a template on a test string
-/// under a wildcard type, without regard to case. It has neither an OK nor a
-/// Cancel button. Enter ends it with IDOK, except on its own button, which it
-/// presses; Escape and the close box end it with IDCANCEL.
+/// The pattern tester, the dialog "Regular Expression Tester": tries a pattern on a
+/// test string under a wildcard type, ignoring case. It has no OK or Cancel button.
+/// Enter ends it with IDOK, except on "Test Match", which it presses. Escape and
+/// the close box end it with IDCANCEL.
 class RegexTester : public CResizableDlg
 {
     DECLARE_DYNAMIC(RegexTester)
 
   public:
-    /// `initialType` is an ov::WildcardType; another number selects no type.
+    /// `initialType` is an ov::WildcardType; any other number selects no type.
     RegexTester(CWnd* parent, std::int32_t initialType, ov::Text initialTemplate, ov::Text initialTestString);
 
     BOOL OnInitDialog() override;

@@ -5,7 +5,7 @@
 namespace ov
 {
 
-/// Status words of the matching functions.
+/// Return values of the matching functions.
 inline constexpr std::uint32_t kMatchDone = 0;
 inline constexpr std::uint32_t kMatchFailed = 0x8000;
 

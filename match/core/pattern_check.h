@@ -10,13 +10,13 @@
 namespace ov
 {
 
-/// Why a template does not compile.
+/// Why a pattern does not compile.
 struct PatternError {
-    std::string message;  ///< PCRE2's, in English
+    std::string message;  ///< PCRE2's message, in English
     std::size_t position; ///< of the error: the number of characters before it
 };
 
-/// What is wrong with a template of that type. Nothing when there is nothing to compile: only
+/// Checks a pattern of that type. Returns nothing if it is valid or needs no compilation: only
 /// regular expressions of type Perl are compiled.
 std::optional<PatternError> CheckPattern(TextView pattern, WildcardType type);
 

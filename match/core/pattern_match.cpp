@@ -17,7 +17,7 @@ struct ReleaseMatchData {
     void operator()(pcre2_match_data* data) const { pcre2_match_data_free(data); }
 };
 
-// The text is not equal to the template.
+// The text is known to differ from the pattern.
 bool MatchWildcards(TextView pattern, TextView text, WildcardType type, bool exact)
 {
     if (type < WildcardTypeNone)
@@ -27,7 +27,7 @@ bool MatchWildcards(TextView pattern, TextView text, WildcardType type, bool exa
     return TabulateWildcards(pattern, text, {type >= WildcardTypeRanges, type >= WildcardTypeSubsets, exact});
 }
 
-// The regular expression may fit anywhere in the text. PCRE2's limits end what would take too long.
+// The regular expression may match anywhere in the text. PCRE2's limits stop a match that takes too long.
 std::uint32_t MatchPerl(std::uint32_t& match, TextView pattern, TextView text, bool exact)
 {
     match = 0;

@@ -15,14 +15,14 @@ struct ReleasePerlCode {
     void operator()(pcre2_code* code) const { pcre2_code_free(code); }
 };
 
-/// What came of compiling a Perl-compatible regular expression.
+/// The result of compiling a Perl-compatible regular expression.
 struct PerlCode {
-    std::unique_ptr<pcre2_code, ReleasePerlCode> code; ///< null when it does not compile
-    int error = 0;                                     ///< PCRE2's number of the error then
-    std::size_t offset = 0;                            ///< and its place, in bytes of UTF-8
+    std::unique_ptr<pcre2_code, ReleasePerlCode> code; ///< null if it does not compile
+    int error = 0;                                     ///< PCRE2's error number in that case
+    std::size_t offset = 0;                            ///< and the error's offset, in bytes of UTF-8
 };
 
-/// Compiles an expression, up to its first NUL, which compares with regard to case when `exact`.
+/// Compiles an expression, up to its first NUL. It is case-sensitive if `exact`.
 PerlCode CompilePerl(TextView pattern, bool exact);
 
 } // namespace ov

@@ -24,7 +24,7 @@ bool EqualNoCase(char16_t a, char16_t b)
     return ToUpperAscii(a) == ToUpperAscii(b);
 }
 
-// Where the needle first occurs at or after `from`, npos when nowhere.
+// The position of the needle's first occurrence at or after `from`, or npos.
 std::size_t PositionNoCase(TextView haystack, TextView needle, std::size_t from)
 {
     const TextView rest = haystack.substr(from);
@@ -34,7 +34,7 @@ std::size_t PositionNoCase(TextView haystack, TextView needle, std::size_t from)
     return from + static_cast<std::size_t>(found - rest.begin());
 }
 
-// Appends a text that contains qualifiers in pairs only, with one for each pair.
+// Appends a text in which every qualifier is doubled, with one qualifier for each pair.
 void AppendUndoubled(Text& token, TextView text, char16_t qualifier)
 {
     for (std::size_t i = 0; i < text.size(); ++i) {
@@ -61,7 +61,7 @@ class TokenReader
             --m_end;
     }
 
-    // Sets the token and gives the number of characters consumed.
+    // Sets the token and returns the number of characters consumed.
     std::size_t Read(Text& token) const
     {
         if (m_start == m_source.size())
@@ -81,7 +81,7 @@ class TokenReader
         return Contains(m_consumedStops, m_source[index]) || Contains(m_keptStops, m_source[index]);
     }
 
-    // Two qualifiers and then a stop at once, or two qualifiers and nothing but trimmed characters,
+    // Two qualifiers directly followed by a stop, or followed by trimmed characters only,
     // are an empty token.
     bool ReadEmptyQualified(std::size_t& consumed) const
     {
@@ -98,7 +98,7 @@ class TokenReader
         return true;
     }
 
-    // A token that is one quoted text from its first to its last character takes the whole source.
+    // A token that is one quoted text from its first to its last character consumes the whole source.
     bool ReadQualified(Text& token, std::size_t& consumed) const
     {
         std::size_t run = m_start;
@@ -187,7 +187,7 @@ void CopyOut(char16_t* destination, TextView text, std::size_t capacity)
     destination[length] = u'\0';
 }
 
-// Appends the source with every occurrence replaced. True when there was one.
+// Appends the source with every occurrence replaced. Returns true if there was one.
 bool Replace(TextView source, TextView find, TextView replacement, bool exact, Text& result)
 {
     std::size_t done = 0;

@@ -18,7 +18,7 @@ constexpr bool IsLetterOrDigit(char16_t c)
     return IsDigit(c) || (upper >= u'A' && upper <= u'Z');
 }
 
-// For each "[" of the template the place of the "]" that closes it; npos for those without one.
+// The position of the closing "]" for each "[" of the pattern; npos if it has none.
 class ClosingBrackets
 {
   public:
@@ -41,8 +41,8 @@ class ClosingBrackets
     std::vector<std::size_t> m_closing;
 };
 
-// Reads the bracket expression at `at` and moves on behind it. Without a closing bracket it is no
-// expression: it fits any one character, and the character behind the "[" is passed over with it.
+// Parses the bracket expression at `at` and advances past it. A "[" without a closing bracket matches
+// any one character, and the character after the "[" is skipped as well.
 PatternElement ReadBracket(TextView pattern, std::size_t& at, std::size_t closing, const WildcardRules& rules)
 {
     PatternElement element;
@@ -136,7 +136,7 @@ std::size_t CountedLength(TextView alternative)
             --level;
         } else if (c == u'-' && i > 0 && i + 1 < alternative.size() && IsLetterOrDigit(alternative[i - 1]) &&
                    IsLetterOrDigit(alternative[i + 1])) {
-            // The hyphen itself is not counted, and of its two neighbours only one.
+            // "A-Z" counts as one: the hyphen is not counted, and only one of its two neighbours is.
             --count;
         } else {
             ++count;

@@ -8,24 +8,24 @@
 namespace ov
 {
 
-/// What is common to the templates of DOS, ranges and subsets, and how far one goes.
+/// The features by which the pattern types DOS, ranges and subsets differ, and the case rule.
 struct WildcardRules {
     bool ranges;  ///< "[" begins a bracket expression.
     bool subsets; ///< "|" is a wildcard, and a bracket expression with "," lists alternatives.
-    bool exact;   ///< Upper and lower case differ.
+    bool exact;   ///< Case-sensitive.
 };
 
-/// A unit as it is compared: upper-cased (a to z only) unless case counts.
+/// A unit as used in comparisons: upper-cased (a to z only) unless `exact`.
 constexpr char16_t Folded(char16_t c, bool exact)
 {
     return exact ? c : ToUpperAscii(c);
 }
 
-/// True when two texts are equal under the case rule.
+/// True if two texts are equal under the case rule.
 bool EqualTexts(TextView first, TextView second, bool exact);
 
-/// True when the character is one of those that a bracket expression without alternatives names.
-/// Only its first 255 characters count. Inline: it is most of what a short template costs.
+/// True if a bracket expression without alternatives contains the character.
+/// Only its first 255 characters count. Inline, because short patterns spend most of their time here.
 inline bool ClassNames(TextView content, char16_t character, bool exact)
 {
     constexpr std::size_t kLongestContent = 255;
@@ -47,35 +47,35 @@ inline bool ClassNames(TextView content, char16_t character, bool exact)
     return false;
 }
 
-/// One step of a template. Each fits exactly one character except stars, bars and lists.
+/// One element of a pattern. Each matches exactly one character except stars, bars and lists.
 struct PatternElement {
     enum class Kind {
-        Literal,      ///< `character`.
-        AnyCharacter, ///< Any one.
+        Literal,      ///< The character in `character`.
+        AnyCharacter, ///< Any one character.
         Star,         ///< Any number of any characters.
         Bar,          ///< No or one character.
-        Class,        ///< One that `content` names, or one that it does not name.
+        Class,        ///< A character in `content`, or if negated a character not in it.
         List,         ///< One of the alternatives in `content`.
     };
     Kind kind = Kind::Literal;
-    bool negates = false;   ///< From here on all classes and lists are negated.
-    char16_t character = 0; ///< Literal: as it is compared.
+    bool negates = false;   ///< All classes and lists from this one on are negated.
+    char16_t character = 0; ///< Literal: the folded character.
     std::size_t begin = 0;  ///< Its position in the pattern.
-    TextView content{};     ///< Class and List: between the brackets; points into the template.
+    TextView content{};     ///< Class and List: the text between the brackets; points into the pattern.
 };
 
-/// The template's steps, in time and memory linear in its length. Where a step begins does not
-/// depend on where the reading began: the steps of a template's rest are the rest of its steps.
+/// Parses a pattern in linear time and memory. Element boundaries do not depend on where parsing
+/// began: parsing the rest of a pattern gives the rest of its elements.
 std::vector<PatternElement> ParsePattern(TextView pattern, const WildcardRules& rules);
 
-/// The alternatives of a list that are not empty.
+/// The non-empty alternatives of a list.
 std::vector<Text> SplitAlternatives(TextView content);
 
-/// True when an alternative is tried against texts of any length.
+/// True if an alternative is tried against texts of any length.
 bool IsElastic(TextView alternative);
 
-/// How many characters an alternative is tried against when it is not elastic: its characters other
-/// than brackets up to a "]" without a "[", not counting a "^" at its front, "A-Z" counting as one.
+/// The number of characters that a non-elastic alternative is tried against: its characters other than
+/// brackets up to a "]" without a "[", not counting a leading "^", with "A-Z" counting as one.
 std::size_t CountedLength(TextView alternative);
 
 } // namespace ov

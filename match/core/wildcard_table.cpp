@@ -15,10 +15,10 @@ namespace
 
 using Kind = PatternElement::Kind;
 
-// A number of characters without a bound. Sums of lengths stay far below the type's own.
+// An unlimited number of characters. Sums of lengths stay far below the limit of the type.
 constexpr std::size_t kUnbounded = std::numeric_limits<std::size_t>::max() / 2;
 
-// How many characters something takes.
+// The least and the most characters that an element or an alternative matches.
 struct Lengths {
     std::size_t least = 0;
     std::size_t most = 0;
@@ -35,12 +35,12 @@ void Include(Lengths& lengths, std::size_t length)
     lengths.most = std::max(lengths.most, length);
 }
 
-// For each place of the text whether something holds there. Only a part of the places is in use;
-// it does not hold at any other.
+// A flag for each position in the text. Only a range of positions is in use; the flag is
+// false at all others.
 class Row
 {
   public:
-    // Uses the places from `first` up to `last`, where it does not hold yet, of `size` in all.
+    // Uses the positions from `first` up to `last`, with false flags, of `size` positions in all.
     void Use(std::size_t first, std::size_t last, std::size_t size)
     {
         if (m_holds.size() < size)
@@ -57,14 +57,14 @@ class Row
         m_last = std::max(m_last, place + 1);
     }
 
-    // Lets it hold at all places in use before `end`.
+    // Sets the flag at all used positions before `end`.
     void SetBefore(std::size_t end)
     {
         if (end > m_first)
             std::fill(At(m_first), At(std::min(end, m_last)), std::uint8_t{1});
     }
 
-    // Lets it hold nowhere from `begin` on.
+    // Clears the flag at all positions from `begin` on.
     void ClearFrom(std::size_t begin)
     {
         if (begin < m_last)
@@ -76,7 +76,7 @@ class Row
     std::size_t Last() const { return m_last; }
     bool Uses(std::size_t place) const { return place >= m_first && place < m_last; }
 
-    // One beyond the last place where it holds; 0 when there is none.
+    // One past the last position with a set flag; 0 if there is none.
     std::size_t LastHolding() const
     {
         std::size_t last = m_last;
@@ -103,8 +103,8 @@ class Row
 struct Alternative {
     Text text;
     bool elastic = false;                 // It is tried against texts of any length.
-    std::size_t length = 0;               // Else of this one.
-    std::vector<PatternElement> elements; // Then its steps, each for one character.
+    std::size_t length = 0;               // Otherwise the length it is tried against.
+    std::vector<PatternElement> elements; // and its elements, each for one character.
 };
 
 std::vector<Alternative> ReadList(TextView content, const WildcardRules& rules)
@@ -112,7 +112,7 @@ std::vector<Alternative> ReadList(TextView content, const WildcardRules& rules)
     std::vector<Alternative> list;
     for (Text& text : SplitAlternatives(content))
         list.push_back({std::move(text), false, 0, {}});
-    // The steps point into the texts, which stay where they are from here on.
+    // The elements point into the texts, which do not move from here on.
     for (Alternative& alternative : list) {
         alternative.elastic = IsElastic(alternative.text);
         if (alternative.elastic)
@@ -125,7 +125,7 @@ std::vector<Alternative> ReadList(TextView content, const WildcardRules& rules)
 
 Lengths LengthsOf(const std::vector<Alternative>& list)
 {
-    // One character is what a negated list takes where nothing fits.
+    // A negated list matches one character where no alternative matches.
     Lengths lengths{1, 1};
     for (const Alternative& alternative : list)
         Include(lengths, alternative.elastic ? kUnbounded : alternative.length);
@@ -152,7 +152,7 @@ class WildcardTable
         MeasureBehind();
     }
 
-    // For each place in the text whether its part from there to `end` fits the whole template.
+    // A flag for each position in the text: the text from there to `end` matches the whole pattern.
     const Row& FillTo(std::size_t end)
     {
         m_end = end;
@@ -186,10 +186,10 @@ class WildcardTable
   private:
     static constexpr std::size_t kNowhere = TextView::npos;
 
-    // What a list does at a place in the text.
+    // The result of a list at one position in the text.
     struct Outcome {
         bool decided = false;
-        bool acceptsRest = false; // A template that ends with the list takes what is left of the text.
+        bool acceptsRest = false; // A list at the pattern's end also matches the rest of the text.
         std::size_t taken = 0;
     };
 
@@ -212,7 +212,7 @@ class WildcardTable
         }
     }
 
-    // How many characters precede each element: outside these bounds its row is of no interest.
+    // The number of characters before each element. Outside these bounds its row is not needed.
     void MeasureBefore(Start start)
     {
         Lengths before{0, start == Start::AtFront ? 0 : kUnbounded};
@@ -220,28 +220,28 @@ class WildcardTable
         for (std::size_t i = 0; i < m_elements.size(); ++i) {
             m_before.push_back(before);
             before = before + LengthsOfElement(i);
-            // Bars in a row look at all the text behind them.
+            // Consecutive bars examine all the text after them.
             if (i + 1 < m_elements.size() && m_elements[i].kind == Kind::Bar &&
                 m_elements[i + 1].kind == Kind::Bar)
                 before.most = kUnbounded;
         }
     }
 
-    // How many characters the template takes from each element on: elsewhere its row does not hold.
+    // The number of characters from each element to the pattern's end. Its row is false elsewhere.
     void MeasureBehind()
     {
         m_behind.resize(m_elements.size());
         Lengths behind;
         for (std::size_t i = m_elements.size(); i-- > 0;) {
             behind = LengthsOfElement(i) + behind;
-            // Behind stars and bars a text that is equal to the template fits too.
+            // After stars and bars, a text that equals the rest of the pattern matches as well.
             if (i > 0 && (m_elements[i - 1].kind == Kind::Star || m_elements[i - 1].kind == Kind::Bar))
                 Include(behind, m_pattern.size() - m_elements[i].begin);
             m_behind[i] = behind;
         }
     }
 
-    // The length of the longest text in which template and text both end.
+    // The length of the longest common suffix of pattern and text.
     std::size_t CommonEnd() const
     {
         const std::size_t longest = std::min(m_pattern.size(), m_end);
@@ -252,16 +252,16 @@ class WildcardTable
         return length;
     }
 
-    // Where the rest of the text is equal to the template from this element on; it fits there,
-    // whatever wildcards the template holds.
+    // The position where the rest of the text equals the pattern from this element on. It matches there,
+    // independently of the pattern's wildcards.
     std::size_t EqualAt(std::size_t element) const
     {
         const std::size_t length = m_pattern.size() - m_elements[element].begin;
         return length <= m_commonEnd ? m_end - length : kNowhere;
     }
 
-    // Which places fit from element `i` on, within a walk that has met a "[^" or has not. What
-    // follows the element is in m_next.
+    // Computes the positions that match from element `i` on, after a "[^" if `negated`. The row of the
+    // following element is in m_next.
     void FillRow(std::size_t i, bool negated)
     {
         const PatternElement& element = m_elements[i];
@@ -294,8 +294,8 @@ class WildcardTable
         }
     }
 
-    // Most of a template is literals: all that the loop reads is local, so that it runs on many
-    // places at once.
+    // Most elements of a pattern are literals. The loop reads only local variables, so that the compiler
+    // can vectorise it.
     void FillLiteralRow(char16_t character, const Row& next, Row& row) const
     {
         const char16_t* text = m_folded.data();
@@ -308,12 +308,12 @@ class WildcardTable
     void FillBarRow(std::size_t i, const Row& next, Row& row)
     {
         if (i + 1 == m_elements.size()) {
-            // The last one takes exactly one character.
+            // A bar at the pattern's end matches exactly one character.
             row.SetBefore(m_end);
             return;
         }
-        // The rest of the template is tried as a walk of its own, then behind one character within
-        // this walk.
+        // The rest of the pattern is tried without the negation so far, then after one character with
+        // it.
         const std::uint8_t* own = m_next[0].Data();
         const std::uint8_t* behind = next.Data() + 1;
         std::uint8_t* fits = row.Data();
@@ -322,8 +322,8 @@ class WildcardTable
         const std::size_t equal = EqualAt(i + 1);
         if (equal <= m_end && row.Uses(equal))
             row.Set(equal);
-        // Of several bars in a row each asks first whether what follows them fits anywhere, as a walk
-        // of its own.
+        // Each of several consecutive bars first requires that the elements after all of them match at some
+        // later position, without the negation so far.
         if (m_behindBars > i + 1 && m_behindBars < m_elements.size())
             row.ClearFrom(m_lastFit[m_behindBars]);
     }
@@ -339,7 +339,7 @@ class WildcardTable
         }
         for (std::size_t t = row.First(); t < row.Last(); ++t) {
             Outcome& outcome = outcomes[t - row.First()];
-            // A negated list that finds nothing takes one character.
+            // A negated list without a matching alternative matches one character.
             if (!outcome.decided && negated)
                 outcome = {true, false, 1};
             const std::size_t reached = t + outcome.taken;
@@ -348,7 +348,7 @@ class WildcardTable
         }
     }
 
-    // An alternative with a star or a bar takes as much as it can.
+    // An alternative with a star or a bar matches as much as it can.
     void TryElastic(const Text& alternative, bool negated, std::size_t first, std::vector<Outcome>& outcomes)
     {
         const bool acceptsRest = alternative.back() == u'*';
@@ -357,7 +357,7 @@ class WildcardTable
             Outcome& outcome = outcomes[i];
             if (outcome.decided)
                 continue;
-            // In a negated list the first such alternative that does not fit ends the list, taking
+            // In a negated list, the first such alternative that does not match ends the list after
             // one character.
             if (longest[first + i] > 0)
                 outcome = {true, acceptsRest, longest[first + i]};
@@ -366,8 +366,8 @@ class WildcardTable
         }
     }
 
-    // For each place in the text the length of the longest part from there that fits; 0 for none.
-    // A template often repeats its lists, so what was found is kept.
+    // For each position in the text, the length of the longest match starting there; 0 for none.
+    // Patterns often repeat their lists, so results are cached.
     const std::vector<std::uint32_t>& LongestFits(const Text& alternative)
     {
         constexpr std::size_t kMostKept = std::size_t{1} << 16;
@@ -396,13 +396,13 @@ class WildcardTable
         return longest;
     }
 
-    // As LongestFits, for an alternative of literals, question marks and stars. A part between two
-    // stars does best at the first place that it fits, the part behind the last star at the last one.
+    // LongestFits for an alternative of literals, question marks and stars. A part between two stars
+    // matches at its first possible position, the part after the last star at its last one.
     void FindLongestPlainFits(TextView alternative, std::vector<std::uint32_t>& longest) const
     {
         std::size_t star = alternative.find(u'*');
         TextView part = alternative.substr(0, star);
-        // For each place in the text the one behind what the parts so far take from there.
+        // For each start position, the position after the match of the parts so far.
         std::vector<std::size_t> behind(m_end + 1, kNowhere);
         for (std::size_t t = 0; t <= m_end; ++t) {
             if (PartFits(part, t))
@@ -431,7 +431,7 @@ class WildcardTable
         }
     }
 
-    // For each place in the text the one behind the first fit of the part from there on.
+    // For each position in the text, the position after the first match of the part from there on.
     std::vector<std::size_t> BehindFirstFits(TextView part) const
     {
         std::vector<std::size_t> behind(m_end + 1);
@@ -444,7 +444,7 @@ class WildcardTable
         return behind;
     }
 
-    // True when the text at the place fits literals and question marks.
+    // True if the text at position `t` matches literals and question marks.
     bool PartFits(TextView part, std::size_t t) const
     {
         if (part.size() > m_end - t)
@@ -472,7 +472,7 @@ class WildcardTable
         }
     }
 
-    // True when the characters from `t` on fit the elements one by one.
+    // True if the characters from `t` on match the elements one by one.
     bool FitsEach(const std::vector<PatternElement>& elements, std::size_t t) const
     {
         bool negated = false;
@@ -491,19 +491,19 @@ class WildcardTable
 
     TextView m_pattern;
     TextView m_text;
-    TextView m_folded; // The text as it is compared.
+    TextView m_folded; // The text with folded case.
     const WildcardRules& m_rules;
     std::vector<PatternElement> m_elements;
-    std::map<std::size_t, std::vector<Alternative>> m_lists; // By element.
-    std::vector<Lengths> m_before;                           // By element; see MeasureBefore.
-    std::vector<Lengths> m_behind;                           // By element; see MeasureBehind.
+    std::map<std::size_t, std::vector<Alternative>> m_lists; // By element index.
+    std::vector<Lengths> m_before;                           // By element index; see MeasureBefore.
+    std::vector<Lengths> m_behind;                           // By element index; see MeasureBehind.
     bool m_anyNegates = false;
     std::size_t m_end = 0;
     std::size_t m_commonEnd = 0;
-    std::size_t m_behindBars = 0;       // The element behind the run of bars being filled.
-    std::vector<std::size_t> m_lastFit; // By element: one beyond the last place that fits; 0 for none.
-    std::array<Row, 2> m_row;           // The present element's: outside and inside a negated walk.
-    std::array<Row, 2> m_next;          // The following element's.
+    std::size_t m_behindBars = 0;       // The element after the run of bars being filled.
+    std::vector<std::size_t> m_lastFit; // By element index: one past the last matching position; 0 for none.
+    std::array<Row, 2> m_row;           // The current element's rows: without and with negation.
+    std::array<Row, 2> m_next;          // The following element's rows.
     std::unordered_map<Text, std::vector<std::uint32_t>> m_longestFits;
 };
 

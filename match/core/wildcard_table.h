@@ -5,10 +5,10 @@
 namespace ov
 {
 
-/// Whether the text fits the template, from a table of which rests of the text fit which rests of
-/// the template, filled from their ends. Time grows with the product of both lengths, for
-/// alternatives with a bar, or a star and a bracket, with their length times the square of the
-/// text's; memory grows with the sum. Throws std::bad_alloc when memory runs out.
+/// True if the text matches the pattern. Fills a table from the ends: which suffixes of the text match
+/// which suffixes of the pattern. The time is proportional to the product of both lengths; for
+/// alternatives with a bar, or a star and a bracket, to their length times the square of the
+/// text's. Memory is proportional to the sum of the lengths. Throws std::bad_alloc.
 bool TabulateWildcards(TextView pattern, TextView text, const WildcardRules& rules);
 
 } // namespace ov

@@ -7,8 +7,8 @@ namespace ov
 namespace
 {
 
-// Where the bracket closes whose content begins at `content`, brackets within being counted; null
-// when nowhere.
+// The bracket that closes the one before `content`; nested brackets are counted. Null
+// if there is none.
 const char16_t* FindClosing(const char16_t* content)
 {
     std::size_t level = 1;
@@ -23,7 +23,7 @@ const char16_t* FindClosing(const char16_t* content)
     return nullptr;
 }
 
-// True when two texts that end with a NUL are equal; looks no further than the first difference.
+// True if two null-terminated texts are equal; reads no further than the first difference.
 template <bool exact>
 bool AreEqual(const char16_t* first, const char16_t* second)
 {
@@ -56,11 +56,11 @@ class Walk
                     return fits;
                 continue;
             } else if (*m_read == u'\0') {
-                // What is left of the template takes more characters than there are, and a star that
-                // takes more leaves fewer.
+                // The rest of the pattern needs more characters than are left, and a longer match of the star
+                // leaves even fewer.
                 return false;
             } else if (*m_at == u'[' && m_ranges) {
-                // A text equal to the template fits it. Without brackets the walk finds that anyway.
+                // A text equal to the pattern matches it. Without brackets the walk finds that by itself.
                 if (!m_compared && AreEqual<exact>(m_pattern, m_text))
                     return true;
                 m_compared = true;
@@ -79,8 +79,8 @@ class Walk
             m_budget -= m_at - m_afterStar;
             if (m_budget < 0)
                 return std::nullopt;
-            // Only the last star need take more: the text up to it would fit no better with another
-            // one taking more.
+            // Only the last star has to match more: a longer match of an earlier star would not help the
+            // text up to here.
             m_at = m_afterStar;
             m_read = ++m_afterStarRead;
             m_negated = false;
@@ -88,7 +88,7 @@ class Walk
     }
 
   private:
-    // Goes beyond a star; says whether the text fits where that is known at once.
+    // Advances past a star. Returns the result if it is known already.
     std::optional<bool> PassStar()
     {
         ++m_at;
@@ -99,10 +99,10 @@ class Walk
         const std::ptrdiff_t rest = m_patternEnd - m_at;
         const std::ptrdiff_t left = m_textEnd - m_read;
         if (m_at > m_lastPeculiar) {
-            // All that follows takes one character each: the last ones of the text.
+            // Each remaining element matches one character: compare with the end of the text.
             return rest <= left && EndsAlike(m_textEnd - rest);
         }
-        // A rest that is equal to the end of the text fits, whatever wildcards it holds.
+        // A rest that equals the end of the text matches, independently of its wildcards.
         if (rest <= left && EqualTexts({m_at, m_patternEnd}, {m_textEnd - rest, m_textEnd}, exact))
             return true;
         m_afterStar = m_at;
@@ -111,7 +111,7 @@ class Walk
         return std::nullopt;
     }
 
-    // Finds the ends of both, and the last place in the template that is more than one character.
+    // Finds the ends of pattern and text, and the last star or bracket in the pattern.
     void LookAhead()
     {
         m_lastPeculiar = m_at - 1;
@@ -123,7 +123,7 @@ class Walk
         m_budget += 8 * ((m_patternEnd - m_at) + (m_textEnd - m_read));
     }
 
-    // True when the rest of the template, all literals and question marks, fits the text's end.
+    // True if the rest of the pattern, all literals and question marks, matches the text's end.
     bool EndsAlike(const char16_t* end) const
     {
         return std::equal(m_at, m_patternEnd, end, [](char16_t wanted, char16_t given) {
@@ -131,7 +131,7 @@ class Walk
         });
     }
 
-    // Passes one step of the template. True when the next character fits it.
+    // Advances past one element. True if it matches the next character.
     bool FitsOne()
     {
         const char16_t c = *m_at;
@@ -148,7 +148,7 @@ class Walk
         }
         const char16_t* closing = FindClosing(content);
         if (closing == nullptr) {
-            // No expression: it fits any one character and takes the character behind it along.
+            // Not a bracket expression: it matches any one character and skips the one after it.
             const std::size_t length = std::char_traits<char16_t>::length(content);
             m_budget -= static_cast<std::ptrdiff_t>(length);
             m_at = content + std::min<std::size_t>(length, 1);
@@ -162,15 +162,15 @@ class Walk
 
     const char16_t* const m_pattern;
     const char16_t* const m_text;
-    const char16_t* m_at;   // In the template.
+    const char16_t* m_at;   // In the pattern.
     const char16_t* m_read; // In the text.
     const bool m_ranges;
-    std::ptrdiff_t m_budget = 1024; // Steps that may still be taken.
+    std::ptrdiff_t m_budget = 1024; // Steps left before the walk gives up.
     bool m_negated = false;
-    bool m_compared = false;               // The whole text with the whole template.
-    const char16_t* m_afterStar = nullptr; // In the template, behind the last star passed.
+    bool m_compared = false;               // The whole text was compared with the whole pattern.
+    const char16_t* m_afterStar = nullptr; // In the pattern, after the last star passed.
     const char16_t* m_afterStarRead = nullptr;
-    // These three are looked for at the first star.
+    // These three are set at the first star.
     const char16_t* m_patternEnd = nullptr;
     const char16_t* m_textEnd = nullptr;
     const char16_t* m_lastPeculiar = nullptr; // The last star or bracket.

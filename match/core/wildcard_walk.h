@@ -7,10 +7,10 @@
 namespace ov
 {
 
-/// Whether the text fits a template without alternatives and bars, by one walk along both that
-/// returns to the last star only. Takes no memory and looks no further than it must. Nothing when
-/// the walk would cost more than a few steps for each character: a template may make it go over
-/// the same text many times. Both texts end with a NUL.
+/// Matches a text against a pattern without alternatives and bars in one walk along both that
+/// backtracks to the last star only. Allocates no memory and reads no more than needed. Returns nothing
+/// if the walk would need more than a few steps per character: some patterns make it scan
+/// the same text many times. Both texts are null-terminated.
 std::optional<bool> WalkWildcards(const char16_t* pattern, const char16_t* text, bool ranges, bool exact);
 
 } // namespace ov
