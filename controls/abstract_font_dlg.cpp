@@ -62,7 +62,7 @@ void CAbstractFontDlg::MeasureUnits(const CFont& font)
 
 CAbstractFontDlg* CAbstractFontDlg::DialogAround() const
 {
-    // The parent of a child window, the owner of any other.
+    // The parent of a child window or the owner of any other window.
     return DYNAMIC_DOWNCAST(CAbstractFontDlg, CWnd::FromHandlePermanent(::GetParent(m_hWnd)));
 }
 
@@ -75,7 +75,7 @@ UINT CAbstractFontDlg::OpeningResolution() const
 
 void CAbstractFontDlg::ChangeResolution(UINT resolution)
 {
-    // Without a font of the new resolution the dialog would only fall apart.
+    // Without a font for the new resolution the layout would not fit the texts.
     const CFont* const font = resolution != m_resolution ? GetSharedDialogFont(resolution) : nullptr;
     if (font == nullptr)
         return;
@@ -95,7 +95,7 @@ void CAbstractFontDlg::MoveTo(const RECT& rectangle)
         MoveWindow(&rectangle);
         return;
     }
-    // The place of the icon is not meant.
+    // The rectangle is that of the restored window, not of the icon.
     WINDOWPLACEMENT placement{};
     placement.length = sizeof placement;
     ::GetWindowPlacement(m_hWnd, &placement);
@@ -115,7 +115,7 @@ LRESULT CAbstractFontDlg::OnDpiChanged(WPARAM resolutions, LPARAM suggestedRect)
     return 0;
 }
 
-// The system's dialogs would scale their controls here.
+// The system's dialogs scale their controls in this handler; this one must not.
 LRESULT CAbstractFontDlg::OnDpiChangedBeforeParent(WPARAM, LPARAM)
 {
     return 0;
@@ -125,7 +125,7 @@ LRESULT CAbstractFontDlg::OnDpiChangedAfterParent(WPARAM, LPARAM)
 {
     if (m_resolution != 0)
         ChangeResolution(OpeningResolution());
-    // The frame and the scroll bars have another thickness from now on.
+    // The thickness of the frame and the scroll bars has changed.
     SetWindowPos(nullptr, 0, 0, 0, 0,
                  SWP_FRAMECHANGED | SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
     return 0;

@@ -5,13 +5,13 @@
 #include "controls/core/geometry.h"
 #include "framework/afxwin.h"
 
-/// A dialog whose controls all show the application's one dialog font, at the
-/// resolution of the dialog.
+/// A dialog whose controls all use the application's shared dialog font, at the
+/// dialog's resolution.
 ///
-/// A dialog opens at the resolution at which the system makes it, or at that of
-/// the dialog that it lies in or belongs to. From then on the resolution is what
-/// the dialog was told last (WM_DPICHANGED), and the dialogs inside follow it,
-/// hidden ones too.
+/// A dialog opens at the resolution at which the system creates it, or at that of
+/// its parent or owner dialog. Afterwards its resolution is the one in the last
+/// WM_DPICHANGED, and the dialogs inside it follow, including
+/// hidden ones.
 class CAbstractFontDlg : public CDialog
 {
     DECLARE_DYNAMIC(CAbstractFontDlg)
@@ -19,37 +19,37 @@ class CAbstractFontDlg : public CDialog
   public:
     CAbstractFontDlg(UINT templateId, CWnd* parent);
 
-    /// Gives the font to every direct child, in Z order.
+    /// Sets the font of every direct child, in Z order.
     BOOL OnInitDialog() override;
 
-    /// Makes the window of a modeless dialog.
+    /// Creates the window of a modeless dialog.
     BOOL Create(UINT templateId, CWnd* parent = nullptr) override;
 
     /// The resolution that the dialog is laid out for, in pixels per inch; 0
     /// before OnInitDialog.
     UINT Resolution() const { return m_resolution; }
 
-    /// The pixels of four horizontal and eight vertical units of the dialog's
-    /// template at its resolution.
+    /// The size in pixels of four horizontal and eight vertical units of the dialog's
+    /// template, at its resolution.
     const ov::Size& Units() const { return m_units; }
 
-    /// Converts edges in dialog units into edges in pixels.
+    /// Converts edges in dialog units to edges in pixels.
     void MapDialogRect(CRect& edges) const;
 
   protected:
-    /// The children that the dialog had when it opened, in Z order. Those of the
-    /// template are among them in the order of the template.
+    /// The children that existed when the dialog opened, in Z order. They include the
+    /// template's controls, in template order.
     const std::vector<HWND>& FirstChildren() const { return m_firstChildren; }
 
-    /// Gives the dialog another resolution: the font, then what OnResolutionChanged
-    /// does, then the dialogs inside. Nothing happens at the resolution that the
-    /// dialog has.
+    /// Changes the dialog's resolution: sets the font, calls OnResolutionChanged, then
+    /// changes the dialogs inside. Does nothing if the dialog already has that
+    /// resolution.
     void ChangeResolution(UINT resolution);
 
-    /// Lays out the controls, which have the font of the new resolution already.
+    /// Lays out the controls, which already have the font of the new resolution.
     virtual void OnResolutionChanged() {}
 
-    /// The resolution that the dialog is to open at.
+    /// The resolution at which the dialog has to open.
     UINT OpeningResolution() const;
 
     LRESULT OnDpiChanged(WPARAM resolutions, LPARAM suggestedRect);

@@ -5,16 +5,16 @@
 class CFont;
 class CToolTipControl;
 
-// What the controls need of the application object, which lies above them: the
-// application defines these, so that nothing here includes it.
+// Services of the application object that the controls need. app/ defines them,
+// because this folder must not include the layers above it.
 
-/// The font that every dialog shares, at a resolution in pixels per inch. Made on
-/// first request and kept by the application; null without a main window.
+/// The font that all dialogs share, at a resolution in pixels per inch. Created on
+/// first use and owned by the application; null without a main window.
 CFont* GetSharedDialogFont(UINT resolution);
 
-/// The process-wide tooltip window and registry of help texts; null while there
-/// is no such window.
+/// The tooltip window and registry of help texts of the process; null while the
+/// window does not exist.
 CToolTipControl* GetToolTipControl();
 
-/// The application's icon; null until it is loaded. It needs no destroying.
+/// The application's icon; null until it is loaded. The caller must not destroy it.
 HICON GetApplicationIcon();

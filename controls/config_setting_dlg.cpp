@@ -12,12 +12,12 @@
 
 namespace
 {
-// Reference size for proportional placement and the smallest size, in pixels.
-// File names are long: the dialog is so many pixels wider for them.
+// All sizes are in pixels at the usual resolution.
+// A dialog for file names, which are long, is wider by this much.
 constexpr int browsingExtraWidth = 200;
 constexpr int columnMargin = 5;
 constexpr int moveIconSize = 16; // at the usual resolution
-// Posted by the dialog to itself; see OnRowChanged.
+// The dialog posts this to itself; see OnRowChanged.
 constexpr UINT showSelectionMessage = WM_APP + 1;
 } // namespace
 
@@ -96,7 +96,7 @@ BOOL CConfigSettingDlg::OnInitDialog()
     m_valueEdit.SetLimitText();
     if (m_list.GetColumnCount() == 0)
         CreateColumns();
-    // What an earlier window of this dialog posted went with it.
+    // A message posted by an earlier window of this dialog was lost with that window.
     m_selectionChanged = false;
     FillList();
     if (m_browsing) {
@@ -163,7 +163,7 @@ void CConfigSettingDlg::ShowMoveIcon(CButton& button, ResourceIcon& shown, UINT 
     shown = std::move(icon);
 }
 
-// The dialog is opened again and again over one tooltip window.
+// The tooltip window outlives this dialog, so the dialog removes its controls from it.
 void CConfigSettingDlg::OnDestroy()
 {
     if (CToolTipControl* tips = GetToolTipControl()) {
@@ -187,7 +187,7 @@ void CConfigSettingDlg::ShowValue(ov::Text text)
 void CConfigSettingDlg::UpdateButtons()
 {
     const int rows = m_list.GetItemCount();
-    // Of several selected rows the first is the one that moves.
+    // If several rows are selected, the move buttons move the first one.
     const int first = m_list.GetNextItem(-1, LVNI_SELECTED);
     EnableButton(m_insertButton, !ov::Trim(m_valueText).empty(), m_valueEdit);
     EnableButton(m_deleteButton, first >= 0, m_list);
@@ -199,7 +199,7 @@ void CConfigSettingDlg::EnableButton(CButton& button, bool enable, CWnd& next)
 {
     if (enable == (button.IsWindowEnabled() != FALSE))
         return;
-    // A disabled button that keeps the focus would swallow the keyboard.
+    // A disabled button that keeps the focus would swallow keyboard input.
     if (!enable && ::GetFocus() == button.m_hWnd)
         SendMessage(WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(next.m_hWnd), TRUE);
     button.EnableWindow(enable);
@@ -214,8 +214,8 @@ void CConfigSettingDlg::SelectRow(int row)
 
 void CConfigSettingDlg::RemoveShownRow(int row)
 {
-    // Some lists report a deleted row as deselected. Shown as the
-    // value it would overwrite what the user may have typed there.
+    // Some list views report a deleted row as deselected. Its value must not
+    // overwrite what the user may have typed into the value field.
     m_removingRow = true;
     m_list.DeleteRow(row);
     m_removingRow = false;
@@ -246,7 +246,7 @@ void CConfigSettingDlg::OnInsert()
     UpdateData(TRUE);
     if (ov::Trim(m_valueText).empty())
         return;
-    // As typed: only reading the fields takes blanks off.
+    // Inserted as typed: blanks are removed only when fields are read.
     ShowInsertedRow(m_rows.Insert(m_rows.Count(), m_valueText));
     ShowValue({});
     UpdateButtons();
@@ -268,7 +268,7 @@ void CConfigSettingDlg::OnDelete()
     if (selected == 0 || (selected > 1 && !ConfirmDeletion(selected)))
         return;
     m_list.SetRedraw(FALSE);
-    // From the end, so that the rows yet to come keep their indices.
+    // From the end, so that the indices of the remaining rows stay valid.
     for (int row = m_list.GetItemCount() - 1; row >= 0; --row) {
         if (m_list.GetItemState(row, LVIS_SELECTED) == 0)
             continue;
@@ -324,11 +324,11 @@ void CConfigSettingDlg::OnRowChanged(NMHDR* header, LRESULT* result)
                            ((change->uNewState ^ change->uOldState) & LVIS_SELECTED) != 0;
     if (!selection || m_removingRow)
         return;
-    // Selecting thousands of rows sends a notification for each. The result is shown once,
-    // after all of them: before any input, since posted messages come first.
+    // Selecting thousands of rows sends a notification for each. The value is shown once, after all
+    // of them and before any input, because posted messages are retrieved first.
     if (!m_selectionChanged)
         m_selectionChanged = PostMessage(showSelectionMessage) != FALSE;
-    // A change of all rows at once names none.
+    // A change of all rows at once has no row index.
     if (change->iItem >= 0 && static_cast<size_t>(change->iItem) < m_rows.Count())
         m_selectedValue = m_rows.EntryText(static_cast<size_t>(change->iItem));
 }

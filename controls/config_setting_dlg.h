@@ -8,22 +8,22 @@
 #include "controls/resizable_dlg.h"
 #include "controls/resource_icon.h"
 
-/// The "Multi-Entry Values" dialog: edits the text of a variable that holds
-/// several values, one entry a row. What the rows hold is ov::ListRows'
-/// business; the dialog shows it and reports what the user did.
+/// The list editor, the dialog "Multi-Entry Values": edits the text of a variable
+/// that holds several values, one entry per row. ov::ListRows implements what the
+/// rows contain; the dialog shows them and passes on the user's actions.
 class CConfigSettingDlg : public CResizableDlg
 {
     DECLARE_DYNAMIC(CConfigSettingDlg)
 
   public:
-    /// A nonzero `browsing` offers a file chooser. `fieldSeparator` is 0 for
-    /// entries of one field.
+    /// A nonzero `browsing` adds a file chooser. `fieldSeparator` is 0 for
+    /// entries with one field.
     CConfigSettingDlg(CWnd* parent, ov::Text listText, UINT browsing, char16_t separator, char16_t qualifier,
                       char16_t fieldSeparator, size_t fieldCount);
 
     BOOL OnInitDialog() override;
 
-    /// The list text that was given; once the dialog ended with OK, the edited one.
+    /// The original list text or, after the dialog ended with OK, the edited one.
     const ov::Text& GetListText() const { return m_listText; }
 
   protected:
@@ -32,7 +32,7 @@ class CConfigSettingDlg : public CResizableDlg
     UINT AccessibleNameId(int controlId) const override;
     void OnOK() override;
 
-    /// Gives the buttons their icons in the size of the dialog's resolution.
+    /// Sets the buttons' icons in the size for the dialog's resolution.
     void OnTemplateLayout() override;
 
     void OnDestroy();
@@ -54,7 +54,7 @@ class CConfigSettingDlg : public CResizableDlg
     void RegisterTooltips();
     void ShowMoveIcon(CButton& button, ResourceIcon& shown, UINT iconId) const;
     void ShowValue(ov::Text text);
-    /// Shows the value of the row that was selected or deselected last, if that has not been done.
+    /// Shows the value of the row that was selected or deselected last, unless it is shown already.
     void ShowSelection();
     void UpdateButtons();
     void EnableButton(CButton& button, bool enable, CWnd& next);
@@ -78,7 +78,7 @@ class CConfigSettingDlg : public CResizableDlg
     size_t m_fieldCount;
     bool m_browsing;
     bool m_removingRow = false;
-    bool m_selectionChanged = false;         ///< a message to show it is on its way
-    std::optional<ov::Text> m_selectedValue; ///< still to be shown
+    bool m_selectionChanged = false;         ///< showSelectionMessage has been posted
+    std::optional<ov::Text> m_selectedValue; ///< the value that ShowSelection has to show
     ov::ListRows m_rows;
 };

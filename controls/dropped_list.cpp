@@ -23,7 +23,7 @@ void FitDroppedWidth(HWND comboBox)
     }
     ::SelectObject(context, before);
     ::ReleaseDC(comboBox, context);
-    // The list's borders, the space beside its entries, and a bar should it need one.
+    // The list's borders, the space beside its entries, and a scroll bar if needed.
     const int edges =
         4 * AfxGetFrameMetrics(comboBox, SM_CXEDGE) + AfxGetFrameMetrics(comboBox, SM_CXVSCROLL);
     ::SendMessageW(comboBox, CB_SETDROPPEDWIDTH, widest + static_cast<WPARAM>(edges), 0);
@@ -34,7 +34,7 @@ namespace
 void CloseCalendar(HWND datePicker)
 {
     ::SendMessageW(datePicker, DTM_CLOSEMONTHCAL, 0, 0);
-    // Not every system has that message.
+    // Some systems do not support this message.
     const auto calendar = reinterpret_cast<HWND>(::SendMessageW(datePicker, DTM_GETMONTHCAL, 0, 0));
     if (calendar != nullptr && ::IsWindowVisible(calendar))
         ::ShowWindow(calendar, SW_HIDE);

@@ -4,7 +4,7 @@
 
 namespace
 {
-// Nobody looks the grip up, so it shares the id of all nameless controls.
+// The grip is never looked up, so it has the id of all controls without an id of their own.
 constexpr UINT gripId = 0xFFFF;
 } // namespace
 
@@ -22,7 +22,7 @@ CRect CGrippie::CornerRect() const
 
 BOOL CGrippie::Create()
 {
-    // A group of its own: arrow keys on the dialog's buttons must not reach it.
+    // WS_GROUP makes it a group of its own: arrow keys on the dialog's buttons must not reach it.
     return CScrollBar::Create(WS_CHILD | WS_VISIBLE | WS_GROUP | SBS_SIZEGRIP, CornerRect(), &m_dialog,
                               gripId);
 }

@@ -10,10 +10,10 @@ class CGrippie : public CScrollBar
   public:
     explicit CGrippie(CWnd& dialog);
 
-    /// Makes the grip's window, visible, in the dialog's corner.
+    /// Creates the grip's window, visible, in the dialog's corner.
     BOOL Create();
 
-    /// Follows the dialog's corner; nothing without a window.
+    /// Moves the grip to the dialog's corner; does nothing without a window.
     void MoveToCorner();
 
   private:

@@ -53,7 +53,7 @@ void CPrefListCtrl::ArrangeRows(std::span<const std::size_t> places)
 
 LRESULT CPrefListCtrl::OnNcCalcSize(WPARAM, LPARAM)
 {
-    // The list gives itself the style whenever its columns are wider than it is.
+    // The list sets this style itself whenever its columns are wider than the list.
     if (const auto style = static_cast<LONG_PTR>(GetStyle());
         !m_hasHorizontalBar && (style & WS_HSCROLL) != 0)
         ::SetWindowLongPtrW(m_hWnd, GWL_STYLE, style & ~LONG_PTR{WS_HSCROLL});
@@ -63,7 +63,7 @@ LRESULT CPrefListCtrl::OnNcCalcSize(WPARAM, LPARAM)
 LRESULT CPrefListCtrl::OnSysColorChange(WPARAM, LPARAM)
 {
     const LRESULT result = Default();
-    // Not every list asks for these again by itself.
+    // Some list views do not update these colours by themselves.
     SendMessage(LVM_SETBKCOLOR, 0, static_cast<LPARAM>(::GetSysColor(COLOR_WINDOW)));
     SendMessage(LVM_SETTEXTBKCOLOR, 0, static_cast<LPARAM>(::GetSysColor(COLOR_WINDOW)));
     SendMessage(LVM_SETTEXTCOLOR, 0, static_cast<LPARAM>(::GetSysColor(COLOR_WINDOWTEXT)));

@@ -7,36 +7,36 @@
 #include "base/text.h"
 #include "framework/afxwin.h"
 
-/// A list in report view: columns captioned from the string table, rows of text.
+/// A list in report view: columns captioned from the string table, and rows of text.
 class CPrefListCtrl : public CListCtrl
 {
     DECLARE_DYNAMIC(CPrefListCtrl)
 
   public:
-    /// Inserts a column with a caption of the string table and a width in
-    /// pixels; its index, -1 when it could not be inserted.
+    /// Inserts a column with a caption from the string table and a width in
+    /// pixels. Returns its index; -1 on failure.
     int InsertCaptionedColumn(int column, UINT captionId, int width);
 
-    /// Adds a row at the end; its index, -1 when it could not be added.
+    /// Adds a row at the end. Returns its index; -1 on failure.
     int AppendRow(const ov::Text& text);
 
-    /// Inserts a row that shows one text a column; its index, -1 when it could
-    /// not be inserted.
+    /// Inserts a row with one text per column. Returns its index; -1 on
+    /// failure.
     int InsertRow(int row, std::span<const ov::Text> texts);
 
-    /// Deletes a row; false when there is none of that index.
+    /// Deletes a row; false if the index is invalid.
     bool DeleteRow(int row);
 
-    /// Turns the sort direction round; true when rows are to ascend now, as
-    /// after the first call.
+    /// Reverses the sort direction. Returns true for ascending, which is the result
+    /// of the first call.
     bool ToggleSortDirection();
 
-    /// Puts each row into the place that is given for it. Selections stay with
-    /// their rows. The rows' data is used for it.
+    /// Moves each row to its given new index. Selections move with their rows. Uses
+    /// the rows' item data.
     void ArrangeRows(std::span<const std::size_t> places);
 
-    /// For a column whose texts fit beside a vertical bar: then its few pixels
-    /// under that bar are no reason for a horizontal one.
+    /// For a column whose texts fit beside a vertical scroll bar: the few pixels
+    /// under that bar do not require a horizontal one.
     void ShowNoHorizontalBar() { m_hasHorizontalBar = false; }
 
   protected:

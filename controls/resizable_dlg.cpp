@@ -15,7 +15,7 @@ namespace
 // Larger than any template at any resolution.
 constexpr LONG largestSize = 30000;
 
-// The controls of a dialog, as the layout arithmetic sees them.
+// The dialog's controls, as the layout arithmetic accesses them.
 class DialogControls : public ov::LayoutControls
 {
   public:
@@ -62,11 +62,11 @@ class DialogControls : public ov::LayoutControls
 
   private:
     const CWnd& m_dialog;
-    // A hidden dialog is drawn as a whole when it is shown.
+    // A hidden dialog is drawn completely when it is shown.
     bool m_visible;
 };
 
-// The longest name that a class can have, with its end; no caption is longer.
+// The longest possible class name with its terminator; captions are shorter.
 using ShortText = wchar_t[257];
 
 ov::ControlRole RoleOfButton(HWND button)
@@ -83,7 +83,7 @@ ov::ControlRole RoleOfButton(HWND button)
     }
 }
 
-// None for what is no control: a page, the size grip.
+// Nothing for windows that are not controls: a page, the size grip.
 std::optional<ov::ControlRole> RoleOf(HWND window)
 {
     ShortText name;
@@ -101,8 +101,8 @@ std::optional<ov::ControlRole> RoleOf(HWND window)
     return std::nullopt;
 }
 
-/// Takes an up-down control from the edit that it sits in, and puts it back: it
-/// narrows the edit whenever it is put there.
+/// Detaches an up-down control from its edit until Attach is called. Each time it is
+/// attached, it makes the edit narrower.
 class DetachedUpDown
 {
   public:
@@ -164,12 +164,12 @@ BOOL CResizableDlg::OnInitDialog()
     return result;
 }
 
-// The system has made the dialog for another resolution.
+// The system created the dialog for another resolution.
 void CResizableDlg::OpenAt(UINT resolution)
 {
     ChangeResolution(resolution);
     if ((GetStyle() & WS_CHILD) != 0)
-        return; // the dialog around gives it a size
+        return; // the outer dialog sets the size of this one
     CRect window;
     CRect client;
     GetWindowRect(&window);
@@ -193,7 +193,7 @@ void CResizableDlg::OnResolutionChanged()
     DialogControls controls(*this);
     ov::RecaptureControls(m_controlLayout, controls, client.Width(), client.Height());
     OnTemplateLayout();
-    // Everything that follows the dialog's size takes its place from there again.
+    // Everything that follows the dialog's size is placed again from the template's positions.
     if (IsIconic())
         return;
     GetClientRect(&client);
@@ -236,7 +236,7 @@ void CResizableDlg::NameControls()
         if (!role)
             continue;
         ov::ControlToName control{*role, {}, {}};
-        // What an input shows is its value.
+        // The text of an input is its value, not its name.
         if (*role != ov::ControlRole::Input)
             control.caption = CaptionOf(window);
         UINT given = AccessibleNameId(::GetDlgCtrlID(window));
@@ -283,7 +283,7 @@ void CResizableDlg::LayoutPass()
         return;
     const CRect client = GetClientRectangle();
     DialogControls controls(*this);
-    // Its first size reaches a window before its controls are made.
+    // A window receives its first size before its controls are created.
     if (::GetWindow(m_hWnd, GW_CHILD) != nullptr)
         ov::ApplyLayout(m_controlLayout, controls, m_designWidth, m_designHeight, client.Width(),
                         client.Height());
@@ -329,7 +329,7 @@ void CResizableDlg::OnSize(UINT type, int width, int height)
     CAbstractFontDlg::OnSize(type, width, height);
     if (type == SIZE_MINIMIZED)
         return;
-    // A destroyed dialog's controls, the grip among them, stay where they are.
+    // A destroyed dialog's controls, including the grip, are not moved.
     if (m_designWidth != 0)
         m_grip.MoveToCorner();
     LayoutPass();
@@ -337,7 +337,7 @@ void CResizableDlg::OnSize(UINT type, int width, int height)
 
 void CResizableDlg::OnDestroy()
 {
-    // Sizes that still arrive while the window goes down find nothing to lay out.
+    // Sizes that arrive during destruction must not cause a layout.
     m_designWidth = 0;
     m_names.Clear();
     CAbstractFontDlg::OnDestroy();

@@ -9,29 +9,29 @@
 #include "framework/window_names.h"
 
 /// A dialog whose listed controls follow its size, optionally with a size grip.
-/// Controls without a telling caption get an accessible name. Each layout starts
-/// from the places that the controls have in the template, so that rounding errors
-/// of repeated resizing do not add up. At another resolution the template gives
-/// them other places, and the layout starts from those.
+/// Controls without a meaningful caption get an accessible name. Each layout starts
+/// from the controls' positions in the template, so that rounding errors of
+/// repeated resizing do not accumulate. At another resolution the template gives
+/// other positions, and the layout starts from those.
 class CResizableDlg : public CAbstractFontDlg
 {
     DECLARE_DYNAMIC(CResizableDlg)
 
   public:
-    /// The design size, in pixels at the usual resolution, is what proportional
-    /// placement refers to and what ApplyMinimumSize enforces.
+    /// The design size, in pixels at the usual resolution, is the reference for
+    /// proportional placement and the minimum size set by ApplyMinimumSize.
     CResizableDlg(UINT templateId, CWnd* parent, bool sizeGrip, UINT designWidth, UINT designHeight);
 
     BOOL OnInitDialog() override;
 
   protected:
-    /// Lists the controls by AddLayout. A derived class calls its own from its
-    /// constructor.
+    /// Registers the controls with AddLayout. A derived class calls its own version
+    /// from its constructor.
     virtual void InitControlLayout() {}
 
-    /// Called when every control has the place and the size that the template gives
-    /// it, while the dialog opens and after each change of its resolution: for what
-    /// is measured there or has a size of its own.
+    /// Called when every control has its template position and size: when the
+    /// dialog opens and after each change of its resolution. For controls that are
+    /// measured there or have a size of their own.
     virtual void OnTemplateLayout() {}
 
     /// The client area's size in the template, in pixels.
@@ -40,29 +40,29 @@ class CResizableDlg : public CAbstractFontDlg
     /// The part of the dialog's monitor that task bars leave free.
     CRect WorkArea() const;
 
-    /// The string that names the control to screen readers, 0 where the text
-    /// around it does. "%1" in the string is the name of the input
+    /// The string that names the control for screen readers; 0 if the text around
+    /// it does so. "%1" in the string is replaced by the name of the input
     /// before the control.
     virtual UINT AccessibleNameId(int controlId) const;
 
-    /// Places every listed control for the current size.
+    /// Places every registered control for the current size.
     virtual void LayoutPass();
 
-    /// The client area; empty when there is no window.
+    /// The client area; empty if there is no window.
     virtual CRect GetClientRectangle() const;
 
     /// Called at the end of every layout pass and by ApplyMinimumSize.
     virtual void RepositionCurrentPage() {}
 
-    /// Lists a control with its ov::Layout... flags.
+    /// Registers a control with its ov::Layout... flags.
     void AddLayout(UINT controlId, std::uint32_t flags);
 
-    /// What the dialogs that must not become smaller than their design size do
-    /// on WM_GETMINMAXINFO.
+    /// Handles WM_GETMINMAXINFO for dialogs that must not become smaller than
+    /// their design size.
     void ApplyMinimumSize(MINMAXINFO* info);
 
-    /// Gives the controls the places of the template at the new resolution, then
-    /// lays them out for the dialog's present size.
+    /// Moves the controls to the template's positions at the new resolution, then
+    /// lays them out for the dialog's current size.
     void OnResolutionChanged() override;
 
     int OnCreate(CREATESTRUCTW* create);
@@ -83,6 +83,6 @@ class CResizableDlg : public CAbstractFontDlg
     UINT m_designWidth;
     UINT m_designHeight;
     CSize m_templateSize;
-    CWindowNames m_names; ///< those of the dialogs inside this one, too
+    CWindowNames m_names; ///< including those of the dialogs inside this one
     bool m_isCaptured = false;
 };

@@ -12,6 +12,6 @@ struct IconDestroyer {
 /// Owns an icon.
 using ResourceIcon = std::unique_ptr<std::remove_pointer_t<HICON>, IconDestroyer>;
 
-/// Loads an icon of the module's resources with `size` pixels in both directions;
-/// null when it cannot be loaded.
+/// Loads an icon of the module's resources, `size` pixels wide and high; null on
+/// failure.
 ResourceIcon LoadResourceIcon(UINT iconId, int size);

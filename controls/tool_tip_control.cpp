@@ -19,17 +19,17 @@ namespace
 {
 constexpr UINT watchPeriod = 5; // milliseconds
 
-// Help texts hold tabs, and ampersands that are no mnemonics. Lines break where
-// the text breaks them and nowhere else.
+// Help texts contain tabs, and ampersands that are not mnemonics. Lines break only
+// at the line breaks of the text.
 constexpr UINT textFormat = DT_EXPANDTABS | DT_NOPREFIX;
 
 UINT FormatOf(ov::TooltipSection section)
 {
-    // Centring moves a single line only, but it is how a description is drawn.
+    // DT_VCENTER affects single lines only, but descriptions are drawn with it.
     return section == ov::TooltipSection::Description ? textFormat | DT_VCENTER : textFormat;
 }
 
-/// Draws with a font for the life of a scope.
+/// Selects a font until the scope ends.
 class FontScope
 {
   public:
@@ -48,7 +48,7 @@ ov::Size SizeOfIcon(HICON icon)
     ICONINFO info{};
     if (icon == nullptr || !::GetIconInfo(icon, &info))
         return {};
-    // An icon without colours has both its masks in one bitmap, one above the other.
+    // A monochrome icon has both masks in one bitmap, one above the other.
     const int images = info.hbmColor != nullptr ? 1 : 2;
     BITMAP bitmap{};
     ::GetObjectW(images == 1 ? info.hbmColor : info.hbmMask, sizeof bitmap, &bitmap);
@@ -107,7 +107,7 @@ void CToolTipControl::RegisterControl(const CWnd* control, ov::Text text, HICON 
 
 void CToolTipControl::AddTool(const CWnd* control, UINT textId)
 {
-    // Hundreds of controls have this icon; one handle serves them all.
+    // Hundreds of controls have this icon; all share one handle.
     ToolTipIcon icon = m_toolIcon.lock();
     if (!icon) {
         icon = OwnIcon(static_cast<HICON>(
@@ -196,7 +196,7 @@ std::vector<ov::TooltipPart> CToolTipControl::Measure(CDC* context)
 {
     std::vector<ov::TooltipPart> parts = ov::SplitTooltip(m_currentText);
     for (ov::TooltipPart& part : parts) {
-        // What the system says of an empty text is no size.
+        // The system reports no usable size for an empty text.
         if (part.text.empty())
             continue;
         const FontScope font(context, FontOf(part.section));
@@ -320,11 +320,11 @@ void CToolTipControl::OnDestroy()
     m_watchTimer = 0;
     m_pending = false;
     m_currentText.clear();
-    // The next window has a parent with a font of its own.
+    // The next window may have a parent with another font.
     for (CFont* font : {&m_headingFont, &m_variableFont, &m_descriptionFont})
         font->DeleteObject();
     m_metrics = {};
-    // Window handles are used again; a text must not outlive its control's round.
+    // Window handles are reused; a text must not be assigned to a later control.
     m_entries.clear();
     CWnd::OnDestroy();
 }

@@ -15,12 +15,12 @@ constexpr UINT ToolTipRectangle = 4;
 
 constexpr COLORREF ToolTipHeadingColour = RGB(108, 5, 0);
 constexpr COLORREF ToolTipDescriptionColour = RGB(39, 54, 35);
-constexpr COLORREF ToolTipVariableColour = RGB(1, 52, 209); ///< sub-headings too
+constexpr COLORREF ToolTipVariableColour = RGB(1, 52, 209); ///< also for sub-headings
 constexpr COLORREF ToolTipLightFrameColour = RGB(171, 164, 156);
 constexpr COLORREF ToolTipDarkFrameColour = RGB(30, 46, 8);
 constexpr COLORREF ToolTipFillColour = RGB(255, 254, 232);
 
-/// Supplies the help text of a control that was registered with an empty one.
+/// Supplies the help text of a control that was registered with an empty text.
 class CToolTipTextProvider
 {
   public:
@@ -28,60 +28,60 @@ class CToolTipTextProvider
     virtual ov::Text GetToolTipText(HWND control) = 0;
 };
 
-/// An icon that several may own; destroyed with its last owner.
+/// A shared icon; destroyed with its last owner.
 using ToolTipIcon = std::shared_ptr<std::remove_pointer_t<HICON>>;
 
-/// What is known of one control.
+/// The registry's data of one control.
 struct ToolTipEntry {
     CRect controlRect;
     ToolTipIcon icon;
     ov::Text text; ///< in the markup of controls/core/tooltip_markup.h
 };
 
-/// The program's one tooltip window and, behind it, the registry of the
-/// controls' help texts. Nothing in the program shows the window: no control
-/// arms it, and the texts reach the user through the fields of the dialog and
-/// the comments of the saved file.
+/// The program's one tooltip window, and the registry of the controls' help texts.
+/// The program never shows the window: no control starts a show. The texts reach
+/// the user through the focus fields of the dialog and the comments of the
+/// saved file.
 class CToolTipControl : public CWnd
 {
     DECLARE_DYNAMIC(CToolTipControl)
 
   public:
-    /// Makes the window, hidden, owned by `owner`'s window where it has one.
-    /// `style` is one of the shapes; `secondStyle` is carried along. `provider`
+    /// Creates the window, hidden and owned by `owner`'s window if there is one.
+    /// `style` is one of the shapes; `secondStyle` is stored but not used. `provider`
     /// may be null and must outlive the window.
     BOOL Create(CWnd* owner, UINT style, UINT secondStyle, CToolTipTextProvider* provider);
 
-    /// Registers the text, or replaces the registered one. A control without a
-    /// window is ignored. A given icon belongs to the entry from then on.
+    /// Registers the text, or replaces the registered one. Ignores a control
+    /// without a window. The entry takes ownership of a given icon.
     void RegisterControl(const CWnd* control, ov::Text text, HICON icon = nullptr);
 
-    /// RegisterControl with a text of the string table and the tooltips' icon.
+    /// RegisterControl with a text from the string table and the tooltips' icon.
     void AddTool(const CWnd* control, UINT textId);
 
-    /// Forgets the control, for windows that come and go while the tooltip stays.
+    /// Removes the control, for windows that are destroyed before the tooltip window.
     void DelTool(const CWnd* control);
 
-    /// The configuration variable that the control edits; empty when the control
+    /// The configuration variable that the control edits; empty if the control
     /// has no window, no entry or no such section.
     ov::Text GetVariableName(const CWnd* control) const;
 
-    /// The control's description; empty as above.
+    /// The control's description; empty in the same cases.
     ov::Text GetDescription(const CWnd* control) const;
 
     /// Number of registered controls.
     size_t GetToolCount() const { return m_entries.size(); }
 
-    /// The icon of the control's entry; null when it has none. It stays the entry's.
+    /// The icon of the control's entry; null if it has none. The entry owns it.
     HICON GetToolIcon(const CWnd* control) const;
 
     UINT GetToolTipStyle() const { return m_style; }
 
     /// Shows the current text in a window that points at `anchor`, in screen
-    /// coordinates, without activating it. A text without sections shows nothing.
+    /// coordinates, without activating it. Shows nothing if the text has no sections.
     void ShowAt(CPoint anchor);
 
-    /// Hides the window and forgets what kept it open.
+    /// Hides the window and clears the state of the show.
     void Hide();
 
   protected:
@@ -90,20 +90,20 @@ class CToolTipControl : public CWnd
     void OnTimer(UINT_PTR id);
     DECLARE_MESSAGE_MAP()
 
-    /// Draws the window as measured last.
+    /// Draws the window as it was last measured.
     void Draw(CDC* context);
 
     static constexpr UINT_PTR showTimer = 100;
     static constexpr UINT_PTR watchTimer = 101;
 
-    // What a show goes by. Who arms it fills in the text and the control's
+    // The state of a show. The caller fills in the text and the control's
     // rectangle, sets pending and starts the show timer.
     ov::Text m_currentText;  ///< in the markup
-    CRect m_controlRect;     ///< in screen coordinates; the window stays while the cursor is inside
-    bool m_pending = false;  ///< a show waits for its delay
+    CRect m_controlRect;     ///< in screen coordinates; the window remains while the cursor is inside
+    bool m_pending = false;  ///< a show is waiting for its delay
     UINT m_showDelay = 1000; ///< in milliseconds
-    CPoint m_anchor;         ///< where the cursor was at the show
-    ov::TooltipSide m_side;  ///< where the body lies from there
+    CPoint m_anchor;         ///< the cursor position at the time of the show
+    ov::TooltipSide m_side;  ///< the position of the body relative to the anchor
     ov::TooltipOutline m_outline;
 
   private:
@@ -111,12 +111,12 @@ class CToolTipControl : public CWnd
     ov::Text TextOf(const CWnd* control) const;
     void CreateFonts();
     CFont& FontOf(ov::TooltipSection section);
-    /// The current text's pieces with their sizes; they view into the text.
+    /// The current text's parts with their sizes; they point into the text.
     std::vector<ov::TooltipPart> Measure(CDC* context);
     bool MakeRegion(CRgn& region) const;
 
     std::map<HWND, ToolTipEntry> m_entries;
-    std::weak_ptr<ToolTipIcon::element_type> m_toolIcon; ///< the one icon of AddTool's entries
+    std::weak_ptr<ToolTipIcon::element_type> m_toolIcon; ///< the icon that all of AddTool's entries share
     CToolTipTextProvider* m_provider = nullptr;
     UINT m_style = ToolTipBalloon;
     UINT m_secondStyle = 0;

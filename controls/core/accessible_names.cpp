@@ -38,7 +38,7 @@ std::vector<Text> NamesToGive(std::span<const ControlToName> controls)
 {
     std::vector<Text> names;
     Text frame;
-    Text input; // what the input that comes or came last is called
+    Text input; // The name of the next input, or of the last one if there is none.
     bool labelled = false;
     for (const ControlToName& control : controls) {
         Text name = WithInput(control.given, input);

@@ -8,33 +8,33 @@
 namespace ov
 {
 
-/// What a control is to somebody who cannot see what lies around it.
+/// The kind of a control, which decides where its accessible name comes from.
 enum class ControlRole {
-    Label,  ///< the caption explains what follows
-    Frame,  ///< the caption is that of a group
-    Box,    ///< check box, its caption beside it
-    Radio,  ///< radio button, one of its group's choices
-    Button, ///< push button; "..." says as little as no caption
-    Input,  ///< filled in or chosen from, without a caption of its own
+    Label,  ///< the caption is the name of the next control
+    Frame,  ///< the caption is the name of a group
+    Box,    ///< check box with its own caption
+    Radio,  ///< radio button, one choice of its group
+    Button, ///< push button; the caption "..." counts as none
+    Input,  ///< shows or edits a value and has no caption of its own
     UpDown, ///< changes the input before it
 };
 
-/// A control of a dialog in the order of creation.
+/// A control of a dialog, in the order of creation.
 struct ControlToName {
     ControlRole role;
     Text caption;
-    /// What it is to be called in place of what is found here. "%1" in it
-    /// is replaced by the name of the input before it.
+    /// The name that replaces the automatic one. "%1" in it is
+    /// replaced by the name of the input before it.
     Text given;
 };
 
-/// A caption as it is read: without the mark of its key and the colon at its end.
+/// A caption as read aloud: without the mnemonic mark and the colon at its end.
 Text SpokenCaption(TextView caption);
 
-/// What each control has to be called, in the same order; empty where a screen
-/// reader finds the name by itself: in the control's caption or, for an input,
-/// in the label directly before it. An input after a box is called as the box
-/// is, after a radio button as the frame around both.
+/// The accessible name of each control, in the same order; empty if a screen reader
+/// finds the name by itself: in the control's caption or, for an input, in the
+/// label directly before it. An input after a box gets the box's name, an input
+/// after a radio button the name of the group.
 std::vector<Text> NamesToGive(std::span<const ControlToName> controls);
 
 } // namespace ov

@@ -8,13 +8,13 @@ namespace ov
 namespace
 {
 
-// A template's coordinates are in these fractions of the base units.
+// Template coordinates are in these fractions of the base units.
 constexpr std::int32_t kHorizontalUnits = 4;
 constexpr std::int32_t kVerticalUnits = 8;
 constexpr std::int32_t kPointsPerInch = 72;
 constexpr std::int32_t kLetters = 52;
 
-// To the nearest integer, halves away from zero.
+// Rounds to the nearest integer, halves away from zero.
 std::int32_t Scale(std::int32_t value, std::int32_t numerator, std::int32_t denominator)
 {
     const std::int64_t magnitude =

@@ -5,36 +5,36 @@
 #include "controls/core/geometry.h"
 
 // Dialog templates and fonts at any resolution. A resolution is in pixels per
-// inch. Values are rounded as the system rounds them when it makes a dialog.
+// inch. Values are rounded as the system does when it creates a dialog.
 
 namespace ov
 {
 
-/// The resolution for which sizes are given in pixels.
+/// The usual resolution. Sizes in pixels in the source code refer to it.
 inline constexpr std::int32_t UsualResolution = 96;
 
-/// The pixels of four horizontal and eight vertical dialog units, which follow
-/// from the dialog's font. At the usual resolution, the program's dialogs have
-/// these.
+/// The size in pixels of four horizontal and eight vertical dialog units, which
+/// depends on the dialog's font. This is the value for the program's dialogs at
+/// the usual resolution.
 inline constexpr Size UsualUnits{6, 13};
 
-/// A length in pixels at the usual resolution, in the pixels of another one.
+/// Converts a length in pixels at the usual resolution to pixels at another one.
 std::int32_t PixelsAt(std::int32_t length, std::int32_t resolution);
 
-/// Edges in dialog units as edges in pixels.
+/// Converts edges in dialog units to edges in pixels.
 Rect EdgesInPixels(const Rect& edges, const Size& units);
 
-/// The place that a control of a template gets. Unlike EdgesInPixels it converts
-/// the control's width and height, which must not depend on its place.
+/// The rectangle of a template's control. Unlike EdgesInPixels it converts width
+/// and height, which must not depend on the control's position.
 Rect ControlInPixels(const Rect& control, const Size& units);
 
-/// A size in pixels at the usual units, in the pixels of a dialog with `units`;
-/// never less than that size.
+/// Converts a size in pixels at the usual units to pixels for a dialog with
+/// `units`. The result is never smaller than `size`.
 Size SizeInUnits(const Size& size, const Size& units);
 
-/// The height of a font at another resolution, where both heights follow from
-/// the same whole number of points. Negative heights, those of the letters alone,
-/// remain negative.
+/// The height of a font at another resolution, if both heights are derived from
+/// the same whole number of points. Negative heights (the height without internal
+/// leading) stay negative.
 std::int32_t FontHeightAt(std::int32_t height, std::int32_t resolution, std::int32_t newResolution);
 
 /// The base units of a font: `alphabetWidth` is the width of the 52 letters A to

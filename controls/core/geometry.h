@@ -5,7 +5,7 @@
 namespace ov
 {
 
-/// A place in pixels.
+/// A point in pixels.
 struct Point {
     std::int32_t x = 0;
     std::int32_t y = 0;
@@ -13,8 +13,8 @@ struct Point {
     bool operator==(const Point&) const = default;
 };
 
-/// Edges in pixels, in the client coordinates of a window; right and bottom lie
-/// just outside.
+/// A rectangle in pixels, in the client coordinates of a window; right and bottom
+/// are exclusive.
 struct Rect {
     std::int32_t left = 0;
     std::int32_t top = 0;

@@ -9,10 +9,10 @@ namespace ov
 namespace
 {
 
-// Room for a list's borders, so that the columns need no horizontal bar.
+// The width of a list's borders; without it the columns would need a horizontal scroll bar.
 constexpr std::int32_t kListBorders = 4;
 
-// Single precision and truncation decide pixels at the edges; both are meant.
+// Single precision and truncation decide some pixels at the edges; both are intended.
 std::int32_t Scale(std::int32_t initial, std::uint32_t design, std::int32_t current)
 {
     return static_cast<std::int32_t>(static_cast<float>(initial) / static_cast<float>(design) *
@@ -40,8 +40,8 @@ void CaptureControl(CDlgControlInfo& info, const Rect& rect, std::int32_t client
     info.captured = 1;
 }
 
-// The order matters: later rules override what earlier ones set, and some put
-// the other axis back to its initial edges.
+// The order matters: later rules override earlier ones, and some reset the other axis to its
+// initial edges.
 Rect PlaceControl(const CDlgControlInfo& info, std::uint32_t designWidth, std::uint32_t designHeight,
                   std::int32_t clientWidth, std::int32_t clientHeight)
 {
@@ -97,7 +97,7 @@ Rect PlaceControl(const CDlgControlInfo& info, std::uint32_t designWidth, std::u
 
 std::int32_t ColumnWidth(std::int32_t listWidth, std::int32_t columns)
 {
-    // A list view takes negative widths as commands to size to the content.
+    // A list view treats negative widths as requests to fit the column to its content.
     return columns > 0 ? std::max(0, (listWidth - kListBorders) / columns) : 0;
 }
 
@@ -146,7 +146,7 @@ void ApplyLayout(const std::vector<CDlgControlInfo>& entries, LayoutControls& co
         const Rect rect = PlaceControl(info, designWidth, designHeight, clientWidth, clientHeight);
         if ((info.layoutFlags & LayoutStretchWidth) != 0) {
             if (const std::int32_t columns = controls.ListColumns(info.controlId); columns > 0) {
-                // The columns follow the stretched width, whatever a later rule makes of it.
+                // The columns follow the stretched width, even if a later rule changes the control's width.
                 const std::int32_t stretched = clientWidth - info.rightMargin - info.left;
                 controls.SetListColumnWidths(info.controlId, ColumnWidth(stretched, columns));
             }

@@ -20,14 +20,14 @@ Text Folded(TextView text)
     return folded;
 }
 
-// Finds a character at or after positions that only ever grow, passing over each character of the
-// text once in all.
+// Finds a character at or after positions that never decrease; examines each character of the text
+// once in total.
 class ForwardFinder
 {
   public:
     ForwardFinder(TextView text, char16_t wanted) : m_text(text), m_wanted(wanted) {}
 
-    // The text's length when there is none.
+    // Returns the text's length if there is none.
     std::size_t At(std::size_t from)
     {
         if (!m_searched || m_found < from) {
@@ -44,7 +44,7 @@ class ForwardFinder
     bool m_searched = false;
 };
 
-// One field after the other from the front of an entry.
+// Reads the fields of an entry from front to back.
 class FieldReader
 {
   public:
@@ -80,7 +80,7 @@ ListRows::Row ReadFields(TextView entry, const ListFormat& format)
     return row;
 }
 
-// Which rows read back as which text: of several equal ones the first counts.
+// Finds rows by the text that they read back as; the first of several equal rows counts.
 class RowIndex
 {
   public:
@@ -113,7 +113,7 @@ std::vector<TextView> SplitEntries(TextView listText, const ListFormat& format)
         const std::size_t end = separators.At(position);
         const std::size_t opening = format.qualifier != u'\0' ? qualifiers.At(position) : length;
         if (opening < end && end < length) {
-            // The separator may lie between qualifiers: look for one behind them.
+            // The separator may be between qualifiers: look for one after the closing qualifier.
             const std::size_t closing = qualifiers.At(opening + 1);
             if (closing + 1 == length) {
                 entries.push_back(listText.substr(start));
@@ -245,7 +245,7 @@ Text ListRows::ListText() const
         text += entry;
         text.push_back(m_format.separator);
     }
-    // Entries may begin or end in separators of their own.
+    // Entries may begin or end with separators of their own.
     const std::size_t first = text.find_first_not_of(m_format.separator);
     if (first == Text::npos)
         return {};

@@ -11,12 +11,12 @@ namespace
 constexpr Size kMargin{12, 10};          // around the text
 constexpr std::int32_t kIconLeft = 10;   // of the icon, from the body's left side
 constexpr std::int32_t kIconGap = 2;     // between icon and text
-constexpr std::int32_t kTailInset = 12;  // the base's outer end, from the body's side
+constexpr std::int32_t kTailInset = 12;  // between the outer end of the base and the body's side
 constexpr std::int32_t kTailWidth = 25;  // of the base
 constexpr std::int32_t kTailHeight = 25; // from the body to the tip
 constexpr std::int32_t kReach = 10;      // past the anchor, or off it
 
-// Takes the next section of that kind; false when there is none.
+// Extracts the next section of that kind; false if there is none.
 bool TakeSection(TextView text, TooltipSection section, std::size_t& position,
                  std::vector<TooltipPart>& parts)
 {
@@ -43,8 +43,8 @@ std::vector<TooltipPart> SplitTooltip(TextView text)
         if (TakeSection(text, section, position, parts) && parts.back().text.empty())
             parts.pop_back();
     }
-    // Each kind has a position of its own: a description before the
-    // first sub-heading would be passed over otherwise.
+    // Each kind has its own position; with a common one a description
+    // before the first sub-heading would be skipped.
     std::size_t subHeading = 0;
     std::size_t description = 0;
     bool more = true;
@@ -89,8 +89,8 @@ TooltipOutline OutlineTooltip(Size body, TooltipSide side, bool withTail)
         return {body, {0, 0, body.width, body.height}, std::nullopt};
     const std::int32_t top = side.above ? 0 : kTailHeight;
     const Rect rect{0, top, body.width, top + body.height};
-    // The system leaves the last pixels of a rounded region out. The tail begins
-    // a little inside the body, its slope prolonged, so that no gap shows.
+    // The system omits the last pixels of a rounded region. The tail begins slightly
+    // inside the body, with its slope extended, so that no gap is visible.
     constexpr std::int32_t overlap = 2;
     const std::int32_t outer = side.right ? kTailInset : body.width - kTailInset;
     const std::int32_t inward = side.right ? kTailWidth + overlap : -(kTailWidth + overlap);
@@ -106,7 +106,7 @@ Point TooltipPosition(const TooltipOutline& outline, TooltipSide side, Point anc
     const std::int32_t left =
         side.right ? anchor.x - kTailInset : anchor.x - outline.window.width + kTailInset;
     const std::int32_t above = anchor.y - outline.window.height;
-    // A tail reaches past the anchor; without one the cursor is kept clear of.
+    // A tail reaches past the anchor; a window without one keeps away from the cursor.
     if (!outline.tail)
         return {left, side.above ? above : anchor.y + kReach};
     return {left, side.above ? above + kReach : anchor.y - kReach};

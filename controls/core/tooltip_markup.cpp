@@ -23,7 +23,7 @@ std::size_t FindTag(TextView text, TextView tag, std::size_t position)
     return TextView::npos;
 }
 
-// Only the four tags end a section; any other "<" is part of it.
+// Only the four tags end a section; any other "<" belongs to it.
 std::size_t FindAnyTag(TextView text, std::size_t position)
 {
     for (; position < text.size(); ++position) {
