@@ -15,8 +15,8 @@ void CCmdLineInfo::ParseParam(LPCWSTR parameter, BOOL isFlag, BOOL isLast)
     };
     const ov::Text text = FromWide(parameter);
     for (const Keyword& keyword : keywords) {
-        // Found anywhere, yet cut by length from the start: a keyword belongs
-        // at the very beginning, and nothing checks its position.
+        // The keyword is searched for anywhere in the text, but removed by length from its
+        // beginning: a keyword has to come first, and its position is not checked.
         if (text.find(keyword.word) != ov::Text::npos) {
             keyword.target = text.substr(keyword.word.size());
             return;

@@ -3,17 +3,17 @@
 #include "base/text.h"
 #include "framework/afxwin.h"
 
-/// Picks the dialog's three texts out of command-line parameters: behind the
+/// Extracts the dialog's three texts from command-line parameters: after the
 /// keywords "DEFAULT:", "CURRENT:" and "USER:", or by position.
 class CCmdLineInfo : public CCommandLineInfo
 {
   public:
-    /// Takes one parameter. `isFlag`: it had a switch character (already
-    /// removed); `isLast`: none follows.
+    /// Handles one parameter. `isFlag`: it had a switch character, which has been
+    /// removed. `isLast`: it is the last parameter.
     void ParseParam(LPCWSTR parameter, BOOL isFlag, BOOL isLast) override;
 
-    ov::Text m_defaultPath; ///< the file of default values
-    ov::Text m_currentPath; ///< the file to edit
+    ov::Text m_defaultPath; ///< the path of the defaults file
+    ov::Text m_currentPath; ///< the path of the current file
     ov::Text m_userName;    ///< the name in the saved file's header
 
   private:

@@ -6,7 +6,7 @@
 
 namespace
 {
-// An argument: nothing for null.
+// An argument of a call: nothing for null.
 using Argument = std::optional<ov::Text>;
 
 Argument TextOf(const wchar_t* text)
@@ -14,8 +14,8 @@ Argument TextOf(const wchar_t* text)
     return text != nullptr ? Argument(FromWide(text)) : std::nullopt;
 }
 
-/// Does an export's work. A C++ exception must not unwind into a host that may
-/// be built by another compiler, so everything that can throw happens here.
+/// Runs the body of an export. A C++ exception must not unwind into a host, which may
+/// be built by another compiler, so everything that can throw runs in here.
 template <class Work>
 unsigned int Guarded(Work work)
 {
@@ -29,8 +29,8 @@ unsigned int Guarded(Work work)
             AfxReportCurrentException();
         }
     } catch (...) {
-        // Not even the module's state could be set up: there is no way to show
-        // it with.
+        // Even the module's state could not be initialised, so there is no way to show
+        // a message.
     }
     return OV_PREFERENCES_NOT_SHOWN;
 }

@@ -4,8 +4,8 @@
 
 namespace Bentley::UIFramework
 {
-/// The host framework's size type, two 32-bit extents. Its header declares the
-/// assignments exported, so a library that is built with it offers them too.
+/// The host framework's size type, with two 32-bit extents. Its header declares the
+/// assignments as exported, so a library built with it exports them too.
 class BSize
 {
   public:

@@ -17,12 +17,12 @@ namespace
 {
 HICON dialogIcon = nullptr;
 
-// How the tooltip window is made: a balloon; the second word is carried along.
+// The style of the tooltip window is a balloon; the second word is stored but not used.
 constexpr UINT toolTipSecondStyle = 8;
 constexpr LONG fallbackFontHeight = 14;
 
-/// A second call of an export can come before the dialog has a window and after
-/// it has lost it: enabling the owner sends messages, leaving COM dispatches them.
+/// A second call of an export can arrive before the dialog has a window and after
+/// it was destroyed: enabling the owner sends messages, leaving COM dispatches them.
 class ShowingScope
 {
   public:
@@ -35,7 +35,7 @@ class ShowingScope
     bool& m_showing;
 };
 
-/// Puts the previous main window back however the dialog ends.
+/// Restores the previous main window when the dialog ends in any way.
 class MainWindowScope
 {
   public:
@@ -48,7 +48,7 @@ class MainWindowScope
     CWnd* m_previous;
 };
 
-/// The tooltip window lives exactly as long as the dialog.
+/// The tooltip window exists exactly as long as the dialog.
 class ToolTipScope
 {
   public:
@@ -91,7 +91,7 @@ int CPreferencesApp::DoMessageBox(const ov::Text& text, UINT type)
                              type | MB_SETFOREGROUND | MB_TOPMOST);
 }
 
-// The main window is the first one to ask, with a font of this resolution.
+// The main window makes the first request; the font that it has then is for this resolution.
 bool CPreferencesApp::DescribeDialogFont(UINT resolution)
 {
     if (m_pMainWnd == nullptr || m_pMainWnd->GetSafeHwnd() == nullptr)
@@ -126,8 +126,8 @@ CFont* CPreferencesApp::GetDialogFont(UINT resolution)
 bool CPreferencesApp::ActivateOpenDialog()
 {
     // Only one of the host's windows is disabled while the dialog is open, and
-    // timers go on: a second call can come, and must not take the texts and the
-    // tooltip window away from the dialog that uses them.
+    // timers still run. A second call can therefore arrive; it must not change the
+    // texts and the tooltip window of the dialog that uses them.
     if (!m_showing && m_pMainWnd == nullptr)
         return false;
     if (m_pMainWnd != nullptr && m_pMainWnd->GetSafeHwnd() != nullptr)

@@ -6,8 +6,8 @@
 #include "controls/tool_tip_control.h"
 #include "framework/afxwin.h"
 
-/// The process-wide application object: it carries what outlives a dialog (the
-/// three texts, the icon, the font) and owns the tooltip window.
+/// The application object of the process: it holds what outlives a dialog (the
+/// three texts, the icon, the fonts) and owns the tooltip window.
 class CPreferencesApp : public CWinApp
 {
   public:
@@ -15,32 +15,32 @@ class CPreferencesApp : public CWinApp
     int ExitInstance() override;
     int DoMessageBox(const ov::Text& text, UINT type) override;
 
-    /// The font of every dialog at a resolution in pixels per inch. On the first
-    /// request it is a copy of the main window's font, or Tahoma 14 when it has
-    /// none; at other resolutions it is the same type in the same points. None
-    /// without a main window.
+    /// The font of every dialog, at a resolution in pixels per inch. The first
+    /// request copies the main window's font, or uses Tahoma 14 if it has none; other
+    /// resolutions use the same typeface and point size. Null without a main
+    /// window.
     CFont* GetDialogFont(UINT resolution);
 
-    /// Shows the dialog modally. 0 when it was shown, 1 when it could not be
-    /// set up or is open already.
+    /// Shows the dialog modally. Returns 0 if it was shown, 1 if it could not be
+    /// initialised or is already open.
     unsigned int ShowPreferences(CWnd* parent);
 
-    /// Brings the dialog forward when one is open. False when no ShowPreferences
-    /// is running; while the dialog is being set up or taken down there is nothing
-    /// to bring forward, yet the result is true.
+    /// Brings an open dialog to the front. False if no ShowPreferences is
+    /// running. While the dialog is being created or destroyed there is nothing
+    /// to bring to the front, but the result is true.
     bool ActivateOpenDialog();
 
-    /// The name for the saved file's header: as given, else the logged-on
-    /// user's, asked for once.
+    /// The name for the saved file's header: the given one, otherwise the logged-on
+    /// user's name, which is queried once.
     const ov::Text& GetUserName();
 
   private:
     bool DescribeDialogFont(UINT resolution);
 
     std::map<UINT, CFont> m_dialogFonts; ///< by resolution
-    LOGFONTW m_dialogFont{};             ///< describes the first one, of m_firstResolution
+    LOGFONTW m_dialogFont{};             ///< describes the first font, at m_firstResolution
     UINT m_firstResolution = 0;
-    bool m_showing = false; ///< from the beginning of ShowPreferences to its end
+    bool m_showing = false; ///< true during ShowPreferences
 };
 
 extern CPreferencesApp theApp;

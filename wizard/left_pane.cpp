@@ -10,7 +10,7 @@
 namespace
 {
 constexpr UINT leftPaneId = 30;
-// Room for the list's borders, so that the one column never needs scrolling.
+// The width of the list's borders; without it the one column would need a scroll bar.
 constexpr int columnMargin = 5;
 } // namespace
 
@@ -39,7 +39,7 @@ void CLeftPane::InitControlLayout()
 
 UINT CLeftPane::AccessibleNameId(int) const
 {
-    return IDS_PANE_COLUMN; // the list shows no header
+    return IDS_PANE_COLUMN; // the list has no visible header
 }
 
 void CLeftPane::RegisterTooltips()
@@ -77,7 +77,7 @@ void CLeftPane::OnTemplateLayout()
 
 void CLeftPane::FillList()
 {
-    // With drawing on, each row would move the list's header and draw the list.
+    // With redrawing enabled, each row would redraw the list and its header.
     m_list.SetRedraw(FALSE);
     for (const ov::PageInfo* page : ov::PaneRows()) {
         const int row = m_list.AppendRow(AfxLoadString(page->titleId));

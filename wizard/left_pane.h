@@ -3,8 +3,8 @@
 #include "controls/pref_list_ctrl.h"
 #include "wizard/wizard_page.h"
 
-/// The category list on the left: one row per page; selecting a row shows its
-/// page. It looks like a page but holds no settings.
+/// The category pane at the left: one row per page. Selecting a row shows its
+/// page. The pane looks like a page but contains no settings.
 class CLeftPane : public CWizardPage
 {
     DECLARE_DYNAMIC(CLeftPane)
@@ -15,7 +15,7 @@ class CLeftPane : public CWizardPage
     BOOL OnInitDialog() override;
     bool CreateOrShow(CWnd* parent, const CRect& rectangle) override;
 
-    /// Makes and places the pane; false when its window could not be made.
+    /// Creates and places the pane; false if its window could not be created.
     bool Show(CPreferencesWizard* wizard, const CRect& rectangle);
 
   protected:

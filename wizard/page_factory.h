@@ -7,6 +7,6 @@
 class CPreferencesWizard;
 class CWizardPage;
 
-/// Constructs the page, without a window. Defined in app/: the pages derive from this
-/// folder's page base, which therefore cannot see them.
+/// Constructs the page, without a window. Defined in app/: the pages derive from the page base
+/// class in this folder, which therefore cannot include them.
 std::unique_ptr<CWizardPage> CreateCataloguePage(const ov::PageInfo& info, CPreferencesWizard* owner);

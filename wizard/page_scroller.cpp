@@ -77,8 +77,8 @@ void CPageScroller::UpdateScrollBars()
         ScrollContent(dx, dy);
 }
 
-// Showing or hiding a bar resizes the page, which updates both bars from
-// within; what each bar shows is therefore asked right before it is set.
+// Showing or hiding a bar resizes the page, and that updates both bars
+// recursively. Each bar's state is therefore queried right before it is set.
 int CPageScroller::UpdateScrollBar(int bar, ov::ScrollAxis& axis, int available)
 {
     const ov::ScrollUpdate update = ov::UpdateAxis(axis, available, m_page.GetScrollPos(bar));
@@ -159,7 +159,7 @@ void CPageScroller::OnHScroll(UINT code, const CWnd*)
 
 void CPageScroller::OnVScroll(UINT code, const CWnd* sender)
 {
-    // Spin buttons report presses to their parent by the vertical scroll message.
+    // Spin buttons notify their parent with vertical scroll messages.
     if (!AfxIsOfClass(AfxSafeHwnd(sender), UPDOWN_CLASSW))
         Request(SB_VERT, static_cast<ov::ScrollRequest>(code));
 }
@@ -174,7 +174,7 @@ BOOL CPageScroller::OnMouseWheel(short delta)
     UINT lines = 0;
     ::SystemParametersInfoW(SPI_GETWHEELSCROLLLINES, 0, &lines, 0);
     const ov::WheelSteps steps = ov::StepsOfWheel(delta, lines);
-    // A step that moves nothing has reached the end; the others would not either.
+    // After a step that moves nothing the end is reached; further steps have no effect.
     for (std::uint64_t i = 0; i < steps.count && Request(SB_VERT, steps.request); ++i) {
     }
     return TRUE;

@@ -4,38 +4,38 @@
 #include "wizard/core/page_scroll.h"
 
 /// Scrolls a page whose content is larger than its window, in both directions,
-/// with the window's own scroll bars. It belongs to its page.
+/// with the window's own scroll bars. The page owns it.
 class CPageScroller
 {
   public:
     /// `displaySize` is the size of the page's whole content in pixels.
     CPageScroller(CWnd& page, CSize displaySize);
 
-    /// Sets the size of the whole content in pixels. The content is at least so
-    /// large that `reserved` can be brought into view beside both bars. The bars
-    /// follow at once.
+    /// Sets the size of the whole content in pixels and updates the scroll bars. The
+    /// content is at least large enough to make `reserved` visible while both scroll
+    /// bars are shown.
     void SetDisplaySize(CSize displaySize, CSize reserved = {});
 
-    /// The part of the page, from its origin, that can be brought into view.
+    /// The part of the page, from its origin, that scrolling can make visible.
     CSize ReachableSize() const;
 
-    /// After a new size of the page: back to the origin, bars fitted.
+    /// Called after the page was resized: scrolls to the origin and updates the bars.
     void OnSize();
 
-    /// Moves the content, child windows included, back to the top-left corner.
+    /// Scrolls the content, including child windows, back to the top-left corner.
     void ScrollToOrigin();
 
-    /// Scrolls as far as it takes to bring the rectangle, in the page's client
-    /// coordinates, into view.
+    /// Scrolls as far as necessary to make the rectangle, in the page's client
+    /// coordinates, visible.
     void Show(const CRect& rectangle);
 
-    /// Performs a scroll-bar request; `sender` is the control that sent it, null
+    /// Performs a scroll bar request. `sender` is the control that sent it; null
     /// for the page's own bar.
     void OnHScroll(UINT code, const CWnd* sender);
     void OnVScroll(UINT code, const CWnd* sender);
 
-    /// Scrolls by a wheel movement (120 a notch). FALSE when the page has
-    /// nothing to scroll vertically.
+    /// Scrolls by a wheel movement (120 per notch). FALSE if the page cannot
+    /// scroll vertically.
     BOOL OnMouseWheel(short delta);
 
   private:

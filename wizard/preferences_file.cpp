@@ -1,5 +1,5 @@
-// The dialog's dealings with the configuration file: reading it into the
-// store, writing it, and telling the user what went wrong.
+// The parts of the dialog that handle the configuration file: reading it into
+// the store, writing it, and reporting failures to the user.
 
 #include <functional>
 #include <utility>
@@ -18,7 +18,7 @@ namespace
 constexpr UINT warningStyle = MB_OK | MB_ICONWARNING | MB_SETFOREGROUND | MB_TOPMOST;
 constexpr UINT questionStyle = MB_YESNO | MB_DEFBUTTON2 | MB_ICONWARNING | MB_SETFOREGROUND | MB_TOPMOST;
 
-/// Time, user and machine as Windows reports them.
+/// Time, user and computer as reported by Windows.
 class WindowsSurroundings final : public ov::SaveSurroundings
 {
   public:
@@ -27,7 +27,7 @@ class WindowsSurroundings final : public ov::SaveSurroundings
     ov::Text ComputerName() override { return GetMachineName(); }
 };
 
-/// The questions and notices of a save of `path` as message boxes.
+/// The question and the notice of a save of `path`, as message boxes.
 class MessageBoxPrompts final : public ov::SavePrompts
 {
   public:
@@ -89,7 +89,7 @@ void CPreferencesWizard::OnBrowseConfigFile()
     if (CWin32FilePort().Kind(m_currentPath) == ov::FileKind::File) {
         OpenConfigFile(true);
     } else {
-        // The name of a file that Save is to make.
+        // The path of a file that Save will create.
         m_store.SetModified(true);
         UpdateButtons();
     }

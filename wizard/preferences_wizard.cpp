@@ -109,7 +109,7 @@ BOOL CPreferencesWizard::OnInitDialog()
         return TRUE;
     RegisterTooltips();
 
-    // Every page gets its window now, so that all of them hold their values
+    // Every page gets its window now, so that all of them have their values
     // before the user sees any.
     for (const ov::PageInfo* page : ov::PagesById())
         SelectPage(static_cast<UINT>(page->pageId));
@@ -148,7 +148,7 @@ void CPreferencesWizard::OnTemplateLayout()
 
 void CPreferencesWizard::FitIntoWorkArea()
 {
-    // On a small screen the buttons at the bottom would lie under the task bar.
+    // On a small screen the task bar would cover the buttons at the bottom.
     const CRect work = WorkArea();
     CRect window;
     GetWindowRect(&window);
@@ -172,7 +172,7 @@ CRect CPreferencesWizard::PlaceholderRect(int id) const
 
 void CPreferencesWizard::PlaceAfter(CWnd& child, int placeholderId)
 {
-    // The tab order is the Z order: the child takes its placeholder's turn.
+    // The tab order is the Z order: the child replaces its placeholder there.
     if (const CWnd* placeholder = GetDlgItem(placeholderId))
         child.SetWindowPos(placeholder, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
 }
@@ -190,7 +190,7 @@ void CPreferencesWizard::SelectPage(UINT pageId)
     CWizardPage& page = **found;
     const bool isNew = page.GetSafeHwnd() == nullptr;
     if (page.CreateOrShow(this, PlaceholderRect(IDC_PREFERENCES_PAGE_AREA))) {
-        // It stays there: of the pages in between none is visible.
+        // The page keeps this Z order position, because all pages in between are hidden.
         if (isNew)
             PlaceAfter(page, IDC_PREFERENCES_PAGE_AREA);
         page.OnPostShow();
@@ -261,7 +261,7 @@ BOOL CPreferencesWizard::PreTranslateMessage(MSG* message)
     UpdateFocusItems();
     const HWND focus = ::GetFocus();
     const BOOL taken = CResizableDlg::PreTranslateMessage(message);
-    // Not after a click, which would lose the button that it has pressed.
+    // Not after a click, because scrolling would move the clicked button away.
     const bool isKey = message->message >= WM_KEYFIRST && message->message <= WM_KEYLAST;
     if (isKey && ::GetFocus() != focus)
         ScrollToFocus();
@@ -337,7 +337,7 @@ void CPreferencesWizard::OnCancelCommand()
     if (m_store.IsModified()) {
         const int answer = ShowMessage(AfxLoadString(IDS_ASK_ABANDON),
                                        MB_YESNOCANCEL | MB_ICONQUESTION | MB_SETFOREGROUND | MB_TOPMOST);
-        // Everything else keeps the edits, also 0 for a box that could not be shown.
+        // Every other answer keeps the edits, also 0 for a box that could not be shown.
         if (answer != IDYES && (answer != IDNO || !SaveAllPages()))
             return;
     }
@@ -346,8 +346,8 @@ void CPreferencesWizard::OnCancelCommand()
 
 void CPreferencesWizard::OnOK()
 {
-    // Enter in one of the read-only fields arrives as OK. No button exists for
-    // it, and closing here would drop the edits without a question.
+    // Enter in one of the read-only fields arrives as IDOK. There is no OK button,
+    // and closing the dialog here would discard the edits without a question.
 }
 
 int CPreferencesWizard::ShowMessage(const ov::Text& text, UINT type)

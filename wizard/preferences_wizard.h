@@ -10,8 +10,8 @@
 #include "wizard/left_pane.h"
 #include "wizard/wizard_page.h"
 
-/// The one modal dialog: it owns the settings, the pages, the category pane and
-/// the configuration file, and decides when what is read, shown and written.
+/// The preferences dialog. It owns the settings, the pages, the category pane and
+/// the configuration file, and controls when they are read, shown and written.
 class CPreferencesWizard : public CResizableDlg
 {
     DECLARE_DYNAMIC(CPreferencesWizard)
@@ -25,47 +25,47 @@ class CPreferencesWizard : public CResizableDlg
     virtual void RegisterTooltips();
     void InitControlLayout() override;
     void RepositionCurrentPage() override;
-    /// A page that is left gives the focus to the category list, by which it was left.
+    /// When a page is hidden, the focus moves to the category list that was used to leave the page.
     HWND FocusAfterLosing(HWND lost) const override;
     virtual bool CreateLeftPane();
 
-    /// Constructs the pages in catalogue order; makes no windows.
+    /// Constructs the pages in catalogue order, without windows.
     virtual bool CreatePages();
 
-    /// Shows the page with that id; nothing when there is none or it is shown.
+    /// Shows the page with that id. Does nothing if there is none or it is already shown.
     void SelectPage(UINT pageId);
 
-    /// Every page takes its values from the table that the selector names
-    /// (0 = current, 1 = defaults); defaults mark the dialog modified.
+    /// Every page loads its values from the table that the selector names
+    /// (0 = current, 1 = defaults). Defaults mark the dialog as modified.
     void LoadAllPages(int selector);
 
-    /// Every page writes itself into the store, then the file is written. False
+    /// Every page writes its values into the store, then the file is written. False
     /// on the first failure.
     bool SaveAllPages();
 
-    /// Saves by WriteConfigFile. False also when there is no file object yet:
-    /// nothing has been read or saved through it.
+    /// Calls WriteConfigFile. Also false if there is no file object yet, that is, if
+    /// nothing has been read or saved.
     bool SaveConfigFile();
 
     /// Reads the current path into the current table and the pages, or writes
-    /// it. Success clears the modified flag.
+    /// it. Clears the modified mark on success.
     bool OpenConfigFile(bool fromDisk);
 
-    /// The settings; the pages read and write them here.
+    /// The settings. Pages read and write them here.
     ov::SettingStore& Store() { return m_store; }
 
-    /// The comment block made from the help text that is registered for
-    /// `control`; empty when there is no control. Pages that save make theirs from
-    /// their rows; this one is for whoever has only the control.
+    /// The comment block from the help text registered for `control`; empty if there
+    /// is no control. Saving pages build theirs from their rows; this function is
+    /// for callers that only have the control.
     ov::Text MakeSettingComment(const CWnd* control) const;
 
   protected:
     void DoDataExchange(CDataExchange* exchange) override;
     void OnOK() override;
-    /// The program around us ends: the question is the same as for Cancel.
+    /// WM_QUIT asks the same question as Cancel.
     void OnQuit() override { OnCancelCommand(); }
 
-    /// Gives the window its icon, in the size of its resolution.
+    /// Sets the window's icon in the size for its resolution.
     void OnTemplateLayout() override;
 
     void OnSize(UINT type, int width, int height);
@@ -82,10 +82,10 @@ class CPreferencesWizard : public CResizableDlg
 
   private:
     bool ReadConfigFile(int selector);
-    /// Writes the current table to the current path, behind a temporary backup.
+    /// Writes the current table to the current path, with a temporary backup.
     /// Asks before it replaces a file whose content the dialog does not know. On
-    /// failure tells why, or, if the file cannot be created, only puts the focus
-    /// on its name.
+    /// failure shows the reason or, if the file cannot be created, only moves the
+    /// focus to its name.
     bool WriteConfigFile();
     CTextFileEx& ConfigFile();
     void UpdateButtons();
@@ -110,5 +110,5 @@ class CPreferencesWizard : public CResizableDlg
     ResourceIcon m_icon;
     std::unique_ptr<CTextFileEx> m_configFile;
     CEdit m_focusVariableEdit;
-    ov::Text m_savedHeader; ///< what the last save wrote above the variables
+    ov::Text m_savedHeader; ///< the header that the last save wrote above the variables
 };

@@ -10,7 +10,7 @@ CPrefsMemDC::CPrefsMemDC(CDC* target, const CRect& rectangle) : m_target(target)
         }
         DeleteDC();
     }
-    // Drawing with flicker is better than not drawing at all.
+    // Drawing with flicker is better than not drawing.
     Attach(target->GetSafeHdc());
 }
 

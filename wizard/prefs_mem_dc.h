@@ -2,10 +2,10 @@
 
 #include "framework/afxwin.h"
 
-/// Draws into memory and copies everything to the screen in one transfer when
-/// it is destroyed, so that a window paints without flicker. Coordinates are
-/// the target's. Text goes the way of all drawing. On a printer it draws
-/// directly: nothing flickers there, and a bitmap would lose the resolution.
+/// Draws into a bitmap and copies it to the screen in one operation in the
+/// destructor, so that a window paints without flicker. Coordinates are those of
+/// the target. Text is drawn into the bitmap too. On a printer it draws
+/// directly: nothing flickers there, and a bitmap would reduce the resolution.
 class CPrefsMemDC : public CDC
 {
   public:

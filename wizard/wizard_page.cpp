@@ -62,7 +62,7 @@ void CWizardPage::OnTemplateLayout()
 
 void CWizardPage::OnResolutionChanged()
 {
-    // The template's places are those of an unscrolled page.
+    // The template's positions are those of an unscrolled page.
     m_scroller.ScrollToOrigin();
     CResizableDlg::OnResolutionChanged();
 }
@@ -71,7 +71,7 @@ BOOL CWizardPage::PreTranslateMessage(MSG* message)
 {
     const bool isKey = message->message == WM_KEYDOWN || message->message == WM_KEYUP;
     if (isKey && message->wParam == VK_RETURN) {
-        // Enter must never reach the dialog as "OK": it would close it.
+        // Enter must never reach the dialog as IDOK: the dialog would close.
         switch (ov::EnterRule(TargetOf(CWnd::FromHandle(message->hwnd)))) {
         case ov::EnterAction::Swallow:
             return TRUE;
@@ -171,7 +171,7 @@ void CWizardPage::BrowseFolder(ov::Text& text)
 void CWizardPage::BrowseFileOrList(ov::Text& text, bool list)
 {
     if (list) {
-        // The editor's OK has marked the page and refreshed it already.
+        // OK in the list editor has already marked the page as modified and updated it.
         EditValueList(text, 1, u';', u'"', 0, 1);
         return;
     }
@@ -209,9 +209,9 @@ LRESULT CWizardPage::OnShowWindow(WPARAM show, LPARAM)
 {
     const LRESULT result = Default();
     if (show == 0) {
-        // Open lists and calendars are windows of their own: they would stay, over the next page.
+        // Open lists and calendars are windows of their own and would remain above the next page.
         CloseDropped(m_hWnd);
-        // A calendar that had the focus has given it back to its date picker.
+        // A calendar that had the focus has returned it to its date picker.
         AfxReleaseFocus(m_hWnd);
     }
     return result;
@@ -235,14 +235,14 @@ void CWizardPage::OnPaint()
 
 BOOL CWizardPage::OnEraseBkgnd(CDC*)
 {
-    // OnPaint covers every pixel; erasing first would flicker.
+    // OnPaint covers every pixel; erasing first would cause flicker.
     return TRUE;
 }
 
 LRESULT CWizardPage::OnPrintClient(WPARAM context, LPARAM)
 {
-    // Themed controls fetch what lies behind them this way, since erasing paints
-    // nothing.
+    // Themed controls request their background with this message, since erasing
+    // paints nothing.
     CRect client;
     GetClientRect(&client);
     ::FillRect(reinterpret_cast<HDC>(context), &client, ::GetSysColorBrush(pageColour));
@@ -251,7 +251,7 @@ LRESULT CWizardPage::OnPrintClient(WPARAM context, LPARAM)
 
 LRESULT CWizardPage::OnCtlColorStatic(WPARAM context, LPARAM control)
 {
-    // Labels and boxes have the page's colour as background, which may differ from a dialog's.
+    // Labels and boxes have the page's background colour, which may differ from a dialog's.
     if (TargetOf(CWnd::FromHandle(reinterpret_cast<HWND>(control))) != ov::KeyTarget::Other)
         return Default();
     ::SetTextColor(reinterpret_cast<HDC>(context), ::GetSysColor(COLOR_MENUTEXT));

@@ -6,24 +6,24 @@
 
 class CPreferencesWizard;
 
-/// Base of every category page and of the category pane: a modeless child
-/// dialog in the preferences dialog's page area, with an identity, scrolling,
-/// keyboard rules of its own and the browse operations of the "..." buttons.
+/// Base class of every category page and of the category pane: a modeless child
+/// dialog in the preferences dialog's page area. It has a page id, scrolling, its
+/// own keyboard rules, and the browse operations of the "..." buttons.
 class CWizardPage : public CResizableDlg
 {
     DECLARE_DYNAMIC(CWizardPage)
 
   public:
-    /// The page's window is made later, by CreateOrShow. `scrollSize` is the
+    /// The page's window is created later, by CreateOrShow. `scrollSize` is the
     /// size of the page's whole content in pixels at the usual resolution.
     CWizardPage(CPreferencesWizard* owner, UINT pageId, CSize scrollSize, UINT templateId);
     ~CWizardPage() override;
 
     BOOL PreTranslateMessage(MSG* message) override;
 
-    /// Makes the page's window if it has none, as a child of `parent`, moves it
-    /// into `rectangle` (the parent's client coordinates) and shows it. False
-    /// when the window could not be made.
+    /// Creates the page's window, if it has none, as a child of `parent`, moves it
+    /// to `rectangle` (in the parent's client coordinates) and shows it. False
+    /// if the window could not be created.
     virtual bool CreateOrShow(CWnd* parent, const CRect& rectangle);
 
     /// Called after the page was shown.
@@ -31,68 +31,68 @@ class CWizardPage : public CResizableDlg
 
     virtual UINT GetPageId() const { return m_pageId; }
 
-    /// Moves the page, if it has a window, and repaints it.
+    /// Moves the page, if it has a window, and redraws it.
     virtual void MoveToRect(const CRect& rectangle);
 
-    /// Scrolls the control, which lies on the page, into view.
+    /// Scrolls the page so that the control, one of its children, is visible.
     void ScrollTo(HWND control);
 
-    /// Tells the dialog that the page was changed (or no longer is).
+    /// Notifies the dialog that the page was modified (or no longer is).
     virtual void SetModified(bool modified);
 
-    /// Store to page; selector 0 = current table, 1 = defaults table.
+    /// Loads the page's values from the store; selector 0 = current table, 1 = defaults table.
     virtual bool LoadSettings(int selector);
 
-    /// Page to store, always the current table. Without a wizard the page's
-    /// own parent is taken.
+    /// Writes the page's values into the store's current table. If `wizard` is null,
+    /// the page's parent is used.
     virtual bool SaveSettings(CPreferencesWizard* wizard);
 
-    /// A page that wants the Tab key for itself returns true.
+    /// Called for the Tab key. Return true to handle it in the page.
     virtual bool OnTabKey() { return false; }
 
     virtual UINT GetTemplateId() const { return m_templateId; }
 
-    /// The dialog that the page's window sits in; none while there is no window.
+    /// The dialog that contains the page's window; null while there is no window.
     virtual CPreferencesWizard* GetParentWizard() const;
 
-    /// Lets the user choose a folder into `text`.
+    /// Lets the user choose a folder; sets `text` to its path.
     virtual void BrowseFolder(ov::Text& text);
 
-    /// Lets the user choose a file into `text`, or, for a list, edit its
-    /// entries with browsing on.
+    /// Lets the user choose a file and sets `text` to its path, or, for a list,
+    /// opens the list editor with a file chooser.
     virtual void BrowseFileOrList(ov::Text& text, bool list);
 
-    /// Opens the list editor on `text`. False, after a message, when the text's
-    /// qualifiers do not pair up: the editor could only guess where entries end.
+    /// Opens the list editor for `text`. False, after a message, if the text's
+    /// qualifiers are not paired: the editor could only guess where entries end.
     bool EditValueList(ov::Text& text, UINT browsing, char16_t separator, char16_t qualifier,
                        char16_t fieldSeparator, size_t fieldCount);
 
-    /// The table that the page loads from when its window is made.
+    /// Sets the table that the page loads when its window is created.
     void SetPendingSelector(int selector) { m_pendingSelector = selector; }
 
   protected:
-    /// Fits the scroll bars to the content, whose size grows with the units.
+    /// Fits the scroll bars to the content, whose size grows with the dialog units.
     void OnTemplateLayout() override;
     void OnResolutionChanged() override;
 
-    /// The size that the page has to bring into view at least, unless its units are
-    /// the usual ones: at others the page grows with its units, and its texts do not
-    /// grow in quite the same proportion.
+    /// The size that scrolling must be able to show, unless the page has the usual
+    /// dialog units: otherwise the page is scaled with its units, and its texts do not
+    /// grow in exactly the same proportion.
     virtual CSize NeededSize() const { return {}; }
 
-    /// The part of the page, from its origin, that scrolling brings into view.
+    /// The part of the page, from its origin, that scrolling can make visible.
     CSize ReachableSize() const { return m_scroller.ReachableSize(); }
 
-    /// Back to the origin first: the places that the layout gives are those of
-    /// an unscrolled page.
+    /// Scrolls to the origin first: the layout computes positions for an unscrolled
+    /// page.
     void LayoutPass() override;
 
     CPreferencesWizard* Owner() const { return m_owner; }
     int TakePendingSelector();
     void OnSettingChanged();
 
-    /// A page is not closed by itself: what asks for it, such as an edit of several lines at Escape,
-    /// means something else.
+    /// A page does not close by itself. A request to close it, such as Escape in a multi-line edit, is
+    /// not meant for the page.
     void OnOK() override {}
     void OnCancel() override {}
 

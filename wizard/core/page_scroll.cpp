@@ -10,8 +10,8 @@ namespace
 {
 
 constexpr std::int32_t kWheelNotch = 120;
-// A line step is worth three of the system's lines, so that the usual setting
-// of three lines moves one step a notch.
+// A line step counts as three of the system's lines, so that the usual setting
+// of three lines per notch scrolls one step per notch.
 constexpr std::uint64_t kLinesPerStep = 3;
 constexpr std::uint64_t kFewestLinesForSteps = 6;
 
@@ -58,7 +58,7 @@ ScrollUpdate UpdateAxis(ScrollAxis& axis, std::int32_t available, std::int32_t b
 
 std::int32_t Scroll(ScrollAxis& axis, ScrollRequest request, std::int32_t trackPosition)
 {
-    // Content that fits has nowhere to go and sits at its origin.
+    // Content that fits cannot scroll and stays at its origin.
     const std::int32_t last = axis.pageSize > 0 ? axis.displaySize - axis.pageSize : 0;
     const std::int32_t target = axis.position + RequestedStep(axis, request, trackPosition);
     const std::int32_t clamped = std::clamp(target, 0, last);

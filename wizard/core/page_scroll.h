@@ -5,20 +5,20 @@
 namespace ov
 {
 
-/// Pixels of one line step.
+/// The pixels of one line step.
 inline constexpr std::int32_t ScrollLineStep = 60;
 
-/// A wheel setting of this many lines per notch means a page at a time.
+/// With this wheel setting one notch scrolls a whole page.
 inline constexpr std::uint32_t WheelScrollsPage = 0xFFFFFFFF;
 
 /// One direction of a scrolled page, in pixels.
 struct ScrollAxis {
-    std::int32_t pageSize = 0;    ///< visible part, 0 while everything fits
+    std::int32_t pageSize = 0;    ///< visible part; 0 while everything fits
     std::int32_t displaySize = 0; ///< whole content
-    std::int32_t position = 0;    ///< how far the content is scrolled, never negative
+    std::int32_t position = 0;    ///< distance scrolled from the origin, never negative
 };
 
-/// What a scroll bar is to show; its range begins at 0.
+/// The values for a scroll bar; its range begins at 0.
 struct ScrollBarState {
     std::int32_t maximum = 0;
     std::int32_t pageSize = 0;
@@ -27,8 +27,8 @@ struct ScrollBarState {
     bool operator==(const ScrollBarState&) const = default;
 };
 
-/// A new scroll bar state, and by how much the content moves to match it
-/// (positive: right or down).
+/// A new scroll bar state, and the distance by which the content moves to match
+/// it (positive: right or down).
 struct ScrollUpdate {
     ScrollBarState bar;
     std::int32_t contentShift = 0;
@@ -36,7 +36,7 @@ struct ScrollUpdate {
     bool operator==(const ScrollUpdate&) const = default;
 };
 
-/// What a person asks of a scroll bar; the values are Windows' request codes.
+/// A request from a scroll bar; the values are those of Windows.
 enum class ScrollRequest : std::uint32_t {
     LineBack = 0,
     LineForward = 1,
@@ -46,7 +46,7 @@ enum class ScrollRequest : std::uint32_t {
     ThumbTrack = 5,
 };
 
-/// The scroll steps of a wheel movement.
+/// The scroll steps for a wheel movement.
 struct WheelSteps {
     ScrollRequest request = ScrollRequest::LineForward;
     std::uint64_t count = 0;
@@ -54,38 +54,38 @@ struct WheelSteps {
     bool operator==(const WheelSteps&) const = default;
 };
 
-/// Size of the client area as if it had no scroll bar: a window that is larger
-/// than its client area by at least the bar's thickness shows one.
+/// The size of the client area without the scroll bar: a window that is larger
+/// than its client area by at least the bar's thickness is showing one.
 std::int32_t AvailableSize(std::int32_t windowSize, std::int32_t clientSize, std::int32_t barThickness);
 
-/// Fits the axis to `available` visible pixels. `barPosition` is what the
-/// scroll bar shows so far. A content that fits returns to the origin; one that
-/// does not keeps the same part in view.
+/// Fits the axis to `available` visible pixels. `barPosition` is the present
+/// position of the scroll bar. Content that fits returns to the origin; other
+/// content keeps the same part visible.
 ScrollUpdate UpdateAxis(ScrollAxis& axis, std::int32_t available, std::int32_t barPosition);
 
-/// Performs a request, never leaving the content, and returns the step taken in
-/// pixels (0 for none); the content moves by minus that. `trackPosition` is
-/// where the thumb is being held; only the two thumb requests look at it.
+/// Performs a request within the content's limits and returns the step in pixels
+/// (0 for none); the content moves by the negative step. `trackPosition` is the
+/// position of the thumb while it is dragged; only the two thumb requests use it.
 std::int32_t Scroll(ScrollAxis& axis, ScrollRequest request, std::int32_t trackPosition);
 
-/// How much of the content can be brought into view: what is visible, and what
-/// scrolling to the end adds. `available` is as UpdateAxis takes it, `visible` what
-/// the scroll bars leave of that. A bar covers as much at the content's end.
+/// The size of the content that can be made visible: the visible part plus what
+/// scrolling to the end adds. `available` is the same as for UpdateAxis, `visible` is
+/// the part of it without the scroll bars, which also cover the content's end.
 std::int32_t ReachableSize(const ScrollAxis& axis, std::int32_t available, std::int32_t visible);
 
-/// Where to scroll so that the content from `begin` to `end` comes into view:
-/// the shortest way, or to the origin where that shows it. Of what is longer
-/// than the view, as much as fills three quarters of it. `visible` is what the
-/// scroll bars leave of the page.
+/// The position that makes the content from `begin` to `end` visible: the nearest
+/// one, or the origin if that shows it. Content longer than the view is shown
+/// only in part, filling three quarters of the view. `visible` is the size of the
+/// page without its scroll bars.
 std::int32_t PositionShowing(const ScrollAxis& axis, std::int32_t begin, std::int32_t end,
                              std::int32_t visible);
 
-/// Returns a scrolled axis to its origin; the result is by how much the content
-/// moves back, 0 when it need not.
+/// Returns a scrolled axis to its origin. Returns the distance by which the
+/// content moves back; 0 if it was there.
 std::int32_t ResetAxis(ScrollAxis& axis);
 
-/// What a wheel movement of `delta` (120 a notch, positive away from the user)
-/// does with that many lines set per notch.
+/// The scroll steps for a wheel movement of `delta` (120 per notch, positive away
+/// from the user) if the system is set to `linesPerNotch` lines.
 WheelSteps StepsOfWheel(std::int32_t delta, std::uint32_t linesPerNotch);
 
 } // namespace ov

@@ -9,7 +9,7 @@ namespace ov
 namespace
 {
 
-/// Puts the values in the place of %1 and %2.
+/// Replaces %1 and %2 by the values.
 Text Compose(const Text& pattern, std::initializer_list<TextView> values)
 {
     Text composed;

@@ -5,7 +5,7 @@
 namespace ov
 {
 
-/// Which of the dialog's buttons can be pressed.
+/// Which of the dialog's buttons are enabled.
 struct ButtonStates {
     bool save = false;
     bool loadDefaults = false;
@@ -13,22 +13,22 @@ struct ButtonStates {
     bool operator==(const ButtonStates&) const = default;
 };
 
-/// Save needs a change, Load Default Preferences something to load:
+/// Save needs a change. Load Default Preferences needs something to load:
 /// `defaultCount` is the number of variables in the defaults table.
 ButtonStates StatesOfButtons(bool modified, std::size_t defaultCount);
 
-/// What a key message is aimed at.
+/// The kind of control that receives a key message.
 enum class KeyTarget { None, SingleLineEdit, MultiLineEdit, Other };
 
-/// What becomes of the Enter key on a page.
+/// How a page handles the Enter key.
 enum class EnterAction {
-    Swallow,     ///< the message ends here
-    BecomeSpace, ///< it goes on as the space bar: toggles a box, presses a button
-    Pass         ///< it goes on as it is
+    Swallow,     ///< the message is discarded
+    BecomeSpace, ///< it is handled as the space bar: toggles a box, presses a button
+    Pass         ///< it is passed on unchanged
 };
 
-/// Enter must not reach the dialog, which would close; only a multi-line edit
-/// takes it as text.
+/// Enter must not reach the dialog, which would close. Only a multi-line edit
+/// receives it as input.
 EnterAction EnterRule(KeyTarget target);
 
 } // namespace ov
