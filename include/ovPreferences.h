@@ -53,9 +53,9 @@
 /// Files. The file's bytes are converted by the locale (`setlocale`, category
 /// LC_CTYPE) of the C runtime that this library uses, msvcrt.dll. A host that is
 /// built for that runtime calls its own setlocale. A host that is built for the
-/// universal runtime, ucrtbase.dll, as Visual Studio does, has a locale of its
 /// universal runtime, ucrtbase.dll, as Visual Studio does, has a separate locale
 /// that the library does not see. Such a host sets the locale of msvcrt.dll
+/// once, before the first call:
 ///
 ///     typedef char *(__cdecl *SetLocale)(int category, const char *locale);
 ///     HMODULE runtime = LoadLibraryW(L"msvcrt.dll");
