@@ -1,6 +1,7 @@
 #include "cli/finding_output.h"
 
 #include "cli/output.h"
+#include "version/version.h"
 
 #include <nlohmann/json.hpp>
 
@@ -131,7 +132,7 @@ nlohmann::ordered_json FindingsAsSarif(const std::vector<FileFindings>& files)
         for (const Finding& finding : file.findings)
             results.push_back(SarifResult(file.path, finding));
     }
-    const Json driver = {{"name", "ovprefs"}, {"version", OVPREFS_VERSION}, {"rules", std::move(rules)}};
+    const Json driver = {{"name", "ovprefs"}, {"version", Version()}, {"rules", std::move(rules)}};
     const Json run = {
         {"tool", {{"driver", driver}}}, {"columnKind", "unicodeCodePoints"}, {"results", std::move(results)}};
     return {{"$schema", "https://docs.oasis-open.org/sarif/sarif/v2.1.0/errata01/os/schemas/"

@@ -3,6 +3,7 @@
 #include "cli/commands.h"
 #include "cli/options.h"
 #include "cli/output.h"
+#include "version/version.h"
 
 #include <algorithm>
 #include <exception>
@@ -75,7 +76,7 @@ ExitCode RunProgram(const std::vector<std::string>& arguments, Output& output)
         return ExitCode::Done;
     }
     if (name == "--version") {
-        output.Print("ovprefs " OVPREFS_VERSION "\n");
+        output.Print(std::string("ovprefs ") + VersionWithRevision() + "\n");
         return ExitCode::Done;
     }
     const auto rows = AllCommands();

@@ -23,7 +23,7 @@ set(OV_PCRE2_LIBRARY "${OV_PCRE2_PREFIX}/lib/libpcre2-8.a")
 
 if(NOT EXISTS "${OV_PCRE2_LIBRARY}")
   message(STATUS "Building ${OV_PCRE2_NAME} for ${CMAKE_SYSTEM_NAME}")
-  set(OV_PCRE2_BUILD "${CMAKE_BINARY_DIR}/pcre2")
+  set(OV_PCRE2_BUILD "${PROJECT_BINARY_DIR}/pcre2")
   # Installed beside its place and renamed when complete: what an interruption
   # leaves is never taken for a library.
   string(RANDOM LENGTH 8 OV_PCRE2_SUFFIX)
@@ -61,7 +61,7 @@ set_target_properties(
 # CLI11 and nlohmann-json are headers only. The cross compiler must not search
 # /usr/include, which has the headers of this machine's own C library: the two
 # folders are linked into a folder of their own.
-set(OV_HEADERS_DIR "${CMAKE_BINARY_DIR}/headers")
+set(OV_HEADERS_DIR "${PROJECT_BINARY_DIR}/headers")
 file(MAKE_DIRECTORY "${OV_HEADERS_DIR}")
 foreach(FOLDER IN ITEMS CLI nlohmann)
   if(NOT EXISTS "/usr/include/${FOLDER}")
@@ -72,8 +72,8 @@ endforeach()
 add_library(ov_headers INTERFACE)
 target_include_directories(ov_headers SYSTEM INTERFACE "${OV_HEADERS_DIR}")
 
-if(BUILD_TESTING)
+if(OV_BUILD_TESTS)
   set(INSTALL_GTEST OFF)
-  add_subdirectory(/usr/src/googletest "${CMAKE_BINARY_DIR}/googletest" EXCLUDE_FROM_ALL)
+  add_subdirectory(/usr/src/googletest "${PROJECT_BINARY_DIR}/googletest" EXCLUDE_FROM_ALL)
   target_compile_options(gtest PRIVATE -O0)
 endif()

@@ -3,7 +3,7 @@
 # scripts/check-layers compares the includes, and the diagram in
 # docs/architecture.md, with what is recorded here. Each line of layers.txt is
 # "layer NAME DEPENDS...", "source NAME FILE" or "folder NAME FOLDER".
-set(OV_LAYERS_FILE "${CMAKE_BINARY_DIR}/layers.txt")
+set(OV_LAYERS_FILE "${PROJECT_BINARY_DIR}/layers.txt")
 file(WRITE "${OV_LAYERS_FILE}" "")
 
 # ov_headers_of(NAME FOLDER): headers without sources that layers may include
@@ -17,9 +17,9 @@ ov_headers_of(ov_public_header include)
 
 add_library(ov_options INTERFACE)
 target_link_libraries(ov_options INTERFACE ov_warnings)
-target_include_directories(ov_options INTERFACE "${CMAKE_SOURCE_DIR}")
+target_include_directories(ov_options INTERFACE "${PROJECT_SOURCE_DIR}")
 # Byte-identical rebuilds, in whatever folder the sources lie.
-target_compile_options(ov_options INTERFACE "-ffile-prefix-map=${CMAKE_SOURCE_DIR}/=")
+target_compile_options(ov_options INTERFACE "-ffile-prefix-map=${PROJECT_SOURCE_DIR}/=")
 if(WIN32)
   target_compile_definitions(
     ov_options
@@ -49,7 +49,7 @@ function(ov_layer NAME)
   file(APPEND "${OV_LAYERS_FILE}" "layer ${NAME} ${DEPENDS}\n")
   foreach(SOURCE IN LISTS LAYER_SOURCES)
     cmake_path(ABSOLUTE_PATH SOURCE BASE_DIRECTORY "${CMAKE_CURRENT_SOURCE_DIR}" NORMALIZE)
-    cmake_path(RELATIVE_PATH SOURCE BASE_DIRECTORY "${CMAKE_SOURCE_DIR}")
+    cmake_path(RELATIVE_PATH SOURCE BASE_DIRECTORY "${PROJECT_SOURCE_DIR}")
     file(APPEND "${OV_LAYERS_FILE}" "source ${NAME} ${SOURCE}\n")
   endforeach()
   if(OV_FUZZ)

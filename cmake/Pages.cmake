@@ -15,8 +15,8 @@
 file(
   GLOB PAGE_FILES
   LIST_DIRECTORIES false
-  RELATIVE "${CMAKE_SOURCE_DIR}/pages"
-  CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/pages/*/*")
+  RELATIVE "${PROJECT_SOURCE_DIR}/pages"
+  CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/pages/*/*")
 set(OV_PAGES ${PAGE_FILES})
 list(TRANSFORM OV_PAGES REPLACE "/.*" "")
 list(REMOVE_DUPLICATES OV_PAGES)
@@ -61,7 +61,7 @@ foreach(PAGE IN LISTS OV_PAGES)
   string(APPEND STRINGS "#include \"pages/${PAGE}/ids.h\"\n#include \"pages/${PAGE}/strings.inc\"\n")
   string(APPEND TEMPLATES "ReadTemplate(\n#include \"pages/${PAGE}/page.rc\"\n),\n")
 endforeach()
-set(GENERATED "${CMAKE_BINARY_DIR}/generated/pages")
+set(GENERATED "${PROJECT_BINARY_DIR}/generated/pages")
 file(CONFIGURE OUTPUT "${GENERATED}/page_list.inc" CONTENT "${LIST}" @ONLY)
 file(CONFIGURE OUTPUT "${GENERATED}/page_classes.inc" CONTENT "${CLASSES}" @ONLY)
 file(CONFIGURE OUTPUT "${GENERATED}/page_strings.inc" CONTENT "${STRINGS}" @ONLY)
@@ -71,7 +71,7 @@ file(CONFIGURE OUTPUT "${GENERATED}/page_templates.inc" CONTENT "${TEMPLATES}" @
 set(OV_PAGE_ROWS ${PAGE_FILES})
 list(FILTER OV_PAGE_ROWS INCLUDE REGEX "\\.cpp$")
 list(FILTER OV_PAGE_ROWS EXCLUDE REGEX "^core/|/page\\.cpp$")
-list(TRANSFORM OV_PAGE_ROWS PREPEND "${CMAKE_SOURCE_DIR}/pages/")
+list(TRANSFORM OV_PAGE_ROWS PREPEND "${PROJECT_SOURCE_DIR}/pages/")
 set(OV_PAGE_CLASSES ${PAGE_FILES})
 list(FILTER OV_PAGE_CLASSES INCLUDE REGEX "/page\\.cpp$")
-list(TRANSFORM OV_PAGE_CLASSES PREPEND "${CMAKE_SOURCE_DIR}/pages/")
+list(TRANSFORM OV_PAGE_CLASSES PREPEND "${PROJECT_SOURCE_DIR}/pages/")

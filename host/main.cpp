@@ -5,7 +5,7 @@
 #include "host/host_output.h"
 #include "include/ovPreferences.h"
 #include "resources/ids.h"
-#include "resources/version_number.h"
+#include "version/version.h"
 
 #include <clocale>
 #include <cwchar>
@@ -143,7 +143,8 @@ int wmain(int count, wchar_t** texts)
             return 0;
         }
         if (std::wcscmp(text, L"--version") == 0) {
-            ShowText(L"ovPreferencesHost " OV_VERSION_TEXT);
+            const ov::Text version = ov::TextFromUtf8(ov::VersionWithRevision());
+            ShowText(std::wstring(L"ovPreferencesHost ") + Wide(version));
             return 0;
         }
         if (IsSwitch(text) && !IsKnownSwitch(text)) {
