@@ -3,7 +3,7 @@
 #include "pages/core/page_rows.h"
 #include "pages/settings_page.h"
 
-/// A page without behaviour of its own: its rows say all there is to it.
+/// A page without behaviour of its own; its rows describe it completely.
 template <const ov::PageRows& (*PlainRows)()>
 class CPlainPage : public CSettingsPage
 {
@@ -11,8 +11,8 @@ class CPlainPage : public CSettingsPage
     explicit CPlainPage(CPreferencesWizard* owner) : CSettingsPage(owner, PlainRows()) {}
 };
 
-// The class of every page. Those with behaviour of their own are in their folder's
-// page.h; each of the others is one line: using CPageURLs = CPlainPage<ov::URLsRows>.
+// The class of every page. Pages with behaviour of their own have it in their folder's
+// page.h. Every other page is one line: using CPageURLs = CPlainPage<ov::URLsRows>.
 #define OV_PLAIN_PAGE(name) using CPage##name = CPlainPage<ov::name##Rows>;
 #include "pages/page_classes.inc"
 #undef OV_PLAIN_PAGE

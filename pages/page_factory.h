@@ -7,5 +7,5 @@
 class CPreferencesWizard;
 class CWizardPage;
 
-/// Constructs the page, without a window. `info` is one of the catalogue's.
+/// Constructs the page, without a window. `info` is an element of the catalogue.
 std::unique_ptr<CWizardPage> MakePage(const ov::PageInfo& info, CPreferencesWizard* owner);

@@ -16,7 +16,7 @@ namespace
 {
 constexpr char16_t qualifier = u'"';
 
-/// The button that begins the group a radio button belongs to.
+/// The first button of the group to which a radio button belongs.
 int FirstOfGroup(HWND button)
 {
     while (button != nullptr && (::GetWindowLongPtrW(button, GWL_STYLE) & WS_GROUP) == 0)
@@ -38,7 +38,7 @@ bool IsFrame(HWND control)
            (::GetWindowLongPtrW(control, GWL_STYLE) & BS_TYPEMASK) == BS_GROUPBOX;
 }
 
-/// Whether a control of that kind reports a change by that notification.
+/// True if a control of that kind reports a change with that notification.
 bool IsChange(ov::ControlKind control, int code)
 {
     switch (control) {
@@ -133,7 +133,7 @@ CRect CSettingsPage::GetClientRectangle() const
     return client;
 }
 
-/// Whether the control goes with the page's right edge.
+/// True if the control follows the page's right edge.
 bool CSettingsPage::Follows(HWND control) const
 {
     return std::ranges::any_of(m_layout, [id = ::GetDlgCtrlID(control)](const ov::LayoutRow& row) {
@@ -142,7 +142,7 @@ bool CSettingsPage::Follows(HWND control) const
     });
 }
 
-/// How narrow a stretched control may become.
+/// The minimum width of a stretched control.
 int CSettingsPage::NarrowestWidth(HWND control, const CRect& units) const
 {
     const CRect rect = RectOn(m_hWnd, control);
@@ -155,16 +155,16 @@ int CSettingsPage::NarrowestWidth(HWND control, const CRect& units) const
         }
         return width;
     }
-    // The captions of labels and boxes have lines broken for the template's width.
+    // The captions of labels and boxes have line breaks for the template's width.
     const bool hasCaption = AfxIsOfClass(control, WC_STATICW) || AfxIsOfClass(control, WC_BUTTONW);
     return hasCaption ? rect.Width() : std::min<int>(rect.Width(), units.right);
 }
 
-/// The width of the page at which the first stretched control is as narrow as it
-/// may become; what does not follow is not cut either.
+/// The width of the page at which the first stretched control reaches its minimum
+/// width. Controls that do not follow the edge must be completely visible, too.
 int CSettingsPage::NarrowestWidth() const
 {
-    // The margin in a frame, and what still shows a word of an edit's text.
+    // The margin inside a frame, and a width that still shows one word in an edit.
     CRect units(7, 0, 50, 0);
     MapDialogRect(units);
     const int width = TemplateSize().cx;
@@ -221,7 +221,7 @@ void CSettingsPage::SetUpSpins()
     }
 }
 
-// A list in one line may be longer than an edit takes on its own account.
+// A list in one line may be longer than an edit's default limit.
 void CSettingsPage::LiftTextLimits()
 {
     for (const ov::SettingRow& row : m_rows.settings) {
@@ -316,8 +316,8 @@ bool CSettingsPage::LoadSettings(int selector)
     CPreferencesWizard* wizard = GetParentWizard();
     if (wizard == nullptr)
         return true;
-    // The C library takes the time zone from a variable that others spell in ways
-    // it does not know; the system always knows the day.
+    // The C library takes the time zone from an environment variable that other programs set
+    // in formats it does not understand; the system always knows the day.
     SYSTEMTIME now = {};
     ::GetLocalTime(&now);
     using namespace std::chrono;

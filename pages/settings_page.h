@@ -5,12 +5,12 @@
 #include "pages/core/setting_row.h"
 #include "wizard/wizard_page.h"
 
-/// A category page that its rows describe: it loads, saves, exchanges, lays
-/// out and explains every setting from them, fills lists, sets up up-down
-/// controls, opens what the "..." buttons open, enables and shows what depends
-/// on others, and marks the dialog modified when a control changes. A derived
-/// class adds what is peculiar; an entry in its message map comes before what
-/// the rows say about the same notification.
+/// A category page that is described by its rows. From them it loads, saves,
+/// exchanges, lays out and explains every setting, fills lists, initialises up-down
+/// controls, handles the "..." buttons, enables and shows dependent
+/// controls, and marks the dialog as modified when a control changes. A derived
+/// class adds what rows cannot express; an entry in its message map takes
+/// precedence over the rows for the same notification.
 class CSettingsPage : public CWizardPage
 {
     DECLARE_DYNAMIC(CSettingsPage)
@@ -30,30 +30,30 @@ class CSettingsPage : public CWizardPage
     void InitControlLayout() override;
     UINT AccessibleNameId(int controlId) const override;
 
-    /// Notifications that no message-map entry takes: "..." buttons, and the
-    /// control of a row by the notification with which that kind of control
-    /// reports a change.
+    /// Handles notifications that no message-map entry handles: "..." buttons, and
+    /// the notification with which a control of a row reports a
+    /// change.
     BOOL OnCmdMsg(UINT id, int code, NMHDR* notify, LRESULT* result) override;
 
-    /// The page's hook, then the dependencies, from the members. Runs after a
-    /// load, when the page is shown and when a control that dependencies name
-    /// has changed.
+    /// Calls the page's refresh hook, then applies the dependencies, from the
+    /// members. Called after a load, when the page is shown and when a control that
+    /// dependencies name has changed.
     virtual void RefreshControls();
 
-    // The two halves of RefreshControls. What the dependencies follow are the
+    // The two halves of RefreshControls. Dependencies are evaluated for the
     // given values.
     void ApplyRefreshHook();
     void ApplyDependencies(const ov::PageValues& values);
 
-    /// What the "..." button opens, the focus on refusal included.
+    /// Opens what the "..." button opens; also moves the focus if the editor refuses.
     void Browse(const ov::BrowseRow& row);
     void Browse(int buttonId);
 
-    /// Never so narrow that controls would lie over each other: a page that has
-    /// less room scrolls.
+    /// Limits the width so that controls never overlap: a page with less
+    /// room scrolls.
     CRect GetClientRectangle() const override;
 
-    /// Measures what the controls need, and what their lists need when open.
+    /// Measures the space that the controls need, and their lists when open.
     void OnTemplateLayout() override;
     CSize NeededSize() const override;
 

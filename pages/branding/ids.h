@@ -1,4 +1,4 @@
-/// Numbers of the Branding page.
+/// Resource ids of the Branding page.
 #ifndef OV_PAGES_BRANDING_IDS_H
 #define OV_PAGES_BRANDING_IDS_H
 

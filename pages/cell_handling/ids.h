@@ -1,4 +1,4 @@
-/// Numbers of the Cell Handling page.
+/// Resource ids of the Cell Handling page.
 #ifndef OV_PAGES_CELL_HANDLING_IDS_H
 #define OV_PAGES_CELL_HANDLING_IDS_H
 

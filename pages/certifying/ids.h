@@ -1,4 +1,4 @@
-/// Numbers of the Certifying page.
+/// Resource ids of the Certifying page.
 #ifndef OV_PAGES_CERTIFYING_IDS_H
 #define OV_PAGES_CERTIFYING_IDS_H
 

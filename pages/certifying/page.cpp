@@ -11,8 +11,8 @@ END_MESSAGE_MAP()
 
 CPageCertifying::CPageCertifying(CPreferencesWizard* owner) : CSettingsPage(owner, ov::CertifyingRows()) {}
 
-// The first box shows the marker cell's flag too, but is read before the
-// second one, which therefore has the last word.
+// The first check box also shows the marker cell's flag. It is read before the
+// second one, so the second one decides the value.
 void CPageCertifying::DoDataExchange(CDataExchange* exchange)
 {
     DDX_Check(exchange, IDC_CERTIFYING_PLACE_MARKER_CELL, Values().NumberOf(u"_ORTHOVAL_MARKERCELL"));

@@ -2,7 +2,7 @@
 
 #include "pages/settings_page.h"
 
-/// Marker cells, key-ins around watermarking, reference files when certifying.
+/// The Certifying page: marker cells, watermarking key-ins and reference files.
 class CPageCertifying : public CSettingsPage
 {
     DECLARE_DYNAMIC(CPageCertifying)

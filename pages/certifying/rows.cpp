@@ -6,10 +6,10 @@ namespace ov
 {
 namespace
 {
-// The boxes are shifted against their captions, and files and their readers
-// have long adapted to that: the first two show one flag, the third box shows
-// the second one's, and the third flag has no box. Their help and the comments
-// stay with the captions.
+// The check boxes do not edit the flags that their captions name, and existing
+// files and programs rely on that: the first two show the same flag, the third box
+// shows the flag of the second caption, and the third flag has no check box. Help
+// texts and comments match the captions.
 constexpr SettingRow settings[] = {
     FlagRow(u"_ORTHOVAL_MARKERCELL", IDC_CERTIFYING_CHECK_MARKER_CELLS,
             IDS_HELP_CERTIFYING_CHECK_MARKER_CELLS)
@@ -45,7 +45,7 @@ constexpr LayoutRow layout[] = {
     {IDC_CERTIFYING_REFERENCES_FRAME, kStretched},
 };
 
-// Only the second button takes a refusal to its edit.
+// Only the second button moves the focus to its edit if the list editor is refused.
 constexpr BrowseRow browses[] = {
     BrowseList(IDC_CERTIFYING_PRE_KEYIN_BROWSE, u"_ORTHOVAL_CERTIFY_PREWATERMARK_KEYIN", u';', kFocusStays),
     BrowseList(IDC_CERTIFYING_POST_KEYIN_BROWSE, u"_ORTHOVAL_CERTIFY_POSTWATERMARK_KEYIN", u';',

@@ -1,4 +1,4 @@
-/// Numbers of the Colour Table page.
+/// Resource ids of the Colour Table page.
 #ifndef OV_PAGES_COLOUR_TABLE_IDS_H
 #define OV_PAGES_COLOUR_TABLE_IDS_H
 

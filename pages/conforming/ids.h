@@ -1,4 +1,4 @@
-/// Numbers of the Conforming page.
+/// Resource ids of the Conforming page.
 #ifndef OV_PAGES_CONFORMING_IDS_H
 #define OV_PAGES_CONFORMING_IDS_H
 

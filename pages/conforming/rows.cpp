@@ -35,13 +35,13 @@ constexpr HelpRow extraHelp[] = {
     {IDC_CONFORMING_IGNORED_LEVELS_BROWSE, IDS_HELP_CONFORMING_IGNORED_LEVELS_BROWSE},
 };
 
-// A short number, like the one above it.
+// A short number, fixed like the one above it.
 constexpr LayoutRow layout[] = {
     {IDC_CONFORMING_MIN_ERROR, kFixed},
 };
 
-// A refusal takes the keyboard focus away altogether: this page has always
-// handed it to an edit without a control.
+// If the list editor is refused, no control keeps the keyboard focus: this page has
+// always moved the focus to an edit without a window.
 constexpr BrowseRow browses[] = {
     BrowseList(IDC_CONFORMING_IGNORED_LEVELS_BROWSE, u"_ORTHOVAL_CHECK_IGNORED_LEVELS", u',', kFocusRemoved),
 };

@@ -20,7 +20,7 @@ bool EqualsWithoutCase(TextView one, TextView other)
     return std::ranges::equal(one, other, {}, ToUpperAscii, ToUpperAscii);
 }
 
-/// The number that the text begins with, 0 when there is none.
+/// The number at the beginning of the text; 0 if there is none.
 double LeadingReal(TextView text)
 {
     text.remove_prefix(std::min(text.size(), text.find_first_not_of(u" \t\n\v\f\r")));
@@ -30,10 +30,10 @@ double LeadingReal(TextView text)
 #ifdef __cpp_lib_to_chars
     double value = 0;
     const std::errc error = std::from_chars(bytes.data(), bytes.data() + bytes.size(), value).ec;
-    // What no double holds leaves the value alone, whether too large or too small.
+    // from_chars leaves the value unset if it is too large or too small; strtod returns the nearest one.
     return error == std::errc::result_out_of_range ? std::strtod(bytes.c_str(), nullptr) : value;
 #else
-    // libc++ has no from_chars for real numbers yet. Only tests are built with it, in the "C" locale.
+    // libc++ has no from_chars for floating point yet. Only tests use it, in the "C" locale.
     return std::strtod(bytes.c_str(), nullptr);
 #endif
 }

@@ -5,13 +5,13 @@
 namespace ov
 {
 
-/// The string id of the help text that a page's control shows while it has the
-/// focus; 0 when it has none.
+/// The string id of the help text for a control of the page, shown in the focus
+/// fields; 0 if it has none.
 unsigned HelpOfControl(const PageRows& page, int controlId);
 
-/// The comment block that a page which was shown gives a new setting: made from
-/// the description of the row's help text. Empty lines and "#" alone when that
-/// text has no description. The text is made once and stays.
+/// The comment block of a new setting on a page that has a window, built from the
+/// description in the row's help text. Without a description it has only the empty
+/// line and the "#" lines. The text is built once and cached.
 const Text& CommentOf(const SettingRow& row);
 
 } // namespace ov

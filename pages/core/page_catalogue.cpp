@@ -20,7 +20,7 @@ std::vector<const PageRows*> CollectPages()
     return pages;
 }
 
-/// All pages by a member of theirs.
+/// All pages, sorted by a member of PageInfo.
 std::vector<const PageInfo*> PagesBy(int PageInfo::*member)
 {
     std::vector<const PageInfo*> pages;

@@ -7,10 +7,10 @@
 namespace ov
 {
 
-/// How the controls of a page follow its size, for each control of its template.
-/// Edits stretch, unless they have an up-down control; "..." buttons stay at the
-/// right end of what stretches; everything else keeps its place and its size.
-/// What differs from that is in the page's rows.
+/// The layout row of each control of the page's template: how it follows the page's
+/// size. Edits stretch unless they have an up-down control. "..." buttons stay at
+/// the right end of the stretched controls. All other controls are fixed. The
+/// page's rows contain the exceptions.
 std::vector<LayoutRow> LayoutOf(const PageRows& page);
 
 } // namespace ov

@@ -5,8 +5,8 @@
 namespace ov
 {
 
-// For each page, that is for each folder in pages/, `const PageRows& <Name>Rows()`,
-// which the folder's rows.cpp defines: ConformingRows() for pages/conforming.
+// Declares `const PageRows& <Name>Rows()` for each page, that is, for each folder in
+// pages/. The folder's rows.cpp defines it: ConformingRows() for pages/conforming.
 #define OV_PAGE(name) const PageRows& name##Rows();
 #include "pages/page_list.inc"
 #undef OV_PAGE

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <initializer_list>
 
-// Read here, so that what the templates include is not read within them.
+// Included here first, because the templates include it in the middle of an expression.
 #include <winresrc.h>
 
 namespace ov
@@ -19,14 +19,14 @@ TemplateKind KindOfClass(std::string_view windowClass)
     return windowClass == "msctls_trackbar32" ? TemplateKind::TrackBar : TemplateKind::DatePicker;
 }
 
-/// A control as a template states it.
+/// A control as written in a template.
 struct StatedControl {
     TemplateControl control;
 
     StatedControl() = default;
     StatedControl(TemplateKind kind, std::string_view caption, int id, int, int, int, int, int style = 0,
                   int = 0)
-        // Every label begins a group, whether its line says so or not.
+        // Every label begins a group, with or without WS_GROUP in its line.
         : control{kind, caption, id, kind == TemplateKind::Label || (style & WS_GROUP) != 0,
                   (style & ES_READONLY) != 0}
     {
@@ -38,8 +38,8 @@ struct StatedControl {
     }
 };
 
-/// A template as the words of its file, in their order: the language, the id,
-/// place and size, styles, font. The first control of the list is empty.
+/// Reads a template. The arguments are the words of its file in order: language, id,
+/// position and size, styles, font. The first control of the list is empty.
 PageTemplate ReadTemplate(int, int, unsigned id, int, int, int, int, int, int, int, std::string_view, int,
                           int, int, std::initializer_list<StatedControl> controls)
 {

@@ -188,7 +188,7 @@ void PageValues::Save(SettingStore& store, bool hasWindow)
             continue;
         const Text value =
             row.HoldsText() ? m_values[i].text : NumberToStore(row.encoding, m_values[i].number);
-        // The store keeps the comment of a setting that it has.
+        // The store keeps the comment of an existing setting.
         const bool needsComment = hasWindow && !store.HasSetting(row.variable, kCurrentTable);
         store.SetSetting(row.variable, value, row.kind, needsComment ? TextView(CommentOf(row)) : TextView(),
                          kCurrentTable);

@@ -14,8 +14,8 @@ namespace ov
 
 class PageValues;
 
-/// What shows a value on its page, which also says by what notification a
-/// change is reported and whether the value is exchanged as a number or a text.
+/// The kind of control that shows a value. It also determines which notification
+/// reports a change, and whether the value is exchanged as a number or a text.
 enum class ControlKind {
     None,         ///< no control of its own
     CheckBox,     ///< number, 0 or 1
@@ -25,26 +25,26 @@ enum class ControlKind {
     DatePicker,   ///< text, a day as "2016-05-06"
 };
 
-/// Whether a value shown by such a control is a text rather than a number.
+/// True if such a control shows its value as text and not as a number.
 constexpr bool ShowsText(ControlKind control)
 {
     return control == ControlKind::Edit || control == ControlKind::DatePicker;
 }
 
-/// How a value of the page and the text in the store turn into one another.
-/// pages/core/encoding.h has the functions behind those that do more than copy.
+/// How a value of the page is converted to the text in the store and back.
+/// pages/core/encoding.h has the functions for encodings that do more than copy.
 enum class Encoding {
-    Flag,            ///< number; 1 exactly for the text "1"; written as "1" or "0"
-    FlagUnlessZero,  ///< number; 0 exactly for the text "0", so 1 when absent; written as "1" or "0"
-    Number,          ///< number; leading decimal integer, an empty text changes nothing; written in decimal
-    AlwaysNeverUser, ///< number, index of a list; "1", "0" and "-1" in this order, what is neither 1 nor 0 is
-                     ///< 2
-    NeverAlwaysUser, ///< number, index of a radio group; "0", "1" and "-1" in this order, empty reads as "0"
+    Flag,            ///< number; 1 only for the text "1"; written as "1" or "0"
+    FlagUnlessZero,  ///< number; 0 only for the text "0", so 1 when absent; written as "1" or "0"
+    Number,          ///< number; leading decimal integer, unchanged by an empty text; written in decimal
+    AlwaysNeverUser, ///< number, index of a list; "1", "0" and "-1" in this order; any other text
+                     ///< reads as 2
+    NeverAlwaysUser, ///< number, index of a radio group; "0", "1" and "-1" in this order; empty reads as "0"
     Verbatim,        ///< text, unchanged in both directions
     VerbatimOrZero,  ///< text; an empty one reads as "0"
 };
 
-/// Whether the page holds a text, not a number, for a setting so encoded.
+/// True if the page holds a text, not a number, for a setting with this encoding.
 constexpr bool HoldsText(Encoding encoding)
 {
     return encoding == Encoding::Verbatim || encoding == Encoding::VerbatimOrZero;
@@ -52,28 +52,28 @@ constexpr bool HoldsText(Encoding encoding)
 
 /// When a page writes a setting into the store.
 enum class SaveRule {
-    WhenShownOrAbsent, ///< the rule of all pages: an unseen page keeps what the file says
-    OnlyWhenShown,     ///< an unseen page does not even add the setting when it is absent
-    Never,             ///< shown, or kept for others to see, but never written
+    WhenShownOrAbsent, ///< the usual rule: an unseen page keeps the file's value
+    OnlyWhenShown,     ///< an unseen page does not add the setting if it is absent
+    Never,             ///< shown, or kept for other code, but never written
 };
 
-/// One setting of a page. All the base page does with a setting (load, save,
-/// exchange, help, comment, mark as modified) follows from its row.
+/// One setting of a page. Everything that the base class does with a setting (load,
+/// save, exchange, help, comment, mark as modified) is derived from its row.
 struct SettingRow {
     const char16_t* variable;
     SettingKind kind;
     Encoding encoding;
     ControlKind control;
-    int controlId;          ///< for a radio group its first button; 0 when there is no control
+    int controlId;          ///< for a radio group its first button; 0 if there is no control
     unsigned helpId;        ///< string id of the control's help text; 0 for none
     unsigned commentHelpId; ///< string id of the help text that becomes the setting's comment in the file
     int initialNumber = 0;
     const char16_t* initialText = u"";
 
-    // The exceptions. A row that has one says why.
+    // Exceptions from the rules. A row that sets one gives the reason.
     SaveRule saveRule = SaveRule::WhenShownOrAbsent;
     bool helpNamesAnotherVariable = false;
-    bool changeGoesUnnoticed = false; ///< its control's change does not mark the dialog modified
+    bool changeGoesUnnoticed = false; ///< a change of its control does not mark the dialog as modified
     const char* reason = nullptr;
 
     constexpr bool HoldsText() const { return ov::HoldsText(encoding); }
@@ -82,7 +82,7 @@ struct SettingRow {
         return saveRule != SaveRule::WhenShownOrAbsent || helpNamesAnotherVariable || changeGoesUnnoticed;
     }
 
-    // The exceptions by name, for a row to be written in one expression.
+    // Setters for the exceptions, so that a row can be written as one expression.
     constexpr SettingRow Saved(SaveRule rule, const char* why) const
     {
         SettingRow row = *this;
@@ -104,7 +104,7 @@ struct SettingRow {
         row.reason = why;
         return row;
     }
-    /// The comment is the help text of another control: a label, a button, a frame.
+    /// Takes the comment from the help text of another control: a label, a button or a frame.
     constexpr SettingRow CommentFrom(unsigned otherHelpId) const
     {
         SettingRow row = *this;
@@ -120,7 +120,7 @@ constexpr SettingRow FlagRow(const char16_t* variable, int controlId, unsigned h
             controlId, helpId,          helpId,         initial ? 1 : 0};
 }
 
-/// An edit field whose text is kept as typed.
+/// An edit whose text is stored as typed.
 constexpr SettingRow TextRow(const char16_t* variable, SettingKind kind, int controlId, unsigned helpId,
                              const char16_t* initial = u"")
 {
@@ -135,8 +135,8 @@ constexpr SettingRow ChoiceRow(const char16_t* variable, Encoding encoding, Cont
     return {variable, SettingKindInteger, encoding, control, controlId, helpId, helpId, initial};
 }
 
-/// A setting without a control; its value is kept, or computed by the page's
-/// hooks. The comment is the help text `commentHelpId`.
+/// A setting without a control. Its value is kept, or computed by the page's
+/// hooks. `commentHelpId` is the help text for its comment.
 constexpr SettingRow HiddenRow(const char16_t* variable, SettingKind kind, Encoding encoding,
                                unsigned commentHelpId, int initialNumber = 0,
                                const char16_t* initialText = u"")
@@ -144,12 +144,12 @@ constexpr SettingRow HiddenRow(const char16_t* variable, SettingKind kind, Encod
     return {variable, kind, encoding, ControlKind::None, 0, 0, commentHelpId, initialNumber, initialText};
 }
 
-/// A control that shows what no variable holds by itself: half of a value, or
-/// how to take it. The page's hooks compute it from the settings and back.
+/// A control whose value is not a variable of its own: a part of a variable, or an
+/// option for reading it. The page's hooks convert between it and the settings.
 struct CompanionRow {
     ControlKind control;
     int controlId;            ///< for a radio group its first button
-    const char16_t* variable; ///< the setting that it is a part of
+    const char16_t* variable; ///< the setting that it belongs to
     int initialNumber = 0;
     const char16_t* initialText = u"";
 };
@@ -160,14 +160,14 @@ struct HelpRow {
     unsigned helpId;
 };
 
-/// What screen readers call a control that nothing around it explains in words.
+/// The accessible name of a control that has no describing text near it.
 struct NameRow {
     int controlId;
     unsigned stringId;
 };
 
-/// A control that follows its page's size otherwise than pages/core/page_layout.h
-/// says; flags as in controls/core/layout.h.
+/// A control that does not follow its page's size by the rule in
+/// pages/core/page_layout.h. The flags are those of controls/core/layout.h.
 struct LayoutRow {
     int controlId;
     std::uint32_t layoutFlags;
@@ -177,18 +177,18 @@ inline constexpr std::uint32_t kFixed = LayoutKeepLeft | LayoutKeepTop;
 inline constexpr std::uint32_t kTopRight = LayoutKeepTop | LayoutAnchorRight;
 inline constexpr std::uint32_t kStretched = LayoutKeepTop | LayoutStretchWidth;
 
-/// The entries of a drop-down list, in order, as string ids. Where the template
-/// gives the list the style of sorting, they are in the sorted order.
+/// The entries of a drop-down list, in order, as string ids. If the template gives
+/// the list the sorting style, the entries must be in sorted order.
 struct EntriesRow {
     int controlId;
     std::span<const unsigned> stringIds;
 };
 
-/// The number of a condition that asks for any text but an empty one.
+/// In a condition: any text that is not empty.
 inline constexpr int kAnyText = -2;
 
-/// Holds while the control shows this number: 1 or 0 of a check box, the index
-/// of a list or a radio group, kAnyText of an edit.
+/// Holds if the control shows this number: 1 or 0 for a check box, the index
+/// for a list or a radio group, kAnyText for an edit.
 struct Condition {
     int controlId = 0; ///< 0 for no condition
     int number = 0;
@@ -210,7 +210,7 @@ constexpr Condition IsFilled(int controlId)
 
 enum class Effect { Enable, Show };
 
-/// A control that is enabled, or shown, exactly while all the conditions hold.
+/// A control that is enabled, or shown, only while all the conditions hold.
 struct DependencyRow {
     int controlId;
     Effect effect;
@@ -233,21 +233,21 @@ enum class BrowseKind {
     List,   ///< the list editor
 };
 
-/// Where the keyboard focus goes when the list editor is refused.
+/// Where the keyboard focus goes if the list editor refuses to open.
 inline constexpr int kFocusStays = 0;
-inline constexpr int kFocusRemoved = -1; ///< no window keeps it
+inline constexpr int kFocusRemoved = -1; ///< no control has the focus
 
-/// A "..." button and the setting, one that holds a text, that it edits.
+/// A "..." button and the text setting that it edits.
 struct BrowseRow {
     int buttonId;
     const char16_t* variable;
     BrowseKind kind;
-    // Lists only, as the editor takes them.
+    // For lists only: the arguments of the list editor.
     unsigned browsing = 0; ///< 1: the entries are files
     char16_t separator = u';';
     char16_t fieldSeparator = 0;
     std::size_t fieldCount = 1;
-    int focusOnRefusal = kFocusStays; ///< a control, kFocusStays or kFocusRemoved
+    int focusOnRefusal = kFocusStays; ///< id of a control, kFocusStays or kFocusRemoved
 };
 
 constexpr BrowseRow BrowseFile(int buttonId, const char16_t* variable)
@@ -258,7 +258,7 @@ constexpr BrowseRow BrowseFolder(int buttonId, const char16_t* variable)
 {
     return {buttonId, variable, BrowseKind::Folder};
 }
-/// A list of files between semicolons.
+/// A list of files separated by semicolons.
 constexpr BrowseRow BrowseFiles(int buttonId, const char16_t* variable, int focusOnRefusal = kFocusStays)
 {
     return {buttonId, variable, BrowseKind::List, 1, u';', 0, 1, focusOnRefusal};
@@ -267,14 +267,14 @@ constexpr BrowseRow BrowseList(int buttonId, const char16_t* variable, char16_t 
 {
     return {buttonId, variable, BrowseKind::List, 0, separator, 0, 1, focusOnRefusal};
 }
-/// A list between semicolons whose entries have several fields.
+/// A list separated by semicolons, with several fields per entry.
 constexpr BrowseRow BrowseFields(int buttonId, const char16_t* variable, unsigned browsing,
                                  char16_t fieldSeparator, std::size_t fieldCount, int focusOnRefusal)
 {
     return {buttonId, variable, BrowseKind::List, browsing, u';', fieldSeparator, fieldCount, focusOnRefusal};
 }
 
-/// From this many seconds of holding an arrow on, this is the step.
+/// The step that applies after an arrow was held for this many seconds.
 struct SpinStep {
     unsigned seconds;
     unsigned increment;
@@ -283,8 +283,8 @@ struct SpinStep {
 /// 1 at once, 5 after three seconds, 10 after six.
 inline constexpr SpinStep kFasterAndFaster[] = {{0, 1}, {3, 5}, {6, 10}};
 
-/// An up-down control, the edit that it fills, its range (both ends included),
-/// and its steps where they are not the system's.
+/// An up-down control, its edit, its range (both ends included),
+/// and its steps if they differ from the system's.
 struct SpinRow {
     int controlId;
     int buddyId;
@@ -293,24 +293,24 @@ struct SpinRow {
     std::span<const SpinStep> steps = {};
 };
 
-/// A track bar, from 0 to `highest`, and the setting that it edits: one that
-/// holds a text.
+/// A track bar with the range 0 to `highest`, and the text setting that
+/// it edits.
 struct BarRow {
     int controlId;
     const char16_t* variable;
     int highest;
 };
 
-/// The numbers that make sense for a setting, both ends included, where no
-/// up-down control or track bar says so.
+/// The valid numbers of a setting, both ends included, if no up-down control or
+/// track bar limits them.
 struct RangeRow {
     const char16_t* variable;
     double lowest;
     double highest;
 };
 
-/// A page as data. The hooks are for what rows cannot say; they see values and
-/// no window, and are defined beside the rows.
+/// A page as data. The hooks implement what rows cannot express; they access values
+/// but no windows, and are defined beside the rows.
 struct PageRows {
     PageInfo info;
     std::span<const SettingRow> settings; ///< in the order of loading and saving
@@ -324,20 +324,20 @@ struct PageRows {
     std::span<const NameRow> names = {};
     std::span<const BarRow> bars = {};
     std::span<const RangeRow> ranges = {};
-    std::span<const char16_t* const> olderVariables = {}; ///< only read, from files of long ago
+    std::span<const char16_t* const> olderVariables = {}; ///< only read, from files of earlier versions
 
-    /// Loading reads the controls back and marks the dialog modified.
+    /// Loading reads the controls back and marks the dialog as modified.
     bool loadMarksModified = false;
 
-    /// After the settings were taken from a table: works out the companions.
+    /// Called after the settings were loaded from a table: computes the companions.
     void (*afterLoad)(PageValues& values, const SettingStore& store, int table) = nullptr;
 
-    /// When a control that dependencies name has changed, after a load, and
-    /// whenever the page is shown; the dependencies apply afterwards. Returns
-    /// whether the controls must show the values again.
+    /// Called when a control that dependencies name has changed, after a load, and
+    /// whenever the page is shown; the dependencies are applied afterwards. Returns
+    /// true if the controls must show the values again.
     bool (*refresh)(PageValues& values) = nullptr;
 
-    /// Before the settings are written: works them out from the companions.
+    /// Called before the settings are written: computes them from the companions.
     void (*beforeSave)(PageValues& values) = nullptr;
 };
 

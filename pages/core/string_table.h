@@ -14,10 +14,10 @@ struct StringRow {
 };
 
 /// Every string that the resource compiler puts into the library, from the
-/// same rows, for code that runs without the library.
+/// same rows, for programs that run without the library.
 std::span<const StringRow> StringTable();
 
-/// The string of that id; empty when there is none.
+/// The string with that id; empty if there is none.
 TextView FindString(unsigned id);
 
 } // namespace ov

@@ -1,4 +1,4 @@
-/// Numbers of the Custom Reports page.
+/// Resource ids of the Custom Reports page.
 #ifndef OV_PAGES_CUSTOM_REPORTS_IDS_H
 #define OV_PAGES_CUSTOM_REPORTS_IDS_H
 

@@ -1,4 +1,4 @@
-/// Numbers of the Drafting page.
+/// Resource ids of the Drafting page.
 #ifndef OV_PAGES_DRAFTING_IDS_H
 #define OV_PAGES_DRAFTING_IDS_H
 

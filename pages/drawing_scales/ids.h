@@ -1,4 +1,4 @@
-/// Numbers of the Drawing Scales page.
+/// Resource ids of the Drawing Scales page.
 #ifndef OV_PAGES_DRAWING_SCALES_IDS_H
 #define OV_PAGES_DRAWING_SCALES_IDS_H
 

@@ -14,7 +14,7 @@ constexpr SettingRow settings[] = {
             IDS_HELP_DRAWING_SCALES_ALLOW_NONE),
     FlagRow(u"_ORTHOVAL_DRAWINGSCALE_ANNO_LOCK", IDC_DRAWING_SCALES_IGNORE_ANNOTATION_LOCK,
             IDS_HELP_DRAWING_SCALES_IGNORE_ANNOTATION_LOCK),
-    // Both boxes of the companions in one number.
+    // The companions' two check boxes as one number.
     HiddenRow(u"_ORTHOVAL_DRAWINGSCALE_USE_DEFAULT", SettingKindInteger, Encoding::Verbatim,
               IDS_HELP_DRAWING_SCALES_USE_BUILT_IN),
     TextRow(u"_ORTHOVAL_DRAWINGSCALE_VALUES", SettingKindText, IDC_DRAWING_SCALES_VALUES,
@@ -60,8 +60,8 @@ constexpr BrowseRow browses[] = {
                IDC_DRAWING_SCALES_COMMAND),
 };
 
-// Two ways to say that other scales are allowed: brackets around the list, and
-// the number. When there is no number, the box for the built-in scales stays.
+// Files allow other scales in two ways: by brackets around the list, and by the
+// number. Without a number the check box for the built-in scales keeps its state.
 void ShowScaleSource(PageValues& values, const SettingStore&, int)
 {
     int& builtIn = values.CompanionNumberOf(IDC_DRAWING_SCALES_USE_BUILT_IN);

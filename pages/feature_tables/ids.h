@@ -1,4 +1,4 @@
-/// Numbers of the Feature Tables page.
+/// Resource ids of the Feature Tables page.
 #ifndef OV_PAGES_FEATURE_TABLES_IDS_H
 #define OV_PAGES_FEATURE_TABLES_IDS_H
 

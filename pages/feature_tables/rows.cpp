@@ -39,7 +39,7 @@ constexpr LayoutRow layout[] = {
     {IDC_FEATURE_TABLES_TRICAD, kStretched},
 };
 
-// Names of tables are separated by commas, unlike the lists of other pages.
+// Table names are separated by commas, unlike the lists of other pages.
 constexpr BrowseRow browses[] = {
     BrowseList(IDC_FEATURE_TABLES_ALLOWED_BROWSE, u"_ORTHOVAL_ALLOWED_TABLE_NAMES", u',', kFocusStays),
     BrowseList(IDC_FEATURE_TABLES_DISALLOWED_BROWSE, u"_ORTHOVAL_DISALLOWED_TABLE_NAMES", u',', kFocusStays),

@@ -1,4 +1,4 @@
-/// Numbers of the File Naming page.
+/// Resource ids of the File Naming page.
 #ifndef OV_PAGES_FILE_NAMING_CONVENTION_IDS_H
 #define OV_PAGES_FILE_NAMING_CONVENTION_IDS_H
 

@@ -18,8 +18,8 @@ constexpr SettingRow settings[] = {
             IDS_HELP_FILE_NAMING_TEXT),
 };
 
-// A refused help text hands the focus to the descriptions on this page, and to
-// the help text itself on the page of the models.
+// If the list editor refuses the help text, the focus moves to the descriptions on
+// this page, but to the help text itself on the Model Naming page.
 constexpr BrowseRow browses[] = {
     BrowseList(IDC_FILE_NAMING_TEMPLATES_BROWSE, u"_ORTHOVAL_CONVENTION_FILENAME", u';',
                IDC_FILE_NAMING_TEMPLATES),

@@ -1,4 +1,4 @@
-/// Numbers of the File Paths page.
+/// Resource ids of the File Paths page.
 #ifndef OV_PAGES_FILES_IDS_H
 #define OV_PAGES_FILES_IDS_H
 

@@ -43,7 +43,7 @@ constexpr HelpRow extraHelp[] = {
     {IDC_FILES_HTML_EXE_BROWSE, IDS_HELP_FILES_HTML_EXE_BROWSE},
 };
 
-// The two Excel fields take a file, and yet the folder browser fills them.
+// The two Excel fields contain a file, but their buttons open the folder browser.
 constexpr BrowseRow browses[] = {
     BrowseFolder(IDC_FILES_DICTIONARY_BROWSE, u"_ORTHOVAL_DICT_DIR"),
     BrowseFolder(IDC_FILES_DOCUMENTS_BROWSE, u"_ORTHOVAL_DOCS_DIR"),
@@ -59,8 +59,8 @@ constexpr BrowseRow browses[] = {
     BrowseFile(IDC_FILES_HTML_EXE_BROWSE, u"_ORTHOVAL_HTMLEXPORT_EXEFILE"),
 };
 
-// Files of long ago have one variable for all Excel drivers. Saving writes the
-// newer one and leaves the older line alone.
+// Files of earlier versions have one variable for all Excel drivers. Saving writes
+// the newer one and leaves the older line unchanged.
 void TakeOlderDataSource(PageValues& values, const SettingStore& store, int table)
 {
     Text& path = values.TextOf(jetDataSource);

@@ -1,4 +1,4 @@
-/// Numbers of the Languages page.
+/// Resource ids of the Languages page.
 #ifndef OV_PAGES_LANGUAGES_IDS_H
 #define OV_PAGES_LANGUAGES_IDS_H
 

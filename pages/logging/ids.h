@@ -1,4 +1,4 @@
-/// Numbers of the Logging page.
+/// Resource ids of the Logging page.
 #ifndef OV_PAGES_LOGGING_IDS_H
 #define OV_PAGES_LOGGING_IDS_H
 

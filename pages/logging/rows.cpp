@@ -8,7 +8,7 @@ namespace
 {
 constexpr SettingRow settings[] = {
     FlagRow(u"_ORTHOVAL_REPORT_TRACKING", IDC_LOGGING_TRACKING, IDS_HELP_LOGGING_TRACKING),
-    // The one variable of the program whose name has no underscore in front.
+    // The only variable of the program without a leading underscore.
     TextRow(u"ORTHOVAL_LOG_FILE_MAXSIZE", SettingKindInteger, IDC_LOGGING_MAX_SIZE,
             IDS_HELP_LOGGING_MAX_SIZE),
     ChoiceRow(u"_ORTHOVAL_LOG_FILE_DEBUGLEVEL", Encoding::Number, ControlKind::DropDownList,

@@ -1,4 +1,4 @@
-/// Numbers of the Miscellaneous page.
+/// Resource ids of the Miscellaneous page.
 #ifndef OV_PAGES_MISC_IDS_H
 #define OV_PAGES_MISC_IDS_H
 

@@ -17,7 +17,7 @@ void CPageMisc::OnTest()
 {
     UpdateData(TRUE);
     RegexTester tester(GetParentWizard(), Values().NumberOf(u"_ORTHOVAL_WILDCARD_TYPE"), u"", u"");
-    // The type that was tried last stays the tester's; the page keeps its own.
+    // The pattern tester's last type is not taken over; the page keeps its own.
     if (tester.DoModal() != IDOK)
         return;
     SetModified(true);

@@ -2,8 +2,8 @@
 
 #include "pages/settings_page.h"
 
-/// How strings are matched, with the tester for patterns; windows; automatic
-/// login.
+/// The Miscellaneous page: string matching, with the pattern tester; windows;
+/// automatic login.
 class CPageMisc : public CSettingsPage
 {
     DECLARE_DYNAMIC(CPageMisc)

@@ -13,7 +13,7 @@ constexpr SettingRow settings[] = {
     FlagRow(u"_ORTHOVAL_TOOLS_REORDERALLWINDOWS", IDC_MISC_REORDER_WINDOWS, IDS_HELP_MISC_REORDER_WINDOWS),
     FlagRow(u"_ORTHOVAL_AUTOLOGIN_USERDEFINED", IDC_MISC_AUTO_LOGIN_USER_DEFINED,
             IDS_HELP_MISC_AUTO_LOGIN_USER_DEFINED, true),
-    // A flag that two buttons show, Off before On.
+    // A flag shown by two radio buttons, Off before On.
     {u"_ORTHOVAL_AUTOLOGIN_DEFAULTVALUE", SettingKindFlag, Encoding::Flag, ControlKind::RadioGroup,
      IDC_MISC_AUTO_LOGIN_OFF, IDS_HELP_MISC_AUTO_LOGIN_DEFAULT, IDS_HELP_MISC_AUTO_LOGIN_DEFAULT, 1},
 };

@@ -1,4 +1,4 @@
-/// Numbers of the Model Naming page.
+/// Resource ids of the Model Naming page.
 #ifndef OV_PAGES_MODEL_NAMING_CONVENTION_IDS_H
 #define OV_PAGES_MODEL_NAMING_CONVENTION_IDS_H
 

@@ -1,4 +1,4 @@
-/// Numbers of the Reference Files page.
+/// Resource ids of the Reference Files page.
 #ifndef OV_PAGES_REFERENCE_FILES_IDS_H
 #define OV_PAGES_REFERENCE_FILES_IDS_H
 

@@ -29,7 +29,7 @@ void CPageReferenceFiles::Refresh()
     SetModified(true);
 }
 
-// The editor gives the text at once, without a key that a refresh would follow.
+// The list editor changes the text without a key event, so the refresh is called here.
 void CPageReferenceFiles::OnBrowseBorderSheets()
 {
     UpdateData(TRUE);

@@ -2,7 +2,7 @@
 
 #include "pages/settings_page.h"
 
-/// How reference files are reported, and what border sheets have to be.
+/// The Reference Files page: how they are reported, and requirements for border sheets.
 class CPageReferenceFiles : public CSettingsPage
 {
     DECLARE_DYNAMIC(CPageReferenceFiles)
@@ -12,10 +12,10 @@ class CPageReferenceFiles : public CSettingsPage
     explicit CPageReferenceFiles(CPreferencesWizard* owner);
 
   private:
-    /// Reads the controls, holds the scale factor within its limits and marks
-    /// the dialog modified. What it enables follows the texts as they were
-    /// before: after a key that gives or empties one of them, the other
-    /// controls follow with the next refresh.
+    /// Reads the controls, clamps the scale factor to its limits and marks the
+    /// dialog as modified. The dependent controls are enabled by the texts before this
+    /// change: if a key fills or empties one of the texts, the other controls follow
+    /// with the next refresh.
     void Refresh();
     void OnBrowseBorderSheets();
     void OnBrowsePlotShape();

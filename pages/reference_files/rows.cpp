@@ -71,7 +71,7 @@ constexpr BrowseRow browses[] = {
 constexpr Condition borderSheets = IsFilled(IDC_REFERENCE_FILES_BORDER_SHEETS);
 constexpr Condition plotShape = IsFilled(IDC_REFERENCE_FILES_PLOT_SHAPE);
 
-// Boxes that are disabled keep their check: it comes back with the text.
+// Disabled check boxes keep their state; it is visible again when the text returns.
 constexpr DependencyRow dependencies[] = {
     EnabledWhen(IDC_REFERENCE_FILES_MUST_BE_ATTACHED, borderSheets),
     EnabledWhen(IDC_REFERENCE_FILES_DEFAULT_MODEL, borderSheets),
@@ -89,7 +89,7 @@ constexpr RangeRow ranges[] = {
     {u"_ORTHOVAL_BORDERSHEETS_ERROR_SCALE", kLowestScaleFactor, kHighestScaleFactor},
 };
 
-/// Holds the scale factor within its limits.
+/// Clamps the scale factor to its limits.
 bool ClampScaleFactor(PageValues& values)
 {
     Text& factor = values.TextOf(u"_ORTHOVAL_BORDERSHEETS_ERROR_SCALE");

@@ -1,4 +1,4 @@
-/// Numbers of the Reporting page.
+/// Resource ids of the Reporting page.
 #ifndef OV_PAGES_REPORTING_IDS_H
 #define OV_PAGES_REPORTING_IDS_H
 

@@ -31,7 +31,7 @@ constexpr SettingRow settings[] = {
     HiddenRow(modelsVariable, SettingKindInteger, Encoding::Verbatim, IDS_HELP_REPORTING_MODELS),
 };
 
-// The buttons of a group are explained by what they choose.
+// The buttons of a group show the help text of the setting that they choose.
 constexpr HelpRow extraHelp[] = {
     {IDC_REPORTING_IGNORED_BROWSE, IDS_HELP_REPORTING_IGNORED_BROWSE},
     {IDC_REPORTING_MODELS_LABEL, IDS_HELP_REPORTING_MODELS},
@@ -50,7 +50,7 @@ constexpr HelpRow extraHelp[] = {
     {IDC_REPORTING_FOLDER_USER_DEFINED, IDS_HELP_REPORTING_FOLDER},
 };
 
-// The caption of the one long button wraps where the page is narrow.
+// The caption of the one long button wraps on a narrow page.
 constexpr LayoutRow layout[] = {
     {IDC_REPORTING_MODELS, kStretched},
     {IDC_REPORTING_NAME_FRAME, kStretched},
@@ -76,7 +76,7 @@ constexpr EntriesRow entries[] = {
     {IDC_REPORTING_MODELS, models},
 };
 
-// One of the models, negative when the user may not change it.
+// The number of a model, negative if the user may not change it.
 constexpr RangeRow ranges[] = {
     {modelsVariable, -static_cast<double>(std::size(models)), std::size(models)},
 };
@@ -91,15 +91,15 @@ constexpr const char16_t* folderPresets[] = {
     u"$(ORTHOVAL_CURRENT_DISCIPLINE)",
 };
 
-// The last button of a group, after "None" and the presets, leaves the text to the
-// user.
+// The last button of a group, after "None" and the presets, lets the user edit the
+// text.
 constexpr DependencyRow dependencies[] = {
     EnabledWhen(IDC_REPORTING_NAME, {IDC_REPORTING_NAME_NONE, 1 + std::size(namePresets)}),
     EnabledWhen(IDC_REPORTING_FOLDER, {IDC_REPORTING_FOLDER_NONE, 1 + std::size(folderPresets)}),
 };
 
-// A refusal takes the keyboard focus away altogether: this page has always
-// handed it to an edit without a control.
+// If the list editor is refused, no control keeps the keyboard focus: this page has
+// always moved the focus to an edit without a window.
 constexpr BrowseRow browses[] = {
     BrowseFiles(IDC_REPORTING_IGNORED_BROWSE, u"_ORTHOVAL_REPORT_IGNORED_REFFILES", kFocusRemoved),
 };

@@ -1,4 +1,4 @@
-/// Numbers of the Scan Period page.
+/// Resource ids of the Scan Period page.
 #ifndef OV_PAGES_SCAN_PERIOD_IDS_H
 #define OV_PAGES_SCAN_PERIOD_IDS_H
 
@@ -49,7 +49,7 @@
 #define IDS_SCAN_PERIOD_FIRST_SIGNATURE_INVALIDATED 11059
 #define IDS_SCAN_PERIOD_LAST_SIGNATURE_INVALIDATED 11060
 
-// Names of the codes of the older form
+// Names of the codes of the older variable
 #define IDS_SCAN_PERIOD_OLDER_BEFORE_DATE 5021
 #define IDS_SCAN_PERIOD_OLDER_ON_DATE 5022
 #define IDS_SCAN_PERIOD_OLDER_AFTER_DATE 5023
@@ -63,7 +63,7 @@
 // Message: %1 the variable, %2 its value
 #define IDS_SCAN_PERIOD_IMPOSSIBLE_DATE 5420
 
-// Names for screen readers
+// Accessible names
 #define IDS_SCAN_PERIOD_NAME_SEGMENT_1 5450
 #define IDS_SCAN_PERIOD_NAME_MODE_1 5451
 #define IDS_SCAN_PERIOD_NAME_DATE_1 5452

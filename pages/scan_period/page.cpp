@@ -15,7 +15,7 @@ constexpr int pickers[] = {IDC_SCAN_PERIOD_DATE_1, IDC_SCAN_PERIOD_DATE_2};
 ov::Text MessageOf(const ov::ImpossibleDate& error)
 {
     ov::Text text = AfxLoadString(IDS_SCAN_PERIOD_IMPOSSIBLE_DATE);
-    // The value last: it may hold anything.
+    // The value is inserted last, because it may contain "%2".
     text.replace(text.find(u"%1"), 2, error.Variable());
     text.replace(text.find(u"%2"), 2, error.Value());
     return text;
@@ -29,7 +29,7 @@ CPageScanPeriod::CPageScanPeriod(CPreferencesWizard* owner) : CSettingsPage(owne
 
 BOOL CPageScanPeriod::OnInitDialog()
 {
-    // Nobody chooses a day that could not be read back.
+    // The user cannot choose a day that could not be read back.
     SYSTEMTIME limits[2] = {};
     limits[0].wYear = 1969;
     limits[0].wMonth = 12;
@@ -46,7 +46,7 @@ bool CPageScanPeriod::LoadSettings(int selector)
 {
     if (GetParentWizard() == nullptr)
         return true;
-    // What a text does not reach keeps what the controls show.
+    // Parts that the stored text does not contain keep the controls' values.
     UpdateData(TRUE);
     UpdateScanPeriodControls();
     try {
@@ -69,7 +69,7 @@ void CPageScanPeriod::UpdateScanPeriodControls()
 BOOL CPageScanPeriod::OnCmdMsg(UINT id, int code, NMHDR* notify, LRESULT* result)
 {
     const BOOL handled = CSettingsPage::OnCmdMsg(id, code, notify, result);
-    // From here on the user's input decides the fixed period.
+    // After this change the user's input decides the fixed period.
     if (handled && id != IDC_SCAN_PERIOD_ALLOW_USER)
         Values().HoldBack(ov::kScanPeriodVariable, false);
     return handled;

@@ -2,7 +2,7 @@
 
 #include "pages/settings_page.h"
 
-/// The period whose elements are scanned: who decides on it, and a fixed one.
+/// The Scan Period page: who chooses the period, and a fixed period.
 class CPageScanPeriod : public CSettingsPage
 {
     DECLARE_DYNAMIC(CPageScanPeriod)
@@ -12,11 +12,11 @@ class CPageScanPeriod : public CSettingsPage
 
     BOOL OnInitDialog() override;
 
-    /// Shows a message about a date that does not exist, and loads the rest.
+    /// Shows a message about an impossible date, and loads the rest.
     bool LoadSettings(int selector) override;
 
     /// Shows, hides, enables and disables the controls of the fixed period from
-    /// the members; without a fixed period there is no second date.
+    /// the members. Without a fixed period there is no second date.
     void UpdateScanPeriodControls();
 
   protected:

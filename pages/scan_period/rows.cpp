@@ -13,7 +13,7 @@ namespace
 {
 constexpr char16_t kOlderVariable[] = u"_ORTHOVAL_SCANPERIOD_VALUE";
 
-// The replacement for an impossible date.
+// Replaces an impossible date.
 constexpr ScanDate kFirstDate = {1, 8, 2007};
 constexpr ScanDate kSecondDate = {6, 5, 2016};
 
@@ -71,8 +71,8 @@ constexpr unsigned modes[] = {
     IDS_SCAN_PERIOD_LAST_SIGNATURE_INVALIDATED,
 };
 
-// The positions are what is stored, so And stays before Until, whatever the
-// help says: the files are older than the help.
+// The variable stores these positions, so And precedes Until although the help text
+// lists them the other way round: the files are older than the help text.
 constexpr unsigned operators[] = {IDS_SCAN_PERIOD_OR, IDS_SCAN_PERIOD_AND, IDS_SCAN_PERIOD_UNTIL};
 
 constexpr unsigned orSelectors[] = {IDS_SCAN_PERIOD_FIRST, IDS_SCAN_PERIOD_LAST};
@@ -145,8 +145,8 @@ ScanDate Today(const PageValues& values)
             static_cast<int>(static_cast<unsigned>(today->month())), static_cast<int>(today->year())};
 }
 
-// Before anything was loaded, the beginning of time: the first day of 1970, or
-// the day before where clocks are behind Greenwich.
+// Before anything was loaded, the start of the clock: the first day of 1970, or
+// the day before in time zones west of Greenwich.
 ScanDate ShownDate(PageValues& values, int picker)
 {
     const Text& day = values.CompanionTextOf(picker);
@@ -183,7 +183,7 @@ void Show(PageValues& values, const ScanPeriod& period)
     values.CompanionNumberOf(IDC_SCAN_PERIOD_OR_SELECTOR) = period.orSelector;
 }
 
-// Lists that neither text reaches keep what they show.
+// Lists for which neither text has a value do not change.
 void TakePeriod(PageValues& values, const SettingStore& store, int table)
 {
     const Text& stored = values.TextOf(kScanPeriodVariable);
@@ -197,7 +197,7 @@ void TakePeriod(PageValues& values, const SettingStore& store, int table)
         values.HoldBack(kScanPeriodVariable, false);
         return;
     }
-    // The rest is kept for a user who defines a new period.
+    // The other values are kept for a user who defines a new period.
     period.dateOneActive = false;
     if (!CanShow(period.dateOne))
         period.dateOne = kFirstDate;
@@ -213,8 +213,8 @@ void TakePeriod(PageValues& values, const SettingStore& store, int table)
     throw ImpossibleDate(kScanPeriodVariable, stored);
 }
 
-// The box keeps its mark while it is out of sight, so that the second date
-// comes back with the first.
+// Only the value changes: the hidden check box keeps its mark, so that the second
+// date returns together with the first.
 bool ForgetSecondDate(PageValues& values)
 {
     if (values.CompanionNumberOf(IDC_SCAN_PERIOD_FIXED) == 0)

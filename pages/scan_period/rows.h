@@ -11,9 +11,9 @@ namespace ov
 /// The Scan Period page. Loading throws ImpossibleDate.
 const PageRows& ScanPeriodRows();
 
-/// Told while loading: a variable names a date that the page cannot show. The
-/// values are then those of no fixed period, and the setting is held back, so
-/// that what it says is not lost.
+/// Thrown while loading if a variable contains a date that the page cannot show.
+/// The page then shows no fixed period, and the setting is held back so that its
+/// value is not lost.
 class ImpossibleDate : public std::runtime_error
 {
   public:
@@ -29,11 +29,11 @@ class ImpossibleDate : public std::runtime_error
 
 inline constexpr char16_t kScanPeriodVariable[] = u"_ORTHOVAL_SCANPERIOD_SETTINGS";
 
-/// A day as a date picker's value, "2016-05-06". A day that its month does not
-/// have counts on into the next.
+/// A day in the format of a date picker's value, "2016-05-06". A day that does not
+/// exist in its month continues into the next month.
 Text PickerText(const ScanDate& date);
 
-/// The day of a date picker's value.
+/// The day in a date picker's value.
 ScanDate DateOfPicker(TextView day);
 
 } // namespace ov

@@ -8,8 +8,8 @@ namespace ov
 namespace
 {
 
-// The positions of the lists: before and after, the date and ten events, three operators, first
-// and last.
+// The number of entries of each list: before and after, the date and ten events, three operators,
+// first and last.
 constexpr int kSegments = 2;
 constexpr int kModes = 11;
 constexpr int kOperators = 3;
@@ -20,13 +20,13 @@ constexpr int kAfter = 1;
 constexpr int kThisDate = 0;
 constexpr int kConversion = 1;
 
-// The numbers between the commas; several commas in a row count as one.
+// The numbers between the commas. Consecutive commas count as one.
 class NumberTokens
 {
   public:
     explicit NumberTokens(TextView text) : m_rest(text) {}
 
-    // The next number, none at the end of the text.
+    // The next number; nothing at the end of the text.
     std::optional<int> Next()
     {
         const std::size_t start = std::min(m_rest.find_first_not_of(u','), m_rest.size());
@@ -38,7 +38,7 @@ class NumberTokens
         return ToInteger(token);
     }
 
-    // Each sets its target to the next number and says whether there was one.
+    // Each overload sets its target to the next number and returns false if there is none.
     bool Into(int& number)
     {
         const auto next = Next();
@@ -64,14 +64,14 @@ class NumberTokens
     TextView m_rest;
 };
 
-// The older form distinguished the day from the time before and after it; this form does not.
+// The older variable distinguished a day from the time before and after it; the newer one does not.
 void SelectByCode(int code, ScanPeriod& period)
 {
     switch (code) {
-    case 0: // Before this date; whether it is a date stays as it is.
+    case 0: // Before this date; the choice between date and event does not change.
         period.segmentOne = kBefore;
         break;
-    case 1: // On this date: from it on, with the second row prepared but not switched on.
+    case 1: // On this date: from it on. The second row is prepared but not active.
         period.segmentOne = kAfter;
         period.modeOne = kThisDate;
         period.segmentTwo = kBefore;
@@ -131,7 +131,7 @@ void ParseScanPeriod(TextView settings, const ScanDate& today, ScanPeriod& perio
     }
     period.dateTwo = {6, 5, 2016};
     NumberTokens tokens(settings);
-    // Ends at the first number that is missing.
+    // Stops at the first missing number.
     static_cast<void>(tokens.Into(period.dateOneActive) && tokens.Into(period.segmentOne, kSegments) &&
                       tokens.Into(period.modeOne, kModes) && tokens.Into(period.dateOne) &&
                       tokens.Into(period.dateTwoActive) && tokens.Into(period.operation, kOperators) &&

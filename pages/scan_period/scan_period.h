@@ -5,8 +5,8 @@
 namespace ov
 {
 
-/// A day of the calendar as a scan period names it: the numbers as they were read, which need not
-/// be a day that exists. See IsScanDate.
+/// A day of the calendar as written in a scan period: the numbers that were read, which need not
+/// be an existing day. See IsScanDate.
 struct ScanDate {
     int day = 0;   ///< 1 to 31
     int month = 0; ///< 1 to 12
@@ -15,11 +15,11 @@ struct ScanDate {
     bool operator==(const ScanDate&) const = default;
 };
 
-/// What a list without a selection holds; written as 4294967295.
+/// The value of a list without a selection; written as 4294967295.
 inline constexpr int kNoSelection = -1;
 
-/// A fixed scan period: a date or an event, and perhaps a second one, joined by an operator. The
-/// selections are positions in the page's lists, kNoSelection for none. Starts as the page does.
+/// A fixed scan period: a date or an event, and optionally a second one, joined by an operator. The
+/// selections are positions in the page's lists, kNoSelection for none. The defaults are the page's.
 struct ScanPeriod {
     bool dateOneActive = true;
     int segmentOne = 1; ///< 0 before, 1 after
@@ -30,30 +30,30 @@ struct ScanPeriod {
     int segmentTwo = 0; ///< as segmentOne
     int modeTwo = 0;    ///< as modeOne
     ScanDate dateTwo;
-    int orSelector = 0; ///< 0 whichever is first, 1 whichever is last
+    int orSelector = 0; ///< 0 for the earlier one, 1 for the later one
 
     bool operator==(const ScanPeriod&) const = default;
 };
 
-/// Takes over the older form of the setting: a code, and then the day, month and year of the first
-/// date, separated by commas. Sets the first date, to 1 August 2007 as far as the text does not
-/// name it, and makes it active exactly when the text is not empty. A code of 0 to 8 makes
-/// selections; all others stay as they are.
+/// Reads the older variable: a code, then the day, month and year of the first date, separated
+/// by commas. Sets the first date, with the parts of 1 August 2007 for those that are missing, and
+/// makes it active if and only if the text is not empty. The codes 0 to 8 change
+/// selections; any other code leaves them unchanged.
 void ParseLegacyScanPeriod(TextView value, ScanPeriod& period);
 
-/// Takes over the setting: up to 14 numbers separated by commas, in the order of ScanPeriod's
-/// members. Empty fields do not count: the numbers behind them move up. What the text does not
-/// reach stays as it is, but for the second date, which is `today` for an empty text and else 6 May
-/// 2016. A number that is no position of its list is no selection; an active mark is on for any
-/// number but 0.
+/// Reads the setting: up to 14 numbers separated by commas, in the order of ScanPeriod's
+/// members. Empty fields do not count: the numbers after them move up. Members that the text does not
+/// reach are unchanged, except for the second date: it becomes `today` for an empty text, otherwise
+/// 6 May 2016. A number that is not a position of its list selects nothing. An active mark is on for
+/// any number but 0.
 void ParseScanPeriod(TextView settings, const ScanDate& today, ScanPeriod& period);
 
-/// The text of the setting: all 14 numbers, also those of a date that is not active. Empty when
+/// The text of the setting: all 14 numbers, including those of inactive dates. Empty if
 /// there is no fixed period.
 Text FormatScanPeriod(const ScanPeriod& period);
 
-/// Whether the page takes the date: a day of 1 to 31 and a month of 1 to 12 from 1970 on, or 31
-/// December 1969, which is the clock's start in western time zones. Days that a month
+/// True if the page accepts the date: a day of 1 to 31 and a month of 1 to 12 from 1970 on, or 31
+/// December 1969, which is the start of the clock in western time zones. Days that a month
 /// does not have are left to the calendar.
 bool IsScanDate(const ScanDate& date);
 

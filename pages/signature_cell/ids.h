@@ -1,4 +1,4 @@
-/// Numbers of the Signature Cells page.
+/// Resource ids of the Signature Cells page.
 #ifndef OV_PAGES_SIGNATURE_CELL_IDS_H
 #define OV_PAGES_SIGNATURE_CELL_IDS_H
 

@@ -1,4 +1,4 @@
-/// Numbers of the Third Party Apps page.
+/// Resource ids of the Third Party Apps page.
 #ifndef OV_PAGES_THIRD_PARTY_IDS_H
 #define OV_PAGES_THIRD_PARTY_IDS_H
 

@@ -1,4 +1,4 @@
-/// Numbers of the Title Blocks page.
+/// Resource ids of the Title Blocks page.
 #ifndef OV_PAGES_TITLE_BLOCK_IDS_H
 #define OV_PAGES_TITLE_BLOCK_IDS_H
 

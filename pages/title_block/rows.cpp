@@ -53,7 +53,7 @@ constexpr LayoutRow layout[] = {
     {IDC_TITLE_BLOCK_TAGS_GROUP, kStretched},
 };
 
-// The boxes of the tags, each with the text that it opens for editing.
+// The check boxes of the tags; each enables the edit of its tag.
 constexpr CompanionRow companions[] = {
     {ControlKind::CheckBox, IDC_TITLE_BLOCK_USE_TAG_SETS, u"_ORTHOVAL_TITLEBLOCK_TAGSETS"},
     {ControlKind::CheckBox, IDC_TITLE_BLOCK_USE_TAGS, u"_ORTHOVAL_TITLEBLOCK_TAGDEFS"},
@@ -61,7 +61,7 @@ constexpr CompanionRow companions[] = {
     {ControlKind::CheckBox, IDC_TITLE_BLOCK_USE_SPELL_CHECK, u"_ORTHOVAL_TITLEBLOCK_TAGSPELLCHECK"},
 };
 
-// The tags can be set up while title blocks are not checked at all.
+// The tags can be edited even if title blocks are not checked.
 constexpr DependencyRow dependencies[] = {
     EnabledWhen(IDC_TITLE_BLOCK_ALLOW_ONE, IsOn(IDC_TITLE_BLOCK_CHECK)),
     EnabledWhen(IDC_TITLE_BLOCK_DEFAULT_MODEL, IsOn(IDC_TITLE_BLOCK_CHECK)),
@@ -98,9 +98,9 @@ constexpr BrowseRow browses[] = {
                IDC_TITLE_BLOCK_SPELL_CHECK),
 };
 
-// The boxes are stored nowhere: a text that is there asks for its box. The
-// texts are saved whatever the boxes say, so one that was switched off without
-// being emptied is back the next time.
+// The check boxes are not stored: a non-empty text checks its box. The texts are
+// saved whether their box is checked or not, so a text that was switched off but
+// not emptied is back the next time.
 void CheckBoxesOfTexts(PageValues& values, const SettingStore&, int)
 {
     for (const CompanionRow& box : companions)

@@ -1,4 +1,4 @@
-/// Numbers of the URLs page.
+/// Resource ids of the URLs page.
 #ifndef OV_PAGES_URLS_IDS_H
 #define OV_PAGES_URLS_IDS_H
 

@@ -1,4 +1,4 @@
-/// Numbers of the Users page.
+/// Resource ids of the Users page.
 #ifndef OV_PAGES_USERS_IDS_H
 #define OV_PAGES_USERS_IDS_H
 

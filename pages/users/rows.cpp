@@ -22,8 +22,8 @@ constexpr LayoutRow layout[] = {
     {IDC_USERS_WINDOWS_AUTHENTICATION, kStretched},
 };
 
-// Windows authentication goes with the groups, although the checker knows it
-// on its own account too.
+// Windows authentication is enabled only with the groups, although the checker
+// also supports it alone.
 constexpr DependencyRow dependencies[] = {
     EnabledWhen(IDC_USERS_WINDOWS_AUTHENTICATION, IsOn(IDC_USERS_ALLOW_GROUPS)),
     EnabledWhen(IDC_USERS_CURRENT_GROUP_LABEL, IsOn(IDC_USERS_ALLOW_GROUPS)),

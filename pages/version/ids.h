@@ -1,4 +1,4 @@
-/// Numbers of the Version page.
+/// Resource ids of the Version page.
 #ifndef OV_PAGES_VERSION_IDS_H
 #define OV_PAGES_VERSION_IDS_H
 

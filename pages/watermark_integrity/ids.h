@@ -1,4 +1,4 @@
-/// Numbers of the Watermark Integrity page.
+/// Resource ids of the Watermark Integrity page.
 #ifndef OV_PAGES_WATERMARK_INTEGRITY_IDS_H
 #define OV_PAGES_WATERMARK_INTEGRITY_IDS_H
 

@@ -24,7 +24,7 @@ constexpr SettingRow settings[] = {
             IDS_HELP_WATERMARK_INTEGRITY_FONT_NUMBERS),
     FlagRow(u"_ORTHOVAL_WATERMARKS_CHECK_FONTNAMES", IDC_WATERMARK_INTEGRITY_FONT_NAMES,
             IDS_HELP_WATERMARK_INTEGRITY_FONT_NAMES),
-    // On or off only: what other programs write as the user's decision is off.
+    // On or off only: the value that other programs write for "user decides" reads as off.
     FlagRow(u"_ORTHOVAL_WATERMARKS_CHECK_CLIPPEDREFELMS", IDC_WATERMARK_INTEGRITY_CLIPPED_REFERENCES,
             IDS_HELP_WATERMARK_INTEGRITY_CLIPPED_REFERENCES),
     TextRow(u"_ORTHOVAL_WATERMARK_CELL_EXCLUSIONS", SettingKindText, IDC_WATERMARK_INTEGRITY_CELLS,
@@ -44,7 +44,7 @@ constexpr HelpRow extraHelp[] = {
     {IDC_WATERMARK_INTEGRITY_LEVELS_BROWSE, IDS_HELP_WATERMARK_INTEGRITY_LEVELS_BROWSE},
 };
 
-// The captions that are stretched wrap where the page is narrow.
+// Captions that stretch wrap on a narrow page.
 constexpr LayoutRow layout[] = {
     {IDC_WATERMARK_INTEGRITY_INSTANT_INVALIDATE, kStretched},
     {IDC_WATERMARK_INTEGRITY_CLIPPED_REFERENCES, kStretched},
@@ -58,8 +58,8 @@ constexpr EntriesRow entries[] = {
     {IDC_WATERMARK_INTEGRITY_OVERWRITE, whoDecides},
 };
 
-// A refusal of the levels takes the keyboard focus away altogether: this page
-// has always handed it to an edit without a control.
+// If the list editor refuses the levels, no control keeps the keyboard focus: this
+// page has always moved the focus to an edit without a window.
 constexpr BrowseRow browses[] = {
     BrowseList(IDC_WATERMARK_INTEGRITY_CELLS_BROWSE, u"_ORTHOVAL_WATERMARK_CELL_EXCLUSIONS", u',',
                IDC_WATERMARK_INTEGRITY_CELLS),

@@ -1,4 +1,4 @@
-/// Numbers of the Watermark Placement page.
+/// Resource ids of the Watermark Placement page.
 #ifndef OV_PAGES_WATERMARK_PLACEMENT_IDS_H
 #define OV_PAGES_WATERMARK_PLACEMENT_IDS_H
 

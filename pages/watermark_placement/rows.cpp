@@ -6,7 +6,7 @@ namespace ov
 {
 namespace
 {
-// Four of the texts have always gone into the file as paths do.
+// Four of the texts have always been written as paths, without quotes.
 constexpr SettingRow settings[] = {
     FlagRow(u"_ORTHOVAL_REPLACETEXT_LINESPACING_SCALED", IDC_WATERMARK_PLACEMENT_LINE_SPACING_SCALED,
             IDS_HELP_WATERMARK_PLACEMENT_LINE_SPACING_SCALED),
@@ -30,7 +30,7 @@ constexpr HelpRow extraHelp[] = {
     {IDC_WATERMARK_PLACEMENT_CROSS_BROWSE, IDS_HELP_WATERMARK_PLACEMENT_CROSS_BROWSE},
 };
 
-// The caption of the box wraps where the page is narrow.
+// The caption of the check box wraps on a narrow page.
 constexpr LayoutRow layout[] = {
     {IDC_WATERMARK_PLACEMENT_TEXT_FRAME, kStretched},
     {IDC_WATERMARK_PLACEMENT_LINE_SPACING, kFixed},

@@ -1,4 +1,4 @@
-/// Numbers of the Score Weighting page.
+/// Resource ids of the Score Weighting page.
 #ifndef OV_PAGES_WEIGHTING_IDS_H
 #define OV_PAGES_WEIGHTING_IDS_H
 

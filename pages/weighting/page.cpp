@@ -24,7 +24,7 @@ bool CPageWeighting::LoadSettings(int selector)
     const bool loaded = CSettingsPage::LoadSettings(selector);
     if (GetParentWizard() == nullptr)
         return loaded;
-    // A bar stops at its ends; the edit shows the text whatever it says.
+    // A track bar is limited to its range; the edit shows the text even if it is outside.
     for (const ov::BarRow& bar : Rows().bars) {
         GetDlgItem(bar.controlId)
             ->SendMessage(TBM_SETPOS, TRUE, ov::ToInteger(Values().TextOf(bar.variable)));
@@ -35,7 +35,7 @@ bool CPageWeighting::LoadSettings(int selector)
 void CPageWeighting::OnHScroll(UINT code, UINT position, CWnd* sender)
 {
     if (sender == nullptr) {
-        // The page's own scroll bar.
+        // Requests from the page's own scroll bar.
         CSettingsPage::OnHScroll(code, position, sender);
         return;
     }

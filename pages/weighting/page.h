@@ -2,8 +2,8 @@
 
 #include "pages/settings_page.h"
 
-/// How much each attribute of an element counts in the match score: a bar for
-/// each, whose value is the setting.
+/// The Score Weighting page: how much each attribute of an element counts in the
+/// match score. Each has a track bar, whose value is the setting.
 class CPageWeighting : public CSettingsPage
 {
     DECLARE_DYNAMIC(CPageWeighting)

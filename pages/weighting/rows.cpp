@@ -6,7 +6,7 @@ namespace ov
 {
 namespace
 {
-/// A bar's value, as the read-only edit beside it shows it.
+/// A track bar's value, shown by the read-only edit beside it.
 constexpr SettingRow WeightRow(const char16_t* variable, int editId, unsigned barHelpId)
 {
     return SettingRow{
@@ -17,7 +17,7 @@ constexpr SettingRow WeightRow(const char16_t* variable, int editId, unsigned ba
 
 constexpr char kOlderName[] = "the edit only shows what the bar has reported; the help says the name of old";
 
-// Written in this order, which is not quite that of the page.
+// In the order of writing, which differs slightly from that of the page.
 constexpr SettingRow settings[] = {
     WeightRow(u"_ORTHOVAL_WEIGHTING_COLOUR", IDC_WEIGHTING_COLOUR_VALUE, IDS_HELP_WEIGHTING_COLOUR),
     WeightRow(u"_ORTHOVAL_WEIGHTING_WEIGHT", IDC_WEIGHTING_WEIGHT_VALUE, IDS_HELP_WEIGHTING_WEIGHT),

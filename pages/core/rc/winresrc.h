@@ -1,10 +1,10 @@
 #pragma once
 
-// Stands in for the system's header of this name, so that the C++ compiler reads
-// the same dialog templates as the resource compiler. Each word of a template
-// becomes a part of one expression: the arguments of ov::ReadTemplate, of which
-// the last is a list with an element for each control. page_template.cpp is the
-// only source that sees it.
+// Replaces the system header of this name, so that the C++ compiler can read the
+// same dialog templates as the resource compiler. The macros turn the words of a
+// template into one expression: the arguments of ov::ReadTemplate, the last of
+// which is a list with one element per control. Only page_template.cpp includes
+// this file.
 
 // NOLINTBEGIN(cppcoreguidelines-macro-usage, bugprone-macro-parentheses)
 
@@ -19,7 +19,7 @@
 #define BEGIN , { {
 #define END } }
 
-// Each control ends the one before it.
+// Each control keyword closes the element of the previous control.
 #define LTEXT }, {ov::TemplateKind::Label,
 #define GROUPBOX }, {ov::TemplateKind::Frame,
 #define AUTOCHECKBOX }, {ov::TemplateKind::CheckBox,
@@ -29,8 +29,8 @@
 #define COMBOBOX }, {ov::TemplateKind::List, "",
 #define CONTROL }, {
 
-// Styles: only that a group begins, and that an edit is read-only, is looked at.
-// "NOT" takes a style away.
+// Styles: only the beginning of a group and a read-only edit are evaluated. "NOT"
+// removes a style.
 #define NOT 0 *
 #define WS_GROUP 0x1
 #define ES_READONLY 0x2
