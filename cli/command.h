@@ -21,20 +21,20 @@ constexpr ExitCode Worse(ExitCode first, ExitCode second)
     return first < second ? second : first;
 }
 
-/// One command of the program. An object serves one call: its members hold the options.
+/// A command of the program. An object is used for one call; its members hold the options.
 class Command
 {
   public:
     virtual ~Command() = default;
 
-    /// Declares the options and operands, which are stored into the object's members.
+    /// Declares the options and operands; parsing stores them in the object's members.
     virtual void Declare(Options& options) = 0;
 
-    /// Does the work with the options that were given. Throws Usage for arguments that contradict each other.
+    /// Runs the command with the given options. Throws Usage for arguments that contradict each other.
     virtual ExitCode Run(Output& output) = 0;
 };
 
-/// A command as the table of commands has it.
+/// An entry of the table of commands.
 struct CommandRow {
     const char* name;
     const char* summary; ///< One sentence without a full stop.

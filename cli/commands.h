@@ -10,7 +10,7 @@ namespace ov::cli
 /// All commands in the order in which the help lists them.
 std::span<const CommandRow> AllCommands();
 
-// Each is defined in the source that has the command's name.
+// Each function is defined in the source file named after its command.
 std::unique_ptr<Command> MakeCheckCommand();
 std::unique_ptr<Command> MakeGetCommand();
 std::unique_ptr<Command> MakePreviewCommand();

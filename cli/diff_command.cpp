@@ -24,7 +24,7 @@ SettingStore StoreOf(const InputFile& file)
     return store;
 }
 
-// A line of the answer with the mark of what it says in front.
+// A line of the answer, preceded by a mark for its kind.
 void PrintLine(Output& output, std::string_view mark, TextView text, Colour colour)
 {
     output.Print(std::string(mark) + Utf8FromText(text), colour);
@@ -72,7 +72,7 @@ class DiffCommand final : public Command
   private:
     enum class Format { AsText, AsJson };
 
-    // In name order, whatever differs.
+    // In name order, across all kinds of differences.
     static void PrintText(const VariableDifference& difference, Output& output)
     {
         std::multimap<Text, std::function<void()>> lines;

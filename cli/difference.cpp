@@ -30,7 +30,7 @@ void PrintUnifiedDiff(Output& output, std::string_view before, std::string_view 
     bool inPiece = false;
     for (std::string_view line : LinesWithEnds(diff)) {
         inPiece |= line.starts_with("@@");
-        // The line end stays outside: a colour must not reach into the next line.
+        // Excludes the line end: a colour must not extend into the next line.
         line.remove_suffix(1);
         output.Print(line, ColourOf(line, inPiece));
         output.Print("\n");

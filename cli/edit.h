@@ -10,15 +10,15 @@
 namespace ov::cli
 {
 
-/// What the commands have in common that edit a file: its operand, their options, and the way from the
-/// file to the edited one.
+/// The common part of the commands that edit a file: its operand, their options, and reading, editing and
+/// writing the file.
 class FileEdit
 {
   public:
     void Declare(Options& options);
 
-    /// Reads the file, edits it and writes it, or shows the difference with --dry-run. Reports what is
-    /// wrong with the path, the edit or the writing.
+    /// Reads the file, edits it and writes it, or shows the difference for --dry-run. Reports problems
+    /// with the path, the edit and writing.
     ExitCode Run(Output& output, const std::function<EditResult(const EditedFile&)>& edit) const;
 
   private:

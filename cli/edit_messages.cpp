@@ -5,7 +5,7 @@ namespace ov::cli
 namespace
 {
 
-// What in a value, that is not read back as it is, the syntax of the file cannot keep.
+// The part of a value that the file's syntax cannot represent, for a value that does not read back.
 std::string ValueProblem(const Text& value)
 {
     const bool list = value.find(u';') != Text::npos;

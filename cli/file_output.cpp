@@ -11,7 +11,7 @@ namespace ov::cli
 namespace
 {
 
-// Thrown out of a save that could not make a backup, before anything was touched.
+// Thrown from a save that could not make a backup, before any file is changed.
 class NoBackup : public std::exception
 {
   public:
@@ -22,7 +22,7 @@ class NoBackup : public std::exception
     Text m_systemText;
 };
 
-// Nobody is asked: what would need a question is refused.
+// There is no user to ask, so every save that needs an answer is refused.
 class Refusals final : public SavePrompts
 {
   public:
@@ -30,7 +30,7 @@ class Refusals final : public SavePrompts
     void TellNoBackup(const Text& systemText) override { throw NoBackup(systemText); }
 };
 
-// The system's words behind a colon, if there are any.
+// The system's message after a colon, or nothing if it is empty.
 std::string Because(const Text& systemText)
 {
     return systemText.empty() ? std::string() : ": " + Utf8FromText(systemText);
@@ -68,8 +68,8 @@ std::string OldContentText(const SaveResult& result)
     }
 }
 
-// A file under the backup's name is never deleted, and a file that has the name of its own backup
-// would have none.
+// An existing file with the backup's name is never deleted, and a file that is its own backup by
+// name would have no backup.
 bool HasFreeBackupName(const Text& path, FilePort& files, std::string& backup)
 {
     const Text target = files.LinkTarget(path);

@@ -64,7 +64,7 @@ Json SarifRule(const Rule& rule)
             {"defaultConfiguration", {{"enabled", rule.byDefault}, {"level", SeverityName(rule.severity)}}}};
 }
 
-/// A path as a relative or file URI.
+/// A path as a relative reference or a file URI.
 std::string UriOf(std::string_view path)
 {
     constexpr std::string_view kPlain = "-._~/";

@@ -18,7 +18,7 @@ struct FileFindings {
     std::vector<Finding> findings;
 };
 
-/// Prints a line for each finding: "FILE:LINE:COLUMN: SEVERITY: MESSAGE [RULE]".
+/// Prints one line for each finding: "FILE:LINE:COLUMN: SEVERITY: MESSAGE [RULE]".
 void PrintFindings(Output& output, const FileFindings& file);
 
 /// The findings as an array of objects.
@@ -27,7 +27,7 @@ nlohmann::ordered_json FindingsAsJson(const std::vector<Finding>& findings);
 /// All findings as a SARIF 2.1.0 log.
 nlohmann::ordered_json FindingsAsSarif(const std::vector<FileFindings>& files);
 
-/// JSON as it is printed. Texts that are no valid UTF-8 get replacement characters.
+/// JSON as printed. Invalid UTF-8 becomes replacement characters.
 std::string PrintedJson(const nlohmann::ordered_json& json);
 
 } // namespace ov::cli

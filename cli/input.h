@@ -13,21 +13,21 @@ class Output;
 
 /// A file that a command reads.
 struct InputFile {
-    std::string path;  ///< As it was given; "-" for the standard input.
+    std::string path;  ///< As given; "-" for the standard input.
     std::string bytes; ///< The whole content.
     Charset charset = Charset::Windows1252;
 };
 
-/// The option "--encoding", which all commands that read files have.
+/// The option "--encoding" of all commands that read files.
 class EncodingOption
 {
   public:
     void Declare(Options& options);
 
-    /// The encoding that was asked for.
+    /// The encoding that the user requested.
     std::optional<Charset> Given() const;
 
-    /// The encoding that was asked for, else the one that the bytes appear to be in.
+    /// The requested encoding, or else the one that the bytes appear to use.
     Charset Of(std::string_view bytes) const;
 
   private:
@@ -41,8 +41,8 @@ class InputReader
   public:
     InputReader(const EncodingOption& encoding, Output& output) : m_encoding(encoding), m_output(output) {}
 
-    /// The file or pipe under the path, or the standard input for "-". Nothing when it cannot be read,
-    /// which has been reported then; the exit code is Failed.
+    /// Reads the file or pipe under the path, or the standard input for "-". If it cannot be read,
+    /// reports that and returns nothing; the exit code is then Failed.
     std::optional<InputFile> Read(const std::string& path);
 
   private:

@@ -11,7 +11,7 @@ namespace ov::cli
 namespace
 {
 
-/// The number that the digits are; -1 when there is anything else.
+/// The number that the digits represent; -1 if there is any other character.
 int NumberOf(std::string_view digits)
 {
     int number = -1;

@@ -9,7 +9,7 @@
 namespace ov::cli
 {
 
-/// The options of the commands that look at files as the dialog would open them.
+/// The options of the commands that treat files as the dialog would.
 class InspectionOptions
 {
   public:
@@ -17,9 +17,9 @@ class InspectionOptions
 
     const EncodingOption& Encoding() const { return m_encoding; }
 
-    /// Settings with the defaults file and the day that were asked for, and without rules. Nothing
-    /// when the defaults file cannot be read, which has been reported then. What the settings refer
-    /// to lives as long as this object. Throws Usage.
+    /// The settings for the requested defaults file and day, without rules. Nothing if the defaults
+    /// file cannot be read, which is then reported. The settings refer to data in this object
+    /// and are valid while it exists. Throws Usage.
     std::optional<InspectionSettings> Settings(InputReader& reader);
 
   private:

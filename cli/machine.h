@@ -8,13 +8,13 @@
 namespace ov::cli
 {
 
-/// Today's day where the machine is.
+/// The current local day.
 std::chrono::year_month_day Today();
 
-/// The texts of a header that is written now, on this machine, by this user.
+/// The texts of a header written now, on this machine, by this user.
 HeaderInfo HeaderOfMachine();
 
-/// Whether there is a file or folder under the path. Both kinds of slashes separate folders.
+/// True if a file or folder exists under the path. Both kinds of slashes separate folders.
 bool PathExists(const Text& path);
 
 } // namespace ov::cli

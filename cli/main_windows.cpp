@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-// Templates such as "*.dgn" are arguments of commands: the C runtime must not replace them by the
-// names of files.
+// Arguments may be patterns such as "*.dgn"; the C runtime must not expand them to the names of
+// files.
 extern "C" {
 extern int _dowildcard;
 int _dowildcard = 0;

@@ -10,8 +10,8 @@ namespace ov::cli
 namespace
 {
 
-// CLI11 takes an argument such as "[a,b]" for several arguments. Behind this character, which is
-// taken away again, it leaves them alone.
+// CLI11 splits an argument such as "[a,b]" into several arguments. It does not if this character
+// comes first; Unguarded removes it again.
 constexpr char kGuard = '\x01';
 
 bool NeedsGuard(const std::string& argument)
@@ -30,7 +30,7 @@ std::string Unguarded(const std::string& argument)
     return !argument.empty() && argument.front() == kGuard ? argument.substr(1) : argument;
 }
 
-// Every value goes through here, so that the guards are gone.
+// All values pass through this function, which removes the guards.
 CLI::Option* Add(CLI::App& app, const std::string& name, const char* help,
                  std::function<void(std::string)> set)
 {
@@ -138,7 +138,7 @@ void Options::AddChoice(const char* name, const std::vector<std::string>& words,
 
 Options::Outcome Options::Parse(const std::vector<std::string>& arguments, std::string& message)
 {
-    // The parser takes them from the back.
+    // The parser reads the arguments from the back.
     std::vector<std::string> reversed(arguments.size());
     std::transform(arguments.rbegin(), arguments.rend(), reversed.begin(), Guarded);
     try {

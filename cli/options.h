@@ -17,16 +17,16 @@ class App;
 namespace ov::cli
 {
 
-/// Thrown for arguments that are wrong in a way that only the command knows. The message is a clause
-/// without a full stop.
+/// Thrown for arguments that are wrong in a way that only the command can detect. The message is a
+/// clause without a full stop.
 class Usage : public std::runtime_error
 {
   public:
     using std::runtime_error::runtime_error;
 };
 
-/// The options and operands of one command. Whatever an argument looks like, it arrives unchanged in
-/// the variable that is declared for it. The variables must outlive Parse.
+/// The options and operands of a command. Every argument is stored unchanged in the variable that is
+/// declared for it. The variables must outlive Parse.
 class Options
 {
   public:
@@ -35,26 +35,26 @@ class Options
     Options& operator=(const Options&) = delete;
     ~Options();
 
-    /// An argument without a name that must be there.
+    /// A required argument without a name.
     void Operand(const char* name, std::string& value, const char* help);
 
-    /// The arguments after those of the other operands, at least `least` of them.
+    /// The arguments after the other operands, at least `least` of them.
     void Operands(const char* name, std::vector<std::string>& values, std::size_t least, const char* help);
 
     /// An option without a value, such as "--dry-run".
     void Flag(const char* name, bool& value, const char* help);
 
-    /// An option with a value, such as "--user NAME"; absent when it is not given.
+    /// An option with a value, such as "--user NAME"; nothing if it is not given.
     void Text(const char* name, const char* placeholder, std::optional<std::string>& value, const char* help);
 
     /// An option with a value that may be given several times.
     void Texts(const char* name, const char* placeholder, std::vector<std::string>& values, const char* help);
 
-    /// An option with several values between commas, which may be given several times.
+    /// An option with several values separated by commas, which may be given several times.
     void List(const char* name, const char* placeholder, std::vector<std::string>& values, const char* help);
 
     /// An option with one of several words. The words are in the order of the enumeration's values,
-    /// of which the first is 0; the value before is the default.
+    /// the first of which is 0. The variable's value before parsing is the default.
     template <typename Enum>
     void Choice(const char* name, Enum& value, std::initializer_list<const char*> words, const char* help)
     {
@@ -62,7 +62,7 @@ class Options
         AddChoice(name, all, all[static_cast<std::size_t>(value)], IntoEnum(value), help);
     }
 
-    /// The same, absent when the option is not given.
+    /// The same; nothing if the option is not given.
     template <typename Enum>
     void Choice(const char* name, std::optional<Enum>& value, std::initializer_list<const char*> words,
                 const char* help)
@@ -70,13 +70,13 @@ class Options
         AddChoice(name, {words.begin(), words.end()}, "", IntoEnum(value), help);
     }
 
-    /// What Parse found.
+    /// The result of Parse.
     enum class Outcome { Parsed, HelpAsked, Wrong };
 
-    /// Stores the arguments into the variables. For Wrong, `message` says what is wrong.
+    /// Parses the arguments into the variables. For Wrong, `message` contains the reason.
     Outcome Parse(const std::vector<std::string>& arguments, std::string& message);
 
-    /// The text that "--help" shows.
+    /// The text for "--help".
     std::string Help() const;
 
   private:

@@ -7,7 +7,7 @@ namespace ov::cli
 namespace
 {
 
-// The terminal's escape sequence that begins a colour.
+// The terminal's escape sequence for a colour.
 std::string_view SequenceOf(Colour colour)
 {
     switch (colour) {

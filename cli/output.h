@@ -8,17 +8,17 @@
 namespace ov::cli
 {
 
-/// Colours of the terminal, by what they mean.
+/// Terminal colours by their meaning.
 enum class Colour { None, Removed, Added, Heading, Error, Warning, Note };
 
-/// What a command says: the answer on the standard output, problems on the standard error.
+/// The output of a command: the answer on the standard output, problems on the standard error.
 ///
-/// The answer is collected and written at the end by Finish, so that a command that fails half-way
-/// leaves no half answer.
+/// The answer is collected and written by Finish at the end, so that a command that fails midway
+/// leaves no partial answer.
 class Output
 {
   public:
-    /// Asks the streams and the environment variable NO_COLOR whether colours are to be used.
+    /// Checks the streams and the environment variable NO_COLOR to decide about colours.
     Output();
 
     /// Appends bytes to the answer.
@@ -27,17 +27,17 @@ class Output
     /// Appends bytes to the answer, in a colour on a terminal.
     void Print(std::string_view bytes, Colour colour);
 
-    /// True when the answer is shown in colours.
+    /// True if the answer is shown in colours.
     bool UsesColours() const { return m_colours; }
 
     /// Writes "ovprefs: MESSAGE" to the standard error at once.
     void Problem(std::string_view message);
 
-    /// Writes a line to the standard error at once: what is neither the answer nor a problem.
+    /// Writes a line to the standard error at once, for text that is neither the answer nor a problem.
     void Remark(std::string_view line);
 
-    /// Writes the answer. Gives the exit code: `code`, or Failed when the answer cannot be written.
-    /// A stream that nobody reads any more is no failure.
+    /// Writes the answer. Returns the exit code: `code`, or Failed if the answer cannot be written.
+    /// A stream whose reader is gone is not a failure.
     ExitCode Finish(ExitCode code);
 
   private:

@@ -16,37 +16,37 @@ enum class Stream { Output, Error };
 /// How a write to a stream ended.
 enum class WriteOutcome {
     Written,
-    Closed, ///< Nobody reads the stream any more.
+    Closed, ///< The reader of the stream is gone.
     Failed,
 };
 
-/// Writes all bytes to the stream: as they are into a file or a pipe, as UTF-8 text to a terminal.
-/// `problem` gets the system's words when the outcome is Failed.
+/// Writes all bytes to the stream: unchanged to a file or a pipe, as UTF-8 text to a terminal.
+/// If the outcome is Failed, `problem` receives the system's message.
 WriteOutcome WriteBytes(Stream stream, std::string_view bytes, std::string& problem);
 
-/// True when the stream is a terminal that understands the escape sequences of colours.
+/// True if the stream is a terminal that supports colour escape sequences.
 bool IsColourTerminal(Stream stream);
 
-/// The environment variable's value in UTF-8; empty when it is not set.
+/// The environment variable's value in UTF-8; empty if it is not set.
 std::string EnvironmentVariable(const char* name);
 
-/// The most bytes that are read of one input: a device may have no end.
+/// The most bytes that are read from one input, because a device may have no end.
 inline constexpr std::size_t kLargestInput = std::size_t{1} << 30;
 
-/// Sets `bytes` to all that can be read under the path: a file, a pipe, a device. The path "-" is the
-/// standard input. Returns false, with the system's words in `problem`, when reading fails.
+/// Sets `bytes` to everything that can be read from the path: a file, a pipe or a device. The path "-"
+/// is the standard input. On failure returns false, with the system's message in `problem`.
 bool ReadAll(const std::string& path, std::string& bytes, std::string& problem);
 
 /// The file port of this system, for writing.
 std::unique_ptr<FilePort> MakeFilePort();
 
-/// Gives a file that is replaced by another one its permissions and owner again, as far as the system
-/// allows. Without effect on Windows, where the folder decides. Meanwhile new files of the process are
+/// Restores the permissions and owner of a file after it was replaced, as far as the system allows. Has
+/// no effect on Windows, where the folder decides. While the object exists, new files of the process are
 /// not more accessible than the file.
 class AttributeKeeper
 {
   public:
-    /// Notes the attributes of the file, if there is one.
+    /// Records the attributes of the file, if it exists.
     explicit AttributeKeeper(const std::string& path);
     AttributeKeeper(const AttributeKeeper&) = delete;
     AttributeKeeper& operator=(const AttributeKeeper&) = delete;
@@ -55,7 +55,7 @@ class AttributeKeeper
   private:
     struct Attributes;
     std::string m_path;
-    std::unique_ptr<Attributes> m_attributes; ///< Null without a file, and on Windows.
+    std::unique_ptr<Attributes> m_attributes; ///< Null if there is no file, and on Windows.
 };
 
 } // namespace ov::cli

@@ -50,7 +50,7 @@ bool ReadFrom(int descriptor, std::string& bytes, std::string& problem)
 
 WriteOutcome WriteBytes(Stream stream, std::string_view bytes, std::string& problem)
 {
-    // A stream without a reader must end the program without a message, not by a signal.
+    // If the reader of a stream is gone, the program must end without a message, not by a signal.
     static const auto s_before = std::signal(SIGPIPE, SIG_IGN);
     static_cast<void>(s_before);
     while (!bytes.empty()) {
@@ -123,7 +123,7 @@ AttributeKeeper::~AttributeKeeper()
     const struct stat& before = m_attributes->status;
     if (stat(m_path.c_str(), &now) != 0)
         return;
-    // A new owner takes special bits away; the mode comes last.
+    // Changing the owner clears special bits, so the mode is set last.
     const bool sameOwner = now.st_uid == before.st_uid && now.st_gid == before.st_gid;
     if (sameOwner || chown(m_path.c_str(), before.st_uid, before.st_gid) == 0)
         chmod(m_path.c_str(), before.st_mode & 07777);

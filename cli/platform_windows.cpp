@@ -49,7 +49,7 @@ bool ReadFrom(HANDLE file, std::string& bytes, std::string& problem)
     }
 }
 
-// A console shows characters, whatever its code page is.
+// Writes UTF-16 characters, because a console shows them with any code page.
 bool WriteToConsole(HANDLE console, std::string_view bytes)
 {
     constexpr std::size_t kLongestPiece = 8192;
@@ -70,7 +70,7 @@ bool WriteToConsole(HANDLE console, std::string_view bytes)
 WriteOutcome WriteBytes(Stream stream, std::string_view bytes, std::string& problem)
 {
     HANDLE const file = HandleOf(stream);
-    // A program without the stream, such as one started from a desktop icon, has no reader either.
+    // A program without the stream, for example when started from a desktop icon, has no reader either.
     if (file == nullptr || file == INVALID_HANDLE_VALUE)
         return WriteOutcome::Closed;
     DWORD mode = 0;

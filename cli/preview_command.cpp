@@ -63,7 +63,7 @@ class PreviewCommand final : public Command
         return given ? std::optional(TextFromUtf8(*given)) : std::nullopt;
     }
 
-    /// What Save writes; nothing, after a report, when it refuses to.
+    /// What Save writes. If it would refuse, reports that and returns nothing.
     std::optional<SavePreview> Saved(Output& output, const InspectedFile& file,
                                      const InspectionSettings& settings) const
     {

@@ -7,7 +7,7 @@
 namespace ov::cli
 {
 
-/// A line for each rule: id, severity, name, summary.
+/// One line for each rule: id, severity, name, summary.
 std::string TableOfRules();
 
 /// A rule with its explanation and example.
@@ -16,7 +16,7 @@ std::string RuleAsText(const Rule& rule);
 /// All rules as a page of the documentation.
 std::string RulesAsMarkdown();
 
-/// Breaks a text at its blanks so that lines have at most so many characters.
+/// Breaks a text at blanks so that no line has more than `width` characters, if possible.
 std::string Wrapped(const std::string& text, std::size_t width);
 
 } // namespace ov::cli

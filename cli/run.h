@@ -8,8 +8,8 @@
 namespace ov::cli
 {
 
-/// Runs the program with its arguments, in UTF-8 and without the program's own name. Writes the
-/// answer and the problems to the process's streams.
+/// Runs the program. The arguments are in UTF-8 and do not include the program's own name. Writes the
+/// answer and the problems to the streams of the process.
 ExitCode Run(const std::vector<std::string>& arguments);
 
 } // namespace ov::cli

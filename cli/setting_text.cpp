@@ -23,7 +23,7 @@ std::string Number(double number)
     return {digits, result.ptr};
 }
 
-/// The help text's lines, without the tabs that set examples in.
+/// The help text's lines, without the tabs that indent examples.
 std::vector<std::string> HelpLines(const SettingDescription& setting)
 {
     std::vector<std::string> lines(1);
@@ -103,7 +103,7 @@ std::string ForHtml(std::string_view text)
     });
 }
 
-/// The facts of a setting as pairs of a word and a text; what does not apply is left out.
+/// The facts about a setting as pairs of a label and a text, without those that do not apply.
 std::vector<std::pair<std::string, std::string>> Facts(const SettingDescription& setting)
 {
     std::vector<std::pair<std::string, std::string>> facts;

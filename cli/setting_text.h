@@ -8,7 +8,7 @@
 namespace ov::cli
 {
 
-/// What a setting may be, on one line: "0 = off, 1 = on", "1 to 10000".
+/// The allowed values of a setting, on one line: "0 = off, 1 = on", "1 to 10000".
 std::string AllowedValues(const SettingDescription& setting);
 
 /// The setting as a few lines with its help text.

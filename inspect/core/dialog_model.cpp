@@ -30,10 +30,10 @@ DialogModel::DialogModel(std::optional<FileBytesView> defaults, std::chrono::yea
 
 void DialogModel::Open(const FileBytesView& current)
 {
-    // The file's own characters decide; one without any takes those of the defaults,
-    // of which comments may come into it.
+    // The file's own characters decide its encoding. A file in pure ASCII gets the encoding
+    // of the defaults, because their comments may be added to it.
     m_charset = m_defaultsCharset && IsAscii(current.bytes) ? *m_defaultsCharset : current.charset;
-    // No bytes at all would leave the table as it was.
+    // Reading an empty file would leave the table unchanged.
     m_store.Replace(kCurrentTable, SettingTable());
     ReadConfig(m_store, kCurrentTable, current.bytes, current.charset);
     m_pages = m_newPages;

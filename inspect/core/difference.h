@@ -8,31 +8,31 @@
 namespace ov
 {
 
-/// A variable that only one of two files has.
+/// A variable that only one of the two files has.
 struct OnlyVariable {
     Text name;
     Text value;
 };
 
-/// A variable whose value differs.
+/// A variable with different values.
 struct ChangedVariable {
     Text name;
     Text before;
     Text after;
     bool isList = false;
-    std::vector<Text> removed; ///< Of a list: entries that went, also those that are now elsewhere.
-    std::vector<Text> added;   ///< Of a list: entries that came, also those that were elsewhere.
+    std::vector<Text> removed; ///< For a list: entries that were removed or moved away.
+    std::vector<Text> added;   ///< For a list: entries that were added or moved here.
 };
 
-/// A variable of both files whose comment differs.
+/// A variable in both files with different comments.
 struct ChangedComment {
     Text name;
     Text before; ///< The comment lines, without blank lines.
     Text after;
 };
 
-/// How two files differ, variable by variable, each list in name order. The order of lines in the files,
-/// their directives and their headers do not matter.
+/// The differences between two files by variable, each list in name order. Ignores the order of lines,
+/// directives and headers.
 struct VariableDifference {
     std::vector<OnlyVariable> added;
     std::vector<OnlyVariable> removed;
@@ -46,7 +46,7 @@ struct VariableDifference {
 VariableDifference CompareVariables(const SettingStore& before, const SettingStore& after,
                                     const FactsOf& factsOf);
 
-/// The lines of a variable's comment that are not blank, each with "\n".
+/// The non-blank lines of a variable's comment, each ending with "\n".
 Text CommentText(CompactView comment);
 
 } // namespace ov

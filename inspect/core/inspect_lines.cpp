@@ -1,4 +1,4 @@
-// The rules that look at lines and at how they follow each other.
+// The rules about lines and their sequence.
 
 #include "inspect/core/inspection.h"
 
@@ -13,7 +13,7 @@ namespace
 using Line = InspectedFile::Line;
 using Variable = InspectedFile::Variable;
 
-/// True for a letter or digit. Beyond ASCII it is enough that a character is no mark.
+/// True for letters and digits. Outside ASCII, every character that is not punctuation counts.
 bool IsWordCharacter(char32_t c)
 {
     if (c < 0x80) {
@@ -65,7 +65,7 @@ void FindLostComments(Inspection& inspection)
         const Line& line = file.Lines()[i];
         switch (line.parts.kind) {
         case LineKind::Blank:
-            // What is above the first blank line is the header.
+            // Everything above the first blank line is the header.
             if (inHeader)
                 block.Clear();
             inHeader = false;
@@ -98,7 +98,7 @@ void FindLostComments(Inspection& inspection)
 
 void InspectIgnored(Inspection& inspection, std::size_t number, const Line& line)
 {
-    // "NAME=value" and "NAME= value": the operator is there, but not as a word.
+    // "NAME=value" and "NAME= value" contain the operator, but not as a separate word.
     const bool onlyBlanksMissing =
         line.parts.name.find('=') != std::string_view::npos && line.parts.name.front() != '=';
     inspection.Add(RuleId::LineIgnored, number,

@@ -1,4 +1,4 @@
-// The rules that look at the pages as they show the file.
+// The rules about the pages that show the file.
 
 #include "inspect/core/inspection.h"
 
@@ -6,7 +6,7 @@ namespace ov
 {
 namespace
 {
-/// The controls with which a setting is edited.
+/// The controls that edit a setting.
 std::vector<int> ControlsOf(const SettingPlace& place)
 {
     if (place.row->controlId != 0)
@@ -21,8 +21,8 @@ std::vector<int> ControlsOf(const SettingPlace& place)
     return controls;
 }
 
-/// The first condition of the dependency that another setting's value does not meet; null when
-/// there is none. What a setting's own value disables says nothing about it.
+/// The first condition of the dependency that the value of another setting does not meet; null if
+/// there is none. Conditions on the setting itself do not count.
 const Condition* UnmetByOthers(const ShownPage& page, const DependencyRow& dependency, TextView variable)
 {
     for (const Condition& condition : dependency.conditions) {

@@ -1,4 +1,4 @@
-// The rules that look at what Save makes of the file.
+// The rules about changes that Save makes to the file.
 
 #include "inspect/core/inspection.h"
 
@@ -13,8 +13,8 @@ namespace
 {
 using Variable = InspectedFile::Variable;
 
-/// Whether the reader surely takes back from a saved file what the store holds. Where it may not,
-/// the writer and the reader are asked.
+/// True if the value certainly survives writing and reading. If not, the writer and the reader
+/// have to be run.
 bool IsSurelyKept(CompactView value, std::int32_t kind)
 {
     if (value.empty())
@@ -25,7 +25,7 @@ bool IsSurelyKept(CompactView value, std::int32_t kind)
     return !value.Contains(u';') && !value.Contains(u'"') && !(quoted && value.Contains(u'#'));
 }
 
-/// Values that are written to a file and read back, all at once.
+/// Writes values to a file and reads them back, all at once.
 class RoundTrip
 {
   public:
@@ -38,13 +38,13 @@ class RoundTrip
     {
         if (m_written.Count(kCurrentTable) == 0)
             return;
-        // An encoding that has every character: which one it is makes no difference to values.
+        // Any encoding that has every character will do; the choice does not affect values.
         std::string bytes;
         WriteConfig(m_written, u"#", bytes, Charset::Utf8);
         ReadConfig(m_read, kCurrentTable, bytes, Charset::Utf8);
     }
 
-    /// The value that came back; nothing when the variable vanished.
+    /// The value that was read back; nothing if the variable was lost.
     std::optional<Text> ValueOf(TextView name) const
     {
         if (!m_read.HasSetting(name, kCurrentTable))
@@ -145,7 +145,7 @@ Text FirstVariable(const Inspection& inspection, const SettingStore& store)
     return first;
 }
 
-/// Whether a comment consists of headers that earlier saves have left in it.
+/// True if a comment consists only of headers from earlier saves.
 bool IsOnlyHeaders(const Text& comment)
 {
     std::vector<Text> lines;
@@ -201,7 +201,7 @@ bool IsAscii(TextView text)
     return std::ranges::all_of(text, [](char16_t c) { return c < 0x80; });
 }
 
-/// Whether Save may meet a character that the file's encoding lacks: all that comes from the file
+/// True if Save may meet a character that the file's encoding lacks. Everything from the file
 /// itself can be written again.
 bool MayRefuse(const Inspection& inspection)
 {

@@ -1,4 +1,4 @@
-// The rules that look at the values of the settings, each by itself.
+// The rules about the values of single settings.
 
 #include "inspect/core/inspection.h"
 
@@ -20,7 +20,7 @@ namespace
 {
 using Variable = InspectedFile::Variable;
 
-/// The variables that hold templates for names, and those that describe them.
+/// The variables with naming templates, and those with their descriptions.
 struct NamingPair {
     const char16_t* templates;
     const char16_t* descriptions;
@@ -32,7 +32,7 @@ constexpr NamingPair namingPairs[] = {
 constexpr char16_t wildcardType[] = u"_ORTHOVAL_WILDCARD_TYPE";
 constexpr char16_t olderScanPeriod[] = u"_ORTHOVAL_SCANPERIOD_VALUE";
 
-/// A setting of the file with its value.
+/// A setting in the file and its value.
 struct Stored {
     const SettingPlace& place;
     const Variable& variable;
@@ -62,7 +62,7 @@ void InspectFlag(Inspection& inspection, const Stored& stored)
     Explain(inspection, RuleId::NotAFlag, stored, {{"meaning", meaning}});
 }
 
-/// The number that the whole text is, white space around it ignored; nothing when it is none.
+/// The number in the whole text, ignoring surrounding white space; nothing if it is not a number.
 std::optional<double> NumberOf(TextView text)
 {
     text = Trim(text);
@@ -108,7 +108,7 @@ void InspectNumber(Inspection& inspection, const Stored& stored)
     }
 }
 
-/// Whether a choice is made by a whole number in the file.
+/// True if the file stores a choice as a whole number.
 bool IsChoice(const SettingPlace& place)
 {
     switch (place.row->encoding) {
@@ -135,12 +135,12 @@ void InspectChoice(Inspection& inspection, const Stored& stored)
     const std::span<const Choice> choices = ChoicesOf(place);
     const auto find = [&](TextView value) { return std::ranges::find(choices, value, &Choice::value); };
     const auto choice = find(saved);
-    // A minus sign before a choice, where the range has negative numbers, says more about it.
+    // For a negative number in a range that allows them, the number without the sign is the choice.
     const auto range = RangeOf(place);
     const bool isSigned = range && range->lowest < 0 && saved.starts_with(u'-');
     const bool selects =
         choice != choices.end() || (isSigned && find(TextView(saved).substr(1)) != choices.end());
-    // "02" selects what it says, though Save writes it in another way.
+    // "02" selects the right choice, although Save writes it in another form.
     if (selects && IsWholeNumber(Trim(stored.value)) && ToInteger(stored.value) == ToInteger(saved))
         return;
     const std::string name = Utf8FromText(place.row->variable);
@@ -151,7 +151,7 @@ void InspectChoice(Inspection& inspection, const Stored& stored)
     Explain(inspection, RuleId::NoSuchChoice, stored, {{"problem", problem}});
 }
 
-/// How many characters the longest field of an entry has before the list editor cuts it.
+/// The length in characters of the entry's longest field before the list editor truncates it.
 std::size_t LongestField(TextView entry, const ListFormat& format)
 {
     std::size_t longest = 0;
@@ -160,7 +160,7 @@ std::size_t LongestField(TextView entry, const ListFormat& format)
     return longest;
 }
 
-/// The last line of the variable with a value of more than so many bytes; its last line without one.
+/// The variable's last line whose value has more bytes than the limit, or its last line if there is none.
 std::size_t LineOfLongEntry(const InspectedFile& file, const Variable& variable)
 {
     for (std::size_t line = variable.lastLine + 1; line > variable.firstLine; --line) {
@@ -191,7 +191,7 @@ void InspectList(Inspection& inspection, const Stored& stored, const ListFormat&
     }
 }
 
-/// The entries of a list of one field, without quotes and blanks, empty ones left out.
+/// The entries of a list with one field, without quotes, blanks and empty entries.
 std::vector<Text> EntriesOf(TextView value)
 {
     const ListFormat format;
@@ -266,7 +266,7 @@ void InspectScanPeriod(Inspection& inspection)
     const ScanDate olderDate = period.dateOne;
     ParseScanPeriod(settings, {1, 1, 2000}, period);
     AddImpossibleDay(inspection, olderScanPeriod, olderDate);
-    // A date that the settings do not reach is that of the older variable.
+    // A date that the settings do not contain comes from the older variable.
     if (period.dateOne != olderDate)
         AddImpossibleDay(inspection, kScanPeriodVariable, period.dateOne);
     AddImpossibleDay(inspection, kScanPeriodVariable, period.dateTwo);

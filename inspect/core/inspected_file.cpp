@@ -10,7 +10,7 @@ namespace ov
 {
 namespace
 {
-/// Seven of "<" or ">", alone or before a blank, or seven "=" alone, at the beginning of a line.
+/// Seven "<" or ">", alone or before a blank, or seven "=" alone, at the beginning of a line.
 bool IsConflictMarker(std::string_view line)
 {
     constexpr std::size_t kLength = 7;
@@ -59,7 +59,7 @@ void InspectedFile::FindHeader()
         else if (kind != LineKind::Directive)
             break;
     }
-    // A header that nothing separates from the first variable is still one that Save wrote.
+    // A header directly followed by the first variable was written by Save nevertheless.
     std::vector<Text> texts;
     for (const std::size_t comment : comments)
         texts.push_back(Decode(m_document.Line(comment).text));

@@ -16,8 +16,8 @@
 namespace ov
 {
 
-/// A configuration file as the rules see it: its lines, and which of them assign
-/// which variable. Lines count from 0.
+/// A configuration file for the rules: its lines, and the variable that each of them
+/// assigns. Lines count from 0.
 class InspectedFile
 {
   public:
@@ -33,7 +33,7 @@ class InspectedFile
 
     struct Line {
         ConfigLine parts;
-        std::size_t variable = kNone; ///< index of the variable that it assigns
+        std::size_t variable = kNone; ///< index of the variable that the line assigns
         bool isConflictMarker = false;
     };
 
@@ -42,26 +42,26 @@ class InspectedFile
     const std::string& Bytes() const { return m_document.Bytes(); }
     Charset Encoding() const { return m_charset; }
     const std::vector<Line>& Lines() const { return m_lines; }
-    /// In the order of their first lines, without those that conflict markers are taken for.
+    /// In the order of their first lines, without conflict markers that parse as assignments.
     const std::vector<Variable>& Variables() const { return m_variables; }
 
-    /// The variable of that name; null when the file has none.
+    /// The variable of that name; null if the file has none.
     const Variable* Find(TextView name) const;
 
     Text Decode(std::string_view bytes) const;
 
-    /// The column of the value of an assignment, in characters from 1; 1 without a value.
+    /// The column of an assignment's value, in characters from 1; 1 without a value.
     std::size_t ValueColumn(std::size_t line) const;
 
-    /// The comment lines above the first blank line: what Save replaces by its own header. Empty
-    /// when there is no blank line or an assignment comes before it.
+    /// The comment lines above the first blank line, which Save replaces by its own header. Empty
+    /// if there is no blank line or an assignment comes before it.
     const std::vector<std::size_t>& HeaderLines() const { return m_header; }
 
-    /// Whether these lines are a header as Save writes it.
+    /// True if these lines are a header in the form that Save writes.
     bool IsHeaderSaved() const { return m_headerIsSaved; }
 
-    /// What the file's first comment lines say about the last save, when they begin with a header as
-    /// Save writes it.
+    /// The data of the last save, if the file's first comment lines are a header in the form that
+    /// Save writes.
     const std::optional<HeaderInfo>& SavedHeader() const { return m_savedHeader; }
 
   private:

@@ -9,12 +9,12 @@ namespace ov
 {
 namespace
 {
-/// Why the dialog would take nothing from the file; null when it takes its lines.
+/// Why the dialog would not read anything from the file; null if it reads its lines.
 const char* WhyUnreadable(std::string_view bytes)
 {
     if (bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF"))
         return "it is in UTF-16";
-    // Without a mark, every other byte of Latin text is NUL.
+    // Latin text in UTF-16 without a byte-order mark has NUL as every other byte.
     const std::string_view beginning = bytes.substr(0, 4096);
     const auto nuls = static_cast<std::size_t>(std::ranges::count(beginning, '\0'));
     if (beginning.size() >= 4 && nuls * 5 >= beginning.size() * 2)

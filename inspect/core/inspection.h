@@ -16,45 +16,45 @@
 namespace ov
 {
 
-/// Where the three texts of the header that Save writes come from.
+/// The sources of the three texts in the header that Save writes.
 struct HeaderSources {
-    HeaderInfo machine; ///< for a file that has no header of an earlier save
-    // Each takes the place of what is in the file's header, or of the machine's.
+    HeaderInfo machine; ///< for a file without a header from an earlier save
+    // Each of these replaces the text from the file's header or from the machine.
     std::optional<Text> date;
     std::optional<Text> user;
     std::optional<Text> computer;
 };
 
-/// The texts of the header that Save writes into the file: those that are given, else those that
-/// an earlier save has left in it, else the machine's.
+/// The texts for the header that Save writes into the file: the given ones, else those of the header
+/// from an earlier save, else those of the machine.
 HeaderInfo HeaderToWrite(const InspectedFile& file, const HeaderSources& sources);
 
-/// What inspecting files depends on besides the files.
+/// What the findings depend on besides the inspected files.
 struct InspectionSettings {
     RuleSet rules;
-    std::optional<FileBytesView> defaults; ///< the defaults file; absent for none
-    std::chrono::year_month_day today;     ///< the day that an open scan period ends with
+    std::optional<FileBytesView> defaults; ///< the defaults file; nothing if there is none
+    std::chrono::year_month_day today;     ///< the end of a scan period without an end date
     HeaderSources header;
-    /// Whether there is a file or folder under the path.
+    /// True if a file or folder exists under the path.
     std::function<bool(const Text& path)> pathExists;
 };
 
-/// Finds what is wrong with files, one after the other.
+/// Checks files against the rules, one after another.
 class Inspector
 {
   public:
     explicit Inspector(const InspectionSettings& settings);
 
-    /// All findings of the selected rules, in the order of the lines.
+    /// All findings of the selected rules, in line order.
     std::vector<Finding> Inspect(const InspectedFile& file);
 
   private:
     InspectionSettings m_settings;
     DialogModel m_dialog;
-    SettingStore m_defaults; ///< the defaults file read by itself, as a current file would be
+    SettingStore m_defaults; ///< the defaults file, read on its own as a current file would be
 };
 
-/// The inspection of one file: what the rules look at, and what they have found.
+/// The inspection of one file: the data that the rules check, and their findings.
 class Inspection
 {
   public:
@@ -69,30 +69,30 @@ class Inspection
     DialogModel& Dialog() { return m_dialog; }
     const SettingStore& Defaults() const { return m_defaults; }
 
-    /// Has every page of the dialog saved. What the settings were before is kept.
+    /// Every page of the dialog writes its settings. The earlier values are kept.
     void SavePages();
 
-    /// The setting's value as it is read now; nothing when the file does not have it. After
-    /// SavePages only.
+    /// The value of the setting as read now; nothing if the file does not have it. Call it
+    /// after SavePages.
     const std::optional<Text>& ValueOf(const SettingPlace& place) const;
 
-    /// The setting's value as Save writes it; empty when it writes none. After SavePages only.
+    /// The value of the setting that Save writes; empty if it writes none. Call it after SavePages.
     Text SavedValueOf(const SettingPlace& place) const;
 
-    /// The value of any variable as it is read now; nothing when the file does not have it. After
-    /// SavePages only.
+    /// The value of any variable as read now; nothing if the file does not have it. Call it
+    /// after SavePages.
     std::optional<Text> ValueOf(TextView variable) const;
 
-    /// Notes a finding at a line, counted from 0; the column is that of its value. Returns
-    /// it to be completed, null when the rule is not selected.
+    /// Adds a finding at a line, counted from 0; the column is that of its value. Returns
+    /// the finding so that it can be completed; null if the rule is not selected.
     Finding* Add(RuleId rule, std::size_t line, const std::vector<MessagePart>& parts);
 
-    /// The same at the last line of a variable, which the finding is about.
+    /// Adds a finding about a variable, at the variable's last line.
     Finding* AddAt(RuleId rule, const InspectedFile::Variable& variable,
                    const std::vector<MessagePart>& parts);
 
-    /// The variables that a finding about their values names, whether it is selected or not:
-    /// nothing more is said about what Save makes of them.
+    /// The variables whose values a finding explains, even if its rule is not selected. Rules
+    /// about changes by Save do not report them again.
     std::set<std::string_view>& Explained() { return m_explained; }
 
     std::vector<Finding>& Findings() { return m_findings; }
@@ -102,13 +102,13 @@ class Inspection
     const InspectedFile& m_file;
     DialogModel& m_dialog;
     const SettingStore& m_defaults;
-    std::vector<std::optional<Text>> m_values; ///< of AllSettings, as they are read now
+    std::vector<std::optional<Text>> m_values; ///< the values of AllSettings as read now
     std::set<std::string_view> m_explained;
     std::vector<Finding> m_findings;
 };
 
-// The rules by what they look at: the lines; the pages as they are shown, before SavePages; the
-// values and what Save makes of them, after it.
+// The rules in groups: InspectLines and InspectPages run before SavePages; InspectValues and
+// InspectSave run after it.
 void InspectLines(Inspection& inspection);
 void InspectPages(Inspection& inspection);
 void InspectValues(Inspection& inspection);

@@ -11,7 +11,7 @@ namespace ov
 namespace
 {
 
-// What tells an entry from others: its text and which of several equal ones it is.
+// What distinguishes an entry: its text, and its number among equal entries.
 using Identity = std::pair<Text, int>;
 
 struct Entry {
@@ -19,7 +19,7 @@ struct Entry {
     Text text;
 };
 
-// A list with its entries by identity.
+// A list and the identities of its entries.
 class IdentifiedList
 {
   public:
@@ -36,7 +36,7 @@ class IdentifiedList
     const std::vector<Entry>& Entries() const { return m_entries; }
     bool Has(const Entry& entry) const { return m_identities.contains(entry.identity); }
 
-    // The identities that both other lists have too, in the order of this one.
+    // The identities that both other lists contain too, in the order of this list.
     std::vector<Identity> Common(const IdentifiedList& first, const IdentifiedList& second) const
     {
         std::vector<Identity> common;
@@ -52,7 +52,7 @@ class IdentifiedList
     std::set<Identity> m_identities;
 };
 
-// The list `kept` with what the list `other` changed in comparison with the base.
+// The list `kept`, with the changes of `other` relative to the base applied.
 ListEntries Combine(const IdentifiedList& base, const IdentifiedList& kept, const IdentifiedList& other)
 {
     std::vector<Entry> result;
@@ -60,7 +60,7 @@ ListEntries Combine(const IdentifiedList& base, const IdentifiedList& kept, cons
         if (other.Has(entry) || !base.Has(entry))
             result.push_back(entry);
     }
-    std::size_t place = 0; // Behind the last entry of the other list that the result has.
+    std::size_t place = 0; // After the last entry of the other list that the result contains.
     for (const Entry& entry : other.Entries()) {
         const auto found = std::find_if(result.begin(), result.end(),
                                         [&](const Entry& each) { return each.identity == entry.identity; });

@@ -7,9 +7,9 @@
 namespace ov
 {
 
-/// Merges two lists that were changed from a common one, entry by entry: what one side removed is gone,
-/// what one side added is there, behind the same entry as on that side. Where one side changed the
-/// order, its order holds. Nothing when both did, differently.
+/// Merges two lists that were derived from a common base, entry by entry: entries removed on one side are
+/// removed, entries added on one side are added after the same entry as on that side. If one side changed
+/// the order, its order is used. Nothing if both changed it, in different ways.
 std::optional<ListEntries> MergeEntries(const ListEntries& base, const ListEntries& ours,
                                         const ListEntries& theirs, const ListFormat& format);
 

@@ -18,7 +18,7 @@ namespace ov
 namespace
 {
 
-// True when two files assign a variable alike, comments aside; also when neither does.
+// True if two files assign a variable the same value, ignoring comments, or if neither assigns it.
 bool SameValue(const MergeVariable* first, const MergeVariable* second)
 {
     if (first == nullptr || second == nullptr)
@@ -27,7 +27,7 @@ bool SameValue(const MergeVariable* first, const MergeVariable* second)
            first->conditional == second->conditional;
 }
 
-// Whose version of a variable, or of its comment, is the right one.
+// The side whose version of a variable, or of its comment, is used.
 enum class Choice { Ours, Theirs, Both };
 
 Choice ChooseValue(const MergeVariable* base, const MergeVariable* ours, const MergeVariable* theirs)
@@ -37,7 +37,7 @@ Choice ChooseValue(const MergeVariable* base, const MergeVariable* ours, const M
     return SameValue(ours, base) ? Choice::Theirs : Choice::Both;
 }
 
-// Both files assign the variable. Without a common version a comment is better than none.
+// Both files assign the variable. Without a common version, having a comment is better than having none.
 Choice ChooseComment(const MergeVariable* base, const MergeVariable& ours, const MergeVariable& theirs)
 {
     const Text common = base != nullptr ? base->comment : Text();
@@ -46,7 +46,7 @@ Choice ChooseComment(const MergeVariable* base, const MergeVariable& ours, const
     return ours.comment == common ? Choice::Theirs : Choice::Both;
 }
 
-// The entries of a list by the lines that add them: in front of what is inherited, or behind it.
+// The entries of a list, by the lines that add them: before the inherited entries or after them.
 struct ListParts {
     ListEntries front;
     ListEntries back;
@@ -96,7 +96,7 @@ class Merger
         return m_result;
     }
 
-    // The variables that are not read back from the result as they were merged.
+    // The variables that do not read back from the result as they were merged.
     std::set<Text> NotKept() const
     {
         SettingStore store;
@@ -143,7 +143,7 @@ class Merger
             PutConflict(ours, theirs, false);
     }
 
-    // A conflict when we changed what they removed.
+    // It is a conflict if we changed the variable that they removed.
     void RemoveOurs(const MergeVariable& ours, bool unchanged)
     {
         if (!unchanged || m_refused.contains(ours.name)) {
@@ -181,7 +181,7 @@ class Merger
         m_output.InsertAbove(ours.lines.front(), m_output.TheirLines(lines));
     }
 
-    // False when the variable is no list, or its lines cannot be merged entry by entry.
+    // False if the variable is not a list, or if its lines cannot be merged entry by entry.
     bool MergeLists(const MergeVariable* base, const MergeVariable& ours, const MergeVariable& theirs)
     {
         const VariableFacts facts = m_factsOf(ours.name);
@@ -233,8 +233,8 @@ class Merger
         return true;
     }
 
-    // The variables that only they have go below the one that is above them in their file; those above
-    // all common ones go above the first of these.
+    // Variables that only they have are placed below the variable that is above them in their file. Those
+    // above all common variables are placed above the first common one.
     void MergeNewOnes()
     {
         const MergeVariable* above = nullptr;
@@ -251,7 +251,7 @@ class Merger
         }
     }
 
-    // Added by them, or removed by us.
+    // They added it, or we removed it.
     void MergeNew(const MergeVariable& theirs, const MergeVariable* above, const MergeVariable* first)
     {
         const MergeVariable* const base = m_base.Find(theirs.name);
@@ -278,7 +278,7 @@ class Merger
     void InsertAboveFirst(const MergeVariable* first, const std::vector<std::string>& lines)
     {
         const std::size_t place = first != nullptr ? first->commentStart : m_ours.File().LineCount();
-        // Directly below the header, the header would become their comment.
+        // Without a blank line the header above would become their comment.
         if (!m_ours.HeaderLines().empty() && !TrimBytes(lines.front()).empty())
             m_output.InsertAbove(place, {std::string()});
         m_output.InsertAbove(place, lines);
@@ -302,7 +302,7 @@ class Merger
         m_output.TakeLossy();
     }
 
-    // What the variable is to be afterwards; a conditional one is not looked at.
+    // Records the value that the variable must have afterwards; conditional variables are not checked.
     void Want(const Text& name, const MergeVariable* variable)
     {
         if (variable == nullptr)

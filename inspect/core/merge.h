@@ -16,20 +16,20 @@ struct MergeInput {
     Charset charset;
 };
 
-/// What came of a merge.
+/// The result of a merge.
 struct MergeResult {
     std::string bytes;           ///< Our file with their changes.
-    std::vector<Text> conflicts; ///< Variables with both versions between markers.
-    bool otherLines = false;     ///< Lines that belong to no variable are between markers.
+    std::vector<Text> conflicts; ///< Variables with both versions between conflict markers.
+    bool otherLines = false;     ///< True if lines that belong to no variable are between conflict markers.
 
     bool IsClean() const { return conflicts.empty() && !otherLines; }
 };
 
-/// Merges two files that were changed from a common one. Variables are compared by their values and
-/// comments, so that the order of the lines does not matter; lists merge entry by entry. The result is
-/// our file with the lines changed in which theirs differs from the common one. What both changed in
-/// different ways is a conflict: both versions are put between lines of "<<<<<<<", "=======" and
-/// ">>>>>>>". Our header stays where either header is as Save writes it.
+/// Merges two files that were derived from a common base. Variables are compared by value and comment,
+/// so the order of lines does not matter; lists are merged entry by entry. The result is our file, with
+/// the lines changed in which theirs differs from the base. If both sides changed something in
+/// different ways, it is a conflict: both versions are put between lines of "<<<<<<<", "=======" and
+/// ">>>>>>>". Our header is kept if either header is in the form that Save writes.
 MergeResult MergeFiles(const MergeInput& base, const MergeInput& ours, const MergeInput& theirs,
                        const FactsOf& factsOf);
 

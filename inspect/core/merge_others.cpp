@@ -81,7 +81,7 @@ class OtherLinesMerger
         return !lossy;
     }
 
-    // Both sides changed the same place: nothing is to be done where they did the same.
+    // Both sides changed the same place. If they made the same change, nothing has to be done.
     bool MergeTouching(const LineChange& our, const LineChange& their, const LineNumberList& theirLines)
     {
         const LineNumberList ourLines = Part(m_ours.OtherLines(), our.newStart, our.newCount);
@@ -99,7 +99,7 @@ class OtherLinesMerger
         return false;
     }
 
-    // Where in our other lines a line of the base is that we did not change.
+    // The position among our other lines of a base line that we did not change.
     std::size_t OurPlace(std::size_t basePlace) const
     {
         std::size_t place = basePlace;
@@ -110,8 +110,8 @@ class OtherLinesMerger
         return place;
     }
 
-    // Their new lines go between our other lines `place - 1` and `place`: where one of these is their
-    // neighbour on their side, else below the variable that is above them there.
+    // The line above which to insert their new lines, between our other lines `place - 1` and `place`: next
+    // to the one that is also their neighbour in their file, else below the variable above them.
     std::size_t LineToInsertAbove(std::size_t place, const LineNumberList& theirLines) const
     {
         const LineNumberList& ourOthers = m_ours.OtherLines();
@@ -130,7 +130,7 @@ class OtherLinesMerger
         return below && *below >= lowest && *below <= highest ? *below : highest;
     }
 
-    // The line below ours of the nearest variable above their line that we have too.
+    // The line after the nearest variable above their line that our file also has, in our file.
     std::optional<std::size_t> BelowVariableAbove(std::size_t theirLine) const
     {
         std::optional<std::size_t> below;
@@ -153,7 +153,7 @@ class OtherLinesMerger
     std::vector<LineChange> m_theirChanges;
 };
 
-// Their header where only they changed it; ours where either is one that Save has written.
+// Uses their header if only they changed it, and ours if either one was written by Save.
 bool MergeHeader(const MergeSide& base, const MergeSide& ours, const MergeSide& theirs, MergeOutput& output)
 {
     const auto textsOf = [](const MergeSide& side) { return side.Texts(side.HeaderLines()); };
@@ -170,7 +170,7 @@ bool MergeHeader(const MergeSide& base, const MergeSide& ours, const MergeSide& 
         output.Replace(ours.HeaderLines(), texts);
         return clean;
     }
-    // Without a blank line below, the first variable would take the header for its comment.
+    // Without a blank line after it, the header would become the comment of the first variable.
     if (ours.File().LineCount() > 0 && ours.File().Parts(0).kind != LineKind::Blank)
         texts.emplace_back();
     output.InsertAbove(0, texts);

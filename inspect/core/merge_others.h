@@ -6,9 +6,9 @@
 namespace ov
 {
 
-/// Merges the lines that belong to no variable: directives and what depends on them, lines that the
-/// reader ignores, comments that no variable takes, and the header. Returns false when there is a
-/// conflict, which is in the output between markers.
+/// Merges the lines that belong to no variable: directives and the lines that depend on them, ignored
+/// lines, comments without a variable, and the header. Returns false if there is a
+/// conflict, which the output then contains between markers.
 bool MergeOtherLines(const MergeSide& base, const MergeSide& ours, const MergeSide& theirs,
                      MergeOutput& output);
 

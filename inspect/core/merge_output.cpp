@@ -17,7 +17,7 @@ bool IsAscii(std::string_view bytes)
 
 } // namespace
 
-// A file of ASCII alone takes the encoding of the other one.
+// A file in pure ASCII takes the encoding of the other one.
 MergeOutput::MergeOutput(const MergeSide& ours, const MergeSide& theirs)
     : m_ours(ours), m_theirs(theirs),
       m_charset(IsAscii(ours.File().Bytes()) ? theirs.Encoding() : ours.Encoding()), m_edits(ours.File())
@@ -93,7 +93,7 @@ void MergeOutput::EraseComment(const MergeVariable& ours)
 
 std::string MergeOutput::Finish()
 {
-    // Of the blank line that had to stay and the one that now follows it, one is enough.
+    // The blank line that had to remain and the one that now follows it would be two; removes one.
     if (m_blankBelowHeaderIsSpare) {
         std::size_t next = *m_ours.BlankBelowHeader() + 1;
         while (next < m_ours.File().LineCount() && m_edits.IsErased(next))

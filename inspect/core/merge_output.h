@@ -21,50 +21,50 @@ class MergeOutput
     /// The encoding of the result.
     Charset Encoding() const { return m_charset; }
 
-    /// Our lines as they are.
+    /// Our lines, unchanged.
     std::vector<std::string> OurLines(const std::vector<std::size_t>& lines) const;
 
-    /// Their lines in the encoding of the result; as they are where it lacks a character, which
-    /// IsLossy then says.
+    /// Their lines in the encoding of the result. A line with a character that it lacks is unchanged;
+    /// TakeLossy then returns true.
     std::vector<std::string> TheirLines(const std::vector<std::size_t>& lines);
 
-    /// A line of the result; empty where the encoding lacks a character, which IsLossy then says.
+    /// A line of the result; empty if the encoding lacks a character. TakeLossy then returns true.
     std::string NewLine(const Text& text);
 
-    /// True when a character could not be written since the last call.
+    /// True if a character could not be written since the last call.
     bool TakeLossy();
 
-    /// Puts other lines in the place of ours, of which there is at least one. They begin where our first
-    /// one is.
+    /// Replaces our lines, at least one, by other lines. These begin at the position of our first
+    /// line.
     void Replace(const std::vector<std::size_t>& lines, const std::vector<std::string>& texts);
 
-    /// Inserts lines above one of ours; the number of our lines is the end of the file.
+    /// Inserts lines above one of ours; the number of our lines means the end of the file.
     void InsertAbove(std::size_t line, const std::vector<std::string>& texts);
 
     /// Inserts lines below one of ours.
     void InsertBelow(std::size_t line, const std::vector<std::string>& texts);
 
-    /// Removes the comment lines above one of our variables. The blank line below the header stays, or the
-    /// header would become a comment.
+    /// Removes the comment lines above one of our variables. The blank line below the header remains;
+    /// without it the header would become a comment.
     void EraseComment(const MergeVariable& ours);
 
     /// The bytes of the result.
     std::string Finish();
 
-    /// Both versions between markers.
+    /// Both versions between conflict markers.
     static std::vector<std::string> Conflict(const std::vector<std::string>& ours,
                                              const std::vector<std::string>& theirs);
 
   private:
     const MergeSide& m_ours;
     const MergeSide& m_theirs;
-    Charset m_charset; ///< Of the result.
+    Charset m_charset; ///< The encoding of the result.
     LineEdits m_edits;
     bool m_lossy = false;
     bool m_blankBelowHeaderIsSpare = false;
 };
 
-/// The numbers from the first to the one before the last.
+/// The numbers from `first` up to, but not including, `last`.
 std::vector<std::size_t> LineNumbers(std::size_t first, std::size_t last);
 
 } // namespace ov

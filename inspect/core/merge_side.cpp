@@ -12,8 +12,8 @@ namespace ov
 namespace
 {
 
-// True for the line of a header that says when the file was saved. In a comment it is a trace of a
-// header that was taken for one.
+// True for the header line with the date of the save. In a comment it is the trace of a header that
+// was read as a comment.
 bool SaysWhenSaved(TextView line)
 {
     static const Text s_start = [] {
@@ -71,7 +71,7 @@ std::vector<Text> MergeSide::Texts(const std::vector<std::size_t>& lines) const
     return texts;
 }
 
-// Gives the number of the first line behind the header.
+// Returns the number of the first line after the header.
 std::size_t MergeSide::ReadHeader()
 {
     std::size_t end = 0;
@@ -144,7 +144,7 @@ void MergeSide::AddConditional(const ConfigLine& parts)
     m_variables[place->second].conditional = true;
 }
 
-// Takes the lines for ones of no variable, but for blank ones.
+// Adds the lines to those without a variable, except for blank ones.
 void MergeSide::AddOthers(std::vector<std::size_t>& lines)
 {
     for (const std::size_t line : lines) {

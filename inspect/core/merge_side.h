@@ -14,19 +14,19 @@
 namespace ov
 {
 
-/// A variable as one of the files of a merge has it.
+/// A variable in one of the files of a merge.
 struct MergeVariable {
     Text name;
-    std::vector<std::size_t> lines; ///< Its assignments that depend on no condition.
-    std::size_t commentStart = 0;   ///< The first of the comment lines directly above the first one.
+    std::vector<std::size_t> lines; ///< Its unconditional assignments.
+    std::size_t commentStart = 0;   ///< The first of the comment lines directly above its first line.
     bool conditional = false;       ///< It is also assigned between "%if" and "%endif".
-    bool inherits = false;          ///< It has no "=" line, so it extends what an earlier file says.
-    Text value;                     ///< As the reader takes it; for a conditional one the text of its lines.
-    Text comment;                   ///< Its comment lines without blank ones and without the line that
-                                    ///< says when the file was saved.
+    bool inherits = false;          ///< It has no "=" line, so it extends the value from earlier files.
+    Text value;                     ///< As the reader reads it; if conditional, the text of its lines.
+    Text comment;                   ///< Its comment lines, without blank lines and without the line with the
+                                    ///< date of the save.
 };
 
-/// One file of a merge: its lines by the variable that they belong to, and those that belong to none.
+/// One file of a merge: its lines, by the variable that they belong to, and those without one.
 class MergeSide
 {
   public:
@@ -39,29 +39,29 @@ class MergeSide
     /// All variables in the order of their first lines.
     const std::vector<MergeVariable>& Variables() const { return m_variables; }
 
-    /// Null when the file does not assign the variable outside conditions.
+    /// Null if the file does not assign the variable outside conditions.
     const MergeVariable* Find(const Text& name) const;
 
-    /// The line in memory's encoding.
+    /// The line as text in memory.
     Text LineText(std::size_t line) const;
 
-    /// The value that a line by itself gives.
+    /// The value of a line alone.
     Text LineValue(std::size_t line) const;
 
-    /// The comment lines above the first blank line, when no assignment is above it: the header.
+    /// The header: the comment lines above the first blank line, if no assignment is above it.
     const std::vector<std::size_t>& HeaderLines() const { return m_headerLines; }
 
-    /// The blank line below the header; nothing without a header or a line below it.
+    /// The blank line below the header; nothing if there is no header or no line below it.
     std::optional<std::size_t> BlankBelowHeader() const { return m_blankBelowHeader; }
 
-    /// True when the header is as Save writes it.
+    /// True if the header is in the form that Save writes.
     bool HasSavedHeader() const;
 
-    /// The lines that belong to no variable and not to the header, and are not blank: directives and what
-    /// is between "%if" and "%endif", lines without an operator, comments that no variable takes.
+    /// The non-blank lines outside the header that belong to no variable: directives, lines between "%if"
+    /// and "%endif", lines without an operator, comments without a variable.
     const std::vector<std::size_t>& OtherLines() const { return m_otherLines; }
 
-    /// The texts of lines, without white space at their ends.
+    /// The texts of lines, without leading and trailing white space.
     std::vector<Text> Texts(const std::vector<std::size_t>& lines) const;
 
   private:

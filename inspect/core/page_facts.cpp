@@ -16,7 +16,7 @@ struct Place {
     const SettingRow* row;
 };
 
-// Every variable of the pages. Where two pages have one, that which writes it counts.
+// Every variable of the pages. If two pages have the same one, the page that writes it counts.
 std::unordered_map<TextView, Place> MakePlaces()
 {
     std::unordered_map<TextView, Place> places;
@@ -30,7 +30,7 @@ std::unordered_map<TextView, Place> MakePlaces()
     return places;
 }
 
-// Takes from the list editor's row how the variable is written, if it has one.
+// Takes the list format from the row of the list editor, if the variable has one.
 void AddList(VariableFacts& facts, const PageRows& page, TextView variable)
 {
     const auto browse = std::ranges::find_if(page.browses, [variable](const BrowseRow& row) {

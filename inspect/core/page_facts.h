@@ -5,8 +5,8 @@
 namespace ov
 {
 
-/// What the pages say of a variable: its kind, how its list is written, and the comment that the dialog
-/// gives it. The defaults for a variable that no page has.
+/// The facts about a variable from the pages: its kind, its list format, and the comment that the dialog
+/// writes for it. Default values for a variable that no page has.
 VariableFacts FactsOfPages(TextView name);
 
 } // namespace ov

@@ -9,7 +9,7 @@
 namespace ov
 {
 
-/// How much a finding matters.
+/// How serious a finding is.
 enum class Severity { Error, Warning, Note };
 
 /// "error", "warning" or "note".
@@ -45,38 +45,38 @@ enum class RuleId : std::size_t {
     ListsDiffer,
 };
 
-/// One thing that can be wrong with a file. Ids and names are stable for ever: scripts
-/// rely on them.
+/// A problem that a file can have. Ids and names never change, because scripts rely
+/// on them.
 struct Rule {
     RuleId rule;
     const char* id;   ///< "OV101"
     const char* name; ///< "directive-lost"
     Severity severity;
-    bool byDefault;              ///< whether it is looked at unless the caller selects rules
-    const char* summary;         ///< in a few words
-    const char* message;         ///< one sentence; words in braces are filled in for each finding
+    bool byDefault;              ///< true if the rule is selected unless the caller selects rules
+    const char* summary;         ///< a short description
+    const char* message;         ///< one sentence; words in braces are replaced for each finding
     const char* explanation;     ///< when it fires, why that matters, what to do
     const char* example;         ///< a file on which it fires, in the notation of ExampleBytes
-    const char* exampleDefaults; ///< the defaults file of the example; empty for none
+    const char* exampleDefaults; ///< the defaults file of the example; empty if there is none
 };
 
-/// All rules in the order of their ids, which is that of RuleId.
+/// All rules in the order of their ids, which is also that of RuleId.
 std::span<const Rule> Rules();
 
 const Rule& RuleOf(RuleId rule);
 
-/// The bytes of an example. "{E9}" stands for the byte of that hexadecimal number,
-/// "{1100 letters}" for as many letters; lines end in LF.
+/// The bytes of an example. "{E9}" is the byte with that hexadecimal number,
+/// "{1100 letters}" is that number of letters; lines end with LF.
 std::string ExampleBytes(std::string_view example);
 
-/// Whether a rule's findings say what Save would change: those of the ids OV1xx.
+/// True if a rule's findings report what Save would change: the ids OV1xx.
 bool IsLoss(const Rule& rule);
 
 /// A set of rules.
 class RuleSet
 {
   public:
-    /// The rules that are looked at by default.
+    /// The rules that are selected by default.
     RuleSet();
 
     bool Contains(RuleId rule) const { return m_contains[static_cast<std::size_t>(rule)]; }
@@ -84,8 +84,8 @@ class RuleSet
     /// Removes all rules.
     void Clear();
 
-    /// Adds or removes the rules of an id ("OV101"), of the beginning of an id ("OV1"), or
-    /// "all". False when no rule is meant.
+    /// Adds or removes rules: an id ("OV101"), the beginning of ids ("OV1"), or
+    /// "all". False if no rule matches.
     bool Set(std::string_view which, bool contains);
 
   private:

@@ -9,13 +9,13 @@ namespace ov
 
 /// What Save would write.
 struct SavePreview {
-    WriteResult result;                     ///< whether Save would write anything
-    std::string bytes;                      ///< the file; of no use when it would not
+    WriteResult result;                     ///< whether Save would succeed
+    std::string bytes;                      ///< the file; unspecified if Save would fail
     Charset charset = Charset::Windows1252; ///< its encoding
 };
 
-/// The file as it would be if the dialog were opened on it, one change made and taken back, and
-/// Save pressed.
+/// The file as Save would write it if the dialog were opened on it and one change were made and
+/// undone.
 SavePreview PreviewSave(const InspectedFile& file, const InspectionSettings& settings);
 
 } // namespace ov

@@ -19,7 +19,7 @@ std::vector<Text> HeaderLines(const HeaderInfo& info)
     return lines;
 }
 
-/// What stands between two marks of the line, the first mark found counting; nothing without them.
+/// The text up to the first occurrence of a mark, which is removed too; nothing if there is no mark.
 std::optional<Text> Between(TextView& line, TextView mark)
 {
     const std::size_t found = line.find(mark);
@@ -33,7 +33,7 @@ std::optional<Text> Between(TextView& line, TextView mark)
 
 std::optional<HeaderInfo> ReadSavedHeader(std::span<const Text> lines)
 {
-    // The marks that stand around the three texts come from the header itself.
+    // The marks around the three texts are taken from the header itself.
     static const std::vector<Text> pattern = HeaderLines({u"\1", u"\2", u"\3"});
     const auto line =
         std::ranges::find_if(pattern, [](const Text& each) { return each.find(u'\1') != Text::npos; });

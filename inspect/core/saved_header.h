@@ -13,8 +13,8 @@ namespace ov
 /// The number of lines of the header that Save writes.
 inline constexpr std::size_t kSavedHeaderLines = 13;
 
-/// What the header of a file says about its last save. Nothing when the lines, given
-/// without line ends, are not a header as Save writes it.
+/// The data about the last save in a file's header. Nothing if the lines, given without
+/// line ends, are not a header in the form that Save writes.
 std::optional<HeaderInfo> ReadSavedHeader(std::span<const Text> lines);
 
 } // namespace ov

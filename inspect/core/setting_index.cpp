@@ -45,8 +45,8 @@ const std::vector<Text>& KnownVariables()
     return known;
 }
 
-/// How many letters have to be changed, added or removed to make one text of the other; more
-/// than `largest` when it is more than that.
+/// The number of letters to change, add or remove to turn one text into the other; more than
+/// `largest` if it exceeds that.
 std::size_t Difference(TextView one, TextView other, std::size_t largest)
 {
     if (one.size() > other.size())
@@ -71,8 +71,8 @@ std::size_t Difference(TextView one, TextView other, std::size_t largest)
     return row[other.size()];
 }
 
-/// Whether a name may be similar to a known one, which all begin alike: of three pieces of that
-/// beginning, two wrong letters leave one whole.
+/// A quick check whether a name may be similar to a known one. All known names begin alike: of three
+/// pieces of that beginning, two wrong letters leave one unchanged.
 bool MayBeSimilar(TextView folded)
 {
     const TextView beginning = folded.substr(0, 14);
@@ -101,7 +101,7 @@ const PageTemplate& TemplateOf(const PageRows& page)
     return *FindTemplate(page.info.templateId);
 }
 
-/// The captions of what a list or group of radio buttons offers.
+/// The captions of the entries of a list or the buttons of a group.
 std::vector<Text> CaptionsOfChoices(const PageRows& page, ControlKind control, int controlId)
 {
     std::vector<Text> captions;
@@ -118,7 +118,7 @@ std::vector<Text> CaptionsOfChoices(const PageRows& page, ControlKind control, i
     return captions;
 }
 
-/// What is stored when a control that the setting is chosen with shows this number.
+/// The stored text if the control that sets the setting shows this number.
 Text StoredChoice(const SettingPlace& place, int controlId, int number)
 {
     if (place.row->controlId == controlId)
@@ -127,7 +127,7 @@ Text StoredChoice(const SettingPlace& place, int controlId, int number)
     values.CompanionNumberOf(controlId) = number;
     if (place.page->refresh != nullptr)
         place.page->refresh(values);
-    // Without a window, so that no comments are made.
+    // Saved as a page without a window, so that no comments are created.
     SettingStore store;
     values.Save(store, false);
     return store.GetSettingValue(place.row->variable, kCurrentTable);
@@ -145,7 +145,7 @@ std::vector<Choice> FindChoices(const SettingPlace& place)
         if (TextView(row.variable) == place.row->variable)
             add(row.control, row.controlId);
     }
-    // A setting that several lists put together is no choice of one of them.
+    // A setting composed of several lists is not a choice of any one of them.
     if (controls.size() != 1)
         return {};
     const auto [control, controlId] = controls.front();
@@ -155,7 +155,7 @@ std::vector<Choice> FindChoices(const SettingPlace& place)
         Text value = StoredChoice(place, controlId, number++);
         const bool isThere =
             std::ranges::any_of(choices, [&](const Choice& each) { return each.value == value; });
-        // The last button of a group may leave the text to the user.
+        // The last button of a group may let the user edit the text.
         if (!isThere)
             choices.push_back({std::move(value), caption});
     }

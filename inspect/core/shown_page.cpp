@@ -15,8 +15,8 @@ ShownPage::ShownPage(const PageRows& rows, std::chrono::year_month_day today)
     Refresh();
 }
 
-// What the controls show stays apart from the values: a hook may change a value
-// without showing it, and then the control has the last word when the page is saved.
+// The contents of the controls are separate from the values: a hook may change a value
+// without showing it, and when the page is saved the control's content counts.
 void ShownPage::ShowValues()
 {
     for (std::size_t row = 0; row < m_rows->settings.size(); ++row) {
@@ -56,8 +56,8 @@ void ShownPage::Refresh()
 
 void ShownPage::Load(const SettingStore& store, int table)
 {
-    // The page of the scan period begins with this, since what a text does not
-    // reach keeps what the controls show; for all others it changes nothing.
+    // The Scan Period page begins with this, because its controls provide what the stored text
+    // does not contain. For all other pages it has no effect.
     ReadControls();
     Refresh();
     try {

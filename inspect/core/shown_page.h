@@ -7,29 +7,29 @@
 namespace ov
 {
 
-/// A page of the dialog as it is once its window exists: its values, and what its
-/// controls show of them, without a window. Loading and saving do step by step
-/// what the dialog's page does, so that the same bytes come out.
+/// A page of the dialog after its window was created: its values and the contents
+/// of its controls, without a window. Loading and saving follow the dialog's page
+/// step by step, so that they produce the same bytes.
 class ShownPage
 {
   public:
-    /// A page that has just been created, with nothing in the store yet.
+    /// A page that has just been created, with an empty store.
     ShownPage(const PageRows& rows, std::chrono::year_month_day today);
 
     const PageRows& Rows() const { return *m_rows; }
 
-    /// The values after the last load, as the page's dependencies see them.
+    /// The values after the last load, for evaluating the page's dependencies.
     const PageValues& Values() const { return m_values; }
 
-    /// Takes the settings from one of the store's tables. A date that does not
-    /// exist, which the dialog reports, leaves the values that it then shows.
+    /// Loads the settings from one of the store's tables. For an impossible date,
+    /// which the dialog reports, the values are those that the dialog then shows.
     void Load(const SettingStore& store, int table);
 
-    /// Writes the settings into the current table, as Save does for a page whose
-    /// window exists.
+    /// Writes the settings into the current table, as Save does for a page that has
+    /// a window.
     void Save(SettingStore& store);
 
-    /// Whether the dependency's control is enabled, or shown.
+    /// True if the dependency's control is enabled, or shown.
     bool Holds(const DependencyRow& dependency) const { return m_values.Holds(dependency); }
 
   private:
@@ -39,7 +39,7 @@ class ShownPage
 
     const PageRows* m_rows;
     PageValues m_values;
-    PageValues m_controls; ///< what the controls show
+    PageValues m_controls; ///< the contents of the controls
 };
 
 } // namespace ov
