@@ -10,14 +10,14 @@
 namespace ov
 {
 
-/// A line of a document: every byte of the file belongs to exactly one of its two parts.
+/// A line of a document. Every byte of the file belongs to exactly one of its two parts.
 struct DocumentLine {
-    std::string_view text; ///< What the reader takes for the line.
-    std::string_view end;  ///< "\n", "\r\n", or nothing at the end of a file without a final line end.
+    std::string_view text; ///< The line as the reader parses it.
+    std::string_view end;  ///< "\n", "\r\n", or empty at the end of a file without a final line end.
 };
 
-/// The bytes of a configuration file as lines, cut as the reader cuts them. Nothing is lost: the lines
-/// one after the other are the file. Changes are made by LineEdits, which leaves the document as it is.
+/// The lines of a configuration file, split as the reader splits them. The split is lossless: joined,
+/// the lines are the file. LineEdits makes changes and does not modify the document.
 class Document
 {
   public:
@@ -29,11 +29,11 @@ class Document
     std::size_t LineCount() const { return m_lines.size(); }
     const DocumentLine& Line(std::size_t line) const { return m_lines[line]; }
 
-    /// The line taken apart, as the reader understands it.
+    /// The line parsed as the reader parses it.
     ConfigLine Parts(std::size_t line) const { return ParseConfigLine(m_lines[line].text); }
 
-    /// The line end for a new line below the given line: that of the line itself, else of the nearest
-    /// line before it, else CR LF.
+    /// The line end for a new line below the given line: that line's own, else that of the nearest line
+    /// before it, else CR LF.
     std::string_view EndBelow(std::size_t line) const;
 
   private:

@@ -23,8 +23,8 @@ std::vector<Text> LinesOfBlock(const Text& block)
     return lines;
 }
 
-// The number of lines above the blank line that ends the header, which the reader drops; 0 when an
-// assignment comes before a blank line.
+// The number of lines before the blank line that ends the header, which the reader discards; 0 if an
+// assignment comes before the first blank line.
 std::size_t HeaderLineCount(const Document& document)
 {
     for (std::size_t i = 0; i < document.LineCount(); ++i) {
@@ -35,7 +35,7 @@ std::size_t HeaderLineCount(const Document& document)
     return 0;
 }
 
-// A name with the value of its variable.
+// A name and the value of its variable.
 using NamedValue = std::pair<CompactView, CompactView>;
 
 std::vector<NamedValue> ValuesOfOthers(const SettingStore& store, const std::set<Text>& named)
@@ -148,7 +148,7 @@ void EditSession::RemoveVariable(TextView name)
         m_result.commentsLeft.emplace_back(name);
 }
 
-// How many lines directly above the line are the given comment block, as the reader takes it.
+// The length of the given comment block if it is directly above the line, as the reader reads it; else 0.
 std::size_t EditSession::DialogCommentAbove(std::size_t line, const Text& comment) const
 {
     const std::vector<Text> block = LinesOfBlock(comment);
@@ -163,8 +163,8 @@ std::size_t EditSession::DialogCommentAbove(std::size_t line, const Text& commen
     return block.size();
 }
 
-// True when a blank line ends the header and, without it, the header would be taken for the comment of
-// the variable that follows the removed lines.
+// True if a blank line ends the header and must remain: without it the header would become the comment
+// of the variable after the removed lines.
 bool EditSession::SeparatesHeader(std::size_t blankLine, std::size_t lastRemoved) const
 {
     if (m_document.Parts(blankLine).kind != LineKind::Blank)
@@ -187,7 +187,7 @@ std::string EditSession::Indentation(std::size_t line) const
         text.substr(0, static_cast<std::size_t>(m_document.Parts(line).text.data() - text.data())));
 }
 
-// The text in the file's encoding. Refuses the edit where that lacks a character.
+// The text in the file's encoding. Refuses the edit if the encoding lacks a character.
 std::optional<std::string> EditSession::Encoded(TextView name, TextView text)
 {
     std::string bytes;
@@ -214,7 +214,7 @@ EditResult EditSession::Finish()
     return std::move(m_result);
 }
 
-// Refuses the edit unless the named variables are read back as wanted and all others as before.
+// Refuses the edit unless the named variables read back as wanted and all others as before.
 void EditSession::Check()
 {
     const Charset charset = m_file.CharsetOf(m_result.bytes);

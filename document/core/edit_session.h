@@ -16,8 +16,8 @@
 namespace ov
 {
 
-/// What all edits of variables share: the file, the lines that are to change, what the named variables
-/// are to be afterwards, and the check that they are.
+/// The common part of all edits of variables: the file, the lines to change, the values that the named
+/// variables must have afterwards, and the check that they have them.
 class EditSession
 {
   public:
@@ -28,34 +28,34 @@ class EditSession
     const SettingStore& Before() const { return m_before; }
     VariableFacts Facts(TextView name) const { return m_factsOf(name); }
 
-    /// The variable's lines; none when it is absent.
+    /// The variable's lines; empty if the variable is absent.
     std::span<const VariableLine> LinesOf(TextView name) const;
 
-    /// True when the variable's lines may be changed, or a new one be appended. Else refuses the edit.
+    /// True if the variable's lines may be changed, or a new one appended. Otherwise refuses the edit.
     bool MayChange(TextView name);
 
-    /// The value that a line by itself gives, as the reader takes it.
+    /// The value of a line alone, as the reader reads it.
     Text ValueOf(std::size_t line) const;
 
-    /// Gives a line another operator and value. What is before the value stays where the operator does.
+    /// Changes the operator and value of a line. Text before the value is kept unless the operator changes.
     void Rewrite(std::size_t line, char operation, TextView name, TextView valueText);
 
     /// Inserts a line of a variable below one of its lines, with the same indentation.
     void InsertBelow(std::size_t line, char operation, TextView name, TextView valueText);
 
-    /// Appends lines of a variable that is not there yet, under the dialog's comment.
+    /// Appends the lines of a new variable, under the comment that the dialog would write.
     void AppendNew(TextView name, const VariableFacts& facts,
                    const std::vector<std::pair<char, Text>>& lines);
 
-    /// Removes all lines of a variable that is there, and its comment if that is the dialog's.
+    /// Removes all lines of an existing variable, and its comment if the dialog wrote it.
     void RemoveVariable(TextView name);
 
-    /// Says which value the variable is to have afterwards; nothing when it is to be absent.
+    /// Sets the value that the variable must have afterwards; nothing if it must be absent.
     void Want(TextView name, std::optional<Text> value) { m_wanted.emplace_back(name, std::move(value)); }
 
     void Refuse(EditRefusal reason, TextView name, Text detail = {});
 
-    /// Applies the edits and reads the result again.
+    /// Applies the edits, reads the result and checks it.
     EditResult Finish();
 
   private:
@@ -70,7 +70,7 @@ class EditSession
     Charset m_charset;
     Document m_document;
     VariableLines m_lines;
-    std::size_t m_headerLines; ///< Above the blank line that ends the header.
+    std::size_t m_headerLines; ///< Before the blank line that ends the header.
     LineEdits m_edits;
     SettingStore m_before;
     std::vector<std::pair<Text, std::optional<Text>>> m_wanted;

@@ -12,10 +12,10 @@ namespace
 
 constexpr std::size_t kNone = std::numeric_limits<std::size_t>::max();
 
-// Beyond this many differing lines a gap without lines that occur once is taken as replaced as a whole.
+// A gap without unique lines and with more differing lines than this counts as completely replaced.
 constexpr std::size_t kMostDifferences = 400;
 
-// A part of both texts, ends excluded.
+// A range of lines in both texts; ends are exclusive.
 struct Range {
     std::size_t oldStart;
     std::size_t oldEnd;
@@ -23,17 +23,17 @@ struct Range {
     std::size_t newEnd;
 };
 
-// A line that is kept: its positions in both texts.
+// An unchanged line: its positions in both texts.
 struct Match {
     std::size_t oldLine;
     std::size_t newLine;
 };
 
-// The longest run of matches that ascends in both texts; the given ones ascend in the new text.
+// The longest sequence of matches that ascends in both texts. The input ascends in the new text.
 std::vector<Match> LongestAscending(const std::vector<Match>& matches)
 {
-    std::vector<std::size_t> ends;                            // For each length the best last match.
-    std::vector<std::size_t> previous(matches.size(), kNone); // The match before, in the best run.
+    std::vector<std::size_t> ends;                            // The best last match for each length.
+    std::vector<std::size_t> previous(matches.size(), kNone); // The preceding match in the best sequence.
     for (std::size_t i = 0; i < matches.size(); ++i) {
         const auto place =
             std::lower_bound(ends.begin(), ends.end(), matches[i].oldLine,
@@ -87,7 +87,7 @@ class LineDiffer
     }
 
   private:
-    // How often a line occurs in a range, and where in the old text.
+    // The number of times that a line occurs in a range, and its position in the old text.
     struct Uses {
         std::uint32_t oldCount = 0;
         std::uint32_t newCount = 0;
@@ -100,7 +100,7 @@ class LineDiffer
         m_newKept[newLine] = true;
     }
 
-    // Keeps what both parts begin and end with; gives what is between.
+    // Keeps the common beginning and end of both parts; returns the range between them.
     Range KeepEnds(Range range)
     {
         while (range.oldStart < range.oldEnd && range.newStart < range.newEnd &&
@@ -134,7 +134,7 @@ class LineDiffer
         return matches;
     }
 
-    // Keeps the anchors and leaves what is between them open.
+    // Keeps the anchors and adds the ranges between them to `open`.
     void Divide(Range range, const std::vector<Match>& anchors, std::vector<Range>& open)
     {
         for (const Match& anchor : anchors) {
@@ -146,14 +146,14 @@ class LineDiffer
         open.push_back(range);
     }
 
-    // Finds the fewest differences by extending paths of 0, 1, 2, ... differences as far as they go.
-    // Each round's furthest positions are kept for the way back.
+    // Finds the smallest difference by extending paths of 0, 1, 2, ... differences as far as possible.
+    // The furthest positions of each round are stored for tracing the path back.
     void KeepFewDifferences(const Range& range)
     {
         const std::size_t oldCount = range.oldEnd - range.oldStart;
         const std::size_t newCount = range.newEnd - range.newStart;
         const std::size_t most = std::min(oldCount + newCount, kMostDifferences);
-        // On diagonal k the old position is k higher than the new one; `reach[k + most + 1]` is the old one.
+        // On diagonal k the old position exceeds the new one by k; `reach[k + most + 1]` is the old position.
         std::vector<std::size_t> reach(2 * most + 3);
         std::vector<std::vector<std::size_t>> rounds;
         for (std::size_t differences = 0; differences <= most; ++differences) {
@@ -163,7 +163,7 @@ class LineDiffer
                 std::size_t x = step == 0 || (step < differences && reach[at - 1] < reach[at + 1])
                                     ? reach[at + 1]
                                     : reach[at - 1] + 1;
-                // The new position; beyond either end where the diagonal leaves both texts.
+                // The new position. It is out of range where the diagonal leaves both texts.
                 std::size_t y = x + most + 1 - at;
                 while (x < oldCount && y < newCount &&
                        m_old[range.oldStart + x] == m_new[range.newStart + y]) {
@@ -225,11 +225,11 @@ class LineDiffer
         return changes;
     }
 
-    std::vector<std::uint32_t> m_old; // A number for each line: equal lines have equal ones.
+    std::vector<std::uint32_t> m_old; // A number for each line; equal lines have equal numbers.
     std::vector<std::uint32_t> m_new;
     std::vector<bool> m_oldKept;
     std::vector<bool> m_newKept;
-    std::vector<Uses> m_uses; // By number; empty between two uses.
+    std::vector<Uses> m_uses; // By line number; empty between two uses.
 };
 
 } // namespace

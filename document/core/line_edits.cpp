@@ -7,11 +7,11 @@ namespace ov
 namespace
 {
 
-// Puts lines behind one another. A line without a line end gets one when another one follows.
+// Joins lines. A line without a line end gets one if another line follows.
 class LineJoiner
 {
   public:
-    // `end` is the line end for the case that the line has none and another one follows.
+    // `endWhenNeeded` is used if `end` is empty and another line follows.
     void Add(std::string_view text, std::string_view end, std::string_view endWhenNeeded)
     {
         m_bytes.append(m_neededEnd);
@@ -20,7 +20,7 @@ class LineJoiner
         m_neededEnd = end.empty() ? endWhenNeeded : std::string_view();
     }
 
-    // The lines as a file that ends with a line end or does not.
+    // The joined lines, with or without a final line end.
     std::string Finish(bool withFinalEnd)
     {
         if (withFinalEnd)
@@ -32,8 +32,8 @@ class LineJoiner
 
   private:
     std::string m_bytes;
-    std::string_view m_end;       // Of the last line.
-    std::string_view m_neededEnd; // What the last line needs should another one follow.
+    std::string_view m_end;       // The line end of the last line.
+    std::string_view m_neededEnd; // The line end that the last line needs if another line follows.
 };
 
 } // namespace

@@ -11,41 +11,41 @@
 namespace ov
 {
 
-/// Changes of a document's lines, collected and then applied at once. Lines are named by their numbers
-/// in the document, which the changes do not alter. The document must outlive the edits.
+/// Changes of a document's lines, collected and then applied together. Line numbers refer to the
+/// document, which the changes do not modify. The document must outlive this object.
 class LineEdits
 {
   public:
     explicit LineEdits(const Document& document) : m_document(document) {}
 
-    /// Gives a line another text; its line end stays.
+    /// Replaces a line's text; its line end remains.
     void Replace(std::size_t line, std::string text);
 
-    /// Removes a line with its line end.
+    /// Removes a line including its line end.
     void Erase(std::size_t line);
 
-    /// True for a line that Erase was called for.
+    /// True if Erase was called for the line.
     bool IsErased(std::size_t line) const;
 
-    /// Inserts a line below the given one, behind those that were inserted there before. Also below a
-    /// line that is removed.
+    /// Inserts a line below the given one, after lines inserted there earlier. The given line may be
+    /// one that is removed.
     void InsertBelow(std::size_t line, std::string text);
 
-    /// Inserts a line above the given one, behind those that were inserted there before.
+    /// Inserts a line above the given one, after lines inserted there earlier.
     void InsertAbove(std::size_t line, std::string text);
 
-    /// Adds a line at the end of the file, behind those that were added before.
+    /// Adds a line at the end of the file, after lines added earlier.
     void Append(std::string text);
 
-    /// The bytes of the changed file. Every line that was not changed keeps its bytes; where lines are
-    /// left, the file ends with a line end exactly when it did before. An empty file gets one.
+    /// The bytes of the changed file. Every unchanged line keeps its bytes. Unless all lines were removed,
+    /// the file ends with a line end if and only if it did before. An empty file gets one.
     std::string Apply() const;
 
   private:
     struct Change {
         bool replaced = false;
         bool erased = false;
-        std::string text;               ///< Of a replaced line.
+        std::string text;               ///< The new text of a replaced line.
         std::vector<std::string> above; ///< Lines inserted above it.
         std::vector<std::string> below; ///< Lines inserted below it.
     };

@@ -18,7 +18,7 @@ namespace
 
 using Entries = ListEntries;
 
-// A change of a list, with the entries that are not there yet and those that are to go.
+// A change of a list: the entries to add that are not there yet, and the entries to remove.
 class EntryChange
 {
   public:
@@ -43,7 +43,7 @@ class EntryChange
         }
     }
 
-    /// Takes the entries away that are to go; true when there were any.
+    /// Removes the entries that have to go from `entries`; true if there were any.
     bool Remove(Entries& entries) const
     {
         return std::erase_if(entries, [this](const Text& entry) {
@@ -67,26 +67,26 @@ class EntryChange
 
     ListFormat m_format;
     Entries m_entries;
-    Entries m_removed; // The keys.
+    Entries m_removed; // The keys of the entries to remove.
     Entries m_prepended;
     Entries m_appended;
     bool m_changed = false;
 };
 
-// A line that the variable is to have: an old one, changed or not, or a new one.
+// A line that the variable has after the edit: an old one, changed or not, or a new one.
 struct PlannedLine {
-    std::optional<std::size_t> line; // The number of an old line.
+    std::optional<std::size_t> line; // The number of an old line; nothing for a new line.
     char operation;
     Entries entries;
     bool changed = false;
 };
 
-// Plans the lines of a list that is spread over lines: the first one that counts, then lines with ">"
-// and "<", each of which has entries of its own.
+// Plans the lines of a list with several lines: the first effective line, then lines with ">" and
+// "<", each with its own entries.
 class LinePlan
 {
   public:
-    // The lines that count: from the last "=" line on. False when one of them hides what is in it.
+    // Reads the effective lines: from the last "=" line on. False if the entries of one cannot be determined.
     bool Read(const EditSession& session, std::span<const VariableLine> lines, const ListFormat& format)
     {
         auto first = std::find_if(lines.rbegin(), lines.rend(), [](const VariableLine& line) {
@@ -97,7 +97,7 @@ class LinePlan
         m_inherited = first->operation != '=';
         for (; first != lines.end(); ++first) {
             if (!m_lines.empty() && first->operation == ':')
-                continue; // The variable is defined already.
+                continue; // Has no effect: the variable is already defined.
             if (first->operation == '+')
                 return false;
             m_lines.push_back(
@@ -127,7 +127,7 @@ class LinePlan
     const std::list<PlannedLine>& Lines() const { return m_lines; }
 
   private:
-    // Another line takes the place of a "=" line without entries: one with ">", else one with "<".
+    // If the "=" line has no entries left, the entries of another line move there: ">" first, else "<".
     void KeepBase(const PlannedLine& base)
     {
         const bool there = !m_lines.empty() && m_lines.front().line == base.line;
@@ -149,7 +149,7 @@ class LinePlan
         m_lines.insert(m_lines.begin(), std::move(heir));
     }
 
-    // Where no line with "<" follows, the new entries go to the front as the writer would have them.
+    // If no line with "<" follows, new entries are put first in the same form as the writer's.
     void Prepend(const Entries& entries)
     {
         const bool prepends = std::any_of(m_lines.begin(), m_lines.end(),
@@ -178,7 +178,7 @@ class LinePlan
         }
     }
 
-    // The variable keeps its first line, and with it the comment above.
+    // The variable keeps its first line, and with it the comment above that line.
     void KeepFirstPlace(std::size_t first)
     {
         if (m_lines.empty() || m_lines.front().line == first)
@@ -191,8 +191,8 @@ class LinePlan
     bool m_inherited = false;
 };
 
-// The entries as the text of a line. The writer has quotes around a value that is the only line, and
-// none around the items of a list; a line of several entries keeps those that it has.
+// The text of a line with these entries. The writer quotes a value that is the only line, but not
+// the items of a list. A line with several entries keeps its quotes.
 Text LineText(const EditSession& session, const PlannedLine& planned, bool onlyLine, const ListFormat& format)
 {
     const Text text = JoinEntries(planned.entries, format);
@@ -223,7 +223,7 @@ void ApplyPlan(EditSession& session, TextView name, std::span<const VariableLine
     }
 }
 
-// True when all entries can be ones of a list. Else refuses the edit.
+// True if all entries can be list entries. Otherwise refuses the edit.
 bool AreEntries(EditSession& session, TextView name, const Entries& entries, const ListFormat& format)
 {
     for (const Text& entry : entries) {
@@ -238,8 +238,8 @@ bool AreEntries(EditSession& session, TextView name, const Entries& entries, con
     return true;
 }
 
-// A variable that is not there yet extends what an earlier file says; one whose entries are in one
-// line cannot.
+// A new variable extends the value from earlier files. If its entries have to be in one line, that is
+// not possible.
 void AppendList(EditSession& session, TextView name, const EntryChange& change, const VariableFacts& facts)
 {
     std::vector<std::pair<char, Text>> lines;
@@ -255,7 +255,7 @@ void AppendList(EditSession& session, TextView name, const EntryChange& change, 
     session.AppendNew(name, facts, lines);
 }
 
-// Changes the lines of a variable that is there. False when they do not show what is in which of them.
+// Changes the lines of an existing variable. False if it is unclear which entries each line has.
 bool ChangeLines(EditSession& session, TextView name, const EntryChange& change, const ListFormat& format)
 {
     const auto lines = session.LinesOf(name);
@@ -312,7 +312,7 @@ EditResult ChangeList(const EditedFile& file, const Text& name, const ListChange
     if (!planned && !assigned)
         session.Refuse(EditRefusal::ListNotPlain, name);
     EditResult result = session.Finish();
-    // Lines that the reader joins in another way are written again as a whole, where a "=" line says
+    // Lines that the reader combines in another way are rewritten completely, if a "=" line shows
     // that nothing is inherited.
     if (assigned && (!planned || !result.refused.empty()))
         return SetVariables(file, {{name, wanted}}, factsOf);

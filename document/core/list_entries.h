@@ -8,16 +8,16 @@
 namespace ov
 {
 
-/// The entries of a list value, with the blanks and qualifiers that they have there.
+/// The entries of a list value, including blanks and qualifiers.
 using ListEntries = std::vector<Text>;
 
-/// The entries of a list value; empty ones too.
+/// The entries of a list value, including empty ones.
 ListEntries EntriesOf(TextView value, const ListFormat& format);
 
-/// The entries as a value.
+/// Joins the entries to a value.
 Text JoinEntries(const ListEntries& entries, const ListFormat& format);
 
-/// An entry as it is compared with others: without the blanks around it and without its qualifiers.
+/// An entry as used in comparisons: without surrounding blanks and without its qualifiers.
 Text EntryKey(TextView entry, const ListFormat& format);
 
 } // namespace ov

@@ -13,15 +13,15 @@ constexpr std::size_t kContext = 3;
 
 using Lines = std::vector<std::string_view>;
 
-// Behind a name with blanks `patch` needs a tab to see where the name ends.
+// After a name with blanks `patch` needs a tab to find the end of the name.
 std::string NameLine(std::string_view mark, std::string_view name)
 {
     const bool hasBlank = name.find_first_of(" \t") != std::string_view::npos;
     return std::string(mark) + " " + std::string(name) + (hasBlank ? "\t\n" : "\n");
 }
 
-// "3,7": the first line and their number. An empty run is named by the line before it, and a single
-// line by itself.
+// "3,7": the first line and the number of lines. An empty range has the number of the line before it; a
+// single line has no count.
 std::string RangeText(std::size_t start, std::size_t count)
 {
     const std::string first = std::to_string(count == 0 ? start : start + 1);
@@ -38,7 +38,7 @@ void AppendLines(std::string& out, char mark, const Lines& lines, std::size_t st
     }
 }
 
-// Appends the changes of one piece, with the common lines around and between them.
+// Appends the changes of one hunk, with the common lines around and between them.
 void AppendPiece(std::string& out, const Lines& oldLines, const Lines& newLines,
                  const std::vector<LineChange>& changes, std::size_t first, std::size_t last)
 {

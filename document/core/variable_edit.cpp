@@ -12,7 +12,7 @@ namespace ov
 namespace
 {
 
-// True when one "=" line, and no line before it, gives the variable the value that it has.
+// True if one "=" line, with no line before it, sets the variable to its value.
 bool IsSetPlainly(std::span<const VariableLine> lines)
 {
     return !lines.empty() && lines.front().operation == '=' &&
@@ -20,7 +20,7 @@ bool IsSetPlainly(std::span<const VariableLine> lines)
                         [](const VariableLine& line) { return line.operation == '='; });
 }
 
-// The line that keeps the variable: its last "=" line, else its first one.
+// The line that remains for the variable: its last "=" line, or its first line if there is none.
 std::size_t KeptLine(std::span<const VariableLine> lines)
 {
     const auto last = std::find_if(lines.rbegin(), lines.rend(),

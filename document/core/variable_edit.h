@@ -12,36 +12,36 @@
 namespace ov
 {
 
-/// Why an edit is refused.
+/// Why an edit was refused.
 enum class EditRefusal {
     Conditional,      ///< The variable is assigned between "%if" and "%endif".
-    EndsInCondition,  ///< A new variable would be behind an open "%if".
-    CharacterLacking, ///< The file's encoding lacks a character: `detail`.
+    EndsInCondition,  ///< A new variable would come after an open "%if".
+    CharacterLacking, ///< The file's encoding lacks the character in `detail`.
     EmptyEntry,       ///< A list entry is empty.
-    SeveralEntries,   ///< A list entry has the list's separator, `detail`, in it.
-    ListNotPlain,     ///< The variable's lines do not show which of them has which entries.
-    NameNotKept,      ///< The reader would take the name for something else.
-    ValueNotKept,     ///< The value would be read back as another one.
-    OtherChanged,     ///< Another variable, `name`, would be read back with another value.
-    EncodingChanged,  ///< The file would be taken for one in another encoding.
+    SeveralEntries,   ///< A list entry contains the list's separator, which is in `detail`.
+    ListNotPlain,     ///< The variable's lines do not show which line has which entries.
+    NameNotKept,      ///< The reader would not read the name back as a name.
+    ValueNotKept,     ///< The value would read back as another one.
+    OtherChanged,     ///< Another variable, `name`, would read back with another value.
+    EncodingChanged,  ///< The file would appear to have another encoding.
 };
 
-/// A refusal with the variable that it is about.
+/// A refusal and the variable that it concerns.
 struct RefusedEdit {
     EditRefusal reason;
     Text name;
     Text detail;
 };
 
-/// What came of an edit.
+/// The result of an edit.
 struct EditResult {
-    std::string bytes;                ///< The file afterwards; of no use when something is refused.
-    std::vector<RefusedEdit> refused; ///< Empty when the edit may be written.
-    std::vector<Text> commentsLeft;   ///< Variables that were removed and whose comment stays.
+    std::string bytes;                ///< The file after the edit; unspecified if something was refused.
+    std::vector<RefusedEdit> refused; ///< Empty if the edit may be written.
+    std::vector<Text> commentsLeft;   ///< Removed variables whose comments remain.
 };
 
-/// A file that is to be edited. The encoding that was asked for, else the bytes decide, before and
-/// after the edit.
+/// The file to edit. Its encoding is the requested one, otherwise it is detected from the bytes, before
+/// and after the edit.
 struct EditedFile {
     std::string_view bytes;
     std::optional<Charset> charset;
@@ -55,22 +55,22 @@ struct NewValue {
     Text value;
 };
 
-/// What is to be done to the entries of a list, in this order.
+/// Changes of a list's entries, applied in this order.
 struct ListChange {
     std::vector<Text> remove;
     std::vector<Text> prepend;
     std::vector<Text> append;
 };
 
-// The edits change the lines of the named variables and no others. Afterwards the file is read again:
-// an edit is refused unless the named variables have exactly the wanted values and all others their old
-// ones. A value that a variable already has, a variable that is already absent and an entry that is
-// already there or absent need no change.
+// The edits change the lines of the named variables only. Afterwards the result is read back: an edit
+// is refused unless the named variables have exactly the wanted values and all others their old ones.
+// A variable that already has the value, or is already absent, and an entry that is already
+// there, or already absent, need no change.
 
-/// Gives variables new values. A name must not occur twice.
+/// Sets variables to new values. A name must not occur twice.
 EditResult SetVariables(const EditedFile& file, const std::vector<NewValue>& values, const FactsOf& factsOf);
 
-/// Removes variables, with their comments where those are the dialog's.
+/// Removes variables, with their comments if the dialog wrote them.
 EditResult UnsetVariables(const EditedFile& file, const std::vector<Text>& names, const FactsOf& factsOf);
 
 /// Changes the entries of a list variable.

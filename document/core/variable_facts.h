@@ -10,16 +10,16 @@
 namespace ov
 {
 
-/// What is known of a variable besides a file: what the pages say of their settings. The defaults hold
-/// for a variable that no page has.
+/// What is known about a variable from the pages, independent of any file. The default values apply
+/// to a variable that no page has.
 struct VariableFacts {
-    std::optional<SettingKind> kind; ///< Absent: the kind follows from the value, as for the reader.
-    bool isList = false;             ///< A list for certain; else it is one when it has a separator.
-    ListFormat list;                 ///< How entries are put into its value.
-    Text comment; ///< The comment block that the dialog gives it when it is new; empty for none.
+    std::optional<SettingKind> kind; ///< Nothing: the kind is derived from the value, as the reader does.
+    bool isList = false;             ///< Known to be a list; otherwise it is one if it contains a separator.
+    ListFormat list;                 ///< How entries are stored in its value.
+    Text comment; ///< The comment block that the dialog writes for it when it is new; may be empty.
 };
 
-/// Gives the facts of a variable by its name.
+/// Returns the facts about a variable by name.
 using FactsOf = std::function<VariableFacts(TextView name)>;
 
 } // namespace ov

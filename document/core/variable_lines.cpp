@@ -7,7 +7,7 @@ namespace ov
 namespace
 {
 
-// True when the word behind the "%" of a directive begins with the given one, in any case of letters.
+// True if the word after the "%" of a directive begins with the given one, ignoring case.
 bool IsDirective(std::string_view directive, std::string_view word)
 {
     directive.remove_prefix(1);

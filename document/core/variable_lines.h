@@ -15,34 +15,34 @@ namespace ov
 struct VariableLine {
     std::size_t line;
     char operation;   ///< '=', '>', '<', '+' or ':'.
-    bool conditional; ///< Between "%if" in any form and "%endif", or behind an open "%if".
+    bool conditional; ///< Between any form of "%if" and "%endif", or after an open "%if".
 };
 
-/// How many conditions are open, line by line: "%if" in any form opens one, "%endif" closes one.
+/// Counts the open conditions line by line: any form of "%if" opens one, "%endif" closes one.
 class ConditionDepth
 {
   public:
-    /// Goes on to the next line of the file.
+    /// Advances to the next line of the file.
     void Pass(const ConfigLine& line);
 
-    /// True when a condition is open behind the lines so far.
+    /// True if a condition is open after the lines passed so far.
     bool IsOpen() const { return m_open > 0; }
 
   private:
     std::size_t m_open = 0;
 };
 
-/// Which lines of a document assign which variable. The document must outlive it.
+/// The lines of a document by the variable that they assign. The document must outlive it.
 class VariableLines
 {
   public:
     explicit VariableLines(const Document& document);
 
-    /// The assignments of the variable in the order of the file; none when it is absent. The name is
-    /// in the bytes of the file.
+    /// The assignments of the variable in file order; empty if the variable is absent. The name is in
+    /// the bytes of the file.
     std::span<const VariableLine> Of(std::string_view name) const;
 
-    /// True when an "%if" is open at the end of the file.
+    /// True if an "%if" is open at the end of the file.
     bool EndsInCondition() const { return m_endsInCondition; }
 
   private:
@@ -50,7 +50,7 @@ class VariableLines
     bool m_endsInCondition = false;
 };
 
-/// How many lines directly above the given one are comments or blank.
+/// The number of consecutive comment and blank lines directly above the given line.
 std::size_t CommentLinesAbove(const Document& document, std::size_t line);
 
 } // namespace ov
