@@ -1,5 +1,5 @@
-// Measures reading, writing and saving of configuration files, beside other libraries on the same
-// files. The yardstick is the least that any reader must do: read the file and look for its line
+// Measures reading, writing and saving of configuration files, in comparison with other libraries on the
+// same files. The reference is the minimum work of any reader: reading the file and finding its line
 // ends.
 
 #include "bench/config_input.h"
@@ -37,7 +37,7 @@ class BenchSurroundings final : public ov::SaveSurroundings
     ov::Text ComputerName() override { return {}; }
 };
 
-// Nothing is to be asked or told here.
+// The benchmark needs no questions and no notices.
 class BenchPrompts final : public ov::SavePrompts
 {
   public:
@@ -49,7 +49,7 @@ class BenchPrompts final : public ov::SavePrompts
     void TellNoBackup(const ov::Text&) override { Require(false, "no backup could be made"); }
 };
 
-// The time of reading a file in blocks and finding its line ends, in two ways; the quicker counts.
+// The time for reading a file in blocks and finding its line ends, in two ways; the faster one counts.
 class Limit
 {
   public:
@@ -101,7 +101,7 @@ class Limit
     Race::Entry m_searching;
 };
 
-// "1.23 (4.5)": milliseconds and how often the limit's time they are.
+// "1.23 (4.5)": milliseconds, and their ratio to the limit's time.
 std::string WithRatio(double milliseconds, double limit)
 {
     return Decimal(milliseconds, milliseconds < 10 ? 3 : 1) + " (" + Decimal(milliseconds / limit, 1) + ")";
@@ -152,7 +152,7 @@ class ConfigBench
                              document.reset();
                          }));
         }
-        // As when the user chooses another file: the store is not empty.
+        // The store is not empty, as when the user chooses another file.
         ov::SettingStore store;
         SystemFilePort files;
         const Race::Entry again = race.Add([&, path = plain.u16string()] {
@@ -176,7 +176,7 @@ class ConfigBench
         Judge(variables, label, race, least, reads, written, bytes.size());
     }
 
-    // Lines that add to one and the same variable.
+    // Lines that all add to the same variable.
     void MeasureLists(int lines, int turns)
     {
         Race race;
@@ -217,8 +217,8 @@ class ConfigBench
 
   private:
     struct WriteTimes {
-        double own;      ///< Of this program, in milliseconds.
-        double bestPeer; ///< 0 without peers.
+        double own;      ///< This program's time, in milliseconds.
+        double bestPeer; ///< 0 if there are no peers.
         double save;
     };
 
@@ -235,7 +235,7 @@ class ConfigBench
             if (!contender.writes)
                 continue;
             documents.push_back(contender.read(contender.needsGroup ? grouped : plain));
-            // Line ends may have become shorter and the header is gone; else all must be there.
+            // Line ends may be shorter and the header may be missing; everything else must be there.
             const std::size_t enough = contender.keepsComment ? size - size / 20 : 1;
             writes.push_back(race.Add([document = documents.back().get(), enough] {
                 Require(document->Write() >= enough, "the written file is too short");
@@ -261,7 +261,7 @@ class ConfigBench
         return times;
     }
 
-    // Writing, the backup, and the wait for the disk.
+    // Includes writing, the backup and waiting for the disk.
     static double MeasureSave(const std::filesystem::path& file, int turns, std::size_t size)
     {
         ov::SettingStore store;
@@ -279,7 +279,7 @@ class ConfigBench
                     "cannot save");
         });
         race.Run(turns);
-        // A save writes the same with a longer header.
+        // A save writes the same content with a longer header.
         Require(std::filesystem::file_size(file) >= size, "the saved file is too short");
         return race.Best(save);
     }
@@ -303,7 +303,7 @@ class ConfigBench
             m_targets.AtLeast("reading " + count + " beside the quickest other library", bestPeer / own, 1,
                               " times as quick", 1);
         if (variables >= 100000) {
-            // Twice the quickest other library is enough where that is less.
+            // Twice the speed of the fastest peer is enough if that is lower.
             const auto speed = [size](double milliseconds) {
                 return static_cast<double>(size) / milliseconds / 1e3;
             };
@@ -322,7 +322,7 @@ class ConfigBench
 
 } // namespace
 
-// The arguments are numbers of variables; without any, all sizes are measured.
+// The arguments are numbers of variables. Without arguments, all sizes are measured.
 int main(int argc, char** argv)
 {
     std::vector<int> sizes;
@@ -336,10 +336,10 @@ int main(int argc, char** argv)
             std::printf("Not in this build, hence without a column: %s.\n\n", missing.c_str());
         ConfigBench bench;
         for (const int size : sizes) {
-            // More turns for what is quick: a short time is hit harder by what else goes on.
+            // More turns for short measurements, which other load on the machine distorts more.
             const int turns = std::clamp(2000000 / size, 5, 1000);
             bench.Measure(size, turns, std::min(turns, 50));
-            // A file that was written by hand.
+            // The size of a file written by hand.
             if (size == 100000)
                 bench.Measure(size, turns, turns, false);
         }

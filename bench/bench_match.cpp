@@ -1,5 +1,5 @@
-// Measures the matching of templates: on names, beside the C library's fnmatch, and on templates
-// and texts that are hard on a matcher.
+// Measures the matching of patterns: on names, in comparison with fnmatch of the C library, and on
+// patterns and texts that are expensive to match.
 
 #include "bench/measure.h"
 #include "match/core/pattern_match.h"
@@ -19,13 +19,13 @@ using namespace ov::bench;
 constexpr int kExact = 1;
 constexpr int kNoCase = 0;
 
-// Texts in the form of each of the two sides.
+// The same texts in the formats of both sides.
 struct Names {
     std::vector<std::string> bytes;
     std::vector<ov::Text> texts;
 };
 
-// Names of 20 characters with the beginnings and ends that the templates ask for, and others.
+// Names of 20 characters, some with the beginnings and ends in the patterns.
 Names MakeNames()
 {
     static constexpr std::string_view kLetters = "ABCDEabcde0123456789_";
@@ -53,7 +53,7 @@ bool Fits(const ov::Text& pattern, const ov::Text& text, ov::WildcardType type)
     return match != 0;
 }
 
-// What both sides found is added up, so that no call can be left out.
+// The results of both sides are added up, so that the compiler cannot remove a call.
 void MeasureNames(Table& table, Targets& targets)
 {
     const Names names = MakeNames();
@@ -109,13 +109,13 @@ ov::Text Repeated(ov::TextView part, std::size_t count)
     return text;
 }
 
-// A template and a text that are hard on a matcher.
+// A pattern and a text that are expensive to match.
 struct Hard {
     std::string what;
     ov::WildcardType type;
     ov::Text pattern;
     ov::Text text;
-    double limit; ///< What it may take, in milliseconds; 0: only reported.
+    double limit; ///< The maximum time in milliseconds; 0: only reported.
 };
 
 std::vector<Hard> MakeHardOnes()
@@ -174,7 +174,7 @@ void MeasureHardOnes(Table& table, Targets& targets)
     }
 }
 
-// Compiling a regular expression is part of every match.
+// Every match includes compiling the regular expression.
 void MeasurePerl(Table& table)
 {
     const struct {

@@ -1,6 +1,6 @@
-// Measures the memory that reading a configuration file takes, beside other libraries: for each
-// figure this program starts itself again, so that no earlier reading affects it. The time
-// of such a first reading, with all its memory still to be requested from the system, is reported too.
+// Measures the memory that reading a configuration file needs, in comparison with other libraries. The
+// program starts itself again for each figure, so that no earlier reading affects it. Also reports the
+// time of such a first reading, which has to request all its memory from the system.
 
 #include "bench/config_input.h"
 #include "bench/contenders.h"
@@ -21,7 +21,7 @@
 namespace
 {
 
-// What the C++ operators have given and not got back, in the sizes that the allocator really took.
+// The bytes allocated by the C++ operators and not yet freed, in the sizes that the allocator used.
 std::size_t g_allocated = 0;
 std::size_t g_allocatedPeak = 0;
 
@@ -54,12 +54,12 @@ namespace
 using namespace ov::bench;
 
 struct Usage {
-    double resident;  ///< By how much the resident memory grew at the most, in bytes.
+    double resident;  ///< The maximum growth of the resident memory, in bytes.
     double allocated; ///< The allocated memory at its peak, in bytes.
     double milliseconds;
 };
 
-// A line of the system's account of this process, in bytes.
+// A line of the system's status report about this process, in bytes.
 double StatusBytes(const std::string& name)
 {
     std::ifstream status("/proc/self/status");
@@ -72,10 +72,10 @@ double StatusBytes(const std::string& name)
     throw std::runtime_error("the system does not report " + name);
 }
 
-// The started process: reads the file and reports the cost.
+// Runs in the started process: reads the file and reports the cost.
 int ReadOnce(const Contender& contender, const char* path)
 {
-    // The peak is counted from here on.
+    // Resets the peak, so that it counts from here on.
     std::ofstream("/proc/self/clear_refs") << 5;
     const double residentBefore = StatusBytes("VmRSS");
     const std::size_t allocatedBefore = g_allocated;
@@ -123,7 +123,7 @@ void Measure(int variables, int turns, const Folder& folder, Table& table, Targe
     WriteBytes(grouped, bytes, true);
     const auto size = static_cast<double>(bytes.size());
 
-    // In turns, as the times are compared too.
+    // The contenders take turns, because their times are compared too.
     std::vector<Usage> best;
     for (int turn = 0; turn < turns; ++turn) {
         for (std::size_t i = 0; i < Contenders().size(); ++i) {
@@ -131,7 +131,7 @@ void Measure(int variables, int turns, const Folder& folder, Table& table, Targe
             const Usage usage = Start(std::to_string(i).c_str(), file.c_str());
             if (turn == 0)
                 best.push_back(usage);
-            // Memory is the worst, time the best of the turns.
+            // Reports the worst memory and the best time of all turns.
             best[i].resident = std::max(best[i].resident, usage.resident);
             best[i].allocated = std::max(best[i].allocated, usage.allocated);
             best[i].milliseconds = std::min(best[i].milliseconds, usage.milliseconds);
@@ -151,7 +151,7 @@ void Measure(int variables, int turns, const Folder& folder, Table& table, Targe
 
 } // namespace
 
-// Without arguments, measures. With the place of a contender and a path: reads that file once.
+// Measures if called without arguments. With a contender's index and a path, reads that file once.
 int main(int argc, char** argv)
 {
     try {

@@ -9,7 +9,7 @@
 namespace ov::bench
 {
 
-/// A configuration file that was read.
+/// A configuration file that has been read.
 class Document
 {
   public:
@@ -18,24 +18,24 @@ class Document
     /// The number of variables.
     virtual std::size_t Count() const = 0;
 
-    /// Makes the bytes of the file, drops them, and returns their number.
+    /// Creates the bytes of the file, discards them, and returns their number.
     virtual std::size_t Write() const = 0;
 };
 
-/// A reader of configuration files: this program's, or another library's for comparison.
+/// A reader of configuration files: this program's, or a peer from another library.
 struct Contender {
     std::string name;
     bool needsGroup;   ///< The variables must follow a group line, "[bench]".
-    bool keepsComment; ///< What is written holds the comments that were read.
+    bool keepsComment; ///< The written file contains the comments that were read.
     bool writes;
-    bool countsMemory; ///< All that it allocates it gets by the C++ operators.
+    bool countsMemory; ///< It allocates all its memory with the C++ operators.
     std::unique_ptr<Document> (*read)(const std::filesystem::path& path);
 };
 
-/// This program's reader first, then those that were found when this was built.
+/// This program's reader first, then the peers that were found at configuration time.
 const std::vector<Contender>& Contenders();
 
-/// The contenders that were not found, separated by ", ".
+/// The peers that were not found, separated by ", ".
 std::string MissingContenders();
 
 std::unique_ptr<Document> ReadWithGlib(const std::filesystem::path& path);

@@ -9,7 +9,7 @@
 namespace ov::bench
 {
 
-/// The file port of the platform that is measured.
+/// The file port of the platform on which the benchmark runs.
 #ifdef _WIN32
 using SystemFilePort = CWin32FilePort;
 #else

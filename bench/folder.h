@@ -6,7 +6,7 @@
 namespace ov::bench
 {
 
-/// A folder for a benchmark's files, removed with all that is in it.
+/// A folder for a benchmark's files; the destructor removes it and its contents.
 class Folder
 {
   public:
@@ -21,7 +21,7 @@ class Folder
     std::filesystem::path m_path;
 };
 
-/// Replaces a file's content: the bytes, after a group line where that is asked for.
+/// Replaces a file's content by the bytes, preceded by a group line if requested.
 void WriteBytes(const std::filesystem::path& file, const std::string& bytes, bool withGroup = false);
 
 } // namespace ov::bench

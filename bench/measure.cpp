@@ -66,7 +66,7 @@ void Table::Print() const
     bool first = true;
     for (const auto& row : m_rows) {
         for (std::size_t column = 0; column < row.size(); ++column) {
-            // Words begin at the left, numbers end at the right.
+            // Words are left-aligned, numbers right-aligned.
             const int width = static_cast<int>(widths[column]);
             std::printf("| %*s ", column == 0 ? -width : width, row[column].c_str());
         }

@@ -8,25 +8,25 @@
 namespace ov::bench
 {
 
-/// Throws std::runtime_error unless it holds: a measurement of something that failed is worth
-/// nothing.
+/// Throws std::runtime_error if `holds` is false. Measuring something that failed would be
+/// meaningless.
 void Require(bool holds, std::string_view what);
 
-/// Works whose times are compared. They take turns, so that whatever else the machine does hits all
-/// of them alike, and of each the best turn counts.
+/// Functions whose times are compared. They take turns, so that other load on the machine affects all of
+/// them equally; the best turn of each counts.
 class Race
 {
   public:
-    /// The place of a work among its race's.
+    /// The index of a function in its race.
     using Entry = std::size_t;
 
-    /// `after` is called after each turn of the work and is not timed.
+    /// `after` is called after each turn of `work`, outside the measured time.
     Entry Add(std::function<void()> work, std::function<void()> after = {});
 
-    /// Gives every work so many more turns.
+    /// Runs that many turns of every function.
     void Run(int turns);
 
-    /// The best turn of a work, in milliseconds.
+    /// The best turn of a function, in milliseconds.
     double Best(Entry entry) const { return m_runners[entry].best; }
 
   private:
@@ -39,7 +39,7 @@ class Race
     std::vector<Runner> m_runners;
 };
 
-/// A number with so many decimal places.
+/// A number with that many decimal places.
 std::string Decimal(double number, int places);
 
 /// A table with aligned columns, in Markdown.
@@ -56,7 +56,7 @@ class Table
     std::vector<std::vector<std::string>> m_rows;
 };
 
-/// What is to be reached, and whether it was.
+/// The targets, and whether they were reached.
 class Targets
 {
   public:

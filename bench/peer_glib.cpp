@@ -1,5 +1,5 @@
-// GLib's GKeyFile, with comments kept. It keeps every comment line as an entry of its own and
-// needs a group line; what it reads is else the same.
+// GLib's GKeyFile, with comments kept. It stores every comment line as an entry of its own and
+// needs a group line; otherwise it reads the same content.
 
 #include "bench/contenders.h"
 #include "bench/measure.h"

@@ -1,5 +1,5 @@
-// inih, which hands over names and values; they go into a map. It drops comments and cannot write.
-// The file is the one that the other libraries get.
+// inih, which passes names and values to a callback; they are stored in a map. It discards comments and
+// cannot write. It reads the same file as the other libraries.
 
 #include "bench/contenders.h"
 #include "bench/measure.h"

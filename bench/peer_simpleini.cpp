@@ -1,12 +1,12 @@
-// SimpleIni with names that differ by case, as this program's do. It keeps the comment lines above
-// a variable as one text with LF line ends and writes LF; what it reads is else the same, under a
+// SimpleIni with case-sensitive names, as in this program. It stores the comment lines above a variable
+// as one text with LF line ends and writes LF. Otherwise it reads the same content, below a
 // group line.
 
 #include "bench/contenders.h"
 #include "bench/measure.h"
 
-// Bytes stay bytes: no conversion library is needed. All of it is compiled here, as optimised as
-// this program.
+// Bytes are not converted, so no conversion library is needed. All its code is compiled here, with the
+// same optimisation as this program.
 #define SI_NO_CONVERSION
 #define SI_IMPLEMENTATION
 #include <SimpleIni.h>

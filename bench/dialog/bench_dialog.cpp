@@ -1,8 +1,8 @@
-// Measures how quickly the dialog opens, changes pages and saves: the library itself, called as a
-// host calls it, in this process and on this thread. The yardstick is the system's own work: the
-// windows of the same templates made, shown and drawn with nothing behind them.
+// Measures how fast the dialog opens, changes pages and saves. The library is called as a host calls
+// it, in this process and on this thread. The reference is the system's own work: creating, showing and
+// drawing windows from the same templates, without any code behind them.
 //
-// A timer drives the dialog. Timers come last in a queue: when it fires, everything is drawn.
+// A timer drives the dialog. Timer messages come last in a queue: when one arrives, everything is drawn.
 
 #include "bench/measure.h"
 #include "include/ovPreferences.h"
@@ -45,20 +45,20 @@ class Stopwatch
     std::chrono::steady_clock::time_point m_start = std::chrono::steady_clock::now();
 };
 
-// The least of several times.
+// The minimum of several times.
 struct Best {
     double milliseconds = std::numeric_limits<double>::max();
     void Take(double taken) { milliseconds = std::min(milliseconds, taken); }
 };
 
-// What is still to be drawn is drawn now, and is on its way to the screen.
+// Draws everything that is still to be drawn and sends it to the screen.
 void DrawAll(HWND dialog)
 {
     ::RedrawWindow(dialog, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
     ::GdiFlush();
 }
 
-// Calls `shown` once, when a dialog of this thread that has a Save button is visible and drawn.
+// Calls `shown` once, when a dialog of this thread with a Save button is visible and drawn.
 class WhenShown
 {
   public:
@@ -90,12 +90,12 @@ class WhenShown
         ::EnumThreadWindows(::GetCurrentThreadId(), &Find, reinterpret_cast<LPARAM>(&dialog));
         if (dialog == nullptr || s_current == nullptr)
             return;
-        // While the work runs nothing fetches messages, unless somebody asks a question.
+        // The work retrieves no messages, unless a message box opens.
         try {
             Require(!std::exchange(s_current->m_called, true), "the dialog asks a question or stays open");
             s_current->m_shown(dialog);
         } catch (const std::exception& error) {
-            // The system called; and the dialog's loop would go on for ever.
+            // The system calls this function, so no exception may leave it, and the dialog would run forever.
             std::fprintf(stderr, "bench_dialog: %s\n", error.what());
             std::_Exit(1);
         }
@@ -108,7 +108,7 @@ class WhenShown
     UINT_PTR m_timer;
 };
 
-// The windows of the dialog's templates with nothing behind them.
+// Windows from the dialog's templates without any code behind them.
 class BareDialog
 {
   public:
@@ -166,7 +166,7 @@ class BareDialog
     std::size_t m_shown = 0;
 };
 
-// Puts the library's own manifest in force, as its exports do: the same controls on both sides.
+// Activates the library's own manifest, as its exports do, so that both sides use the same controls.
 class LibraryContext
 {
   public:
@@ -216,13 +216,13 @@ std::string Ratio(const Best& measured, const Best& bare)
     return Decimal(measured.milliseconds / bare.milliseconds, 2);
 }
 
-// One set of files that the dialog opens on.
+// A set of files for opening the dialog.
 struct Opening {
     std::string label;
     std::wstring defaults;
     std::wstring current;
     Best shown;
-    double first = 0; ///< The first opening of this kind in the process.
+    double first = 0; ///< The time of the first opening of this kind in the process.
 };
 
 class DialogBench
@@ -333,7 +333,7 @@ class DialogBench
         for (HWND page : bare.Pages())
             m_pageWindows.push_back(CountWindows(page));
         for (int pass = 0; pass < kPasses; ++pass) {
-            // From the last page on: each row is then a change.
+            // Starts from the last page, so that selecting each row is a change.
             bare.Select(bare.Pages().size() - 1);
             DrawAll(bare.Window());
             for (std::size_t row = 0; row < bare.Pages().size(); ++row) {
@@ -405,7 +405,7 @@ class DialogBench
         ::SendMessageW(list, LVM_SETITEMSTATE, row, reinterpret_cast<LPARAM>(&item));
     }
 
-    // A check box of a page, so that there is something to save.
+    // Clicks a check box of a page, so that there is something to save.
     static void ChangeSomething(HWND dialog)
     {
         SelectRow(uidriver::FindControl(dialog, IDC_LEFT_PANE_LIST), 0);
@@ -424,11 +424,11 @@ class DialogBench
     {
         m_saved = ReadSample(Office());
         m_savedSize = m_saved.size();
-        // Each setting gets its comment.
+        // Every setting gets its comment.
         Require(m_savedSize > m_office.size(), "the saved file is too short");
     }
 
-    // The same bytes to the same disk, with the wait for it.
+    // Writes the same bytes to the same disk, including the wait for the disk.
     void MeasureDisk()
     {
         const std::wstring path = m_folder / L"plain.cfg";
