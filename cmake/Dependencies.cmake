@@ -1,6 +1,6 @@
 # All dependencies are packages of the distribution, installed by scripts/setup.
-# PCRE2 and GoogleTest come as sources. PCRE2 is built once per toolchain and kept outside
-# the build folder, so that a clean build does not pay for it again.
+# PCRE2 and GoogleTest are installed as sources. PCRE2 is built once per toolchain and kept
+# outside the build folder, so that a clean build does not have to build it again.
 if(DEFINED ENV{XDG_CACHE_HOME})
   set(OV_DEPS_DEFAULT "$ENV{XDG_CACHE_HOME}/ovPreferences")
 else()
@@ -24,15 +24,15 @@ set(OV_PCRE2_LIBRARY "${OV_PCRE2_PREFIX}/lib/libpcre2-8.a")
 if(NOT EXISTS "${OV_PCRE2_LIBRARY}")
   message(STATUS "Building ${OV_PCRE2_NAME} for ${CMAKE_SYSTEM_NAME}")
   set(OV_PCRE2_BUILD "${PROJECT_BINARY_DIR}/pcre2")
-  # Installed beside its place and renamed when complete: what an interruption
-  # leaves is never taken for a library.
+  # Installed into a temporary folder and renamed when complete, so that an
+  # interrupted installation is never used as a library.
   string(RANDOM LENGTH 8 OV_PCRE2_SUFFIX)
   set(OV_PCRE2_PARTIAL "${OV_PCRE2_PREFIX}.${OV_PCRE2_SUFFIX}")
   set(OV_PCRE2_TOOLCHAIN "")
   if(CMAKE_TOOLCHAIN_FILE)
     set(OV_PCRE2_TOOLCHAIN "-DCMAKE_TOOLCHAIN_FILE=${CMAKE_TOOLCHAIN_FILE}")
   endif()
-  # Rebuilds must be byte-identical wherever the sources lie, hence the map.
+  # Rebuilds must be byte-identical in every source folder, hence the map.
   execute_process(
     COMMAND
       ${CMAKE_COMMAND} -S "${OV_PCRE2_SOURCE}" -B "${OV_PCRE2_BUILD}" -G Ninja ${OV_PCRE2_TOOLCHAIN}
@@ -44,11 +44,11 @@ if(NOT EXISTS "${OV_PCRE2_LIBRARY}")
                           COMMAND_ERROR_IS_FATAL ANY OUTPUT_QUIET)
   file(RENAME "${OV_PCRE2_PARTIAL}" "${OV_PCRE2_PREFIX}" RESULT OV_PCRE2_RENAMED)
   if(NOT EXISTS "${OV_PCRE2_LIBRARY}")
-    # The folder has no library: an interrupted run left it.
+    # The folder contains no library, because an earlier run was interrupted.
     file(REMOVE_RECURSE "${OV_PCRE2_PREFIX}")
     file(RENAME "${OV_PCRE2_PARTIAL}" "${OV_PCRE2_PREFIX}")
   elseif(OV_PCRE2_RENAMED)
-    # Another build was faster.
+    # Another build finished first.
     file(REMOVE_RECURSE "${OV_PCRE2_PARTIAL}")
   endif()
 endif()
@@ -58,9 +58,9 @@ set_target_properties(
   pcre2-8 PROPERTIES IMPORTED_LOCATION "${OV_PCRE2_LIBRARY}" INTERFACE_INCLUDE_DIRECTORIES
                      "${OV_PCRE2_PREFIX}/include" INTERFACE_COMPILE_DEFINITIONS PCRE2_STATIC)
 
-# CLI11 and nlohmann-json are headers only. The cross compiler must not search
-# /usr/include, which has the headers of this machine's own C library: the two
-# folders are linked into a folder of their own.
+# CLI11 and nlohmann-json are header-only. The cross compiler must not search
+# /usr/include, which contains the headers of this machine's own C library, so
+# the two folders are linked into a separate folder.
 set(OV_HEADERS_DIR "${PROJECT_BINARY_DIR}/headers")
 file(MAKE_DIRECTORY "${OV_HEADERS_DIR}")
 foreach(FOLDER IN ITEMS CLI nlohmann)

@@ -1,5 +1,5 @@
-# What "cmake --install" installs: the programs, and for Windows what a host's
-# build needs (header, import libraries, CMake package, pkg-config file).
+# Defines what "cmake --install" installs: the programs and, for Windows, the files
+# for building a host (header, import libraries, CMake package, pkg-config file).
 install(TARGETS ovprefs RUNTIME DESTINATION bin)
 if(WIN32)
   include(CMakePackageConfigHelpers)

@@ -1,13 +1,13 @@
 # ov_layer(NAME SOURCES ... [DEPENDS ...]): one library per folder. DEPENDS is
-# the architecture diagram: one search path serves all folders, so
+# the architecture. The compiler has one search path for all folders, so
 # scripts/check-layers compares the includes, and the diagram in
-# docs/architecture.md, with what is recorded here. Each line of layers.txt is
+# docs/architecture.md, with the dependencies recorded here. Lines of layers.txt are
 # "layer NAME DEPENDS...", "source NAME FILE" or "folder NAME FOLDER".
 set(OV_LAYERS_FILE "${PROJECT_BINARY_DIR}/layers.txt")
 file(WRITE "${OV_LAYERS_FILE}" "")
 
-# ov_headers_of(NAME FOLDER): headers without sources that layers may include
-# when they name them under DEPENDS.
+# ov_headers_of(NAME FOLDER): declares headers without sources, which layers may
+# include if they name them under DEPENDS.
 function(ov_headers_of NAME FOLDER)
   add_library(${NAME} INTERFACE)
   file(APPEND "${OV_LAYERS_FILE}" "layer ${NAME}\nfolder ${NAME} ${FOLDER}\n")
@@ -18,7 +18,7 @@ ov_headers_of(ov_public_header include)
 add_library(ov_options INTERFACE)
 target_link_libraries(ov_options INTERFACE ov_warnings)
 target_include_directories(ov_options INTERFACE "${PROJECT_SOURCE_DIR}")
-# Byte-identical rebuilds, in whatever folder the sources lie.
+# Byte-identical rebuilds in every source folder.
 target_compile_options(ov_options INTERFACE "-ffile-prefix-map=${PROJECT_SOURCE_DIR}/=")
 if(WIN32)
   target_compile_definitions(
@@ -53,19 +53,19 @@ function(ov_layer NAME)
     file(APPEND "${OV_LAYERS_FILE}" "source ${NAME} ${SOURCE}\n")
   endforeach()
   if(OV_FUZZ)
-    # The counters that steer the fuzzer are in the product's code, not in the harnesses'.
+    # The fuzzer is steered by counters in the product's code, not in the harnesses.
     target_compile_options(${NAME} PRIVATE -fsanitize=fuzzer-no-link)
   endif()
   if(OV_COVERAGE)
-    # Atomically, so that a process that is killed in a test leaves sound counters.
+    # Atomic updates, so that a process killed by a test leaves valid counters.
     target_compile_options(${NAME} PRIVATE --coverage -fprofile-update=atomic)
     target_link_options(${NAME} PUBLIC --coverage)
   endif()
 endfunction()
 
 # ov_test(NAME SOURCES ... DEPENDS ... [PRECOMPILE ...]): one test program.
-# Nobody waits for the tests' own code, only for its compiler: it is not
-# optimised, and the headers that all of a program's files read are read once.
+# The tests' own code takes longer to compile than to run, so it is not
+# optimised, and headers used by all files of a program are precompiled.
 function(ov_test NAME)
   cmake_parse_arguments(TEST "" "" "SOURCES;DEPENDS;PRECOMPILE" ${ARGN})
   add_executable(${NAME} ${TEST_SOURCES})

@@ -1,6 +1,6 @@
 # A page of the dialog is a folder in pages/; docs/pages.md describes its files.
-# This file finds the folders and joins their parts, so that no list of pages is
-# kept by hand:
+# This file finds the folders and combines their parts, so that no list of pages
+# has to be maintained:
 #
 #   OV_PAGES                                 the names of the folders
 #   generated/pages/page_list.inc            OV_PAGE(Name) for each page
@@ -67,7 +67,7 @@ file(CONFIGURE OUTPUT "${GENERATED}/page_classes.inc" CONTENT "${CLASSES}" @ONLY
 file(CONFIGURE OUTPUT "${GENERATED}/page_strings.inc" CONTENT "${STRINGS}" @ONLY)
 file(CONFIGURE OUTPUT "${GENERATED}/page_templates.inc" CONTENT "${TEMPLATES}" @ONLY)
 
-# Everything in a page's folder is portable except its class.
+# Everything in a page's folder except its class is portable.
 set(OV_PAGE_ROWS ${PAGE_FILES})
 list(FILTER OV_PAGE_ROWS INCLUDE REGEX "\\.cpp$")
 list(FILTER OV_PAGE_ROWS EXCLUDE REGEX "^core/|/page\\.cpp$")

@@ -1,5 +1,5 @@
-# The one place that decides what the compiler may complain about; every
-# warning is an error, on both compilers.
+# The only file that selects compiler warnings. Every warning is an error, with
+# both compilers.
 add_library(ov_warnings INTERFACE)
 target_compile_options(
   ov_warnings

@@ -1,7 +1,7 @@
 # Writes OUTPUT/revision.h and OUTPUT/version.txt from VERSION and the git
-# revision of the sources in SOURCE, or REVISION where git knows none. Files that
-# would not change keep their dates.
-# A parent project's repository says nothing about these sources.
+# revision of the sources in SOURCE, or REVISION if git has none. Unchanged
+# files keep their dates.
+# The repository of a parent project is not the one of these sources.
 execute_process(
   COMMAND git -C "${SOURCE}" rev-parse --show-prefix
   OUTPUT_VARIABLE PREFIX

@@ -1,6 +1,6 @@
-# Found by find_package(ovPreferences). Defines the target
-# ovPreferences::ovPreferences: the library, its import library for the compiler's
-# kind of linker, and the folder of the header.
+# Used by find_package(ovPreferences). Defines the target
+# ovPreferences::ovPreferences: the library, its import library for the type of
+# linker that the compiler uses, and the folder of the header.
 if(NOT WIN32 OR NOT CMAKE_SIZEOF_VOID_P EQUAL 8)
   set(ovPreferences_FOUND FALSE)
   set(ovPreferences_NOT_FOUND_MESSAGE "ovPreferences.dll is a library for 64-bit Windows")
