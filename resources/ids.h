@@ -1,6 +1,6 @@
-/// Resource numbers of the library, for the resource compiler and C++ alike,
-/// hence plain defines; those of a page are in the page's folder. Several dialogs
-/// use the same control numbers, so each name begins with its dialog.
+/// Resource ids of the library, except those of pages, which are in the pages' folders.
+/// Plain defines, because the resource compiler reads them too. Several dialogs use the
+/// same control ids, so each name begins with the name of its dialog.
 #ifndef OV_RESOURCES_IDS_H
 #define OV_RESOURCES_IDS_H
 
@@ -10,8 +10,8 @@
 #define IDI_MOVE_DOWN 10044
 #define IDI_MOVE_UP 10045
 
-// The manifest that a library's own activation context is made from, and the
-// one that the system reads from a program.
+// The manifest for the library's own activation context, and the one that the
+// system reads from a program.
 #define IDR_MANIFEST_LIBRARY 2
 #define IDR_MANIFEST_PROGRAM 1
 
@@ -38,7 +38,7 @@
 // Category pane
 #define IDC_LEFT_PANE_LIST 1504
 
-// Multi-entry value editor
+// List editor
 #define IDC_CONFIG_SETTING_INSERT 1514
 #define IDC_CONFIG_SETTING_DELETE 1515
 #define IDC_CONFIG_SETTING_MOVE_UP 1516
@@ -47,7 +47,7 @@
 #define IDC_CONFIG_SETTING_LIST 9338
 #define IDC_CONFIG_SETTING_VALUE 9339
 
-// Pattern tester; its layout lists a control that its template does not have
+// Pattern tester. Its layout lists one control that the template does not have
 #define IDC_REGEX_TESTER_TYPE 11055
 #define IDC_REGEX_TESTER_TYPE_LABEL 11056
 #define IDC_REGEX_TESTER_TEMPLATE 11057
@@ -72,8 +72,8 @@
 #define IDS_NO_CONFIG_FILE 5030
 #define IDS_CANNOT_RENAME_BACKUP 2068
 
-// Why a save failed, and where the file's old content is. %1 and %2 are replaced by
-// what the rows say.
+// Why a save failed, and where the file's old content is. %1 and %2 are replaced as
+// described at the strings.
 #define IDS_SAVE_PLACE_TAKEN_BY_FOLDER 5100
 #define IDS_SAVE_CREATE_FAILED 5101
 #define IDS_SAVE_WRITE_FAILED 5102
@@ -89,7 +89,7 @@
 #define IDS_SAVE_OUT_OF_MEMORY 5112
 #define IDS_SAVE_KEEP_FAILED 5113
 
-// What a save asks and tells about a file that it replaces
+// Question and notice of a save that replaces a file
 #define IDS_ASK_REPLACE_UNREAD_FILE 5114
 #define IDS_ASK_REPLACE_CHANGED_FILE 5115
 #define IDS_SAVE_KEPT_FILE 5116
@@ -107,7 +107,7 @@
 #define IDS_REGEX_MATCH 5129
 #define IDS_REGEX_NO_MATCH 5130
 
-// Names for screen readers. %1 is the name of the input before.
+// Accessible names. %1 is the name of the input before the control.
 #define IDS_NAME_BROWSE 5440
 #define IDS_NAME_EDIT_LIST 5441
 #define IDS_NAME_VALUE 5442
@@ -132,7 +132,7 @@
 #define IDS_HELP_PREFERENCES_SAVE 7003
 #define IDS_HELP_PREFERENCES_CANCEL 7004
 
-// Help texts: multi-entry value editor; Cancel has that of the preferences dialog
+// Help texts: list editor; Cancel has the help text of the preferences dialog
 #define IDS_HELP_CONFIG_SETTING_LIST 7005
 #define IDS_HELP_CONFIG_SETTING_VALUE 7006
 #define IDS_HELP_CONFIG_SETTING_INSERT 7007
