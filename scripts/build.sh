@@ -4,14 +4,14 @@
 # shellcheck source=scripts/script.sh
 . "${BASH_SOURCE[0]%/*}/script.sh"
 
-# build_preset PRESET [TARGET...]: configures where necessary and builds as
-# much as can be built, quietly; prints the errors and fails when there are any.
+# build_preset PRESET [TARGET...]: configures if necessary and builds as much as
+# possible, quietly. Prints the errors and fails if there are any.
 build_preset() {
     local preset="$1" log="$root/build/$1.log" target=()
     shift
     [ "$#" -eq 0 ] || target=(--target "$@")
     mkdir -p "$root/build"
-    # In one language, since the output is searched.
+    # In a fixed language, because the output is searched.
     if (export LC_ALL=C.UTF-8 && cd "$root" && { [ -e "build/$preset/build.ninja" ] || cmake --preset "$preset"; } &&
         cmake --build --preset "$preset" "${target[@]}" -- -k 0) >"$log" 2>&1; then
         return 0

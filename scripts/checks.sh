@@ -1,11 +1,11 @@
-# Sourced by the scripts that check something: counts checks and reports the
-# ones that fail.
+# Sourced by scripts that check something. Counts checks and reports those
+# that fail.
 # shellcheck shell=bash
 
 passed=0
 failed=0
 
-# check NAME COMMAND...: one check; the command's output explains a failure.
+# check NAME COMMAND...: runs one check; the output of COMMAND explains a failure.
 check() {
     local name="$1" output
     shift
@@ -17,7 +17,7 @@ check() {
     fi
 }
 
-# Prints the last line of a suite, and returns its success.
+# Prints the last line of a suite and returns its success.
 report_checks() {
     printf '%d passed, %d failed\n' "$passed" "$failed"
     [ "$failed" -eq 0 ]

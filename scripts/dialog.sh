@@ -1,13 +1,13 @@
-# Sourced by the scripts that operate the dialog. Needs script.sh, wine-session.sh,
-# bin (the folder of the Windows programs) and folder (one for temporary files).
+# Sourced by scripts that operate the dialog. Needs script.sh, wine-session.sh,
+# bin (the folder of the Windows programs) and folder (for temporary files).
 # shellcheck shell=bash
 # shellcheck disable=SC2154
 
 # Options of convert for every screenshot.
 picture_options=()
 
-# drive COMMAND...: what ovDrive prints. Through a file: Wine's own processes
-# keep the writing end of a pipe open.
+# drive COMMAND...: prints the output of ovDrive. Through a file, because Wine's own
+# processes keep the writing end of a pipe open.
 drive() {
     local code=0
     wine "$bin/ovDrive.exe" "$@" >"$folder/answer" || code=$?
@@ -16,7 +16,7 @@ drive() {
     return "$code"
 }
 
-# control_id NAME: the number behind a name of the resources.
+# control_id NAME: prints the number of a resource id.
 control_id() {
     local number
     number=$(sed -n "s/^#define $1 //p" "$root/resources/ids.h" "$root"/pages/*/ids.h)
@@ -24,8 +24,8 @@ control_id() {
     printf '%s\n' "$number"
 }
 
-# take_screenshot FILE [CAPTION]: takes the screen, or the window with that
-# caption, until two pictures in a row are equal: then painting has finished.
+# take_screenshot FILE [CAPTION]: captures the screen, or the window with that
+# caption, until two pictures in a row are equal, which means that painting has finished.
 take_screenshot() {
     local picture="$1" tries window=(-window root)
     [ "$#" -eq 1 ] || window=(-frame -window "$2")

@@ -1,5 +1,5 @@
-# Sourced by the scripts that take pictures of the dialog with the samples open:
-# the first argument is a Windows build, and the other programs are found there.
+# Sourced by scripts that take pictures of the dialog with the samples open. The
+# first argument is a Windows build, which also contains the other programs.
 # shellcheck shell=bash
 
 # shellcheck source=scripts/script.sh
@@ -9,7 +9,7 @@
 # shellcheck source=scripts/dialog.sh
 . "$scripts/dialog.sh"
 
-# begin_pictures BUILD: a display and a prefix. Wine wants absolute paths.
+# begin_pictures BUILD: starts a display and a prefix. Wine needs absolute paths.
 begin_pictures() {
     local build
     build=$(realpath -- "$1")
@@ -17,8 +17,8 @@ begin_pictures() {
     [ -f "$bin/ovPreferencesHost.exe" ] || fail "no Windows build: $1"
     folder=$(mktemp -d)
     trap 'end_session; rm -rf "$folder"' EXIT
-    # There is nothing around the dialog. The many shades of a theme fit into 64
-    # colours without a visible difference.
+    # The pictures show only the dialog. A theme's many shades fit into 64 colours
+    # without a visible difference.
     # shellcheck disable=SC2034 # used by take_screenshot
     picture_options=(-trim +repage -strip +dither -colors 64 -define png:compression-level=9)
     start_display
@@ -26,8 +26,8 @@ begin_pictures() {
 }
 
 # open_samples [WIDTH HEIGHT]: opens the dialog on copies of the samples, with
-# that outer size in pixels. The copies are where an office would keep them,
-# since the pictures show the path.
+# that outer size in pixels. The copies are in a folder as in an office, because
+# the pictures show the path.
 open_samples() {
     local standards="$WINEPREFIX/drive_c/Standards"
     mkdir -p "$standards"
@@ -37,7 +37,7 @@ open_samples() {
     [ "$#" -eq 0 ] || drive size "$1" "$2" >/dev/null
 }
 
-# show_page TITLE: the page of that category; the help of its first control is shown.
+# show_page TITLE: shows the page of that category, with the help of its first control.
 show_page() {
     drive select "$1"
     drive focus

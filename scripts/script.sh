@@ -1,12 +1,12 @@
-# Sourced by every script of the project: where it is, its help, how it fails.
+# Sourced by every script of the project. Finds the root, prints help, reports errors.
 # shellcheck shell=bash
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
-# The sourcing scripts call each other by this.
+# The scripts use this to call each other.
 # shellcheck disable=SC2034
 scripts="$root/scripts"
 
-# The comment at the top of the script is its help.
+# Prints the comment at the top of the script, which is its help.
 usage() {
     sed -n '2,/^[^#]/{/^[^#]/d;s/^# \{0,1\}//;p}' "$0"
 }
@@ -21,13 +21,13 @@ help_if_asked() {
     esac
 }
 
-# fail MESSAGE...: ends the script, exit code 1.
+# fail MESSAGE...: ends the script with exit code 1.
 fail() {
     printf '%s: %s\n' "${0##*/}" "$*" >&2
     exit 1
 }
 
-# misused MESSAGE...: ends the script because of its arguments, exit code 2.
+# misused MESSAGE...: ends the script with exit code 2, for wrong arguments.
 misused() {
     printf '%s: %s; see %s --help\n' "${0##*/}" "$*" "$0" >&2
     exit 2

@@ -1,6 +1,6 @@
-# Sourced by the scripts that run Windows programs: a Wine prefix of the
-# project's own, and a display where there is none. Call end_session from the
-# caller's exit trap.
+# Sourced by scripts that run Windows programs. Provides a Wine prefix for the
+# project, and a display if there is none. Call end_session from the caller's exit
+# trap.
 # shellcheck shell=bash
 
 session_display_pids=()
@@ -12,7 +12,7 @@ session_fail() {
     return 1
 }
 
-# Polls until the command succeeds; gives up after the given seconds.
+# Polls until the command succeeds; gives up after the given number of seconds.
 await() {
     local end=$((SECONDS + $1))
     shift
@@ -22,14 +22,14 @@ await() {
     done
 }
 
-# Whether DISPLAY names a display that answers.
+# True if the display in DISPLAY responds.
 has_display() {
     [ -n "${DISPLAY:-}" ] && xdpyinfo >/dev/null 2>&1
 }
 
-# A virtual display of its own with a window manager, both ended by
-# end_session. The server itself picks a free display number. In a subshell the
-# session is another one: ending it leaves the outer one's display.
+# Starts a separate virtual display with a window manager; end_session ends both.
+# The server chooses a free display number. A subshell has its own session:
+# ending it does not affect the display of the outer one.
 start_display() {
     session_display_pids=()
     session_work=$(mktemp -d)
@@ -42,7 +42,7 @@ start_display() {
         session_fail "the virtual display did not start: $(tail -n 1 "$session_work/xvfb.log")" || return
     DISPLAY=":$(<"$session_work/display")"
     export DISPLAY
-    # Without a window manager each top-level window takes seconds to go.
+    # Without a window manager each top-level window takes seconds to close.
     openbox --sm-disable >"$session_work/openbox.log" 2>&1 &
     session_display_pids+=($!)
     await 20 has_window_manager ||
@@ -53,10 +53,10 @@ has_window_manager() {
     xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'
 }
 
-# use_prefix FOLDER [MODEL]: makes the Wine prefix once, quickly as a copy of
-# another one in which nothing may be running. The copies share the system's
-# files, 700 MB, by hard links; only the registry is written to later. No
-# questions about Mono and Gecko: nothing here needs them.
+# use_prefix FOLDER [MODEL]: creates the Wine prefix once. With MODEL, another
+# prefix without running programs, it is a fast copy: the 700 MB of system files
+# are shared by hard links, because only the registry is written later. Prevents
+# Wine's questions about Mono and Gecko, which are not needed.
 use_prefix() {
     export WINEPREFIX="$1" WINEARCH=win64 WINEDEBUG=-all WINEDLLOVERRIDES="mscoree=;mshtml="
     [ -e "$WINEPREFIX/.complete" ] && return 0
@@ -71,7 +71,7 @@ use_prefix() {
         session_fail "Wine cannot be set up: $(tail -n 1 "$WINEPREFIX/wineboot.log")$(missing_from_wine)"
         return 1
     fi
-    # Wine does not look into the folder that its own fonts are packaged in.
+    # Wine does not search the folder in which its own fonts are packaged.
     # Without Tahoma every dialog would be a sixth too wide.
     ln -sf /usr/share/wine/fonts/* "$WINEPREFIX/drive_c/windows/Fonts/"
     wineserver -k || true
@@ -79,29 +79,29 @@ use_prefix() {
     touch "$WINEPREFIX/.complete"
 }
 
-# The most frequent reason, which Wine does not name.
+# The most frequent reason, which Wine does not report.
 missing_from_wine() {
     local missing
     missing=$(dpkg --verify libwine wine64 2>/dev/null | grep '^missing' | head -n 3) || return 0
     printf '\n%s' "$missing"
 }
 
-# use_resolution DPI: of all programs that begin in the prefix from now on.
+# use_resolution DPI: sets the resolution for all programs started in the prefix later.
 use_resolution() {
     wine reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d "$1" /f >/dev/null 2>&1
     wineserver -k || true
     wineserver -w
 }
 
-# The path as Windows programs know it.
+# The path in Windows notation.
 windows_path() {
     local path
     path=$(realpath -m -- "$1")
     printf 'Z:%s' "${path//\//\\}"
 }
 
-# Ends what this session has started, its Wine processes too when they are on
-# the session's own display.
+# Ends everything that this session has started, including its Wine processes if
+# they are on the session's own display.
 end_session() {
     local pid
     if [ "$session_own_display" = true ] && [ -n "${WINEPREFIX:-}" ]; then
