@@ -22,7 +22,7 @@ LOGFONTW DescriptionOf(CFont& font)
     return description;
 }
 
-/// An application that starts without a font, whatever earlier tests did.
+/// An application that starts without a font, independent of earlier tests.
 class FreshApplication
 {
   public:
@@ -51,7 +51,7 @@ TEST(HostSize, CopyAndMoveAssignTheEightBytesAndReturnTheObject)
 
 TEST_F(ProgramTest, NullTextsLeaveTheStoredOnes)
 {
-    // The dialog itself is turned away: only the arguments count here.
+    // The hook prevents the dialog from opening: only the arguments matter here.
     for (int call = 0; call < 3; ++call)
         doors.AnswerDialog(IDCANCEL);
     EXPECT_EQ(ovPreferences_showDialogEx(nullptr, L"d.cfg", L"c.cfg", L"Jane"), 0u);
@@ -114,7 +114,7 @@ TEST_F(ProgramTest, HelpTextsAreRegisteredWithTheirIconAndNeverShown)
         ::DeleteObject(info.hbmColor);
     }
     EXPECT_GT(theToolTip.GetToolCount(), 5u) << "the pages' controls";
-    // Focus and cursor go over controls that have a text.
+    // Focus and cursor visit controls that have a help text.
     CRect save;
     ::GetWindowRect(Control(IDC_PREFERENCES_SAVE), save);
     ::SetCursorPos(save.left + 5, save.top + 5);
@@ -162,7 +162,7 @@ TEST_F(ProgramTest, EachResolutionHasItsOwnSharedFontOfTheSameType)
     CFont* const finer = GetSharedDialogFont(192);
     ASSERT_NE(font, nullptr);
     ASSERT_NE(finer, nullptr);
-    // Eight points, as the templates have them.
+    // Eight points, as in the templates.
     EXPECT_EQ(DescriptionOf(*font).lfHeight, -11);
     EXPECT_EQ(DescriptionOf(*finer).lfHeight, -21);
     EXPECT_STREQ(DescriptionOf(*finer).lfFaceName, DescriptionOf(*font).lfFaceName);

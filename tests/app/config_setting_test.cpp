@@ -1,4 +1,4 @@
-// The multi-entry value editor on its real template, with its real texts.
+// The list editor with its real template and texts.
 #include "controls/application.h"
 #include "controls/config_setting_dlg.h"
 #include "pages/conforming/ids.h"
@@ -17,7 +17,7 @@ class ConfigSetting : public ProgramTest
   protected:
     ~ConfigSetting() override { Close(); }
 
-    /// Opens the editor without a modal loop, over the preferences dialog.
+    /// Opens the editor without a modal loop, owned by the preferences dialog.
     void OpenEditor(const ov::Text& text, UINT browsing = 0, char16_t separator = u';',
                     char16_t fieldSeparator = u'\0', size_t fieldCount = 1)
     {
@@ -46,7 +46,7 @@ class ConfigSetting : public ProgramTest
     {
         editor->SendMessage(WM_COMMAND, MAKEWPARAM(id, BN_CLICKED), reinterpret_cast<LPARAM>(Item(id)));
     }
-    /// Handles what the editor has posted to itself, as it does before any input.
+    /// Handles the messages that the editor has posted to itself, as it does before any input.
     void Settle() const
     {
         MSG message{};
@@ -73,7 +73,7 @@ class ConfigSetting : public ProgramTest
         TypeValue(text);
         Press(IDC_CONFIG_SETTING_INSERT);
     }
-    /// Selects these rows and no others.
+    /// Selects only these rows.
     void Select(const std::vector<int>& rows)
     {
         List().SetItemState(-1, 0, LVIS_SELECTED);
@@ -570,7 +570,7 @@ TEST_F(ConfigSetting, WhatIsTypedAfterASelectionStays)
 
 namespace
 {
-// Answers the editor that a page runs modally, as soon as it is on the screen.
+// Closes the editor that a page runs modally, as soon as it is on the screen.
 class ModalVisitor
 {
   public:

@@ -11,7 +11,7 @@ constexpr wchar_t caption[] = L"Orthoval for MicroStation Preferences";
 constexpr int conformingPage = 6;
 constexpr int brandingPage = 2;
 
-// A page with nothing on it but what every page can do.
+// A file for a page that only has what every page can do.
 constexpr char simpleFile[] = "#\n\n_ORTHOVAL_CHECK_CELLS = 1\n";
 } // namespace
 
@@ -157,7 +157,7 @@ TEST_F(Doors, ACurrentFileThatCannotBeReadLeavesTheDialogUsable)
     EXPECT_EQ(doors.messages[0].caption, L"");
     EXPECT_EQ(doors.messages[0].type, warning);
     EXPECT_TRUE(dialog->IsWindowVisible());
-    // What the defaults left: a change that can be saved.
+    // Loading the defaults was a change, which can be saved.
     EXPECT_TRUE(IsEnabled(IDC_PREFERENCES_SAVE));
 }
 

@@ -1,4 +1,4 @@
-// The dialogs that open over the preferences, again and again.
+// Opens and closes the dialogs over the preferences dialog many times.
 #include <algorithm>
 #include <cstdlib>
 
@@ -10,15 +10,15 @@
 
 namespace
 {
-/// OV_WINDOW_ROUNDS asks for more than the ordinary hundred.
+/// The number of rounds; OV_WINDOW_ROUNDS requests more than the usual hundred.
 int Rounds()
 {
     const char* const asked = std::getenv("OV_WINDOW_ROUNDS");
     return asked != nullptr ? std::max(std::atoi(asked), 100) : 100;
 }
 
-/// Handles what the window system has told meanwhile, as any loop would; left
-/// alone it piles up.
+/// Handles the pending messages of the window system, as any loop would; without
+/// this they accumulate.
 void Pump()
 {
     MSG message{};
@@ -41,18 +41,18 @@ std::size_t CountLabels(HWND window)
 class Endurance : public ProgramTest
 {
   protected:
-    /// Opens a dialog on that template, lets the body use it and destroys it;
-    /// nothing may be left of any round.
+    /// Creates a dialog from that template, lets the body use it and destroys it. No
+    /// round may leave any resources behind.
     template <typename Make, typename Use>
     void ExpectNoGrowth(UINT templateId, Make make, Use use)
     {
         constexpr int warmUp = 10;
-        // For what the system keeps in reserve.
+        // For resources that the system keeps in reserve.
         constexpr unsigned handleTolerance = 5;
         constexpr std::size_t heapTolerance = 4 * 1024;
         constexpr std::size_t privateTolerance = 1024 * 1024;
-        // In Wine a version 6 label that has been given a font keeps this much
-        // when it is destroyed, in any program.
+        // In Wine a version 6 label whose font was set leaks this much when it is
+        // destroyed, in any program.
         constexpr std::size_t bytesOfALabel = 24;
         Open(L"", L"");
         std::size_t labels = 0;

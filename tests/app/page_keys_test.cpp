@@ -1,4 +1,4 @@
-// What keys do in edits of a page, seen by the dialog's pre-translation.
+// The effect of keys in the edits of a page, as handled by the dialog's pre-translation.
 #include "tests/app/program.h"
 #include "tests/support/control_state.h"
 
@@ -14,8 +14,8 @@ class PageKeys : public ProgramTest
             ::DestroyWindow(edit);
     }
 
-    /// An edit of the test's own on the page that is shown; no page has one of
-    /// several lines.
+    /// Adds an edit to the visible page, because no page has a multi-line
+    /// edit.
     void MakeEdit(DWORD style)
     {
         Open(L"", L"");
@@ -26,7 +26,7 @@ class PageKeys : public ProgramTest
         ::SendMessageW(edit, EM_SETSEL, 1, 1);
     }
 
-    /// Presses and releases the key, and handles what follows as a modal loop does.
+    /// Presses and releases the key, and handles the messages as a modal loop does.
     void Press(WPARAM key) const
     {
         ::PostMessageW(edit, WM_KEYDOWN, key, 1);

@@ -1,5 +1,5 @@
-// What the pages tell the dialog while they load: some report every load as a
-// change, the others are silent.
+// What the pages report to the dialog while they load: some report every load as a
+// change, the others report nothing.
 #include "tests/app/program.h"
 
 #include "pages/core/page_catalogue.h"
@@ -17,7 +17,7 @@ constexpr int scanPeriod = 20;
 constexpr int signatureCells = 21;
 const std::set<UINT> marking = {conforming, referenceFiles, scanPeriod, signatureCells};
 
-/// Counts the reports of a change that the pages send, from the first window on.
+/// Counts the change reports of the pages, from the first window on.
 class ReportCounter
 {
   public:
@@ -30,7 +30,7 @@ class ReportCounter
     ReportCounter(const ReportCounter&) = delete;
     ReportCounter& operator=(const ReportCounter&) = delete;
 
-    /// The pages that have reported since the last call.
+    /// Returns the pages that have reported since the last call.
     std::set<UINT> TakePages()
     {
         std::set<UINT> pages;
@@ -57,7 +57,7 @@ class ReportCounter
     HHOOK m_hook;
 };
 
-// A value for some page of every kind, so that loading changes controls.
+// Has a value for some page of every kind, so that loading changes controls.
 constexpr char file[] = "_ORTHOVAL_CHECK_CELLCOMPONENTS = 1\n"
                         "_ORTHOVAL_DRAFT_BY_RANGES = 1\n"
                         "_ORTHOVAL_WEIGHTING_COLOUR = 3\n"
@@ -90,7 +90,7 @@ TEST_F(PageMarks, FourPagesReportTheLoadOfTheDefaults)
     ReportCounter reports;
     Click(IDC_PREFERENCES_LOAD_DEFAULTS);
     EXPECT_EQ(reports.TakePages(), marking);
-    // Another load of what is shown already is reported as well.
+    // Loading what is already shown is reported as well.
     Click(IDC_PREFERENCES_LOAD_DEFAULTS);
     EXPECT_EQ(reports.TakePages(), marking);
 }

@@ -1,5 +1,5 @@
-// The "..." buttons that choose a file or a folder, on every page that has one:
-// each fills its own field and variable, and what was typed stays.
+// The "..." buttons for a file or a folder, on every page that has one: each fills
+// its own field and variable, and does not change typed text.
 #include "tests/app/program.h"
 
 #include "resources/ids.h"

@@ -13,7 +13,7 @@
 #include "tests/support/test_files.h"
 #include "wizard/preferences_wizard.h"
 
-/// One message box that the program opened.
+/// A message box that the program opened.
 struct SeenMessage {
     HWND owner;
     std::wstring text;
@@ -21,9 +21,9 @@ struct SeenMessage {
     UINT type;
 };
 
-/// Stands before every modal door, notes what came to it and answers as laid
-/// out, in order. A door without an answer fails the test and is cancelled, and
-/// so does an answer that no door came for.
+/// Intercepts every modal door, records the calls and answers them with the prepared
+/// answers, in order. A door without a prepared answer fails the test and is cancelled.
+/// An answer that was not used fails the test, too.
 class DoorKeeper : public CModalHook
 {
   public:
@@ -46,7 +46,7 @@ class DoorKeeper : public CModalHook
     std::optional<int> OnMessageBox(HWND owner, const ov::Text& text, const ov::Text& caption,
                                     UINT type) override;
     std::optional<CPathAnswer> OnFileDialog(const CFileDialogRequest& request) override;
-    /// A dialog that no answer is laid out for opens.
+    /// Lets a dialog without a prepared answer open.
     std::optional<INT_PTR> OnModalDialog(CDialog& dialog) override;
     std::optional<CPathAnswer> OnFolderBrowser(const CFolderBrowserRequest& request) override;
 
@@ -58,29 +58,29 @@ class DoorKeeper : public CModalHook
     std::deque<CPathAnswer> m_folders;
 };
 
-/// The program with its dialog open but without a modal loop, so that a test
-/// sends it commands and looks at the result at once.
+/// The program with its dialog open but without a modal loop, so that a test can
+/// send it commands and check the result at once.
 class ProgramTest : public testing::Test
 {
   protected:
     ~ProgramTest() override;
 
-    /// Opens the dialog on these paths; empty for none.
+    /// Opens the dialog for these paths; an empty path means none.
     void Open(const std::wstring& defaultPath, const std::wstring& currentPath);
-    /// The dialog as an owner for other windows: the pages are most of its work.
+    /// Opens the dialog as an owner for other windows. Without its pages that is fast.
     void OpenWithoutPages();
 
-    /// Writes a file into the test's folder; its full path.
+    /// Writes a file into the test's folder and returns its full path.
     std::wstring MakeFile(const std::wstring& name, const std::string& bytes);
 
-    /// A button's click, handled when this returns.
+    /// Clicks a button; the click has been handled when this returns.
     void Click(int id);
-    /// The control, on the dialog or on one of its pages.
+    /// The control of the dialog or of one of its pages.
     HWND Control(int id) const;
     bool IsEnabled(int id) const { return ::IsWindowEnabled(Control(id)) != FALSE; }
     std::wstring TextOf(int id) const;
     void Type(int id, const std::wstring& text);
-    /// The page that is shown.
+    /// The visible page.
     CWizardPage& Page() const;
 
     AFX_MAINTAIN_STATE2 state{AfxGetStaticModuleState()};

@@ -1,4 +1,4 @@
-// The pattern tester on its real template, with its real texts.
+// The pattern tester with its real template and texts.
 #include "match/regex_tester.h"
 
 #include <algorithm>
@@ -18,9 +18,9 @@ enum Type { None, Dos, Ranges, Subsets, Perl, Posix };
 constexpr const wchar_t* syntaxError = L"Syntax Error in Regex: 32768";
 constexpr int scriptEnded = 4711;
 
-// In the order in which they are created and read.
+// In the order of creation and reading.
 constexpr int controlIds[] = {11056, 11055, 11058, 11057, 11064, 11063, 11061, 11062, 11060};
-// In the order of Tab.
+// In tab order.
 constexpr int tabStops[] = {11055, 11057, 11063, 11061, 11060};
 
 HWND ItemOf(const CWnd& tester, int id)
@@ -36,15 +36,15 @@ void TypeInto(HWND edit, const std::wstring& text)
         ::SendMessageW(edit, WM_CHAR, character, 1);
 }
 
-/// As pasting it would.
+/// Replaces the text as pasting it would.
 void ReplaceText(HWND edit, const std::wstring& text)
 {
     ::SendMessageW(edit, EM_SETSEL, 0, -1);
     ::SendMessageW(edit, EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(text.c_str()));
 }
 
-/// Runs modally and does one step whenever the loop is idle; after the last
-/// one it ends with scriptEnded.
+/// Runs modally and performs one step whenever the loop is idle. After the last step
+/// it ends with scriptEnded.
 class ScriptedTester : public RegexTester
 {
   public:
@@ -111,7 +111,7 @@ class RegexTesterTest : public ProgramTest
   protected:
     ~RegexTesterTest() override { Close(); }
 
-    /// Opens the tester without a modal loop, over the preferences dialog.
+    /// Opens the tester without a modal loop, owned by the preferences dialog.
     void OpenTester(int type = Subsets, const ov::Text& pattern = u"", const ov::Text& testString = u"")
     {
         if (!dialog)
@@ -132,7 +132,7 @@ class RegexTesterTest : public ProgramTest
     std::wstring TextOf(int id) const { return uidriver::GetText(Item(id)); }
     std::wstring Result() const { return TextOf(11060); }
     void PressTest() { ::SendMessageW(Item(11061), BM_CLICK, 0, 0); }
-    /// Chooses the type, types both texts and presses "Test Match".
+    /// Chooses the type, enters both texts and presses "Test Match".
     std::wstring Try(int type, const std::wstring& pattern, const std::wstring& testString)
     {
         ::SendMessageW(Item(11055), CB_SETCURSEL, static_cast<WPARAM>(type), 0);
@@ -200,7 +200,7 @@ class RegexTesterTest : public ProgramTest
         EXPECT_LE(longest.cx, inner.right - inner.left);
         EXPECT_LE(longest.cy, inner.bottom - inner.top);
     }
-    /// The height of the list that the combo box drops, in rows.
+    /// The height of the combo box's drop-down list, in rows.
     int DroppedRows() const
     {
         ::SendMessageW(Item(11055), CB_SHOWDROPDOWN, TRUE, 0);
@@ -395,7 +395,7 @@ TEST_F(RegexTesterTest, TextsOf64KilobytesAreTakenAndTested)
     OpenTester();
     for (const int id : {11057, 11063}) {
         ReplaceText(Item(id), std::wstring(length, L'a'));
-        // Typing goes on behind such a text.
+        // Typing continues after such a text.
         ::SendMessageW(Item(id), EM_SETSEL, length, length);
         ::SendMessageW(Item(id), WM_CHAR, L'b', 1);
         EXPECT_EQ(TextOf(id), std::wstring(length, L'a') + L'b') << id;
@@ -492,7 +492,7 @@ TEST_F(RegexTesterTest, TabVisitsEveryControlOnceInReadingOrder)
         modal.NoteFocus().PressKeyWith(VK_SHIFT, VK_TAB);
     EXPECT_EQ(modal.DoModal(), scriptEnded);
     std::vector<int> expected(std::begin(tabStops), std::end(tabStops));
-    // Round to the first, from there back.
+    // From the last tab stop Tab returns to the first; Shift+Tab reverses the order.
     expected.push_back(tabStops[0]);
     expected.insert(expected.end(), std::rbegin(tabStops), std::rend(tabStops) - 1);
     EXPECT_EQ(modal.focusIds, expected);
@@ -556,7 +556,7 @@ TEST_F(RegexTesterTest, AHundredRoundsDoNotGrow)
     openAndClose(100);
     const uidriver::Resources after = uidriver::MeasureResources();
     SCOPED_TRACE("before: " + uidriver::Describe(before) + "\nafter: " + uidriver::Describe(after));
-    // What the system keeps in reserve; a handle left behind each time is 100.
+    // Resources that the system keeps in reserve; one leaked handle per round would be 100.
     constexpr unsigned tolerance = 5;
     EXPECT_GT(before.userObjects, 0u);
     EXPECT_LE(after.gdiObjects, before.gdiObjects + tolerance);

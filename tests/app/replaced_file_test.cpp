@@ -1,5 +1,5 @@
-// What Save asks before it replaces a file whose content the dialog does not know, what the answers
-// do, and what a failing save does to the dialog.
+// The question that Save asks before it replaces a file whose content the dialog does not know, the
+// effects of the answers, and the effect of a failed save on the dialog.
 #include "pages/branding/ids.h"
 #include "resources/ids.h"
 #include "tests/app/program.h"
@@ -14,7 +14,7 @@ using Names = std::vector<std::wstring>;
 class ReplacedFile : public ProgramTest
 {
   protected:
-    /// A handle that lets nobody else open the file, for as long as it lives.
+    /// Holds a handle that prevents others from opening the file, while it exists.
     class Holder
     {
       public:
@@ -31,7 +31,7 @@ class ReplacedFile : public ProgramTest
         HANDLE m_file;
     };
 
-    /// Save, with this answer to the question. Returns the question.
+    /// Presses Save and gives this answer to the question. Returns the question.
     SeenMessage SaveAnswering(int button)
     {
         doors.messages.clear();
@@ -41,8 +41,8 @@ class ReplacedFile : public ProgramTest
         return doors.messages.empty() ? SeenMessage{} : doors.messages[0];
     }
 
-    /// The question is about this file and says what has become of it, and by its
-    /// default nothing is replaced.
+    /// Expects the question to name this file and what happened to it, and its default answer to replace
+    /// nothing.
     void ExpectQuestion(const SeenMessage& question, const std::wstring& what, const std::wstring& path)
     {
         EXPECT_EQ(question.text.rfind(L"The configuration file on disk " + what + L":\n" + path + L"\n", 0),
@@ -63,7 +63,7 @@ class ReplacedFile : public ProgramTest
         EXPECT_EQ(folder.Names(), Names{L"office.cfg"});
     }
 
-    /// The file is saved with the change, and its former bytes are kept.
+    /// Expects the file to be saved with the change, and its previous bytes to be kept.
     void ExpectReplaced(const std::wstring& path, const std::string& bytes)
     {
         EXPECT_FALSE(dialog->IsWindowVisible());
@@ -116,7 +116,7 @@ TEST_F(ReplacedFile, AChangeBehindTheOpenDialogIsNotReplacedWithoutAQuestion)
     MakeFile(L"office.cfg", changed);
     ExpectQuestion(SaveAnswering(IDNO), L"has changed since it was read", path);
     ExpectNothingReplaced(path, changed);
-    // A box that could not be shown is no Yes.
+    // The result of a box that could not be shown does not count as Yes.
     SaveAnswering(0);
     ExpectNothingReplaced(path, changed);
     SaveAnswering(IDYES);
@@ -168,7 +168,7 @@ TEST_F(ReplacedFile, TheAnswerNoAtCancelKeepsTheDialogOpenToo)
 
 TEST_F(ReplacedFile, WhatWasReadOrWrittenIsReplacedWithoutAQuestion)
 {
-    // A file without content counts as read.
+    // An empty file counts as read.
     Open(L"", MakeFile(L"office.cfg", ""));
     Click(IDC_BRANDING_AUTO);
     EXPECT_TRUE(dialog->OpenConfigFile(false));

@@ -1,4 +1,4 @@
-// What the dialog answers to messages that no visible control sends.
+// How the dialog handles messages that no visible control sends.
 #include "config/core/setting_comment.h"
 #include "controls/core/tooltip_markup.h"
 #include "pages/conforming/ids.h"
@@ -16,7 +16,7 @@ namespace
 constexpr int conformingPage = 6;
 constexpr char simpleFile[] = "#\n\n_ORTHOVAL_CHECK_CELLS = 1\n";
 
-/// Counts the pages of a dialog that come into view.
+/// Counts the pages of a dialog that become visible.
 class ShownPages
 {
   public:
@@ -47,7 +47,7 @@ class ShownPages
     HHOOK m_hook;
 };
 
-/// Handles what has been posted to the thread, as the modal loop does.
+/// Handles the messages posted to the thread, as the modal loop does.
 void Pump(HWND top)
 {
     MSG message{};
@@ -104,7 +104,7 @@ TEST_F(Wizard, EachNewlySelectedRowSwitchesPagesOnce)
     ::SetFocus(list);
     const ShownPages shown(dialog->m_hWnd);
     HWND before = Page().m_hWnd;
-    // The first press lets the keyboard take up the row that is selected already.
+    // With the first key press the keyboard focus takes over the row that is already selected.
     ::PostMessageW(list, WM_KEYDOWN, VK_HOME, 1);
     Pump(dialog->m_hWnd);
     EXPECT_EQ(shown.count, 0);

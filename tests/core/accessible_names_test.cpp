@@ -1,4 +1,4 @@
-// What controls are called where nothing on the screen says it in words.
+// The accessible names of controls that no visible text describes.
 #include "controls/core/accessible_names.h"
 
 #include <gtest/gtest.h>

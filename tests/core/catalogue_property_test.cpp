@@ -1,6 +1,6 @@
-// Random variables go into the rows of all pages and come out as their meaning
-// says, whatever stands beside them. OV_CATALOGUE_ROUNDS asks for more rounds,
-// OV_CATALOGUE_SEED for others.
+// Loads random variables into the rows of all pages and expects their meaning to be
+// saved, independent of other variables. OV_CATALOGUE_ROUNDS requests more rounds,
+// OV_CATALOGUE_SEED other values.
 #include "pages/core/page_catalogue.h"
 #include "pages/core/page_values.h"
 #include "tests/pages/expected_pages.h"
@@ -48,7 +48,7 @@ Table Content(const ov::SettingStore& store)
     return table;
 }
 
-/// Opens every page on the store, which loads it, and saves them all.
+/// Opens every page on the store, which loads it, and saves all pages.
 void OpenAndSave(ov::SettingStore& store)
 {
     std::vector<ov::PageValues> pages;
@@ -81,7 +81,7 @@ TEST(CatalogueProperty, RandomTablesAreSavedAsTheirMeaningSays)
     }
 }
 
-// What was saved once is saved the same again.
+// Saving a second time gives the same result.
 TEST(CatalogueProperty, SavingAgainChangesNothing)
 {
     for (unsigned seed = 1; seed <= 50 && !HasFailure(); ++seed) {
@@ -89,7 +89,7 @@ TEST(CatalogueProperty, SavingAgainChangesNothing)
         std::mt19937 random(seed);
         ov::SettingStore store;
         Table table = expected::RandomTable(random, expected::Carrier::Store);
-        // It is never removed, and speaks again once no fixed period is saved.
+        // It is never removed, and takes effect again once no fixed period is saved.
         table.erase("_ORTHOVAL_SCANPERIOD_VALUE");
         Fill(store, table);
         OpenAndSave(store);

@@ -1,4 +1,4 @@
-// What is peculiar to the Certifying page.
+// Behaviour that only the Certifying page has.
 #include "controls/core/tooltip_markup.h"
 #include "pages/core/page_rows.h"
 #include "pages/core/page_values.h"
@@ -40,7 +40,7 @@ Text HelpOf(int controlId)
     return {};
 }
 
-/// What the variable is after it was loaded and saved.
+/// The variable's value after loading and saving.
 std::string SavedAfterLoading(const char16_t* variable, const char16_t* stored)
 {
     SettingStore store;

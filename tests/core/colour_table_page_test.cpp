@@ -1,4 +1,4 @@
-// Colour Table: the list of what happens to existing elements.
+// Colour Table: the list for the treatment of existing elements.
 #include "pages/core/page_rows.h"
 #include "pages/core/page_values.h"
 #include "pages/core/string_table.h"

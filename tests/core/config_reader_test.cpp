@@ -373,7 +373,7 @@ TEST_F(ConfigReader, LongListsGrowAtBothEnds)
     EXPECT_EQ(Kind(u"A"), SettingKindText);
 }
 
-// Joining every line with the current value would copy 20 GB.
+// Copying the current value for every line would copy 20 GB.
 TEST_F(ConfigReader, OnlyTheLastDefaultLineIsJoinedWithALongCurrentValue)
 {
     const std::string value(1 << 20, 'v');
@@ -417,7 +417,7 @@ TEST_F(ConfigReader, DefaultLinesJoinWithWideCurrentValues)
     EXPECT_EQ(Value(u"A", kDefaultTable), u"\u20AC;\u00E9");
 }
 
-// What is read from odd bytes, however the blocks fall, is written and read back as the same.
+// Text read from invalid bytes is written and read back unchanged, for every division into blocks.
 TEST_F(ConfigReader, OddBytesAreReadInAnyBlocksAndSurviveWriting)
 {
     using namespace std::string_literals;
@@ -433,7 +433,7 @@ TEST_F(ConfigReader, OddBytesAreReadInAnyBlocksAndSurviveWriting)
     for (const char* name : {"C", "C.UTF-8"}) {
         const test::ScopedLocale locale(name);
         if (!locale.IsSet())
-            continue; // Windows names its locales otherwise.
+            continue; // Windows uses other names for locales.
         for (const std::string& bytes : inputs) {
             ReadCurrent(bytes);
             std::string whole;
@@ -475,7 +475,7 @@ TEST_F(ConfigReader, InvalidBytesOfAUtf8LocaleAreKeptOneByOne)
     ReadCurrent("\n# \xE2\x82\nA = \xE9 x\xE2\x82\nB = \"\xC3\"\xA9 \"\n");
     EXPECT_EQ(Value(u"A"), Text({0xDCE9, u' ', u'x', 0xDCE2, 0xDC82}));
     EXPECT_EQ(Comment(u"A"), Text({u'\n', u'#', u' ', 0xDCE2, 0xDC82, u'\n'}));
-    // What a quote keeps apart is not one character when the quote is gone.
+    // Two bytes separated by a quote do not form one character after the quote is removed.
     EXPECT_EQ(Value(u"B"), Text({0xDCC3, 0xDCA9, u' '}));
 }
 
@@ -513,7 +513,7 @@ TEST_F(ConfigReader, DeviceIsNotOpenedForReading)
     const ReadResult result = ReadConfigFile(m_store, kCurrentTable, u"CON", m_files);
     EXPECT_EQ(result.outcome, ReadOutcome::NothingToRead);
     EXPECT_EQ(result.systemText, u"");
-    EXPECT_EQ(m_files.calls, 1); // the question what it is
+    EXPECT_EQ(m_files.calls, 1); // the query for the kind of file
     EXPECT_EQ(Value(u"A"), u"1");
 }
 
@@ -521,7 +521,7 @@ TEST_F(ConfigReader, FileThatCannotBeOpenedIsToldAndLeavesTheStore)
 {
     ReadCurrent("A = 1\n");
     m_files.contents[u"a.cfg"] = "B = 1\n";
-    m_files.failing = {2}; // after the question whether it exists
+    m_files.failing = {2}; // after the query whether it exists
     const ReadResult result = ReadConfigFile(m_store, kCurrentTable, u"a.cfg", m_files);
     EXPECT_EQ(result.outcome, ReadOutcome::Failed);
     EXPECT_EQ(result.systemText, test::kFaultText);

@@ -21,7 +21,7 @@ class ConfigWriter : public testing::Test
         m_store.SetSetting(name, value, kind, comment, kCurrentTable);
     }
 
-    // What is written below a header of one line "#".
+    // The output after a header that is only "#".
     std::string Body() const
     {
         std::string bytes;

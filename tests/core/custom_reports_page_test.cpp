@@ -1,4 +1,4 @@
-// What is peculiar to the Custom Reports page.
+// Behaviour that only the Custom Reports page has.
 #include "pages/core/page_rows.h"
 #include "pages/core/page_values.h"
 

@@ -18,7 +18,7 @@ TEST(Encoding, ListOfWhoDecidesReadsOneAndZeroAndLeavesTheRestToTheUser)
     EXPECT_EQ(ov::AlwaysNeverUserIndex(u"1"), 0);
     EXPECT_EQ(ov::AlwaysNeverUserIndex(u"0"), 1);
     EXPECT_EQ(ov::AlwaysNeverUserIndex(u" 1 of all"), 0);
-    EXPECT_EQ(ov::AlwaysNeverUserIndex(u"never"), 1); // no number reads as 0
+    EXPECT_EQ(ov::AlwaysNeverUserIndex(u"never"), 1); // text that is not a number reads as 0
     for (const char16_t* text : {u"-1", u"", u"2", u"7", u"-2", u"10"})
         EXPECT_EQ(ov::AlwaysNeverUserIndex(text), 2) << ov::Utf8FromText(text);
 }

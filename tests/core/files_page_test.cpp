@@ -1,4 +1,4 @@
-// The File Paths page: an older variable, and which browser fills which field.
+// The File Paths page: an older variable, and which chooser fills which field.
 #include "pages/core/page_rows.h"
 #include "pages/core/page_values.h"
 
@@ -70,7 +70,7 @@ TEST(FilesPage, NewerDataSourceDoesNotTouchTheOlderOne)
     EXPECT_EQ(store.GetSettingValue(older, kCurrentTable), u"old.dsn");
 }
 
-// The two Excel files among the folders are no mistake.
+// The two Excel files among the folders are intended.
 TEST(FilesPage, FilesAreChosenForThreeFieldsAndFoldersForAllOthers)
 {
     const std::set<int> files = {2411, 2419, 2430};

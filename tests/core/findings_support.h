@@ -1,4 +1,4 @@
-/// Inspects files that tests make up.
+/// Runs the rules on files made up by tests.
 #pragma once
 
 #include "inspect/core/inspection.h"
@@ -10,11 +10,11 @@
 namespace findings
 {
 
-/// What the rule finds in the file, in order: "LINE:COLUMN", counted from 1. All other rules are off.
+/// The findings of the rule in the file, in order: "LINE:COLUMN", counted from 1. All other rules are off.
 std::vector<std::string> PlacesOf(ov::RuleId rule, const std::string& bytes,
                                   const std::optional<std::string>& defaults = std::nullopt);
 
-/// The same with everything that a finding says.
+/// The same with all data of the findings.
 std::vector<ov::Finding> FindingsOf(ov::RuleId rule, const std::string& bytes,
                                     const std::optional<std::string>& defaults = std::nullopt);
 

@@ -1,4 +1,4 @@
-// Every rule fires where it has to, and is silent on what only looks like it.
+// Every rule fires where it has to, and does not fire on similar but correct files.
 #include "tests/core/findings_support.h"
 
 #include <gtest/gtest.h>
@@ -30,7 +30,7 @@ const std::string savedHeader =
 struct Case {
     RuleId rule;
     std::string file;
-    Places places; ///< none: the rule is silent
+    Places places; ///< empty: the rule does not fire
     std::optional<std::string> defaults = std::nullopt;
 };
 

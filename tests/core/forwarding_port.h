@@ -5,7 +5,7 @@
 namespace ov::test
 {
 
-/// Passes every operation on to another port; a test overrides the one that it is about.
+/// Forwards every operation to another port; a test overrides the operation that it tests.
 class ForwardingPort : public FilePort
 {
   public:

@@ -1,14 +1,14 @@
-// Runs the folders of tests/golden: each is one case of reading and writing a configuration file.
+// Runs the folders of tests/golden. Each is one case of reading and writing a configuration file.
 //
-//   default.cfg        read into the default table first, when there is one
-//   current.cfg        read into the current table, when there is one
-//   default-table.txt  the default table then, when the case looks at it
-//   table.txt          the current table then, when the case looks at it
-//   saved.cfg          the bytes that a save of the current table writes
+//  default.cfg        read into the default table first, if present
+//  current.cfg        read into the current table, if present
+//  default-table.txt  the expected default table, if the case checks it
+//  table.txt          the expected current table, if the case checks it
+//  saved.cfg          the bytes that a save of the current table writes
 //
-// A table file has a line for each variable in name order: kind, name, value and comment, separated
-// by tabs, with "\n", "\r", "\t" and "\\" for these characters and "\xHH" for any other byte outside
-// the printable ASCII characters.
+// A table file has one line for each variable in name order: kind, name, value and comment, separated
+// by tabs, with "\n", "\r", "\t" and "\\" for these characters and "\xHH" for any other byte that is not
+// a printable ASCII character.
 
 #include "base/locale_text.h"
 #include "config/core/config_reader.h"

@@ -1,4 +1,4 @@
-// Help texts against what the program does with the settings that they explain.
+// Compares help texts with what the program does with the settings that they describe.
 #include "config/core/setting_store.h"
 #include "controls/core/tooltip_markup.h"
 #include "pages/core/page_catalogue.h"
@@ -29,7 +29,7 @@ void ExpectHelpSays(unsigned id, std::initializer_list<const char*> phrases)
             << id << " does not say \"" << phrase << "\": " << help;
 }
 
-/// The values that the help assigns to the variable in its examples.
+/// The values that the help text assigns to the variable in its examples.
 std::vector<std::string> Examples(const std::string& help, const std::string& variable)
 {
     std::vector<std::string> values;
@@ -39,7 +39,7 @@ std::vector<std::string> Examples(const std::string& help, const std::string& va
     return values;
 }
 
-// Where the page shows text, the number is saved as it is typed.
+// If the page shows text, the number is saved as typed.
 TEST(HelpTexts, ShowWholeNumbersAsExamplesOfWholeNumbers)
 {
     for (const expected::Page& page : expected::Pages()) {
@@ -73,7 +73,7 @@ TEST(HelpTexts, DescribeTheDefaultModelInTheSameWords)
     EXPECT_EQ(Help(2057).substr(0, ofTitleBlocks.size()), ofTitleBlocks);
 }
 
-// The three boxes of the page are bound to the settings one further on.
+// Three check boxes of the page edit the setting after the one in their caption.
 TEST(HelpTexts, ExplainWhatTheShiftedBoxesOfCertifyingSet)
 {
     ExpectHelpSays(9333, {"The box 'Check reference files for marker cells' sets _ORTHOVAL_MARKERCELL"});
@@ -94,7 +94,7 @@ TEST(HelpTexts, DoNotDenyUsersTheirOwnScanPeriod)
     EXPECT_EQ(Help(8014).find("whatever their date"), std::string::npos);
 }
 
-// Neither the codes nor the levels are this program's.
+// Neither the codes nor the levels are defined by this program.
 TEST(HelpTexts, SayWhoDefinesWhatTheDialogDoesNot)
 {
     ExpectHelpSays(9103, {"The Reporting tools define the meaning of -1, 0 and 1."});

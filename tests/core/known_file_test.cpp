@@ -44,7 +44,7 @@ TEST(KnownFile, TakenNamesAreNumbered)
     EXPECT_EQ(FreeNameBeside(files, u"a.cfg"), u"a (replaced 2).cfg");
     files.directories.insert(u"a (replaced 2).cfg");
     EXPECT_EQ(FreeNameBeside(files, u"a.cfg"), u"a (replaced 3).cfg");
-    // Whether a name is free cannot be determined: it is passed over.
+    // A name counts as used if it cannot be determined whether it is free.
     files.failing = {files.calls + 3};
     EXPECT_EQ(FreeNameBeside(files, u"a.cfg"), u"a (replaced 4).cfg");
 }

@@ -12,8 +12,8 @@ using namespace ov;
 
 constexpr std::uint32_t designWidth = 580;
 constexpr std::uint32_t designHeight = 400;
-// The client area in which the control is captured: it lies 50 from the right
-// edge and 30 from the bottom one.
+// The client area in which the control is captured: the control is 50 from the right
+// edge and 30 from the bottom edge.
 constexpr std::int32_t capturedWidth = 300;
 constexpr std::int32_t capturedHeight = 200;
 constexpr Rect initialRect{100, 40, 250, 170};
@@ -32,7 +32,7 @@ Rect Place(std::uint32_t flags, std::int32_t width, std::int32_t height, const R
     return PlaceControl(Captured(flags, rect), designWidth, designHeight, width, height);
 }
 
-// A dialog's controls without a window.
+// The controls of a dialog without a window.
 class Controls : public LayoutControls
 {
   public:
@@ -337,7 +337,7 @@ TEST(Layout, MinimumTrackSizeGrowsWithTheUnitsAndNeverShrinks)
 {
     EXPECT_EQ(MinimumTrackSize(580, 400, {12, 26}, largeWorkArea), (Size{1160, 800}));
     EXPECT_EQ(MinimumTrackSize(580, 400, {3, 7}, largeWorkArea), (Size{580, 400}));
-    // Before a dialog knows its units.
+    // The units before the dialog has measured them.
     EXPECT_EQ(MinimumTrackSize(580, 400, {0, 0}, largeWorkArea), (Size{580, 400}));
 }
 

@@ -1,4 +1,4 @@
-// The text of a variable with several values: to rows, to fields and back.
+// Converts the text of a variable with several values to rows, to fields and back.
 #include "controls/core/list_text.h"
 
 #include <gtest/gtest.h>
@@ -50,7 +50,7 @@ std::string Entry(const ov::ListRows& list, std::size_t row)
     return ov::Utf8FromText(list.EntryText(row));
 }
 
-// What filling is short for.
+// The result that Fill must have, computed by single insertions.
 ov::ListRows InsertedOneByOne(const ov::Text& text, const ov::ListFormat& format)
 {
     ov::ListRows list(format);
@@ -103,10 +103,10 @@ TEST(ListText, CaseIsThatOfAToZOnly)
 
 TEST(ListText, DuplicatesAreFoundByWhatARowReadsBackAs)
 {
-    // Blanks and qualifiers of the entry are not in the row, so neither equals it.
+    // The row does not contain the entry's blanks and qualifiers, so it equals none of these entries.
     EXPECT_EQ(Opened("A; A;A "), (Rows{{"A"}, {"A"}, {"A"}}));
     EXPECT_EQ(Opened("A;\"A\""), (Rows{{"A"}, {"A"}}));
-    // Of several equal rows the first gives up its place.
+    // The first of several equal rows is replaced.
     EXPECT_EQ(Opened("A; A;a"), (Rows{{"a"}, {"A"}}));
 }
 
@@ -125,7 +125,7 @@ TEST(ListText, DoubledQualifiersStandForOne)
 {
     EXPECT_EQ(Opened("\"say \"\"hi\"\" now\";b"), (Rows{{"say \"hi\" now"}, {"b"}}));
     EXPECT_EQ(Opened("\"a\"\"b;c\";d"), (Rows{{"a\"b;c"}, {"d"}}));
-    // Written back they are single, as qualifiers within a field are never doubled.
+    // They are written singly, because qualifiers within a field are never doubled.
     EXPECT_EQ(Written("\"say \"\"hi\"\" now\";b"), "say \"hi\" now;b");
     EXPECT_EQ(Written("\"x\"\":y\":2", pairs), "\"x\":y\":2");
 }
@@ -211,7 +211,7 @@ TEST(ListRows, AnInsertedDuplicateTakesTheOldRowsPlace)
     ov::ListRows list = Filled("a;b;c");
     EXPECT_EQ(list.Insert(3, u"A"), (ov::ListRows::Inserted{0, true}));
     EXPECT_EQ(RowsOf(list), (Rows{{"A"}, {"b"}, {"c"}}));
-    // The text typed is compared whole: with blanks around it nothing equals it.
+    // The typed text is compared as a whole: with blanks around it, it equals no row.
     EXPECT_EQ(list.Insert(3, u" b"), (ov::ListRows::Inserted{3, false}));
     EXPECT_EQ(RowsOf(list), (Rows{{"A"}, {"b"}, {"c"}, {"b"}}));
 }
@@ -268,7 +268,7 @@ TEST(ListRows, SortIsOrdinal)
 
 TEST(ListRows, SortKeepsTheOrderOfEqualRows)
 {
-    // Entries that a blank sets apart read back alike: every second row is "A", the others "B".
+    // Entries that differ in blanks read back as equal: every second row is "A", the others "B".
     std::string text = "A;B";
     for (int i = 0; i < 40; ++i)
         text += "; A; B";

@@ -42,7 +42,7 @@ bool HasWildcard(TextView alternative)
     return alternative.find_first_of(u"*|") != TextView::npos;
 }
 
-// A piece longer than the limit goes on as the next one. Empty pieces do not count.
+// A piece longer than the limit is continued as the next one. Empty pieces do not count.
 std::vector<TextView> Alternatives(TextView content)
 {
     std::vector<TextView> alternatives;
@@ -56,7 +56,7 @@ std::vector<TextView> Alternatives(TextView content)
     return alternatives;
 }
 
-// What of an alternative is counted: not a leading "^", and nothing from a "]" on that has no "["
+// The part of an alternative that is counted: without a leading "^", and up to a "]" that has no "["
 // in the alternative.
 TextView CountedPart(TextView alternative)
 {
@@ -76,8 +76,8 @@ TextView CountedPart(TextView alternative)
     return alternative.substr(0, end);
 }
 
-// How much text an alternative is compared with. Right for alternatives of literals and "?", and
-// for ranges; a class "[AB]" counts 2.
+// The length of text with which an alternative is compared. Correct for alternatives of literals and
+// "?", and for ranges; a class "[AB]" counts as 2.
 std::size_t CountedLength(TextView alternative)
 {
     const TextView part = CountedPart(alternative);
@@ -93,7 +93,7 @@ std::size_t CountedLength(TextView alternative)
     return length - 2 * ranges;
 }
 
-// Whether the character lies in the range that the "-" stands in.
+// True if the character is in the range around the "-".
 bool InRange(TextView content, std::size_t dash, char16_t c, bool exact)
 {
     const char16_t smaller = std::min(content[dash - 1], content[dash + 1]);
@@ -120,7 +120,7 @@ bool HitsClass(TextView content, char16_t c, bool exact)
     return false;
 }
 
-// The rules of one comparison, and what its calls have come to.
+// The rules of one comparison, and the results of its calls.
 class Matcher
 {
   public:
@@ -132,10 +132,10 @@ class Matcher
     WildcardType Type() const { return m_type; }
     bool Exact() const { return m_exact; }
 
-    // The call that all recursion goes through.
+    // All recursive calls go through this function.
     bool Matches(TextView pattern, TextView text);
 
-    // A text with "*" before it that lives as long as the matcher.
+    // A text with "*" before it, which lives as long as the matcher.
     TextView WithStar(TextView pattern) { return *m_built.insert(Text(u"*").append(pattern)).first; }
 
   private:
@@ -149,7 +149,7 @@ class Matcher
     std::set<Text> m_built;
 };
 
-// One call's walk through its template.
+// The walk of one call through its pattern.
 class Walk
 {
   public:
@@ -174,7 +174,7 @@ class Walk
     std::size_t Remaining() const { return m_text.size() - m_t; }
     TextView TextRest() const { return m_text.substr(m_t); }
 
-    // Takes so much of the text and goes on at `next`. There is nothing to take past the text's end.
+    // Consumes `count` characters of the text and continues at `next`. Fails at the text's end.
     Step Consume(std::size_t count, std::size_t next)
     {
         if (count > Remaining())
@@ -308,7 +308,7 @@ bool Matcher::Matches(TextView pattern, TextView text)
         return true;
     if (!m_remember)
         return Walk(*this, pattern, text).Run();
-    // All texts are parts of the comparison's own two and of those it built.
+    // All texts are parts of the comparison's two texts or of those it built.
     const Arguments arguments(pattern.data(), pattern.size(), text.data(), text.size());
     const auto known = m_answers.find(arguments);
     if (known != m_answers.end())

@@ -13,24 +13,24 @@
 namespace ov::test
 {
 
-/// What the memory file port says about a fault.
+/// The system message of an injected fault.
 inline constexpr TextView kFaultText = u"The injected fault.";
 
-/// A file system in memory that fails on request. Its operations are numbered from 1 in the order
-/// of their calls. A write that fails leaves half of its bytes behind.
+/// A file system in memory that fails on request. Its operations are numbered from 1 in call
+/// order. A failed write leaves half of its bytes.
 class MemoryFilePort final : public FilePort
 {
   public:
     std::map<Text, std::string> contents;
     std::set<Text> directories;
     std::set<Text> devices;
-    std::set<Text> pinned;                                          ///< Cannot be renamed or removed.
-    std::set<Text> readOnly;                                        ///< Cannot be opened for writing.
-    std::set<Text> unreadable;                                      ///< Cannot be opened for reading.
-    std::map<Text, Text> links;                                     ///< Which path a symbolic link leads to.
-    std::size_t capacity = std::numeric_limits<std::size_t>::max(); ///< For how long a content there is room.
-    std::size_t blockSize = std::numeric_limits<std::size_t>::max(); ///< At most so many bytes a read.
-    std::set<int> failing;                                           ///< Numbers of the calls that fail.
+    std::set<Text> pinned;                                           ///< Cannot be renamed or removed.
+    std::set<Text> readOnly;                                         ///< Cannot be opened for writing.
+    std::set<Text> unreadable;                                       ///< Cannot be opened for reading.
+    std::map<Text, Text> links;                                      ///< The target of each symbolic link.
+    std::size_t capacity = std::numeric_limits<std::size_t>::max();  ///< The longest content that fits.
+    std::size_t blockSize = std::numeric_limits<std::size_t>::max(); ///< The most bytes per read.
+    std::set<int> failing;                                           ///< The numbers of the calls that fail.
     int calls = 0;
     int openFiles = 0;
     bool unflushed = false; ///< Bytes were written since the last flush.

@@ -1,4 +1,4 @@
-// The pages File Naming and Model Naming: two of a kind, but for one thing.
+// The pages File Naming and Model Naming, which are equal except for one detail.
 #include "controls/core/tooltip_markup.h"
 #include "pages/core/page_rows.h"
 #include "pages/core/page_values.h"
@@ -42,7 +42,7 @@ TEST(NamingPages, RefusedListsHandTheFocusToTheirEdit)
     EXPECT_EQ(BrowseOf(ov::ModelNamingConventionRows(), 2910).focusOnRefusal, 2909);
 }
 
-// The one difference between the two, which is kept.
+// The only difference between the two, which is intended.
 TEST(NamingPages, RefusedHelpTextHandsTheFocusToTheDescriptionsOfFilesAndToItselfOfModels)
 {
     EXPECT_EQ(BrowseOf(ov::FileNamingConventionRows(), 2912).focusOnRefusal, 2903);

@@ -26,7 +26,7 @@ NoMemory::~NoMemory()
 
 } // namespace ov::test
 
-// All forms whose memory the plain operator delete takes.
+// Replaces all forms of operator new that the plain operator delete frees.
 void* operator new(std::size_t size, const std::nothrow_t&) noexcept
 {
     return noMemory ? nullptr : std::malloc(size == 0 ? 1 : size);

@@ -3,7 +3,7 @@
 namespace ov::test
 {
 
-/// While it exists, this thread gets no memory from operator new.
+/// While it exists, operator new fails on this thread.
 class NoMemory
 {
   public:

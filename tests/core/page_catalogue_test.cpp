@@ -72,7 +72,7 @@ TEST(PageCatalogue, HasNoPageWithAnUnusedIdOrThePanesOwn)
 }
 
 struct NamedPage {
-    const char* rows; ///< in pages/<the same in small letters>/rows.cpp
+    const char* rows; ///< defined in pages/<the name in lower case>/rows.cpp
     const ov::PageInfo& info;
 };
 
@@ -85,7 +85,7 @@ std::vector<NamedPage> NamedPages()
     };
 }
 
-/// Names the pages that have a number in common that only one may have.
+/// Returns the pages that share a number which must be unique.
 template <class Number>
 void ExpectOnePageEach(const char* what, Number ov::PageInfo::*number)
 {

@@ -1,5 +1,5 @@
-// What rows can say beyond one control for one setting: the encodings as a
-// page uses them, companions, hooks, dependencies.
+// Rows for more than one control with one setting: the encodings as a page uses
+// them, companions, hooks, dependencies.
 #include "pages/core/page_values.h"
 
 #include <gtest/gtest.h>
@@ -36,7 +36,7 @@ constexpr PageRows plainPage = {
     .companions = companions,
 };
 
-/// The companion is the length of the hidden text, and writes as many letters.
+/// The companion shows the length of the hidden text, and sets a text of that length.
 constexpr PageRows pageWithHooks = {
     .info = {},
     .settings = settings,

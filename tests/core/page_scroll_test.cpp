@@ -7,7 +7,7 @@ namespace
 
 using namespace ov;
 
-// What the page does with a wheel movement: the steps' requests one by one.
+// Performs the scroll steps of a wheel movement one by one, as the page does.
 std::int32_t TurnWheel(ScrollAxis& axis, std::int32_t delta, std::uint32_t lines)
 {
     const WheelSteps steps = StepsOfWheel(delta, lines);
@@ -69,7 +69,7 @@ TEST(PageScrollUpdate, PositionFollowsThePageSizeTruncated)
 
 TEST(PageScrollUpdate, PositionEndsOnePixelBeforeTheLastPage)
 {
-    // 100 x 350 / 200 = 175, but the content has 370 - 350 - 1 left
+    // 100 x 350 / 200 = 175, but only 370 - 350 - 1 are left
     ScrollAxis axis{200, 370, 100};
     EXPECT_EQ(UpdateAxis(axis, 350, 100), (ScrollUpdate{{369, 350, 19}, 81}));
 }
@@ -261,7 +261,7 @@ TEST(PageScrollReach, ContentThatFitsIsReachedAsFarAsThePageGoes)
 {
     const ScrollAxis axis{0, 290, 0};
     EXPECT_EQ(ReachableSize(axis, 386, 386), 386);
-    EXPECT_EQ(ReachableSize(axis, 386, 369), 369); // beside the other axis's bar
+    EXPECT_EQ(ReachableSize(axis, 386, 369), 369); // beside the scroll bar of the other axis
 }
 
 TEST(PageScrollReach, BarOfTheOtherAxisCoversTheEndOfAScrolledContent)

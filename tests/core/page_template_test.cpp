@@ -1,4 +1,4 @@
-// The dialog templates of the pages as portable code sees them.
+// The dialog templates of the pages, as portable code reads them.
 #include "pages/core/page_template.h"
 
 #include "pages/core/page_catalogue.h"

@@ -43,7 +43,7 @@ constexpr ov::SettingRow sampleRows[] = {
     ov::TextRow(u"TEXT", ov::SettingKindText, 3, 0, u"built in"),
 };
 
-/// A page of nothing but settings.
+/// A page that only has settings.
 constexpr ov::PageRows PageOf(std::span<const ov::SettingRow> settings)
 {
     return {.info = {}, .settings = settings};

@@ -31,7 +31,7 @@ struct Result {
     std::uint32_t status;
     std::uint32_t match;
 
-    // The flag of a failed call has no meaning.
+    // After a failed call `match` is unspecified.
     bool operator==(const Result& other) const
     {
         return status == other.status && (status != kMatchDone || match == other.match);
@@ -90,7 +90,7 @@ std::string Described(const Row& row)
            "', type " + std::to_string(row.type) + ", case flag " + std::to_string(row.caseFlag);
 }
 
-// The matcher's answers and, but for regular expressions, the yardstick's own.
+// Checks the matcher's results and, except for regular expressions, those of the reference.
 void Check(const std::vector<Row>& rows)
 {
     for (const Row& row : rows) {
@@ -161,7 +161,7 @@ TEST(PatternMatch, NoneComparesTheWholeText)
         {"| is literal", u"a|", u"ab", kNone, kAnyCase, kDone, kNo},
         {"empty template", u"", u"a", kNone, kAnyCase, kDone, kNo},
         {"empty text", u"a", u"", kNone, kAnyCase, kDone, kNo},
-        // The letters beyond a to z have no case.
+        // Only the letters a to z have case.
         {"no folding beyond ASCII", u"\u00C9", u"\u00E9", kNone, kAnyCase, kDone, kNo},
     });
 }
@@ -248,7 +248,7 @@ TEST(PatternMatch, OtherCharactersStandForThemselves)
             {"above z", u"{?", u"\u005Bx", type, kAnyCase, kDone, kNo},
             {"beyond ASCII", u"\u00E9?", u"\u00E9x", type, kAnyCase, kDone, kYes},
             {"no folding beyond ASCII", u"\u00E9?", u"\u00C9x", type, kAnyCase, kDone, kNo},
-            // Not the character's last eight bits only.
+            // Compares more than the last eight bits of a character.
             {"no folding of U+0161", u"\u0161?", u"\u0141x", type, kAnyCase, kDone, kNo},
             {"anchored at the start", u"b?", u"abc", type, kAnyCase, kDone, kNo},
             {"anchored at the end", u"?b", u"abc", type, kAnyCase, kDone, kNo},
@@ -290,7 +290,7 @@ TEST(PatternMatch, BarTakesZeroOrOneCharacter)
             {"first, taking one", u"|C", u"xC", type, kAnyCase, kDone, kYes},
             {"past the end", u"A|C", u"A", type, kAnyCase, kDone, kNo},
             {"nothing there", u"|C", u"", type, kAnyCase, kDone, kNo},
-            // A last bar does take one character.
+            // A bar at the end matches exactly one character.
             {"last", u"A|", u"AB", type, kAnyCase, kDone, kYes},
             {"last, past the end", u"A|", u"A", type, kAnyCase, kDone, kNo},
             {"last, text goes on", u"A|", u"ABC", type, kAnyCase, kDone, kNo},
@@ -318,12 +318,12 @@ TEST(PatternMatch, BarTakesZeroOrOneCharacter)
 TEST(PatternMatch, RunOfBarsIsGivenUpWhenItsRestFitsNowhereOnItsOwn)
 {
     Check({
-        // On its own "[A]" is not negated, after the bars it would be.
+        // Alone, "[A]" is not negated; after the bars it would be.
         {"one bar: negated after it", u"[^0]|[A]", u"xyC", kSubsets, kAnyCase, kDone, kYes},
         {"two bars: not reached", u"[^0]||[A]", u"xyzC", kSubsets, kAnyCase, kDone, kNo},
         {"two bars, the rest fits", u"[^0]||[A]", u"xyA", kSubsets, kAnyCase, kDone, kYes},
         {"two bars, all taken, negated", u"[^0]||[A]", u"xyzA", kSubsets, kAnyCase, kDone, kNo},
-        // The rest on its own is equal to the text's end.
+        // The rest alone is equal to the text's end.
         {"one bar: no comparison after it", u"|[A]", u"x[A]", kSubsets, kAnyCase, kDone, kNo},
         {"two bars: the last bar compares", u"||[A]", u"x[A]", kSubsets, kAnyCase, kDone, kYes},
     });
@@ -483,7 +483,7 @@ TEST(PatternMatch, RangeOfAClass)
             {"negated, above", u"[^B-D]", u"e", type, kAnyCase, kDone, kYes},
             {"by code", u"[A-z]", u"_", type, kExact, kDone, kYes},
             {"by code in any case", u"[A-z]", u"_", type, kAnyCase, kDone, kYes},
-            // Z lies below a, but above A: the upper-cased bounds enclose nothing.
+            // Z precedes a, but follows A: the upper-cased bounds enclose nothing.
             {"by code between the cases", u"[Z-a]", u"^", type, kAnyCase, kDone, kYes},
             {"upper-cased bounds crossed", u"[Z-a]", u"m", type, kAnyCase, kDone, kNo},
             {"one bound twice", u"[B-B]", u"b", type, kAnyCase, kDone, kYes},
@@ -579,10 +579,10 @@ TEST(PatternMatch, AlternativeIsComparedWithItsCountedLength)
         {"- beside another character counts", u"[[+-9],x]", u"5", kSubsets, kAnyCase, kDone, kNo},
         {"- between letters beyond ASCII counts", u"[\u00C0-\u00C9,x]", u"\u00C0-\u00C9", kSubsets, kAnyCase,
          kDone, kYes},
-        // "[AB]" counts two: compared with two characters it cannot fit.
+        // "[AB]" counts as two: compared with two characters it cannot match.
         {"two in brackets count two", u"[[AB],C]x", u"Axx", kSubsets, kAnyCase, kDone, kNo},
         {"a star makes that right", u"[[AB]*,C]", u"B", kSubsets, kAnyCase, kDone, kYes},
-        // With one character less it is compared with what there is, and then takes too much.
+        // With one character less it is compared with the rest of the text, and then matches too much.
         {"one too many is compared", u"[[AB],A]", u"A", kSubsets, kAnyCase, kDone, kNo},
         {"one too many fits not", u"[[BC],A]", u"A", kSubsets, kAnyCase, kDone, kYes},
         {"two too many are not compared", u"[[ABC],A]", u"A", kSubsets, kAnyCase, kDone, kYes},
@@ -643,8 +643,8 @@ TEST(PatternMatch, PartsOfAnAlternativeBetweenItsStarsFollowOneAnother)
 TEST(PatternMatch, AlternativeThatEndsInAStarAcceptsTheRest)
 {
     Check({
-        // "x[*" is unclosed: x, any character, and the "*" is dropped. So it takes two, and the
-        // template's end accepts the rest because the alternative's last character is a star.
+        // "x[*" is unclosed: x, any character, and the "*" is skipped. So it matches two, and the
+        // end of the pattern accepts the rest because the alternative's last character is a star.
         {"two characters", u"[x[*,B]]", u"xy", kSubsets, kAnyCase, kDone, kYes},
         {"and the rest", u"[x[*,B]]", u"xyzzy", kSubsets, kAnyCase, kDone, kYes},
         {"the next step ends that", u"[x[*,B]]q", u"xyqz", kSubsets, kAnyCase, kDone, kNo},
@@ -833,7 +833,7 @@ TEST(PatternMatch, WithoutMemoryPosixFails)
     EXPECT_EQ(result, kFails);
 }
 
-// Whether memory is needed is the matcher's own matter; a wrong answer or an exception is not.
+// The matcher may or may not need memory; a wrong result or an exception is an error.
 TEST(PatternMatch, WithoutMemoryTheWalkIsRightOrFails)
 {
     struct Case {
@@ -875,7 +875,7 @@ TEST(PatternMatch, WithoutMemoryTheWalkIsRightOrFails)
     }
 }
 
-// Templates that are far longer than their texts, and others that are as long.
+// Patterns that are much longer than their texts, and others of the same length.
 constexpr std::size_t kLong = 100000;
 constexpr std::size_t kEven = 2000;
 
@@ -925,7 +925,7 @@ TEST(PatternMatchLong, FortyBarsBeforeALetter)
     EXPECT_EQ(Match(pattern, Text(1000, u'a') + u"b", kSubsets), kDiffers);
 }
 
-// Each "[" is unclosed, takes one character and drops the next "[".
+// Each "[" is unclosed, matches one character and skips the next "[".
 TEST(PatternMatchLong, OpeningBracketsFitHalfAsManyCharacters)
 {
     const Text pattern(kLong, u'[');
@@ -998,9 +998,9 @@ TEST(PatternMatchLong, TwoListsWithStarsOnALongText)
     const Text text(250, u'a');
     EXPECT_EQ(Match(u"[*x*,*y*][*x*,*y*]", text, kSubsets), kDiffers);
     EXPECT_EQ(Match(u"[*a*x*,*a*y*]*[*a*x*,*a*y*]", text, kSubsets), kDiffers);
-    // The first takes the whole text.
+    // The first list matches the whole text.
     EXPECT_EQ(Match(u"[a*,b*][a*,b*]", text, kSubsets), kDiffers);
-    // The first alternative that fits takes as much as it can: here all, there all up to the x.
+    // The first alternative that matches takes as much as it can: here all, there all up to the x.
     EXPECT_EQ(Match(u"[*y,*x][*y,*x]", text + u"x" + text + u"y", kSubsets), kDiffers);
     EXPECT_EQ(Match(u"[*z,*x][*y,*x]", text + u"x" + text + u"y", kSubsets), kFits);
 }
@@ -1022,7 +1022,7 @@ TEST(PatternMatchLong, AsManyOccurrencesAsStarsAskFor)
 
 TEST(PatternMatchLong, StarsBeforeBracketsWithStickyNegation)
 {
-    // "[^q][x]" is one character that is not q and one that is not x: never found in "qx..qxx".
+    // "[^q][x]" is one character other than q and one other than x: not found in "qx..qxx".
     const Text decoys = Repeat(u"qx", 1500);
     const Text pattern = Repeat(u"*z[^q][x]Z", 3) + u"*";
     const auto text = [&](const Text& piece) { return decoys + Repeat(piece + decoys, 3); };
@@ -1041,7 +1041,7 @@ TEST(PatternMatchLong, StarsBeforeBracketsWithStickyNegation)
 
 TEST(PatternMatchLong, NegationEndsAtTheNextStarOfALongText)
 {
-    // Twenty times a letter that is not c; the last bracket stands in a call of its own.
+    // Twenty times a letter other than c; the last bracket is in a call of its own.
     const Text pattern = Repeat(u"*[^c]B", 20) + u"*[c-e]";
     for (const WildcardType type : {kRanges, kSubsets}) {
         EXPECT_EQ(Match(pattern, Repeat(u"ab", 2000) + u"D", type), kFits);
@@ -1064,7 +1064,7 @@ TEST(PatternMatchLong, RestEqualToTheEndOfALongTextFits)
     }
 }
 
-// Each place of the text is one where the rest nearly fits: the walk is given up.
+// At each position of the text the rest nearly matches, so the walk gives up.
 TEST(PatternMatchLong, RestThatNearlyFitsEverywhere)
 {
     const Text pattern = u"*" + Text(200, u'a') + u"b*";
@@ -1075,7 +1075,7 @@ TEST(PatternMatchLong, RestThatNearlyFitsEverywhere)
         EXPECT_EQ(Match(pattern, text + u"B" + text, type, kExact), kDiffers);
         EXPECT_EQ(Match(pattern, text + u"c" + Text(199, u'a') + u"b", type), kDiffers);
     }
-    // Under DOS a bracket is a letter like any other.
+    // With type DOS a bracket is an ordinary character.
     const Text brackets = u"*" + Repeat(u"[", 200) + u"b*";
     EXPECT_EQ(Match(brackets, Repeat(u"[", 5000), kDos), kDiffers);
     EXPECT_EQ(Match(brackets, Repeat(u"[", 5000) + u"b", kDos), kFits);
@@ -1097,7 +1097,7 @@ TEST(PatternMatchLong, ThousandsOfAlternativesWithStars)
     EXPECT_EQ(Match(list + u"*a]b", text + u"bb", kSubsets), kDiffers);
 }
 
-// More different alternatives than are kept at once, each met twice.
+// More different alternatives than the cache holds, each used twice.
 TEST(PatternMatchLong, ManyDifferentAlternativesWithStars)
 {
     Text list = u"[";

@@ -14,7 +14,7 @@ namespace ov
 namespace
 {
 
-// The same cases on every machine, which the standard's distributions do not promise.
+// Gives the same cases on every machine, which the standard's distributions do not guarantee.
 class Dice
 {
   public:
@@ -54,7 +54,7 @@ constexpr TextView kLetters = u"aAbB1";
 constexpr std::array<TextView, 8> kAlphabets = {kAll,      u"ab*?|",  u"a[]*",   u"aB[]^-",
                                                 u"a[],*|", u"ab[],^", u"a1-[],", u"a|[]^"};
 
-// The sentences of the template's language.
+// Generates patterns from a grammar.
 class Grammar
 {
   public:
@@ -82,7 +82,7 @@ class Grammar
     }
 
   private:
-    // Negation is rare enough for the brackets before it to matter.
+    // Negation is rare enough that the brackets before it have an effect.
     Text Opening() { return m_dice.OneIn(4) ? u"[^" : u"["; }
 
     Text Element(std::size_t depth)
@@ -121,7 +121,7 @@ class Grammar
     Dice& m_dice;
 };
 
-// Something that the template may well fit: its own characters, letters for its wildcards.
+// A text that the pattern is likely to match: the pattern's characters, and letters for its wildcards.
 Text LikelyText(Dice& dice, TextView pattern)
 {
     Text text;
@@ -132,7 +132,7 @@ Text LikelyText(Dice& dice, TextView pattern)
         } else if (c == u'?') {
             text.push_back(dice.OneOf(kLetters));
         } else if (c == u'[') {
-            // One of the first characters of the bracket, and behind it.
+            // One of the first characters in the bracket or just after it.
             text.push_back(pattern[std::min(i + 1 + dice.Below(3), pattern.size() - 1)]);
             i = std::min(pattern.find(u']', i), pattern.size());
         } else {
@@ -156,7 +156,7 @@ Text RandomText(Dice& dice, const Text& pattern)
         return dice.Characters(kLetters, dice.Below(9));
     case 1:
         return dice.Characters(kAll, dice.Below(9));
-    case 2: // A rest of the template: a recursion's template may be equal to its text.
+    case 2: // The rest of a pattern: in a recursion the pattern may equal its text.
         return dice.Characters(kLetters, dice.Below(3)) + pattern.substr(dice.Below(pattern.size() + 1));
     default:
         return LikelyText(dice, pattern);
@@ -218,7 +218,7 @@ TEST(PatternProperty, AnswersAreThoseOfThePlainWalk)
     EXPECT_GE(fits, cases / 10);
 }
 
-// Enough stars and text to make the plain walk hopeless.
+// So many stars and so much text that the simple walk cannot finish.
 TEST(PatternProperty, AnswersForLongTextsAreThoseOfTheWalkThatRemembers)
 {
     constexpr std::uint32_t kSeed = 20112;

@@ -10,7 +10,7 @@ namespace ov
 namespace
 {
 
-// The result of a search: at least 0 for a match.
+// The result of a search: 0 or greater for a match.
 int Search(const std::string& expression, const std::string& subject, std::uint32_t options)
 {
     const auto bytes = [](const std::string& s) { return reinterpret_cast<PCRE2_SPTR>(s.c_str()); };
@@ -29,7 +29,7 @@ int Search(const std::string& expression, const std::string& subject, std::uint3
 TEST(Pcre2, MatchesWithoutRegardToCaseInUtf8)
 {
     EXPECT_GE(Search("^A.C$", "abc", PCRE2_UTF | PCRE2_CASELESS), 0);
-    // Both letters are two bytes: "." takes one whole character, and case folds beyond ASCII.
+    // Both letters have two bytes: "." matches one whole character, and case folding includes non-ASCII.
     EXPECT_GE(Search("^\xC3\x89.$", "\xC3\xA9\xC3\xBC", PCRE2_UTF | PCRE2_CASELESS), 0);
 }
 

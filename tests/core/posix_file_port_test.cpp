@@ -145,7 +145,7 @@ TEST_F(PosixFiles, LinkTargetIsTheFullPathOfWhatALinkLeadsTo)
     EXPECT_EQ(m_files.LinkTarget(Path("missing")), u"");
 }
 
-// The limit on a file's size stands for a full disk; its signal would end the process.
+// A limit on a file's size simulates a full disk; its signal would end the process.
 class FileSizeLimit
 {
   public:

@@ -1,5 +1,5 @@
-// Reference Files: the scale factor's limits, the boxes and lists that read
-// more than a flag.
+// Reference Files: the scale factor's limits, and the check boxes and lists that
+// accept more values than a flag.
 #include "pages/core/page_rows.h"
 #include "pages/core/page_values.h"
 

@@ -1,4 +1,4 @@
-// What is peculiar to the Reporting page.
+// Behaviour that only the Reporting page has.
 #include "pages/core/page_rows.h"
 #include "pages/core/page_values.h"
 #include "pages/core/string_table.h"
@@ -20,7 +20,7 @@ constexpr char16_t models[] = u"_ORTHOVAL_REPORT_AUTOGETMODELS";
 constexpr char16_t name[] = u"_ORTHOVAL_REPORT_NAMING";
 constexpr char16_t folder[] = u"_ORTHOVAL_REPORT_OUTPUT_DEFAULT_NAME";
 
-/// The page after it has read one variable, if any, as an opened page does.
+/// The page after reading one variable, if given, as when the page was opened.
 class ReportingPage : public testing::Test
 {
   protected:
@@ -46,7 +46,7 @@ class ReportingPage : public testing::Test
         }
         return true;
     }
-    /// The page chooses a button of a group as a click does.
+    /// Chooses a button of a group as a click does.
     void Choose(int group, int index)
     {
         m_values.CompanionNumberOf(group) = index;

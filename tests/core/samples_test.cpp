@@ -106,13 +106,13 @@ TEST_F(Samples, DefaultsHaveAValueAndACommentForEveryVariable)
     }
 }
 
-/// Without the blanks at the ends of its lines, which the samples do not carry.
+/// Removes the blanks at the ends of lines, which the samples do not have.
 std::string WithoutTrailingBlanks(const ov::Text& comment)
 {
     return std::regex_replace(ov::Utf8FromText(comment), std::regex(" +\n"), "\n");
 }
 
-// The comments are the help texts, in the form in which a new variable gets them.
+// The comments are the help texts in the form that a new variable gets.
 TEST_F(Samples, DefaultsExplainEveryVariableByItsHelp)
 {
     for (const expected::Page& page : expected::Pages()) {
@@ -126,7 +126,7 @@ TEST_F(Samples, DefaultsExplainEveryVariableByItsHelp)
     }
 }
 
-// As Save writes it: in name order, a comment block above every variable. Only the lists differ, see below.
+// As Save writes it: in name order, with a comment block above every variable. For the lists see below.
 TEST_F(Samples, DefaultsHaveTheFormOfASavedFile)
 {
     const std::string bytes = ReadSample("defaults.cfg");
@@ -144,7 +144,7 @@ TEST_F(Samples, DefaultsHaveTheFormOfASavedFile)
     }
 }
 
-// Pages that are read from the defaults and saved write what the defaults say.
+// Pages that load the defaults and save write the same values.
 TEST_F(Samples, DefaultsPassThroughThePagesAsTheyAre)
 {
     expected::Table defaults;
@@ -209,7 +209,7 @@ TEST_F(Samples, ListsAreJoined)
         "HR[0-9]{4}-(C|S|E|M|W)-[0-9]{3}[A-Z]?\\.dgn;HR[0-9]{4}-XREF-.+\\.dgn;A14JV-[A-Z]{2}-[0-9]{5}\\.dgn");
 }
 
-// Of a list on several lines, a defaults file gives the last item only.
+// From a list on several lines, a defaults file gives only the last item.
 TEST_F(Samples, ListsInTheDefaultsStandOnOneLine)
 {
     EXPECT_EQ(ReadSample("defaults.cfg").find("\r\n_ORTHOVAL_CONVENTION_FILENAME > "), std::string::npos);

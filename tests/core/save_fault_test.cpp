@@ -1,6 +1,6 @@
-// Lets every operation of a save fail, run out of memory and be the process's last, alone and in
-// pairs, in every situation that a save can meet. After every single operation a complete copy of
-// the file, old or new, must exist under the file's or the backup's name.
+// Makes every operation of a save fail, run out of memory or be the last of the process, alone and in
+// pairs, in every situation that a save can find. After every single operation a complete copy of the
+// file, old or new, must exist under the file's name or the backup's name.
 
 #include "config/core/save.h"
 
@@ -33,26 +33,26 @@ const Text kTargetBackup = u"share/common.bak";
 const std::string kOld = "OLD = content\r\n";
 const std::string kStale = "STALE = content\r\n";
 
-// What is known of the file beforehand.
+// What the program knows about the file before the save.
 enum class Known {
-    AsItIs,  ///< What it contains.
+    AsItIs,  ///< Its actual content.
     Nothing, ///< It was not read.
     Other,   ///< It was read and has been changed since.
 };
 
-// What a save finds.
+// A situation that a save can find.
 struct Situation {
     const char* name;
     std::optional<std::string> old; ///< The content before the save.
     bool inPlace = false;           ///< No backup can be made.
-    bool fails = false;             ///< The save fails without any fault.
+    bool fails = false;             ///< The save fails even without a fault.
     Text path = kPath;
     void (*arrange)(MemoryFilePort& files) = [](MemoryFilePort&) {};
     Known known = Known::AsItIs;
-    bool answer = true;      ///< To the question whether to replace the file.
-    bool keeps = false;      ///< The old content is kept when the save succeeds.
+    bool answer = true;      ///< The answer to the question whether to replace the file.
+    bool keeps = false;      ///< The old content is kept even if the save succeeds.
     bool unreadable = false; ///< If it cannot be renamed either, it is overwritten without a copy.
-    std::optional<std::string> first = std::nullopt; ///< The content until the notice, if another.
+    std::optional<std::string> first = std::nullopt; ///< The content before the notice, if different.
 };
 
 void PrintTo(const Situation& situation, std::ostream* stream)
@@ -175,14 +175,14 @@ const Situation kSituations[] = {
      .first = "FIRST = content\r\n"},
 };
 
-// What stands for the end of the process.
+// Thrown to simulate the end of the process.
 struct End {
 };
 
 class SaveFault : public testing::TestWithParam<Situation>
 {
   protected:
-    // One save with faults in it, and what is left of it.
+    // One save with injected faults, and its results.
     struct Run {
         Run(MemoryFilePort before, std::optional<KnownFile> knownBefore)
             : files(std::move(before)), known(std::move(knownBefore))
@@ -192,7 +192,7 @@ class SaveFault : public testing::TestWithParam<Situation>
         std::optional<KnownFile> known;
         StepFilePort port{files};
         test::TestPrompts prompts;
-        std::optional<SaveResult> result{}; ///< None when it threw or the process ended.
+        std::optional<SaveResult> result{}; ///< Nothing if it threw or the process ended.
         bool threw = false;
     };
 
@@ -206,7 +206,7 @@ class SaveFault : public testing::TestWithParam<Situation>
         GetParam().arrange(m_before);
     }
 
-    // Saves; after every operation a complete copy exists.
+    // Saves; after every operation a complete copy must exist.
     void Save(Run& run)
     {
         run.port.end = [] { throw End(); };
@@ -244,7 +244,7 @@ class SaveFault : public testing::TestWithParam<Situation>
         return found == files.contents.end() ? std::nullopt : std::optional(found->second);
     }
 
-    // The content that the file has unless the save changes it.
+    // The content of the file if the save does not change it.
     static std::optional<std::string> Old(const Run& run)
     {
         return GetParam().first && run.prompts.notices.empty() ? GetParam().first : GetParam().old;
@@ -256,15 +256,15 @@ class SaveFault : public testing::TestWithParam<Situation>
                                    [&](const auto& file) { return file.second == Old(run); });
     }
 
-    // What can be neither renamed nor read after the notice is overwritten without a copy.
+    // If it can be neither renamed nor read after the notice, it is overwritten without a copy.
     static bool IsOverwrittenBlindly(const Run& run)
     {
         return !run.prompts.notices.empty() && !run.port.renamed &&
                (GetParam().unreadable || run.port.failedReads > 1);
     }
 
-    // Without a backup there is one window: the write itself, until the content is put back. A file
-    // that is to be kept has none.
+    // Without a backup there is one interval without a complete copy: from the write itself until the
+    // content is restored. A file that is to be kept always has one.
     void ExpectCompleteCopy(const Run& run) const
     {
         if (GetParam().keeps && IsOverwrittenBlindly(run))
@@ -275,11 +275,11 @@ class SaveFault : public testing::TestWithParam<Situation>
         const bool oldStands = HasOldContent(run);
         const bool stands = Content(run.files, GetParam().path) == m_new && !GetParam().keeps;
         EXPECT_TRUE(stands || oldStands) << "after operation " << run.port.steps;
-        // The old copy goes only once the new one is on the disk.
+        // The old copy is removed only when the new one is on the disk.
         EXPECT_TRUE(oldStands || !run.files.unflushed || inPlace) << "after operation " << run.port.steps;
     }
 
-    // What must hold when a save has returned.
+    // Checks the result of a save that has returned.
     void ExpectTrueResult(const Run& run) const
     {
         if (run.threw) {
@@ -315,7 +315,7 @@ class SaveFault : public testing::TestWithParam<Situation>
         }
     }
 
-    // What was kept is where the question or the result says. Nothing else is left behind.
+    // Kept content is where the question or the result says. No other files are left.
     void ExpectKeptContent(const Run& run) const
     {
         if (run.result->keptPath.empty() && run.prompts.questions.empty())
@@ -325,7 +325,7 @@ class SaveFault : public testing::TestWithParam<Situation>
         EXPECT_EQ(Content(run.files, kept), Old(run));
     }
 
-    // The next save asks nothing about what this one left, and asks about everything else.
+    // The next save does not ask about what this one left, and asks about everything else.
     void ExpectKnownContent(const Run& run) const
     {
         const auto before = KnownBefore();
@@ -338,8 +338,8 @@ class SaveFault : public testing::TestWithParam<Situation>
         }
     }
 
-    // Runs the save with the fault at each operation in turn, until it strikes none. Gives the
-    // number of runs in which it struck.
+    // Runs the save with the fault at each operation in turn, until there is no such operation. Returns
+    // the number of runs with a fault.
     template <class Check>
     int SweepOne(StepFault fault, std::size_t part, Check check)
     {
@@ -379,7 +379,7 @@ class SaveFault : public testing::TestWithParam<Situation>
     const test::ScopedLocale m_locale{"C"};
     SettingStore m_store;
     std::string m_new;
-    std::vector<std::size_t> m_parts; ///< How far a write may come that does not come to its end.
+    std::vector<std::size_t> m_parts; ///< The numbers of bytes that an incomplete write may write.
     MemoryFilePort m_before;
 };
 
@@ -445,7 +445,7 @@ TEST_P(SaveFault, ProcessMayEndBeforeWithinAndAfterEachOperation)
     }
 }
 
-// How far a write comes matters in each operation alone; here it comes half way.
+// The length of an incomplete write only matters for single faults; here it is one half.
 TEST_P(SaveFault, EachPairOfOperationsMayFail)
 {
     const auto check = [&](const Run& run) {
@@ -458,7 +458,7 @@ TEST_P(SaveFault, EachPairOfOperationsMayFail)
     SweepTwo(StepFault::OutOfMemory, StepFault::Fails, half, check);
 }
 
-// An end before or after an operation leaves what every run is checked for after each operation.
+// An end before or after an operation leaves the state that every run checks after each operation.
 TEST_P(SaveFault, ProcessMayEndWithinAnOperationAfterAnotherFailed)
 {
     for (const StepFault fault : {StepFault::Fails, StepFault::FailsDone}) {

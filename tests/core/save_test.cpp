@@ -27,7 +27,7 @@ class SaveConfig : public testing::Test
   protected:
     SaveConfig() { m_store.SetSetting(u"A", u"1", SettingKindInteger, u"", kCurrentTable); }
 
-    // Saves as after reading what is under the path.
+    // Saves as after reading the file at the path.
     SaveResult Save(const Text& path = kPath)
     {
         m_known.reset();
@@ -43,7 +43,7 @@ class SaveConfig : public testing::Test
         return SaveConfigFile(m_store, path, m_known, m_files, m_surroundings, m_prompts);
     }
 
-    // What a successful save writes.
+    // The bytes that a successful save writes.
     std::string NewContent() const
     {
         std::string bytes;
@@ -353,7 +353,7 @@ TEST_F(SaveConfig, WithoutABackupNothingIsWrittenWhereThereIsNoRoom)
     m_files.contents[kPath] = kOld;
     m_files.contents[kBackup] = "stale";
     m_files.capacity = 100;
-    // Of the old content there is no copy.
+    // There is no copy of the old content.
     m_files.failing = {10, 11}; // link, kind, compare, same file, rename, kind, open, open
     const SaveResult result = Save();
     EXPECT_EQ(result.outcome, SaveOutcome::WriteFailed);

@@ -1,5 +1,5 @@
-// The Scan Period page: one variable on ten controls, and what it does with
-// dates that do not exist.
+// The Scan Period page: one variable edited by ten controls, and impossible
+// dates.
 #include "pages/core/page_rows.h"
 #include "pages/scan_period/rows.h"
 
@@ -38,7 +38,7 @@ void SetZone(const char* zone)
 #endif
 }
 
-/// A time zone for the length of a scope.
+/// Sets a time zone until the scope ends.
 class Zone
 {
   public:
@@ -84,7 +84,7 @@ class ScanPeriodPage : public testing::Test
     int Number(int control) { return values.CompanionNumberOf(control); }
     std::string Day(int control) { return ov::Utf8FromText(values.CompanionTextOf(control)); }
 
-    /// Loads what has an impossible date; the variable and value that are named.
+    /// Loads a file with an impossible date; returns the variable and value that the exception names.
     std::pair<std::string, std::string> Refusal()
     {
         try {
@@ -145,8 +145,8 @@ TEST_F(ScanPeriodPage, UnseenPageLeavesWhatIsThere)
 
 TEST_F(ScanPeriodPage, UnseenPageAddsTheFixedPeriodThatItStartsWith)
 {
-    // Both dates start at the beginning of time, which is the day before where
-    // clocks are behind Greenwich.
+    // Both dates begin at the start of the clock, which is the day before in time zones
+    // west of Greenwich.
     for (const auto& [zone, day] :
          {std::pair{"UTC0", "1, 1, 1970"}, {"AAA-9", "1, 1, 1970"}, {"BBB5", "31, 12, 1969"}}) {
         const Zone inZone(zone);
@@ -208,7 +208,7 @@ TEST_F(ScanPeriodPage, OlderFormIsConvertedAndLeftAlone)
 
 TEST_F(ScanPeriodPage, SecondDateOfAnAbsentPeriodIsTodayInLocalTime)
 {
-    // Whatever the hour, these two never have the same day.
+    // At any time of day, the date differs between these two zones.
     for (const auto& [zone, hours] : {std::pair{"AAA-14", 14}, {"BBB12", -12}}) {
         const Zone inZone(zone);
         const auto local = std::chrono::system_clock::now() + std::chrono::hours(hours);
@@ -275,7 +275,7 @@ TEST_F(ScanPeriodPage, ImpossibleDateOfTheOlderFormIsNamed)
 {
     Put(kOlder, u"0,31,13,2011");
     EXPECT_EQ(Refusal(), std::pair(std::string("_ORTHOVAL_SCANPERIOD_VALUE"), std::string("0,31,13,2011")));
-    // Still its fault when the newer form does not reach the date.
+    // The older variable is also the cause if the newer one does not contain the date.
     Put(kSettings, u"1, 0");
     EXPECT_EQ(Refusal().first, "_ORTHOVAL_SCANPERIOD_VALUE");
 }
@@ -335,7 +335,7 @@ TEST_F(ScanPeriodPage, SecondDateGoesWithTheFirst)
     EXPECT_EQ(Number(IDC_SCAN_PERIOD_SECOND), 1);
 }
 
-// The help tells the codes in another order, and stays: the examples are right.
+// The help text lists the codes in another order and is kept; its examples are correct.
 TEST_F(ScanPeriodPage, OperatorOneIsAndWhateverTheHelpSays)
 {
     EXPECT_EQ(EntriesOf(IDC_SCAN_PERIOD_OPERATOR), (std::vector<std::string>{"Or", "And", "Until"}));

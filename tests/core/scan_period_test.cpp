@@ -1,4 +1,4 @@
-// The texts of a fixed scan period: the 14 numbers, the older form, which dates are taken.
+// The texts of a fixed scan period: the 14 numbers, the older variable, the accepted dates.
 #include "pages/scan_period/scan_period.h"
 
 #include <gtest/gtest.h>
@@ -11,7 +11,7 @@
 namespace ov
 {
 
-// Found by GoogleTest beside the types.
+// GoogleTest finds this by argument-dependent lookup.
 static void PrintTo(const ScanDate& date, std::ostream* out)
 {
     *out << date.day << '.' << date.month << '.' << date.year;
@@ -34,7 +34,7 @@ constexpr ScanDate kToday{21, 11, 2026};
 constexpr ScanDate kFirstStart{1, 8, 2007};
 constexpr ScanDate kSecondStart{6, 5, 2016};
 
-// As the page loads both variables, from its start.
+// Loads both variables into the initial state, as the page does.
 ScanPeriod Loaded(const std::string& settings, const std::string& value = "")
 {
     ScanPeriod period;
@@ -100,7 +100,7 @@ TEST(ScanPeriod, EachPositionHasItsMember)
 
 TEST(ScanPeriod, PositionsThatAreNotReachedKeepWhatTheyWere)
 {
-    // All fourteen differ from what a page starts with; each text reaches one position more.
+    // All fourteen values differ from the initial ones; each text has one number more.
     const std::array<std::string, 14> numbers{"1", "0", "10", "2", "3", "2004", "1",
                                               "1", "1", "9",  "5", "6", "2007", "1"};
     ScanPeriod expected;
@@ -181,7 +181,7 @@ TEST(ScanPeriod, EmptyFieldsMoveLaterNumbersUp)
     EXPECT_EQ(period.segmentOne, 1);
     EXPECT_EQ(period.modeOne, 0);
     EXPECT_EQ(Loaded(",,1,,,0,"), Loaded("1,0"));
-    // A field of a blank is a field.
+    // A field with only a blank counts as a field.
     EXPECT_EQ(Loaded("1, ,2").segmentOne, 0);
     EXPECT_EQ(Loaded("1, ,2").modeOne, 2);
 }
@@ -250,7 +250,7 @@ class LegacyScanPeriod : public testing::TestWithParam<LegacyCode>
 {
 };
 
-// Starting with other selections than the codes make; 7 and 8 stand for those that stay.
+// Starts with selections that no code makes; 7 and 8 mark those that do not change.
 TEST_P(LegacyScanPeriod, MakesTheSelectionsOfItsCode)
 {
     const LegacyCode& code = GetParam();
@@ -275,7 +275,7 @@ TEST_P(LegacyScanPeriod, MakesTheSelectionsOfItsCode)
     }
 }
 
-// The columns: code, segment #1, mode #1, segment #2, mode #2; -1 stays as it is.
+// The columns: code, segment #1, mode #1, segment #2, mode #2; -1 means unchanged.
 INSTANTIATE_TEST_SUITE_P(
     Codes, LegacyScanPeriod,
     testing::Values(LegacyCode{0, 0, -1, -1, -1}, LegacyCode{1, 1, 0, 0, 0}, LegacyCode{2, 1, 0, -1, -1},
@@ -303,7 +303,7 @@ TEST(LegacyScanPeriod, DateGoesAsFarAsTheTextDoes)
     EXPECT_EQ(Loaded("", "2, 3").dateOne, (ScanDate{3, 8, 2007}));
     EXPECT_EQ(Loaded("", "2,,3,4,").dateOne, (ScanDate{3, 4, 2007}));
     EXPECT_EQ(Loaded("", "2,3,4,2011,5").dateOne, (ScanDate{3, 4, 2011}));
-    // A code that is none still stands before a date.
+    // An unknown code is followed by a date nevertheless.
     EXPECT_EQ(Loaded("", "12,3,4,2011").dateOne, (ScanDate{3, 4, 2011}));
 }
 

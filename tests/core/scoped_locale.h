@@ -6,7 +6,7 @@
 namespace ov::test
 {
 
-/// Sets the C locale for a scope.
+/// Sets the C locale until the scope ends.
 class ScopedLocale
 {
   public:
@@ -18,7 +18,7 @@ class ScopedLocale
     ScopedLocale(const ScopedLocale&) = delete;
     ScopedLocale& operator=(const ScopedLocale&) = delete;
 
-    /// False when the system does not know the locale.
+    /// False if the system does not support the locale.
     bool IsSet() const { return m_set; }
 
   private:

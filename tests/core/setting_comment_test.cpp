@@ -32,7 +32,7 @@ TEST(SettingComment, LineBreaksBecomeCommentLines)
 
 TEST(SettingComment, DescriptionOf250CharactersIsWrappedBeforeEach100ColumnMark)
 {
-    // Words of 9 characters and a blank: the blanks stand at 9, 19, ... 249.
+    // Words of 9 characters and a blank: the blanks are at 9, 19, ... 249.
     const Text description = Words(25, u"abcdefghi") + u" ";
     ASSERT_EQ(description.size(), 250u);
     const Text tenWords = Words(10, u"abcdefghi");
@@ -79,7 +79,7 @@ TEST(SettingComment, BlankBeforeALineBreakIsStillRemembered)
 
 TEST(SettingComment, ColumnsRestartAtTheDistanceFromTheWrap)
 {
-    // The 101st character comes 20 behind the blank that is used: 80 more fit into the second line.
+    // The 101st character is 20 after the blank that is replaced: 80 more fit into the second line.
     const Text first(80, u'a');
     const Text second = Text(60, u'b') + u" " + Text(39, u'c');
     EXPECT_EQ(MakeCommentBlock(first + u" " + second), u"\n#\n# " + first + u"\n# " + second + u"\n#\n");

@@ -1,5 +1,5 @@
-// What must hold of the rows of every page. A page is checked from the moment
-// that its rows exist.
+// Properties that the rows of every page must have. New pages are checked as soon
+// as they have rows.
 #include "controls/core/tooltip_markup.h"
 #include "pages/core/help_texts.h"
 #include "pages/core/page_catalogue.h"
@@ -26,7 +26,7 @@ using ov::Encoding;
 using ov::PageRows;
 using ov::SettingRow;
 
-/// Calls `check` with every page that has rows.
+/// Calls `check` with every page.
 template <class Check>
 void ForEachPage(Check check)
 {
@@ -49,7 +49,7 @@ void ForEachSetting(Check check)
     });
 }
 
-/// Pages whose help texts were there before the rules for writing them.
+/// Pages with help texts that are older than the rules for writing them.
 bool HasTextsOfOld(const PageRows& page)
 {
     static const std::set<int> pages = {10, 12, 15, 16, 17, 21, 22, 23, 24, 25, 26};
@@ -68,7 +68,7 @@ std::map<int, unsigned> HelpByControl(const PageRows& page)
     return help;
 }
 
-/// The kind of the control that shows a number or a text; None for no row's.
+/// The kind of the control that shows a number or a text; None if no row has it.
 ControlKind KindOfControl(const PageRows& page, int controlId)
 {
     for (const SettingRow& row : page.settings) {
@@ -200,7 +200,7 @@ TEST(AllRows, GiveEachControlTheHelpThatIsExpectedOrNone)
     });
 }
 
-/// The id of a control whose number is this product's own choice; 0 for none.
+/// The id of the control with the expected caption; 0 for none.
 int IdByCaption(const ov::PageTemplate& dialog, const expected::ControlRow& wanted)
 {
     for (const ov::TemplateControl& control : dialog.controls) {
@@ -427,7 +427,7 @@ TEST(AllRows, ExtraHelpTextsNameAVariableOfTheirPage)
     });
 }
 
-// An absent flag reads as off, whatever the page shows before it loads.
+// An absent flag reads as off, independent of the page's initial value.
 TEST(AllRows, HelpOfTheFlagsSaysWhatAMissingVariableMeans)
 {
     ForEachSetting([](const PageRows& page, const SettingRow& row) {
@@ -437,8 +437,8 @@ TEST(AllRows, HelpOfTheFlagsSaysWhatAMissingVariableMeans)
         const ov::Text missing = u"If this variable is missing, the option is ";
         EXPECT_NE(description.find(missing + (row.encoding == Encoding::FlagUnlessZero ? u"ON." : u"OFF.")),
                   ov::Text::npos);
-        // A value "by default" would be a second word for the one of a missing variable. A design
-        // file's default model is something else.
+        // "Default" would be a second term for the value of a missing variable. The default model of
+        // a design file is another term.
         for (std::size_t at = description.find(u"default"); at != ov::Text::npos;
              at = description.find(u"default", at + 1))
             EXPECT_TRUE(description.substr(at).starts_with(u"default model")) << at;
@@ -556,7 +556,7 @@ TEST(AllRows, BrowseForSettingsThatHoldAText)
     });
 }
 
-/// Texts that a variable of that meaning may be found with.
+/// Texts that a variable with that meaning may contain.
 std::vector<std::string> StoredTexts(expected::Meaning meaning)
 {
     switch (meaning) {
@@ -588,7 +588,7 @@ std::string Today()
            std::to_string(date->tm_year + 1900);
 }
 
-/// What an opened page leaves in the store that held this table.
+/// Checks what an opened page leaves in a store that contained this table.
 void ExpectAfterSave(const PageRows& page, const expected::Table& table)
 {
     ov::SettingStore store;

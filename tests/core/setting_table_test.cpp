@@ -66,7 +66,7 @@ TEST(SettingTable, ValueIsExtendedByPartsOfItself)
         SettingTable table;
         const SettingTable::Index index = table.Insert(u"A", start, SettingKindText, u"");
         Text expected = start;
-        // The value has room behind and before it from some turn on, and none in others.
+        // In some turns the value has room after and before it, in others it has none.
         for (int i = 0; i < 12; ++i) {
             const CompactView value = table.At(index).value;
             if (i % 3 == 0)
@@ -138,7 +138,7 @@ TEST(SettingTable, NamesAreFoundInWhateverFormAndOrderTheyCame)
     for (const Text& name : names) {
         EXPECT_EQ(table.Find(name), SettingTable::kNone);
         table.Insert(name, name + u"!", SettingKindText, u"");
-        // Found at every stage: the first five come in order.
+        // Found at every stage: the first five are inserted in order.
         for (SettingTable::Index index = 0; index < table.Count(); ++index)
             EXPECT_EQ(table.Find(names[index]), index);
     }
@@ -150,7 +150,7 @@ TEST(SettingTable, NamesAreFoundInWhateverFormAndOrderTheyCame)
     EXPECT_EQ(NamesInOrder(table), sorted);
 }
 
-// Beginnings in common, NUL, units around the end of 8 bits and long equal parts.
+// Common beginnings, NUL, units around the limit of 8 bits and long equal parts.
 TEST(SettingTable, NamesComeOutInOrdinalOrder)
 {
     const Text units = u"\0AB\xFE\xFF\x100\xFFFF"s;

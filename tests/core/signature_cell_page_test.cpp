@@ -1,4 +1,4 @@
-// The Signature Cells page: what depends on its first box, what it leaves alone.
+// The Signature Cells page: what depends on its first check box, and what it never changes.
 #include "controls/core/tooltip_markup.h"
 #include "pages/core/page_rows.h"
 #include "pages/core/page_values.h"

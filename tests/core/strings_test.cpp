@@ -20,7 +20,7 @@ std::string String(unsigned id)
     return ov::Utf8FromText(ov::FindString(id));
 }
 
-/// The positions at which one of the four tags stands.
+/// The positions of the four tags.
 std::vector<std::size_t> TagPositions(ov::TextView text)
 {
     std::vector<std::size_t> positions;
@@ -33,8 +33,8 @@ std::vector<std::size_t> TagPositions(ov::TextView text)
     return positions;
 }
 
-/// Descriptions that were there before the rule: one ends in a blank, one has
-/// two in a row.
+/// Descriptions older than the rule: one ends with a blank, one has two blanks
+/// in a row.
 bool HasBlanksOfOld(unsigned id)
 {
     return id == 8310 || id == 2036;
@@ -45,8 +45,8 @@ bool IsHelpText(ov::TextView text)
     return text.starts_with(u'<');
 }
 
-/// Help texts that were there before the rules for writing them and stand word
-/// for word, two blanks in a row included.
+/// Help texts older than the rules for writing them. Their wording is kept,
+/// including two blanks in a row.
 bool HasTwoBlanksOfOld(unsigned id)
 {
     return id == IDS_HELP_FILE_NAMING_TEMPLATES;

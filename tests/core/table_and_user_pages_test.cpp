@@ -1,5 +1,5 @@
-// The Feature Tables, Languages and Users pages: what their buttons take apart,
-// what depends on what, and texts with oddities of old.
+// The Feature Tables, Languages and Users pages: how their buttons split lists,
+// their dependencies, and the oddities of their existing texts.
 #include "pages/core/page_rows.h"
 #include "pages/core/page_values.h"
 #include "pages/core/string_table.h"

@@ -16,7 +16,7 @@ struct ReplaceQuestion {
     bool operator==(const ReplaceQuestion&) const = default;
 };
 
-/// Notes what a save asks and tells. A question gets the answer that was laid out.
+/// Records the questions and notices of a save. A question gets the prepared answer.
 class TestPrompts final : public SavePrompts
 {
   public:

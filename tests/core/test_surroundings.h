@@ -15,7 +15,7 @@ class TestSurroundings final : public SaveSurroundings
   public:
     bool clockFails = false;
 
-    /// The header of the files saved so.
+    /// The header of files saved in these surroundings.
     static Text Header()
     {
         return MakeHeader({u"Friday 20 November 2026, 19:12:00", u"Jane Admin", u"OFFICE-01"});

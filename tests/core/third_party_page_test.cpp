@@ -1,4 +1,4 @@
-// Third Party Apps: help texts that say ON, boxes that start off.
+// Third Party Apps: help texts that say ON, check boxes that are off initially.
 #include "pages/core/page_rows.h"
 #include "pages/core/page_values.h"
 #include "pages/core/string_table.h"
@@ -30,7 +30,7 @@ TEST(ThirdPartyPage, HelpTextsStandWordForWord)
               "by MicroStation Triforma to be checked and added to the feature table. It is ON by default.");
 }
 
-// The texts speak of the checker; the page shows what the file says.
+// The help texts describe the checker; the page shows the value in the file.
 TEST(ThirdPartyPage, FlagsAreOffWhenAbsentWhateverTheHelpSays)
 {
     ov::PageValues values(ov::ThirdPartyRows());

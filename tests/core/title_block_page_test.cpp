@@ -1,5 +1,5 @@
-// The Title Blocks page: its boxes for the tags, what they enable, and what is
-// saved whatever they say.
+// The Title Blocks page: its check boxes for the tags, what they enable, and what
+// is saved independent of them.
 #include "pages/core/page_rows.h"
 #include "pages/core/page_values.h"
 
@@ -17,7 +17,7 @@ using ov::Text;
 
 enum Box { Check = 9490, TagSets = 9497, Tags = 9498, TagValues = 9499, SpellCheck = 9501 };
 
-/// The boxes of the tags and the variables of their texts.
+/// The check boxes of the tags and the variables of their texts.
 const std::map<int, const char16_t*> tagTexts = {
     {TagSets, u"_ORTHOVAL_TITLEBLOCK_TAGSETS"},
     {Tags, u"_ORTHOVAL_TITLEBLOCK_TAGDEFS"},
@@ -36,7 +36,7 @@ class TitleBlockPage : public testing::Test
     TitleBlockPage() : m_values(ov::TitleBlockRows()) {}
 
     void Load() { m_values.Load(m_store, kCurrentTable); }
-    /// What a click on one of the boxes does.
+    /// Has the effect of a click on one of the check boxes.
     bool Set(int box, int checked)
     {
         m_values.CompanionNumberOf(box) = checked;
@@ -88,7 +88,7 @@ TEST_F(TitleBlockPage, ClearingAllowedTagSetsUnchecksTheOtherTagBoxesAndKeepsThe
     PutEveryTagText();
     Load();
     EXPECT_EQ(CheckedBoxes().size(), 4u);
-    EXPECT_TRUE(Set(TagSets, 0)); // the controls are to show it
+    EXPECT_TRUE(Set(TagSets, 0)); // the controls must show the change
     EXPECT_EQ(CheckedBoxes(), std::set<int>());
     m_values.Save(m_store, true);
     for (const auto& [box, variable] : tagTexts)
@@ -110,7 +110,7 @@ TEST_F(TitleBlockPage, OtherTagBoxesStayWhileAllowedTagSetsIsChecked)
 {
     PutEveryTagText();
     Load();
-    EXPECT_FALSE(Set(TagValues, 0)); // nothing that the controls do not show
+    EXPECT_FALSE(Set(TagValues, 0)); // nothing changes that the controls do not show
     EXPECT_EQ(CheckedBoxes(), (std::set<int>{TagSets, Tags, SpellCheck}));
 }
 
@@ -155,7 +155,7 @@ TEST_F(TitleBlockPage, CountOfEnterDataFieldsStaysAsRead)
     EXPECT_EQ(m_store.GetSettingValue(variable, kCurrentTable), u"1");
 }
 
-// Kept as it is: only these names can be typed without a mark.
+// Kept as it always was: only typing these names does not mark the dialog as modified.
 TEST_F(TitleBlockPage, TypingCellNamesAloneGoesUnnoticed)
 {
     for (const ov::SettingRow& row : ov::TitleBlockRows().settings)

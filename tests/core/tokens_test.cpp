@@ -27,7 +27,7 @@ void PrintTo(const Token& token, std::ostream* out)
     *out << '<' << Utf8FromText(token.text) << "> " << token.consumed;
 }
 
-// The call of the writer and of the list texts; both forms must agree.
+// Calls the function as the writer and the list texts do; both forms must agree.
 Token Extract(const Text& source, const char16_t* remove = nullptr, const char16_t* consumedStops = u";",
               const char16_t* keptStops = nullptr, std::size_t capacity = 1024)
 {
@@ -101,7 +101,7 @@ TEST(ExtractToken, NothingButTwoQualifiersIsAnEmptyToken)
 
 TEST(ExtractToken, TwoQualifiersBeforeABlankAndAStopAreOneQualifier)
 {
-    // The stop does not follow at once, so the doubled qualifier stands for one, and the blank is trimmed.
+    // The stop does not follow directly, so the doubled qualifier is a literal one, and the blank is trimmed.
     EXPECT_EQ(Extract(u"\"\" ;b"), (Token{u"\"", 4}));
 }
 

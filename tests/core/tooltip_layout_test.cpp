@@ -129,7 +129,7 @@ TEST(TooltipSide, NearTheLeftEdgeTheBodyOpensToTheRight)
     constexpr Size body{200, 100};
     EXPECT_TRUE(ChooseTooltipSide(body, {212, 500}).right);
     EXPECT_FALSE(ChooseTooltipSide(body, {213, 500}).right);
-    // A screen left of the main one.
+    // A screen to the left of the main one.
     EXPECT_TRUE(ChooseTooltipSide(body, {-300, 500}).right);
 }
 
@@ -159,8 +159,8 @@ TEST(TooltipOutline, TailMakesTheWindowTwentyFivePixelsTaller)
     }
 }
 
-// The tail's sides, prolonged or cut to the body's edge, end 12 and 37 pixels
-// in; the side at the inner end rises one pixel per pixel.
+// The tail's sides, extended or cut to the body's edge, end 12 and 37 pixels
+// inside; the side at the inner end rises by one pixel per pixel.
 TEST(TooltipOutline, TailHasItsBaseAndTipOnTheSideOfTheAnchor)
 {
     for (const TooltipSide side : everySide) {

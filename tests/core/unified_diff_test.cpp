@@ -18,7 +18,7 @@ std::string Diff(std::string_view oldBytes, std::string_view newBytes)
     return UnifiedDiff(oldBytes, newBytes, "old", "new");
 }
 
-// The number that the text begins with; takes it away.
+// Removes and returns the number at the beginning of the text.
 std::size_t TakeNumber(std::string_view& text)
 {
     std::size_t number = 0;
@@ -27,7 +27,7 @@ std::size_t TakeNumber(std::string_view& text)
     return number;
 }
 
-// Applies a unified difference as its format says, and fails the test where it does not fit.
+// Applies a unified difference strictly, and fails the test if it does not fit.
 std::string Apply(std::string_view oldBytes, const std::string& diff)
 {
     const auto oldLines = LinesWithEnds(oldBytes);

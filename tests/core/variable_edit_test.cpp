@@ -11,7 +11,7 @@ namespace ov
 namespace
 {
 
-// K_... are settings of a page: K_FLAG, K_PATH, K_TEXT, K_COMMAS a list with commas.
+// K_... are settings of a page: K_FLAG, K_PATH, K_TEXT, and K_COMMAS, a list with commas.
 VariableFacts FactsOfName(TextView name)
 {
     VariableFacts facts;

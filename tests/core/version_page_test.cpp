@@ -1,4 +1,4 @@
-// The Version page: what it shows and does not write, and how it starts.
+// The Version page: what it shows but never writes, and its initial values.
 #include "pages/core/page_rows.h"
 #include "pages/core/page_values.h"
 

@@ -1,4 +1,4 @@
-// What is peculiar to the Watermark Integrity page.
+// Behaviour that only the Watermark Integrity page has.
 #include "pages/core/page_rows.h"
 #include "pages/core/page_values.h"
 

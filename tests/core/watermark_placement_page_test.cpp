@@ -1,4 +1,4 @@
-// What is peculiar to the Watermark Placement page.
+// Behaviour that only the Watermark Placement page has.
 #include "pages/core/page_rows.h"
 #include "pages/core/page_values.h"
 

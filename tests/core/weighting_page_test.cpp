@@ -1,4 +1,4 @@
-// The Score Weighting page: texts that bars move.
+// The Score Weighting page: texts that are edited by track bars.
 #include "pages/core/page_rows.h"
 
 #include "controls/core/tooltip_markup.h"
@@ -73,7 +73,7 @@ TEST(WeightingPage, WeightBeyondTheBarIsSavedAsItStands)
     EXPECT_EQ(store.GetSettingValue(u"_ORTHOVAL_WEIGHTING_COLOUR", ov::kCurrentTable), u"much");
 }
 
-// Three helps name variables that nothing stores.
+// Three help texts name variables that are not stored.
 TEST(WeightingPage, ThreeHelpsKeepTheirOlderNames)
 {
     EXPECT_EQ(ov::VariableName(ov::FindString(9327)), u"_ORTHOVAL_WEIGHTING_LEVEL");

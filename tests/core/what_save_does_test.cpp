@@ -1,5 +1,5 @@
-// Runs the tables of docs/what-save-does.md: every row that gives lines of a file before and after a
-// save goes through reader, pages and writer.
+// Runs the tables in docs/what-save-does.md: every row with the lines of a file before and after a
+// save is processed by reader, pages and writer.
 
 #include "config/core/config_writer.h"
 #include "inspect/core/dialog_model.h"
@@ -51,7 +51,7 @@ std::string NameOf(const std::string& line)
     return assigns ? line.substr(0, end) : std::string();
 }
 
-// The lines of the variables with these names, with the comments above them.
+// The lines of the variables with these names, including the comments above them.
 Lines WithNames(const Lines& lines, const std::set<std::string>& names)
 {
     Lines kept;
@@ -73,7 +73,7 @@ struct Row {
     Lines after;
 };
 
-// The pieces of code in a cell of a table.
+// The pieces of code in a table cell.
 Lines CodeOf(const std::string& cell)
 {
     static const std::regex code("`([^`]*)`");
@@ -103,7 +103,7 @@ std::vector<Row> DocumentedRows()
 class WhatSaveDoes : public testing::Test
 {
   protected:
-    // The lines below the header that a save makes of these bytes.
+    // The lines after the header when these bytes are saved.
     Lines Saved(const std::string& bytes)
     {
         const HeaderInfo info{u"Friday 20 November 2026, 19:12:00", u"Jane Admin", u"OFFICE-01"};
@@ -137,7 +137,7 @@ TEST_F(WhatSaveDoes, EveryRowOfTheTablesHolds)
             names.insert(NameOf(line));
         Lines after = WithNames(Saved(bytes), names);
         std::erase(after, "");
-        // Added variables have comments, of which these rows do not speak.
+        // Added variables have comments, which these rows omit.
         const auto isComment = [](const std::string& line) { return line.starts_with('#'); };
         if (std::ranges::none_of(row.before, isComment))
             std::erase_if(after, isComment);

@@ -11,7 +11,7 @@ namespace
 std::filesystem::path Root()
 {
 #ifdef _WIN32
-    // Wide: the folder's name may contain characters that the code page lacks.
+    // Wide characters, because the folder's name may contain characters that the code page lacks.
     if (const wchar_t* const root = _wgetenv(L"OV_TEST_DATA"))
         return root;
 #else
