@@ -11,18 +11,18 @@
 
 namespace
 {
-/// How the calling thread is set up for COM; nothing when it is not.
+/// The COM apartment of the calling thread; nothing if COM is not initialised.
 std::optional<APTTYPE> Apartment()
 {
     APTTYPE type = APTTYPE_NA;
     APTTYPEQUALIFIER qualifier = APTTYPEQUALIFIER_NONE;
     if (FAILED(::CoGetApartmentType(&type, &qualifier)))
         return std::nullopt;
-    // A process's first single-threaded apartment is its main one.
+    // The first single-threaded apartment of a process is its main one.
     return type == APTTYPE_MAINSTA ? APTTYPE_STA : type;
 }
 
-// Each in a thread of its own, which starts without COM.
+// Runs each test in a thread of its own, which starts without COM.
 void InAThread(const std::function<void()>& test)
 {
     std::thread(test).join();

@@ -51,7 +51,7 @@ BEGIN_MESSAGE_MAP(CFields, CDialog)
     ON_NOTIFY(NM_CLICK, IDC_FIELDS_EDIT, &CFields::OnNotified)
 END_MESSAGE_MAP()
 
-/// A control that counts how often it is told to be checked or not.
+/// A control that counts the messages for setting its check state.
 class CheckCounter : public CWnd
 {
   public:
@@ -157,7 +157,7 @@ TEST_F(DataExchange, EqualChecksAreNotSetAgain)
     EXPECT_EQ(0u, ::IsDlgButtonChecked(m_dialog, IDC_FIELDS_RADIO_2));
 }
 
-// Two of a group can be checked from outside only.
+// Only code outside the dialog can check two buttons of a group.
 TEST_F(DataExchange, SecondCheckedButtonOfAGroupIsCleared)
 {
     m_dialog.m_radio = 1;

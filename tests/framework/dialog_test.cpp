@@ -23,7 +23,7 @@ class CRefusingDialog : public CScriptDialog
     }
 };
 
-/// A child that notes what it is told of the system's appearance.
+/// A child window that records messages about the system's appearance.
 class CListeningWindow : public CWnd
 {
   public:
@@ -129,7 +129,7 @@ TEST(Dialog, InitialFocusFollowsTheAnswer)
     EXPECT_EQ((std::vector<int>{IDC_FIELDS_CHECK}), own.m_focusIds) << "FALSE: left as set";
 }
 
-// Knows its place as it is about to be shown: what a window manager makes of it comes later.
+// Records its position just before it is shown, because a window manager may move it later.
 class CPlacedDialog : public CScriptDialog
 {
   public:
@@ -155,7 +155,7 @@ TEST(Dialog, WithoutAPlaceItIsCentredOverItsOwner)
     dialog.Then([] {});
     dialog.DoModal();
     const CRect place = dialog.m_place;
-    // The sums of the edges: twice the centres.
+    // The sums of opposite edges, which are twice the centres.
     EXPECT_NEAR(owner.left + owner.right, place.left + place.right, 2);
     EXPECT_NEAR(owner.top + owner.bottom, place.top + place.bottom, 2);
 }

@@ -10,7 +10,7 @@ constexpr COLORREF red = RGB(255, 0, 0);
 constexpr COLORREF green = RGB(0, 255, 0);
 constexpr COLORREF blue = RGB(0, 0, 255);
 
-/// A drawing of 20 by 20 pixels in memory, black at first.
+/// A bitmap of 20 by 20 pixels, initially black.
 class Drawing : public testing::Test
 {
   protected:

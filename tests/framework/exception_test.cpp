@@ -156,7 +156,7 @@ TEST(Exceptions, FailedInitialisationMakesNoModelessDialog)
 
 TEST(Exceptions, FailureWhileOneIsToldOpensNoSecondBox)
 {
-    /// Makes the handler fail again while the box is open.
+    /// Makes the handler fail again while the message box is open.
     class CProvokingHook : public CRecordingHook
     {
       public:

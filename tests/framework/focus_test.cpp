@@ -5,8 +5,8 @@
 
 namespace
 {
-/// A dialog with a page below its own controls, the tab order of which is: the dialog's First, Last,
-/// Cancel; the page's First, Button, Lines, Last.
+/// A dialog with a page below its own controls. The tab order is: the dialog's First, Last, Cancel; the
+/// page's First, Button, Lines, Last.
 class COuter : public CScriptDialog
 {
   public:
@@ -34,7 +34,7 @@ TEST(Focus, GoesToTheNextTabStopFromAControlThatIsDisabled)
         dialog.OnPage(IDC_INNER_BUTTON).SetFocus();
         dialog.OnPage(IDC_INNER_BUTTON).ShowWindow(SW_HIDE);
         EXPECT_EQ(IDC_INNER_LINES, FocusedId());
-        // From the last one on again from the first, past what is disabled.
+        // After the last control the search continues at the first and skips disabled ones.
         dialog.Item(IDC_OUTER_FIRST).EnableWindow(FALSE);
         dialog.OnPage(IDC_INNER_LAST).SetFocus();
         dialog.OnPage(IDC_INNER_LAST).EnableWindow(FALSE);
@@ -107,7 +107,7 @@ TEST(Focus, KeyTypedIntoAHiddenControlIsForNobody)
     dialog.Then([&] {
         dialog.m_page.ShowWindow(SW_HIDE);
         ::SetFocus(dialog.OnPage(IDC_INNER_FIRST));
-        // Fetched before the loop is idle.
+        // Retrieved before the loop is idle.
         ::PostMessageW(dialog.OnPage(IDC_INNER_FIRST), WM_CHAR, L'z', 1);
     });
     dialog.Then([&] { EXPECT_EQ(u"", dialog.OnPage(IDC_INNER_FIRST).GetWindowText()); });

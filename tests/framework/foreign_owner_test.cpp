@@ -1,12 +1,12 @@
-// Owners that belong to the program around us: what it may pass, and what becomes of a dialog whose owner
-// goes.
+// Owner windows of the host: the values that it may pass, and the effect on a dialog if its owner is
+// destroyed.
 #include "tests/framework/script_dialog.h"
 
 #include <gtest/gtest.h>
 
 namespace
 {
-/// A window without an object of ours.
+/// A window without an object of the framework.
 class PlainWindow
 {
   public:
@@ -22,7 +22,7 @@ class PlainWindow
     const HWND window;
 };
 
-/// Memory that nobody may read.
+/// Memory without read access.
 class Unreadable
 {
   public:
@@ -34,7 +34,7 @@ class Unreadable
     void* const memory;
 };
 
-/// A dialog that stays when the program is to end, until it is told otherwise.
+/// A dialog that stays open on WM_QUIT until the test closes it.
 class CStaying : public CScriptDialog
 {
   public:
@@ -89,7 +89,7 @@ TEST(ForeignPointer, NothingIsReadThroughAnyOther)
     EXPECT_EQ(nullptr, CWnd::FromForeign(object.memory));
     const CWnd windowless;
     EXPECT_EQ(nullptr, CWnd::FromForeign(&windowless));
-    // An address is no handle because its lower half happens to be one.
+    // An address must not count as a handle because its lower half happens to be one.
     CHostWindow host;
     const auto number = reinterpret_cast<UINT_PTR>(host.m_hWnd);
     EXPECT_EQ(nullptr, CWnd::FromForeign(reinterpret_cast<void*>(number | (UINT_PTR{0x12} << 32))));

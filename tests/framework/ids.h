@@ -1,4 +1,4 @@
-// Ids of the templates and texts in framework_tests.rc; read by windres too.
+// Ids of the templates and texts in framework_tests.rc; also read by windres.
 #pragma once
 
 #define IDD_FIELDS 100

@@ -1,4 +1,4 @@
-// What a dialog does with messages from other programs while a modal window is open over it.
+// How a dialog handles messages from other programs while a modal window is open over it.
 #include "tests/framework/recording_hook.h"
 #include "tests/framework/script_dialog.h"
 

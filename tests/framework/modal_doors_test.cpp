@@ -7,8 +7,8 @@ namespace
 {
 bool folderVisited = false;
 
-/// A chooser's hook: goes to another folder, as the chooser does while it is
-/// open, and cancels it.
+/// A hook for the file chooser: changes the folder, as the chooser does while it is
+/// open, and cancels the chooser.
 UINT_PTR CALLBACK VisitWindowsFolder(HWND window, UINT message, WPARAM, LPARAM lParam)
 {
     if (message != WM_NOTIFY || reinterpret_cast<const NMHDR*>(lParam)->code != CDN_INITDONE)
@@ -154,7 +154,7 @@ TEST(ModalDoors, SubDialogIsAnsweredOrOpens)
 TEST(ModalDoors, WithoutAnAnswerTheRealBoxOpens)
 {
     constexpr UINT pressNo = WM_APP + 1;
-    /// Lets the box open, with a message waiting that its loop will fetch.
+    /// Lets the message box open with a message pending that its loop will retrieve.
     class CPressingHook : public CModalHook
     {
       public:
@@ -171,7 +171,7 @@ TEST(ModalDoors, WithoutAnAnswerTheRealBoxOpens)
       private:
         CModalHook* m_previous;
     };
-    /// Presses the button of the box that is open over it by then.
+    /// Presses a button of the message box that is open over it.
     class CAnsweringOwner : public CHostWindow
     {
       protected:

@@ -4,7 +4,7 @@
 
 namespace
 {
-/// The states of the owner's window while a dialog over it comes and goes.
+/// Records the states of the owner's window while a dialog over it opens and closes.
 class CWatchedHost : public CWnd
 {
   public:
@@ -118,7 +118,7 @@ TEST(ModalLoop, MainWindowWithoutAHandleIsPassedOver)
     CHostWindow host;
     ::SetActiveWindow(host);
     CScriptDialog dialog(IDD_SMALL);
-    const CMainWindowScope scope(&dialog); // as the program's own dialog is
+    const CMainWindowScope scope(&dialog); // like the program's own dialog
     HWND owner = nullptr;
     dialog.Then([&] { owner = ::GetWindow(dialog, GW_OWNER); });
     dialog.DoModal();

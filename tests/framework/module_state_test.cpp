@@ -9,7 +9,7 @@
 
 namespace
 {
-/// Whether a new button is one of version 6: only those know their ideal size.
+/// Whether a new button is a version 6 control: only those have an ideal size.
 bool MakesNewButtons()
 {
     CWnd parent;
@@ -103,7 +103,7 @@ TEST(ModuleState, FailedInitialisationIsTriedAgain)
     AFX_MODULE_STATE other{};
     other.instance = ::GetModuleHandleW(L"kernel32.dll");
     FailingApp application;
-    // The newest application object is taken for the module's own.
+    // The newest application object becomes the module's own.
     AfxGetStaticModuleState()->application = &theTestApp;
     other.application = &application;
     for (const int calls : {1, 2, 2}) {

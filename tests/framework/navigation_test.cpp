@@ -6,7 +6,7 @@ namespace
 {
 using Ids = std::vector<int>;
 
-/// A page inside the dialog, which counts its button's clicks.
+/// A page inside the dialog; it counts the clicks of its button.
 class CPage : public CDialog
 {
   public:

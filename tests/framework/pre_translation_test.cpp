@@ -1,4 +1,4 @@
-// Which windows look at a message before it is dispatched, and which of them handles keys.
+// Which windows see a message before it is dispatched, and which of them handles keys.
 #include "tests/framework/script_dialog.h"
 
 #include <gtest/gtest.h>
@@ -7,7 +7,7 @@ namespace
 {
 constexpr UINT probe = WM_APP + 9;
 
-/// Notes the probe when it comes by, and may take it away.
+/// Records that it saw the probe message, and can handle it.
 class CNoting : public CScriptDialog
 {
   public:
@@ -16,7 +16,7 @@ class CNoting : public CScriptDialog
     {
     }
     bool m_take = false;
-    HWND m_seenFocus = nullptr; ///< at the last message that came by
+    HWND m_seenFocus = nullptr; ///< the focus at the last message that it saw
 
     BOOL PreTranslateMessage(MSG* message) override
     {
@@ -42,7 +42,7 @@ class CNoting : public CScriptDialog
     std::string m_name;
 };
 
-/// Owns the main window, and so lies beyond it.
+/// Owns the main window, so it is not asked.
 class CNotingHost : public CHostWindow
 {
   public:
@@ -64,7 +64,7 @@ class PreTranslation : public testing::Test
     CMainWindowScope mainWindow{&outer};
 };
 
-/// A window with an edit of several lines, owned by another one but no dialog.
+/// A window with a multi-line edit that is owned by another window but is not a dialog.
 class CPopup : public CWnd
 {
   public:
@@ -83,7 +83,7 @@ TEST_F(PreTranslation, GoesFromTheInnermostOutToTheMainWindow)
     outer.m_onInit = [&] { page.Create(IDD_INNER, &outer); };
     outer.Then([&] { page.PostMessage(probe); });
     outer.Then([&] {
-        // From a plain control inside, for which there is no permanent object.
+        // Starts at a plain control inside, which has no permanent object.
         ::PostMessageW(::GetDlgItem(page, IDC_INNER_FIRST), probe, 0, 0);
     });
     outer.Then([&] {
@@ -121,7 +121,7 @@ TEST_F(PreTranslation, WithoutAMainWindowGoesOnToTheOutermostOwner)
 TEST_F(PreTranslation, OuterDialogLearnsOfANewFocusInAnInnerOneWithoutAnyOtherMessage)
 {
     CNoting inner(IDD_SMALL, &outer, log, "inner");
-    // Windows that draw nothing when they get the focus.
+    // Windows that do not draw when they get the focus.
     CWnd first;
     CWnd second;
     inner.m_onInit = [&] {

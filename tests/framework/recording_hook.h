@@ -5,7 +5,7 @@
 #include <deque>
 #include <vector>
 
-/// A message box as it was about to be shown.
+/// A message box that was about to be shown.
 struct ShownBox {
     HWND owner;
     ov::Text text;
@@ -13,9 +13,9 @@ struct ShownBox {
     UINT type;
 };
 
-/// Stands before the modal doors for its life. It notes every message box and
-/// answers it with the next of the given buttons, IDOK when there is none left;
-/// file choosers and folder browsers it answers with the given path.
+/// Intercepts the modal doors while it exists. It records every message box and
+/// answers it with the next of the given buttons, or IDOK if none is left. It
+/// answers file choosers and folder browsers with the given path.
 class CRecordingHook : public CModalHook
 {
   public:

@@ -1,4 +1,4 @@
-// What a dialog needs to follow a new resolution: metrics, and its template.
+// What a dialog needs for a new resolution: metrics and its template.
 #include <gtest/gtest.h>
 
 #include "framework/afxwin.h"

@@ -2,7 +2,7 @@
 
 #include "framework/afxwin.h"
 
-/// The tests' application object; it counts how it is called.
+/// The tests' application object; it counts its calls.
 class CTestApp : public CWinApp
 {
   public:
@@ -15,7 +15,7 @@ class CTestApp : public CWinApp
 
 extern CTestApp theTestApp;
 
-/// Makes a window the application's main window for a scope.
+/// Makes a window the application's main window until the scope ends.
 class CMainWindowScope
 {
   public:
@@ -31,7 +31,7 @@ class CMainWindowScope
     CWnd* m_previous;
 };
 
-/// A visible top-level window that stands for the host's.
+/// A visible top-level window in the role of the host's.
 class CHostWindow : public CWnd
 {
   public:

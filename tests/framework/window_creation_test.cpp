@@ -91,7 +91,7 @@ TEST_F(WindowCreation, ControlsOfTheSystemToo)
 
 TEST_F(WindowCreation, WindowsMadeInBetweenAreNotTaken)
 {
-    /// Makes a plain control of its own while it is created.
+    /// Creates a plain control of its own during its creation.
     class CNesting : public CLogging<CWnd>
     {
       public:
@@ -175,7 +175,7 @@ TEST_F(WindowCreation, UnknownClassIsReported)
     EXPECT_FALSE(child.Create(L"no such class", L"", 0, CRect(5, 5, 50, 50), &m_parent, 3));
     EXPECT_EQ(nullptr, child.m_hWnd);
     EXPECT_EQ((EventLog{"PostNcDestroy"}), child.m_log);
-    // The next window to be made is not mistaken for the failed one.
+    // The next window must not be bound to the failed object.
     CWnd next;
     ASSERT_TRUE(next.Create(nullptr, L"", 0, CRect(0, 0, 5, 5), &m_parent, 4));
     EXPECT_EQ(&next, CWnd::FromHandlePermanent(next.m_hWnd));

@@ -15,7 +15,7 @@ class WindowMap : public testing::Test
     CWnd m_window;
 };
 
-/// Notes whether and with which message its end is told.
+/// Records whether it is notified of its destruction, and with which message.
 class CWatched : public CWnd
 {
   public:
@@ -80,12 +80,12 @@ TEST_F(WindowMap, ControlsAreFoundWhateverBecomesOfThem)
     const HWND first = make(m_window);
     EXPECT_EQ(first, m_window.FindControl(firstId));
     EXPECT_EQ(first, m_window.GetDlgItem(firstId)->m_hWnd);
-    // Another one takes its place.
+    // Another control replaces it.
     ::DestroyWindow(first);
     EXPECT_EQ(nullptr, m_window.FindControl(firstId));
     const HWND second = make(m_window);
     EXPECT_EQ(second, m_window.FindControl(firstId));
-    // It gets another number, or another parent.
+    // It gets another id or another parent.
     ::SetWindowLongPtrW(second, GWLP_ID, secondId);
     EXPECT_EQ(nullptr, m_window.FindControl(firstId));
     EXPECT_EQ(second, m_window.FindControl(secondId));
@@ -94,7 +94,7 @@ TEST_F(WindowMap, ControlsAreFoundWhateverBecomesOfThem)
     ::SetParent(second, other);
     EXPECT_EQ(nullptr, m_window.FindControl(secondId));
     EXPECT_EQ(second, other.FindControl(secondId));
-    // So does an object that is not the window's own.
+    // The same for an object that is not the window's own.
     CWnd foreign;
     foreign.m_hWnd = other;
     EXPECT_EQ(second, foreign.FindControl(secondId));

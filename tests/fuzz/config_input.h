@@ -10,7 +10,7 @@
 namespace ov::fuzz
 {
 
-/// The part of the bytes before a line "=====" and the part after it; all and nothing without one.
+/// The bytes before a line "=====" and those after it. Without such a line, all bytes and none.
 struct TwoFiles {
     std::string_view first;
     std::string_view second;
@@ -30,7 +30,7 @@ struct TwoFiles {
     }
 };
 
-/// Sets how the process spells characters: 0 as single bytes, 1 as UTF-8.
+/// Sets the locale's encoding: 0 for single bytes, 1 for UTF-8.
 inline void UseLocale(unsigned which)
 {
     static unsigned s_used = 0;
@@ -40,12 +40,12 @@ inline void UseLocale(unsigned which)
     s_used = which;
 }
 
-/// What a table of the store holds.
+/// The content of a table of the store.
 inline LiteralTable TableOf(const SettingStore& store, int selector)
 {
     LiteralTable table;
     store.VisitInOrder(selector, [&table](const SettingRecord& record) {
-        // The names come in ascending order, none of them twice.
+        // The names are in ascending order without duplicates.
         OV_REQUIRE(table.empty() || table.rbegin()->first < record.name);
         table.emplace(record.name, LiteralRecord{Text(record.value), Text(record.comment), record.kind});
         return true;

@@ -1,6 +1,6 @@
-// Reads one file or two, one after the other, and compares both tables with those of the slow
-// reader. The first line of an input says: table of the first file (0 current, 1 default), table of
-// the second, bytes a block less one, locale (0 "C", 1 UTF-8).
+// Reads one or two files, one after the other, and compares both tables with those of the simple
+// reader. The first line of an input contains: table of the first file (0 current, 1 default), table of
+// the second, bytes per block minus one, locale (0 "C", 1 UTF-8).
 
 #include "base/locale_text.h"
 #include "config/core/config_reader.h"
@@ -12,7 +12,7 @@ namespace ov::fuzz
 namespace
 {
 
-// What holds of every table that was read, whatever was in the file.
+// Properties of every table that was read, whatever the file contains.
 void RequireSound(const SettingStore& store, int selector, const LiteralTable& table)
 {
     OV_REQUIRE(store.Count(selector) == table.size());
@@ -33,7 +33,7 @@ void RequireSound(const SettingStore& store, int selector, const LiteralTable& t
         OV_REQUIRE(store.HasSetting(name, selector));
         OV_REQUIRE(store.GetSettingValue(name, selector) == record.value);
         OV_REQUIRE(store.GetSettingFlag(name, selector) == (record.value == u"1"));
-        // Nothing in a table has this name.
+        // No variable in the table has this name.
         OV_REQUIRE(!store.HasSetting(name + u" ", selector));
     }
 }

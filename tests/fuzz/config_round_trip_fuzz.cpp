@@ -1,20 +1,20 @@
-// Reads a file (after a defaults file, when a line "=====" divides the input), then writes and reads
-// it several times. The first line of an input says: the kind that every variable is given after
-// the first reading (0 the one that it was read with, 6 one kind after the other), the locale
-// (0 "C", 1 UTF-8), and then the user that the header names.
+// Reads a file (after a defaults file, if a line "=====" divides the input), then writes and reads
+// it several times. The first line of an input contains: the kind that every variable gets after
+// the first reading (0 the one that was read, 6 each kind in turn), the locale
+// (0 "C", 1 UTF-8), and the user named in the header.
 //
-// What comes back is not what was written in these cases, and in no other:
-//   - a text loses its quotes and, being written between quotes, all from a "#" on that is not its
-//     first character; what is left may be a number;
-//   - a value written without quotes loses the white space at its end;
-//   - a list loses quotes, blanks around its items and empty items; one without items is not
-//     written; one with a single item comes back as a single value;
-//   - above the first variable written, comment lines before the first empty line are taken for
-//     the header and dropped; where there is no empty line, the header itself becomes part of the
-//     comment, once for each save.
-// By these rules every value is settled when it was written three times, and one that was read and
-// is no list when it was written once. A file whose values are settled stays the same byte for byte,
-// but for the header that the last rule adds.
+// Reading gives back what was written, except in these cases:
+//  - a text loses its quotes and, because it is written in quotes, the part from a "#" on that is not
+//    its first character; the rest may be a number;
+//  - a value written without quotes loses its trailing white space;
+//  - a list loses quotes, blanks around its items and empty items; a list without items is not
+//    written; a list with a single item comes back as a single value;
+//  - above the first variable written, comment lines before the first empty line are read as the
+//    header and discarded; if there is no empty line, the header itself becomes part of the
+//    comment, once for each save.
+// By these rules every value is stable after three writes, and a value that was read and is not a list
+// after one write. A file with stable values does not change any more, except for the header that the
+// last rule adds.
 
 #include "base/locale_text.h"
 #include "config/core/config_reader.h"
@@ -28,8 +28,8 @@ namespace ov::fuzz
 namespace
 {
 
-// The value as it comes back from being written once; none when it is not written at all. The
-// comment is left as it is.
+// The value after writing and reading once; nothing if it is not written at all. The comment
+// does not change.
 std::optional<LiteralRecord> ValueBack(const LiteralRecord& record)
 {
     LiteralRecord back = record;
@@ -54,8 +54,8 @@ std::optional<LiteralRecord> ValueBack(const LiteralRecord& record)
     return back;
 }
 
-// The table with every value as its bytes read. A quote that goes may join the bytes of one
-// character, which then are the same bytes, but another text once they are read again.
+// The table with every value as its bytes read. Removing a quote may join bytes to one character: the
+// bytes are unchanged, but the text differs when they are read again.
 LiteralTable AsBytesRead(LiteralTable table)
 {
     for (auto& [name, record] : table) {
@@ -66,7 +66,7 @@ LiteralTable AsBytesRead(LiteralTable table)
     return table;
 }
 
-// Where the first empty line of a comment begins; the comment's length when there is none.
+// The position of the first empty line of a comment; the comment's length if there is none.
 std::size_t FirstEmptyLine(const Text& comment)
 {
     for (std::size_t i = 0; i < comment.size(); ++i) {
@@ -76,7 +76,7 @@ std::size_t FirstEmptyLine(const Text& comment)
     return comment.size();
 }
 
-// The table as it comes back from being written once.
+// The table after writing and reading once.
 LiteralTable TableBack(const LiteralStore& store, const Text& header)
 {
     LiteralTable table;
@@ -99,7 +99,7 @@ LiteralTable TableBack(const LiteralStore& store, const Text& header)
     return table;
 }
 
-// What the next save but one puts in front of the bytes of the next save.
+// The bytes that the save after the next adds before those of the next save.
 std::string HeaderAdded(const LiteralTable& table, const Text& header)
 {
     if (table.empty())
@@ -108,7 +108,7 @@ std::string HeaderAdded(const LiteralTable& table, const Text& header)
     return FirstEmptyLine(comment) < comment.size() ? std::string() : LiteralStore().Write(header);
 }
 
-// Whether every value comes back as it is, and every variable with it.
+// Whether every variable and value comes back unchanged.
 bool AllSettled(const LiteralTable& table)
 {
     LiteralTable back;
@@ -160,7 +160,7 @@ void Run(FuzzInput input)
     const int savesToSettle = kinds == 0 && !HoldsList(literal.current) ? 1 : 3;
 
     constexpr int kSaves = 5;
-    bool settled = false; // The values of the table before this save, when that is not the first.
+    bool settled = false; // Whether the table's values were stable before this save, unless it is the first.
     std::optional<std::string> expected;
     for (int save = 1; save <= kSaves; ++save) {
         std::string bytes;

@@ -10,7 +10,7 @@
 #include <cstdlib>
 #include <string_view>
 
-/// Ends the process when the condition does not hold; the fuzzer keeps the input that led here.
+/// Ends the process if the condition is false; the fuzzer then keeps the input.
 #define OV_REQUIRE(condition) ((condition) ? void() : ov::fuzz::Fail(#condition, __FILE__, __LINE__))
 
 namespace ov::fuzz
@@ -22,13 +22,13 @@ namespace ov::fuzz
     std::abort();
 }
 
-/// Decimal numbers out of a line, whatever stands between them.
+/// Decimal numbers in a line, separated by any other characters.
 class Options
 {
   public:
     explicit Options(std::string_view line) : m_rest(line) {}
 
-    /// The next number, brought into 0 to `last`; 0 when there are no more.
+    /// The next number, mapped to the range 0 to `last`; 0 if there are no more.
     unsigned Number(unsigned last)
     {
         const std::size_t start = std::min(m_rest.find_first_of("0123456789"), m_rest.size());
@@ -47,8 +47,8 @@ class Options
     std::string_view m_rest;
 };
 
-/// An input of the fuzzer: lines that say what to do, then the text to do it with, so that the
-/// seeds can be read and written by hand.
+/// An input of the fuzzer: lines with options, then the text. Seeds can therefore be read and
+/// written by hand.
 class FuzzInput
 {
   public:
@@ -56,7 +56,7 @@ class FuzzInput
     {
     }
 
-    /// The next line without its "\n"; empty when there are no more.
+    /// The next line without its "\n"; empty if there are no more.
     std::string_view Line()
     {
         const std::size_t length = std::min(m_rest.find('\n'), m_rest.size());
@@ -65,15 +65,15 @@ class FuzzInput
         return line;
     }
 
-    /// All that no line has taken.
+    /// Everything after the lines read so far.
     std::string_view Rest() const { return m_rest; }
 
   private:
     std::string_view m_rest;
 };
 
-/// The text of UTF-8 bytes. An invalid byte becomes half a surrogate pair of its own, so that such
-/// texts come up as well.
+/// Converts UTF-8 bytes to text. An invalid byte becomes an unpaired surrogate, so that such
+/// texts are tested as well.
 inline Text Characters(std::string_view bytes)
 {
     Text text;

@@ -1,6 +1,6 @@
-// List texts to rows and back, beside rows that are kept step by step. The first line of an input
-// says: the format (kFormats), then pairs of numbers, each an operation (0 insert the text's own
-// first entry, 1 delete, 2 move, 3 sort) and where. The rest is the list text.
+// Converts list texts to rows and back, and compares them with rows of a simple implementation. The first
+// line of an input contains the format (kFormats), then pairs of numbers: an operation (0 insert the
+// text's own first entry, 1 delete, 2 move, 3 sort) and its row. The rest is the list text.
 
 #include "controls/core/list_text.h"
 #include "match/core/tokens.h"
@@ -27,7 +27,7 @@ Text Upper(Text text)
     return text;
 }
 
-// The rows with nothing done for speed.
+// The rows, implemented without any optimisation.
 class LiteralRows
 {
   public:
@@ -126,8 +126,8 @@ class LiteralRows
         return text;
     }
 
-    // Whether the list text is sure to give these rows again: no field holds a qualifier or the
-    // separator of entries, or begins or ends in white space; no row is empty, none twice.
+    // Whether the list text certainly gives these rows again: no field contains a qualifier or the entry
+    // separator, or begins or ends with white space; no row is empty or occurs twice.
     bool ComesBack() const
     {
         std::set<Text> entries;

@@ -10,7 +10,7 @@
 namespace ov::fuzz
 {
 
-/// A variable as the slow reader keeps it.
+/// A variable in the simple reader.
 struct LiteralRecord {
     Text value;
     Text comment;
@@ -21,8 +21,8 @@ struct LiteralRecord {
 
 using LiteralTable = std::map<Text, LiteralRecord>;
 
-/// Reading and writing of configuration files step by step, with nothing done for speed: what the
-/// product's reader and writer are held against.
+/// Reads and writes configuration files without any optimisation: the reference for the product's
+/// reader and writer.
 struct LiteralStore {
     LiteralTable current;
     LiteralTable defaults;
@@ -30,27 +30,27 @@ struct LiteralStore {
 
     LiteralTable& Table(int selector) { return selector == 0 ? current : defaults; }
 
-    /// Reads a file into the table; one without lines leaves it as it was.
+    /// Reads a file into the table; a file without lines does not change it.
     void Read(int selector, std::string_view bytes);
 
-    /// The bytes that a save of the current table puts on the disk.
+    /// The bytes that a save of the current table writes.
     std::string Write(const Text& header) const;
 
     /// The comment that is written above a variable of the current table.
     const Text& WrittenComment(const Text& name) const;
 };
 
-/// The text without white space at its ends.
+/// The text without leading and trailing white space.
 Text LiteralTrim(const Text& text);
 
 /// The kind of a value that was read.
 int LiteralKind(const Text& value);
 
-/// A value without the quotes that enclose it, and then also without those inside and without what
-/// follows a "#".
+/// A value without the quotes that enclose it; if there are such quotes, also without those inside and
+/// without the part from "#" on.
 Text LiteralUnquote(const Text& value);
 
-/// The items that a list is written as: no quotes, no blanks around them, none empty.
+/// The items of a list as written: no quotes, no blanks around them, none empty.
 std::vector<Text> LiteralItems(const Text& list);
 
 } // namespace ov::fuzz

@@ -1,6 +1,6 @@
-// Three small readers of texts. The first line of an input says which: 0 the sections of a help
-// text, 1 the comment made of a description, 2 a scan period; for 2 the next line is the older form
-// of the setting. The rest is the text.
+// Three small parsers. The first line of an input selects one: 0 the sections of a help text, 1 the
+// comment made from a description, 2 a scan period; for 2 the next line is the older variable.
+// The rest is the text.
 
 #include "base/locale_text.h"
 #include "config/core/config_reader.h"
@@ -18,7 +18,7 @@ namespace ov::fuzz
 namespace
 {
 
-// One of the four tags of a help text.
+// A tag of a help text and its position.
 struct TagAt {
     std::size_t position;
     std::size_t section;
@@ -37,7 +37,7 @@ std::vector<TagAt> TagsOf(const Text& text)
     return tags;
 }
 
-// Walks the sections of each kind: exactly those come that a tag opens, each up to the next tag.
+// Walks through the sections of each kind: one for each tag, up to the next tag.
 void CheckSections(const Text& text)
 {
     const std::vector<TagAt> tags = TagsOf(text);
@@ -85,7 +85,7 @@ void CheckComment(const Text& description)
 {
     const Text block = MakeCommentBlock(description);
     const std::vector<Text> lines = LinesOf(block);
-    // An empty line, "#", the description, "#", and nothing behind the last line end.
+    // An empty line, "#", the description, "#", and nothing after the last line end.
     OV_REQUIRE(lines.size() >= 5 && lines.front().empty() && lines[1] == u"#");
     OV_REQUIRE(lines[lines.size() - 2] == u"#" && lines.back().empty());
     Text joined;
@@ -93,13 +93,13 @@ void CheckComment(const Text& description)
         OV_REQUIRE(lines[i].starts_with(u"# "));
         joined += (i > 2 ? u"\n" : u"") + lines[i].substr(2);
     }
-    // Nothing is lost but carriage returns, and blanks alone become line ends.
+    // Only carriage returns are lost, and only blanks become line ends.
     Text kept = description;
     std::erase(kept, u'\r');
     OV_REQUIRE(joined.size() == kept.size());
     for (std::size_t i = 0; i < kept.size(); ++i)
         OV_REQUIRE(joined[i] == kept[i] || (kept[i] == u' ' && joined[i] == u'\n'));
-    // A description of short lines is not wrapped at all; one of blanks and short words without
+    // A description with short lines is not wrapped. A description of blanks and short words without
     // line breaks has no line beyond 100 columns.
     bool hasBreaks = false;
     std::size_t longestLine = 0;
@@ -115,14 +115,14 @@ void CheckComment(const Text& description)
     }
     if (longestLine <= 100)
         OV_REQUIRE(joined == kept);
-    // The blank at the very front is not used, so that a first word needs room for it.
+    // A blank at the very beginning is not replaced, so the first word needs room for it.
     if (!hasBreaks && longestWord < 100) {
         for (std::size_t i = 2; i + 2 < lines.size(); ++i)
             OV_REQUIRE(lines[i].size() <= 2 + 100);
     }
 
-    // Above a variable in a file it is that variable's comment, each line without blanks at its
-    // end. The locale is "C", which has no characters beyond one byte.
+    // Above a variable in a file it is that variable's comment, with trailing blanks removed from each
+    // line. The locale is "C", which has no characters beyond one byte.
     Text narrow = block;
     for (char16_t& c : narrow)
         c = static_cast<char16_t>(c & 0xFF) == u'\n' && c != u'\n' ? u'?' : static_cast<char16_t>(c & 0xFF);
@@ -174,10 +174,10 @@ std::vector<int> NumbersIn(const Text& text)
     return numbers;
 }
 
-// What reading both texts comes to, number by number.
+// The result of reading both texts, number by number.
 Numbers Expected(const Text& value, const Text& settings, const ScanDate& today)
 {
-    // How many entries each list has; 0 is no list.
+    // The number of entries of each list; 0 if the number is not a position in a list.
     constexpr Numbers kEntries = {0, 2, 11, 0, 0, 0, 0, 3, 2, 11, 0, 0, 0, 2};
     Numbers numbers = {value.empty() ? 0 : 1, 1,          0, 1, 8, 2007, 0, 2, 0, 0, today.day,
                        today.month,           today.year, 0};
@@ -233,7 +233,7 @@ void CheckScanPeriod(const Text& value, const Text& settings)
     if (written.empty())
         return;
     OV_REQUIRE(CountNumbers(written) == 14);
-    // A page takes no other dates, so that no others are written.
+    // A page accepts no other dates, so no others are written.
     if (!IsScanDate(period.dateOne) || !IsScanDate(period.dateTwo))
         return;
     ScanPeriod again;

@@ -1,5 +1,5 @@
-// Templates against the plain recursive walk of the tests, and against time. The first line of an
-// input says: the type (kTypes), the case flag. The second line is the template, the rest the text.
+// Compares matching with the simple recursive walk of the tests, and checks its time. The first line of
+// an input contains the type (kTypes) and the case flag. The second line is the pattern, the rest the text.
 
 #include "match/core/pattern_match.h"
 #include "tests/core/literal_match.h"
@@ -47,13 +47,13 @@ double ThreadMilliseconds()
     return static_cast<double>(now.tv_sec) * 1e3 + static_cast<double>(now.tv_nsec) / 1e6;
 }
 
-// Nobody shall wait for a name: 5 ms a call in the product. Here, instrumented and hardly optimised,
-// a call takes 13 to 35 times as long.
+// In the product, a call must take at most 5 ms, so that a name is matched without delay. Here,
+// instrumented and hardly optimised, a call takes 13 to 35 times as long.
 constexpr double kInstrumented = 10;
 constexpr double kLongestMilliseconds = 5 * kInstrumented;
 
-// The answer, and the time that it takes: of several calls the shortest, since a busy machine is
-// no slow matcher.
+// The result and the time of a call: the shortest of several calls, because a busy machine can delay
+// some of them.
 Answer AskInTime(const Text& pattern, const Text& text, WildcardType type, int caseFlag)
 {
     constexpr int kTries = 5;
@@ -89,7 +89,7 @@ bool Occurs(const Text& part, const Text& text, bool exact)
     return false;
 }
 
-// PCRE2 decides; an expression without any sign of its own is looked for as it stands.
+// PCRE2 is the reference; an expression without special characters is searched for literally.
 void CheckPerl(const Text& pattern, const Text& text, int caseFlag)
 {
     const Answer answer = Ask(pattern, text, WildcardTypePerl, caseFlag);

@@ -1,7 +1,7 @@
-// The token readers and their helpers. The lines of an input: capacity, then limit; the characters
-// to skip before a token; those to trim behind it; those to remove; the stops that are consumed;
-// the stops that are left; the qualifier; the text to find; its replacement; then the source. A line
-// "~" is no set and no qualifier at all.
+// The token readers and their helpers. The lines of an input: capacity and limit; the characters to
+// skip before a token; those to trim from its end; those to remove; the consumed stops; the kept
+// stops; the qualifier; the text to find; its replacement; then the source. A line "~" means no
+// set or no qualifier.
 
 #include "match/core/tokens.h"
 #include "tests/fuzz/fuzz_input.h"
@@ -14,7 +14,7 @@ namespace ov::fuzz
 namespace
 {
 
-// Texts of the functions end at their first NUL.
+// The functions treat texts as ending at their first NUL.
 Text UpToNul(const Text& text)
 {
     return text.substr(0, text.find(u'\0'));
@@ -37,7 +37,7 @@ class Set
     std::optional<Text> m_characters;
 };
 
-// Memory of exactly that many characters: a step beyond it is found out.
+// Memory of exactly that many characters: the sanitizer detects an access beyond it.
 class Buffer
 {
   public:
@@ -72,7 +72,7 @@ struct Token {
     std::size_t consumed;
 };
 
-// The token reader, rule by rule.
+// The token reader, implemented rule by rule.
 class LiteralReader
 {
   public:
@@ -103,7 +103,7 @@ class LiteralReader
         return m_sets.consumed.Has(m_source[i]) || m_sets.kept.Has(m_source[i]);
     }
 
-    // Two qualifiers at the end, or before a stop.
+    // Two qualifiers at the end or before a stop.
     std::optional<Token> EmptyQuoted() const
     {
         const std::size_t third = m_start + 2;
@@ -118,7 +118,7 @@ class LiteralReader
         return std::nullopt;
     }
 
-    // One quoted text up to the end of the source, but perhaps for blanks or one stop.
+    // One quoted text up to the end of the source, followed at most by blanks or one stop.
     std::optional<Token> Quoted() const
     {
         std::size_t run = 0;
@@ -177,7 +177,7 @@ class LiteralReader
     std::size_t m_last = 0;
 };
 
-// The splitter: no quoting, and stops count among what is trimmed from the end as well.
+// The splitter has no quoting, and also trims stops from the end.
 Token LiteralPiece(TextView source, const Sets& sets)
 {
     std::size_t i = 0;
@@ -211,7 +211,7 @@ bool IsWithin(TextView part, TextView whole)
 
 Token ReadString(TextView source, const Sets& sets, std::size_t capacity)
 {
-    // Exactly as long as the source, and without a terminator.
+    // Exactly as long as the source, without a terminator.
     const auto copy = std::make_unique<char16_t[]>(source.size());
     std::copy(source.begin(), source.end(), copy.get());
     Token token{u"old", 0};
@@ -231,13 +231,13 @@ Token ReadBuffer(const Text& source, const Sets& sets, std::size_t capacity)
     return {buffer.Content(), consumed};
 }
 
-// Reads one token and gives the number of characters consumed.
+// Reads one token and returns the number of characters consumed.
 std::size_t CheckToken(const Text& source, const Sets& sets, std::size_t capacity)
 {
     const Token whole = ReadString(source, sets, source.size() + 1);
     OV_REQUIRE(whole.consumed <= source.size());
     OV_REQUIRE(IsWithin(whole.text, TextView(source).substr(0, whole.consumed)));
-    // Only a stop that is left keeps a token from making progress.
+    // Only with a kept stop can a token consume nothing.
     if (whole.consumed == 0)
         OV_REQUIRE(source.empty() || sets.kept.Has(source.front()));
     if (source.empty())
@@ -246,7 +246,7 @@ std::size_t CheckToken(const Text& source, const Sets& sets, std::size_t capacit
     const Token literal = LiteralReader(source, sets).Read();
     OV_REQUIRE(whole.text == literal.text && whole.consumed == literal.consumed);
 
-    // The capacity cuts the token and nothing else.
+    // The capacity truncates the token and has no other effect.
     const Token written = ReadBuffer(source, sets, capacity);
     OV_REQUIRE(written.consumed == whole.consumed);
     OV_REQUIRE(written.text == whole.text.substr(0, capacity));
@@ -263,7 +263,7 @@ void CheckTokens(const Text& source, const Sets& sets, std::size_t capacity)
         rest.erase(0, consumed);
 }
 
-// The splitter knows no quoting and sees only a part of the source.
+// The splitter has no quoting and sees only a part of the source.
 void CheckSplit(const Text& source, const Sets& sets, std::size_t limit)
 {
     const TextView part = TextView(source).substr(0, limit);
@@ -281,7 +281,7 @@ bool SameNoCase(TextView a, TextView b)
     return std::ranges::equal(a, b, {}, ToUpperAscii, ToUpperAscii);
 }
 
-// The first place at or after `from`, npos when there is none.
+// The first position at or after `from`, or npos.
 std::size_t Place(TextView haystack, TextView needle, std::size_t from, bool exact)
 {
     for (; from + needle.size() <= haystack.size(); ++from) {
@@ -325,7 +325,7 @@ void CheckReplace(const Text& source, const Text& find, const Text& replacement,
                status);
     OV_REQUIRE(apart.Content() == expected);
 
-    // In place, the buffer holds the source to begin with.
+    // For replacing in place, the buffer initially contains the source.
     Buffer inPlace(std::max(capacity, source.size()) + 1);
     std::copy_n(source.c_str(), source.size() + 1, inPlace.Get());
     OV_REQUIRE(ReplaceAll(inPlace.Get(), inPlace.Get(), find.c_str(), replacement.c_str(), capacity, exact) ==
@@ -338,7 +338,7 @@ void Run(FuzzInput input)
     Options options(input.Line());
     const std::size_t capacity = options.Number(600);
     const std::size_t limit = options.Number(600);
-    // The members are initialised in their order, which is that of the lines.
+    // The members are initialised in declaration order, which is the order of the lines.
     const Sets sets{Set(input.Line()), Set(input.Line()), Set(input.Line()),
                     Set(input.Line()), Set(input.Line()), Set(input.Line())};
     const Text find = UpToNul(Characters(input.Line()));

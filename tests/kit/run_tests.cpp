@@ -1,5 +1,5 @@
-// ovRunTests: runs the test programs that are in its own folder; the heart of the test kit. Prints one
-// line a suite, and as the last line "N passed, N failed".
+// ovRunTests, the main program of the test kit: runs the test programs in its own folder. Prints one
+// line per suite and, as the last line, "N passed, N failed".
 #include "tests/kit/suite_log.h"
 
 #include <windows.h>
@@ -36,7 +36,7 @@ constexpr const char* kUsage =
     "Wine have \"Wine\" in their names and run with --wine only.\n"
     "The logs are in the folder NAME beside the programs, \"logs\" by default.\n";
 
-// Far more than a suite needs; ends one that hangs.
+// Much more than a suite needs; ends a suite that hangs.
 constexpr DWORD kSuiteMilliseconds = 20 * 60 * 1000;
 constexpr DWORD kEndedForTime = 124;
 constexpr DWORD kNotStarted = 127;
@@ -75,7 +75,7 @@ const Suite* FindSuite(const wchar_t* name)
     return nullptr;
 }
 
-// False for an argument that is neither an option nor a suite.
+// Returns false for an argument that is neither an option nor a suite.
 bool ReadArguments(int count, wchar_t** arguments, Options& options)
 {
     std::wstring filter = L" --gtest_filter=-*Wine*";
@@ -92,7 +92,7 @@ bool ReadArguments(int count, wchar_t** arguments, Options& options)
         else if (argument != L"all")
             return false;
     }
-    // The last filter counts: one that was asked for.
+    // The last filter counts, so a filter of the user replaces this one.
     options.passedOn.insert(0, filter);
     if (options.suites.empty()) {
         for (const Suite& suite : kSuites)
@@ -101,7 +101,7 @@ bool ReadArguments(int count, wchar_t** arguments, Options& options)
     return true;
 }
 
-// Starts the program suspended, so that it belongs to the job before it can start others.
+// Starts the program suspended, so that it belongs to the job before it starts other processes.
 PROCESS_INFORMATION Start(const fs::path& program, const std::wstring& arguments, const fs::path& log)
 {
     SECURITY_ATTRIBUTES inherited = {sizeof inherited, nullptr, TRUE};
@@ -122,7 +122,7 @@ PROCESS_INFORMATION Start(const fs::path& program, const std::wstring& arguments
     return process;
 }
 
-// Runs the program and returns its exit code. Its processes end with it.
+// Runs the program and returns its exit code. Ends its child processes with it.
 DWORD Run(const fs::path& program, const std::wstring& arguments, const fs::path& log)
 {
     const Handle job(::CreateJobObjectW(nullptr, nullptr));
@@ -185,7 +185,7 @@ int wmain(int count, wchar_t** arguments)
         std::fputs(kUsage, stderr);
         return 2;
     }
-    // A test program that crashes ends, and does not wait for somebody to close a message.
+    // A test program that crashes must end and not wait until a message box is closed.
     ::SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOGPFAULTERRORBOX);
     const fs::path folder = OwnFolder();
     ::SetEnvironmentVariableW(L"OV_TEST_DATA", folder.c_str());

@@ -8,7 +8,7 @@ namespace ov::kit
 namespace
 {
 
-// The number behind a mark such as "[  PASSED  ] "; 0 if the line is none of that kind.
+// The number after a mark such as "[  PASSED  ] "; 0 if the line does not have that form.
 int CountBehind(std::string_view line, std::string_view mark, std::string_view rest)
 {
     if (!line.starts_with(mark))

@@ -1,4 +1,4 @@
-/// What the log of a test program reports.
+/// Reads the results in the log of a test program.
 #pragma once
 
 #include <string>
@@ -16,7 +16,7 @@ struct SuiteResult {
     std::vector<std::string> failedTests;
 };
 
-/// Reads the summary of GoogleTest at the end of a log. A program that ended with another exit code
+/// Reads the summary of GoogleTest at the end of a log. A program that ended with an exit code other
 /// than 0 without naming a failed test, or that reports no test at all, counts as one failure.
 SuiteResult ReadSuiteLog(std::string_view log, unsigned long exitCode);
 

@@ -1,4 +1,4 @@
-// What the test kit makes of the logs of test programs.
+// How the test kit reads the logs of test programs.
 #include "tests/kit/suite_log.h"
 
 #include <gtest/gtest.h>

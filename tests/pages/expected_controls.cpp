@@ -35,7 +35,7 @@ ControlRow Radio(int id, const char* caption, unsigned help)
 {
     return Fixed({id, ControlClass::RadioButton, caption, help});
 }
-/// The "..." beside an edit.
+/// The "..." button beside an edit.
 ControlRow Dots(int id, unsigned help)
 {
     return TopRight({id, ControlClass::Button, "...", help});
@@ -48,7 +48,7 @@ ControlRow Label(int id, const char* caption, unsigned help = kNoHelp)
 {
     return Fixed({id, ControlClass::Label, caption, help});
 }
-/// A label whose number is free.
+/// A label with any id.
 ControlRow Label(const char* caption)
 {
     return Label(kAnyId, caption, kAnyHelp);
@@ -78,7 +78,7 @@ ControlRow Date(int id, unsigned help)
     return TopRight({id, ControlClass::Date, nullptr, help});
 }
 
-/// The eight numbers beside the track bars.
+/// An edit that shows the number of a track bar.
 ControlRow Shown(int id)
 {
     return TopRight(Edit(id, nullptr, kNoHelp, ReadOnly));
@@ -98,7 +98,7 @@ const std::vector<const char*> events = {"This date...",
                                          "First Digital Signature Invalidated",
                                          "Last Digital Signature Invalidated"};
 
-// Misspellings, blanks at the end and all, the captions stand as they always have.
+// The captions are the product's original ones, including misspellings and trailing blanks.
 // clang-format off
 std::vector<ControlPage> MakePages()
 {
@@ -383,7 +383,7 @@ std::vector<ControlPage> MakePages()
             Radio(9370, "Current user's initials + design file name", kAnyHelp),
             Stretched(Radio(9371, "Current user's initials + model + design file name", kAnyHelp)),
             Radio(9372, "User defined", kAnyHelp),
-            // To be typed into while "User defined" is chosen, and disabled otherwise.
+            // Enabled while "User defined" is chosen, disabled otherwise.
             Edit(9373, "User defined", kAnyHelp),
             Frame(9375, "Default Report Folder", kAnyHelp),
             Radio(9376, "None", kAnyHelp),
@@ -572,7 +572,7 @@ std::vector<BrowseButton> MakeBrowseButtons()
         List(15, 2905, "_ORTHOVAL_CONVENTION_FILENAME", ';', 2901),
         List(15, 2911, "_ORTHOVAL_CONVENTION_FILENAME_DESCR", ';', 2903),
         File(15, 2907, "_ORTHOVAL_CONVENTION_FILENAME_HELP_FILE"),
-        // Not its own edit, as on the page of models.
+        // The focus moves to another edit than its own, unlike on the Model Naming page.
         List(15, 2912, "_ORTHOVAL_CONVENTION_FILENAME_HELP_STRING", ';', 2903),
         Folder(11, 2402, "_ORTHOVAL_DICT_DIR"),
         Folder(11, 2405, "_ORTHOVAL_DOCS_DIR"),

@@ -306,7 +306,7 @@ bool EqualInAnyCase(const std::string& one, const std::string& other)
     return std::ranges::equal(one, other, {}, lower, lower);
 }
 
-/// Whether the scales page shows "any user-defined drawing scale" as checked.
+/// Whether the Drawing Scales page shows the check box for user-defined scales as checked.
 bool OtherScales(const Table& table)
 {
     const std::string list = Trimmed(ValueOf(table, "_ORTHOVAL_DRAWINGSCALE_VALUES"));
@@ -357,7 +357,7 @@ std::string Index(const std::string& stored, const Setting& setting)
     return index >= 0 && index < setting.entries ? std::to_string(index) : "-1";
 }
 
-/// The fourteen numbers, of dates that exist.
+/// The fourteen numbers; the dates must exist.
 std::string Period(const Table& table, const std::string& today)
 {
     const auto numbersOf = [](const std::string& text) {
@@ -494,7 +494,7 @@ std::optional<std::string> StartOf(const Setting& setting)
         {"_ORTHOVAL_SCANPERIOD_ALLOWUSER", "1"},
         {"_ORTHOVAL_WARN_MAJOR_UPGRADE", "1"},
     };
-    // A flag without a box.
+    // A flag without a check box.
     static const std::vector<std::string> open = {"_ORTHOVAL_CERTIFY_NO_DIFFERING_STGS"};
     if (const auto start = starts.find(setting.variable); start != starts.end())
         return start->second;
@@ -509,7 +509,7 @@ std::optional<std::string> StartOf(const Setting& setting)
 
 bool StaysOutWhenUnseen(const Setting& setting)
 {
-    // The lists of who decides are written by a page that shows them.
+    // The lists for who decides are written by a page that shows them.
     static const std::vector<std::string> lists = {"_ORTHOVAL_WATERMARKS_CHECK_RASTER",
                                                    "_ORTHOVAL_WATERMARKS_CHECK_METADATA",
                                                    "_ORTHOVAL_WATERMARKS_OVERWRITE"};

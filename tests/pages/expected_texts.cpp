@@ -3,7 +3,7 @@
 namespace expected
 {
 
-// Misspellings and blanks in a row included.
+// Including misspellings and repeated blanks.
 // clang-format off
 const std::vector<FixedText>& FixedTexts()
 {
@@ -58,7 +58,7 @@ const std::vector<FixedText>& FixedTexts()
         {5037, Extent::Whole, "Leave existing elements as-is"},
         {5038, Extent::Whole, "Automatically remap existing elements to the closest matching colour"},
         {5039, Extent::Whole, "Prompt the user before doing anything"},
-        // What a scan period of the older form was called
+        // Names of the codes of the older scan period variable
         {5021, Extent::Whole, "Before this date..."},
         {5022, Extent::Whole, "On this date..."},
         {5023, Extent::Whole, "After this date..."},
@@ -68,7 +68,7 @@ const std::vector<FixedText>& FixedTexts()
         {5027, Extent::Whole, "After v8 conversion"},
         {5028, Extent::Whole, "On or Before v8 conversion"},
         {5029, Extent::Whole, "On or After v8 conversion"},
-        // The order of the list differs from the one told here; the example agrees with the list
+        // The order of the list differs from the one in this text; the example agrees with the list
         {10008, Extent::Part, "0: Or, 1: Until, 2: And"},
         {10008, Extent::Part, "1, 1, 1, 1, 8, 2007, 1, 2, 0, 3, 6, 5, 2016, 0"},
         // Title blocks

@@ -1,5 +1,5 @@
-/// Texts of the string table that stand word for word, written down a second
-/// time and independently of the resources. Portable.
+/// Texts of the string table whose wording must not change. Written independently
+/// of the resources. Portable.
 #pragma once
 
 #include <vector>
@@ -9,8 +9,8 @@ namespace expected
 
 enum class Extent {
     Whole,     ///< the string is this text
-    Beginning, ///< the string begins with it; how it goes on is this product's choice
-    Part,      ///< the string says this somewhere
+    Beginning, ///< the string begins with this text; the product is free to continue it
+    Part,      ///< the string contains this text
 };
 
 struct FixedText {

@@ -7,7 +7,7 @@ namespace expected
 {
 namespace
 {
-/// The buttons of the groups, in the order of their indexes.
+/// The buttons of the groups, in the order of their indices.
 std::vector<int> ButtonsOf(int firstButton, int pageId)
 {
     constexpr int certifying = 4;
@@ -21,14 +21,14 @@ std::vector<int> ButtonsOf(int firstButton, int pageId)
     return {};
 }
 
-/// The buttons that choose a preset: none, each preset, the user's own text.
+/// The buttons for a preset: none, each preset, the user's own text.
 std::vector<int> PresetButtonsOf(int edit)
 {
     return edit == 9373 ? std::vector<int>{9368, 9369, 9370, 9371, 9372}
                         : std::vector<int>{9376, 9377, 9382, 9380};
 }
 
-/// The boxes of the title blocks' tags, which show whether there is a text,
+/// The check boxes for the title blocks' tags, which show whether there is a text,
 /// and the one without an edit.
 struct TagBox {
     const char* variable;
@@ -48,8 +48,8 @@ constexpr int builtInScales = 2205;
 constexpr int otherScales = 2206;
 constexpr int fixedPeriod = 9317;
 
-/// The scan period's controls by the position of their number; the numbers of
-/// a day stand together.
+/// The scan period's controls by the position of their number. The three numbers of
+/// a day are consecutive.
 struct PeriodControl {
     std::size_t position;
     Look::Kind kind;
@@ -90,7 +90,7 @@ std::string Padded(const std::string& digits, std::size_t width)
     return std::string(width - std::min(width, digits.size()), '0') + digits;
 }
 
-/// The index that the saved text stands for.
+/// The index that the saved text means.
 int IndexOf(const Setting& setting, const std::string& saved)
 {
     switch (setting.meaning) {
@@ -126,7 +126,7 @@ int PresetIndex(const Setting& setting, const std::string& saved)
     return static_cast<int>(found - setting.presets.begin()) + 1;
 }
 
-/// The track bar beside a weight's edit.
+/// The track bar beside the edit of a weight.
 int BarOf(const Setting& setting)
 {
     return setting.commentId;
@@ -223,8 +223,8 @@ void AddLooks(std::vector<Look>& looks, const Page& page, const Setting& setting
     }
 }
 
-/// A text for an edit that takes it as it is, the same after it was read back
-/// from a file.
+/// A text for an edit that accepts any text and that does not change when it is read
+/// back from a file.
 std::string NewText(const Setting& setting, int round)
 {
     const bool onlyDigits = setting.kind == 3 || Is(setting, "_ORTHOVAL_TABLE_BACKUP_MAX");
@@ -285,7 +285,7 @@ void AddPresetChange(std::vector<Change>& changes, const Setting& setting, int r
     }
 }
 
-/// The choice of a list or a group: other than at first, other in each round.
+/// An index for a list or a group that differs from the initial one and between rounds.
 int NewIndex(const Setting& setting, int round)
 {
     const int last = setting.entries - 1;
@@ -330,10 +330,10 @@ void AddChange(std::vector<Change>& changes, const Page& page, const Setting& se
     case Control::None:
         break;
     case Control::Check:
-        // Two boxes show this flag; it follows the second.
+        // Two check boxes show this flag; the second one decides.
         if (Is(setting, "_ORTHOVAL_MARKERCELL"))
             changes.push_back({{{Click, 3301}}, {}});
-        // This box has been disabled for ever.
+        // This check box has always been disabled.
         if (!Is(setting, "_ORTHOVAL_REPORT_TRACKING"))
             changes.push_back({{{Click, setting.controlId}}, {{setting.variable, turned}}});
         break;
@@ -370,7 +370,7 @@ std::map<std::string, int> WrittenKinds()
     return kinds;
 }
 
-/// What no page writes has the kind that it was read with: text, or a number.
+/// A variable that no page writes keeps the kind that it was read with: text or number.
 bool IsQuoted(const std::map<std::string, int>& kinds, const std::string& variable, const std::string& value)
 {
     constexpr int textKind = 1;
@@ -381,7 +381,7 @@ bool IsQuoted(const std::map<std::string, int>& kinds, const std::string& variab
     return value.empty() || behindMinus.find_first_not_of("0123456789.") != std::string::npos;
 }
 
-/// The box of a tag row comes before its text.
+/// In a row for a tag, the check box has to be clicked before its text is typed.
 void AddTagChange(std::vector<Change>& changes, const Setting& setting, int round)
 {
     const auto tag = std::ranges::find_if(
@@ -389,7 +389,7 @@ void AddTagChange(std::vector<Change>& changes, const Setting& setting, int roun
     if (tag == std::end(tagBoxes))
         return;
     changes.push_back({{{Step::Kind::Click, tag->box}}, {}});
-    // A list's entry is added behind those that are there.
+    // A new list entry is added after the existing ones.
     if (setting.control == Control::None)
         changes.push_back({{{Step::Kind::AddEntry, defineTagValues, 0, round == 0 ? "A" : "B"}},
                            {{setting.variable, round == 0 ? "A" : "A;B"}}});

@@ -1,5 +1,5 @@
-/// What the pages' controls show, and what a person's doings make of the
-/// variables; worked out from the expected pages alone. Portable.
+/// What the pages' controls show, and how the user's actions change the
+/// variables, computed from the expected pages alone. Portable.
 #pragma once
 
 #include "tests/pages/expected_pages.h"
@@ -11,14 +11,14 @@
 namespace expected
 {
 
-/// How a control has to look.
+/// The expected state of a control.
 struct Look {
     enum class Kind {
         Checked,   ///< number: 1 or 0, of a check box or a radio button
-        Text,      ///< text: that of an edit
-        Selection, ///< number: the index of the list's entry, -1 for none
-        Position,  ///< number: that of a track bar
-        Day,       ///< text: a date picker's day, "2016-05-06"
+        Text,      ///< text: the text of an edit
+        Selection, ///< number: the index of the list's selected entry, -1 for none
+        Position,  ///< number: the position of a track bar
+        Day,       ///< text: the day of a date picker, "2016-05-06"
     };
     Kind kind;
     int control;
@@ -26,48 +26,48 @@ struct Look {
     std::string text = {};
 };
 
-/// How the page's controls have to look when it is shown after the table was
-/// loaded into it.
+/// The expected states of the page's controls when it is shown after it was loaded
+/// from the table.
 std::vector<Look> LooksOf(const Page& page, const Table& table, const std::string& today = {});
 
-/// One thing that a person does to a control.
+/// One action of the user on a control.
 struct Step {
     enum class Kind {
         Click,    ///< a check box or a radio button
-        Type,     ///< the edit's whole text anew
-        Choose,   ///< the list's entry of that index
-        Slide,    ///< a track bar to its end, or to its beginning and a step on
-        PickDay,  ///< a date picker's day, "2016-05-06"
-        AddEntry, ///< the button's list editor: a new entry, OK
+        Type,     ///< replace the edit's whole text
+        Choose,   ///< choose the list's entry with that index
+        Slide,    ///< move a track bar to its end, or to its beginning and one step further
+        PickDay,  ///< choose a date picker's day, "2016-05-06"
+        AddEntry, ///< add an entry with the button's list editor and press OK
     };
     Kind kind;
     int control;
-    int number = 0; ///< the index of an entry; for Slide 1 the end, 0 the beginning and a step on
+    int number = 0; ///< the index of an entry; for Slide 1 the end, 0 the beginning and one step further
     std::string text = {};
 };
 
-/// Steps that belong together. Their controls may come into reach by other
+/// Steps that belong together. Their controls may only become usable after other
 /// changes of the page.
 struct Change {
     std::vector<Step> steps;
-    Table stored; ///< the variables that they change, with texts that mean the same
+    Table stored; ///< the variables that they change, with their new texts
 };
 
-/// What a person does to change every setting of the page, whose controls show
-/// the table, and every control that goes with a setting.
-/// @param round 0 begins with what others depend on, 1 ends with it and
-///              chooses other values; flags are turned over by both
+/// The changes that edit every setting of the page and every related control, if
+/// the controls show the table.
+/// @param round 0 begins with the settings on which others depend, 1 ends with
+///             them and chooses other values; both toggle flags
 std::vector<Change> ChangesOf(const Page& page, const Table& before, int round);
 
-/// What becomes of a file when the page, which has loaded a table, is saved
-/// into it: every setting of the page but those that pages never write.
+/// Updates a file's variables as saving the page does after it has loaded a
+/// table: every setting of the page except those that pages never write.
 void SaveInto(Table& saved, const Page& page, const Table& loaded, const std::string& today = {});
 
-/// Empty when both are equal, otherwise a line for each variable that differs.
+/// Empty if both are equal, otherwise one line for each variable that differs.
 std::string DifferenceOf(const Table& wanted, const Table& found);
 
-/// The lines that a saved file has for the table, in order of the names: texts
-/// between quotes, what has semicolons as a list.
+/// The lines of a saved file with this table, in name order: texts in quotes,
+/// values with semicolons as lists.
 std::vector<std::string> LinesOf(const Table& table);
 
 } // namespace expected

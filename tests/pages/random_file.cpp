@@ -67,12 +67,12 @@ class RandomLines
             m_lines.emplace_back();
     }
 
-    /// A value with a character here and there that stands for nothing.
+    /// Adds meaningless characters to a value, sometimes.
     std::string Seasoned(std::string value)
     {
         if (!Chance(m_characters == 0 ? 0 : 15))
             return value;
-        // Few files have the last ones.
+        // Few files contain the last ones.
         static const std::string rare[] = {"\xC3\xA9", "\xE9", "\x80", "\x9D", "\xE2\x82\xAC",      "#", "\"",
                                            ";",        "\t",   "  ",   "\r",   std::string(1, '\0')};
         const std::string& piece = rare[Number(0, m_characters == 5 ? 11 : 9)];
@@ -161,7 +161,7 @@ class RandomLines
     }
 
     std::mt19937& m_random;
-    int m_characters; ///< 0 for a file of plain values, 5 for one with odd bytes too
+    int m_characters; ///< 0 for a file of plain values, 5 for one that also contains unusual bytes
     std::vector<std::string> m_lines;
 };
 } // namespace

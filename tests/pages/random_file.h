@@ -1,5 +1,5 @@
-/// Random configuration files for the property tests, as people and programs leave
-/// them behind. Portable.
+/// Random configuration files for the property tests, similar to those of users and
+/// programs. Portable.
 #pragma once
 
 #include <random>
@@ -8,9 +8,9 @@
 namespace expected
 {
 
-/// The bytes of a file: known and unknown variables with values that mean something
-/// and others that do not, in all operators and layouts, among comments, directives,
-/// blank and broken lines; with or without a header, in any line ends and encoding.
+/// The bytes of a file: known and unknown variables with valid and invalid values,
+/// with all operators and layouts, among comments, directives, blank lines and
+/// malformed lines; with or without a header, in any line ends and encoding.
 std::string RandomFile(std::mt19937& random);
 
 } // namespace expected

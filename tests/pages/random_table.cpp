@@ -48,7 +48,7 @@ class Values
         return {};
     }
 
-    /// The older form of a scan period: a code and a day.
+    /// The older variable of a scan period: a code and a day.
     std::string OlderPeriod()
     {
         const std::string code = std::to_string(Number(-1, 10));
@@ -62,7 +62,7 @@ class Values
         if (!m_inFile && Chance(30))
             return OneOf({" both ends ", "\"", "a;;b;", "#", " ", "= x", "\xC3\xA9t\xC3\xA9", ";"});
         std::string text = Words();
-        // Items that have no blanks at their ends come back from a file as they were.
+        // Items without blanks at their ends come back from a file unchanged.
         if (Chance(25))
             text += ";" + Words();
         return text;
@@ -71,8 +71,8 @@ class Values
   private:
     using Texts = std::initializer_list<const char*>;
 
-    /// One of the texts; outside of files also of those that a file would
-    /// change, and only by way of controls of those that controls refuse.
+    /// Returns one of the texts: for Carrier::Store also one that a file would change,
+    /// for Carrier::File also one that controls refuse.
     std::string OneOf(Texts texts, Texts outsideOfFiles = {}, Texts byControls = {})
     {
         std::vector<const char*> all = texts;
@@ -113,8 +113,8 @@ class Values
         return text;
     }
 
-    /// A day that exists in every year, from 1970 on, where clocks may change at any hour but not at
-    /// every midnight of every zone.
+    /// A day that exists in every year, from 1970 on. Clocks may change at any hour of that day, but not
+    /// at midnight in every time zone.
     std::string Day(const std::string& separator)
     {
         return std::to_string(Number(1, 28)) + separator + std::to_string(Number(1, 12)) + separator +

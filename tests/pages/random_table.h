@@ -8,15 +8,15 @@
 namespace expected
 {
 
-/// How a random table is brought into the pages.
+/// How a random table is loaded into the pages.
 enum class Carrier {
-    Store, ///< as it is, past files and controls
-    File,  ///< written to a file, shown by controls: nothing that a file changes, but choices that no control
-           ///< has
+    Store, ///< directly, without files and controls
+    File,  ///< written to a file and shown by controls: no values that a file changes, but choices that
+           ///< no control has
 };
 
-/// Some of the variables of all pages, and of the older ones, with values that
-/// mean something to them, and others that do not.
+/// Some of the variables of all pages, and of the older ones, with valid and
+/// invalid values.
 Table RandomTable(std::mt19937& random, Carrier carrier);
 
 } // namespace expected

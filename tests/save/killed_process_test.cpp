@@ -1,5 +1,5 @@
-// Kills processes while they save, at every step and at random instants, and looks at what is left
-// on the disk.
+// Kills processes while they save, at every step and at random times, and checks the files that are
+// left on the disk.
 
 #include "tests/save/real_folder.h"
 #include "tests/save/step_file_port.h"
@@ -22,18 +22,18 @@ using Clock = std::chrono::steady_clock;
 
 const std::string kOld = "OLD = content\r\n";
 
-// What a save finds.
+// The situation before a save.
 struct Situation {
     const char* name;
     const char* file;
-    const char* backup; ///< What exists beforehand under the backup's name, if anything.
+    const char* backup; ///< The content under the backup's name before the save, if any.
     bool link = false;
 };
 
 class KilledSave : public test::RealFolder
 {
   protected:
-    // A process that saves under the step port; true when it was killed.
+    // Runs a process that saves with the step port; true if it was killed.
     template <class Arm>
     bool SaveInAnotherProcess(const test::NewContent& content, Arm arm)
     {
@@ -54,7 +54,7 @@ class KilledSave : public test::RealFolder
         return false;
     }
 
-    // Empties the folder and makes the situation again.
+    // Empties the folder and sets up the situation again.
     void Arrange(const Situation& situation)
     {
         for (const std::string& name : Names())
@@ -91,7 +91,7 @@ TEST_F(KilledSave, AtEachStepACompleteCopyIsLeft)
                 });
                 kills += killed ? 1 : 0;
                 const auto file = Get(m_name);
-                // The one window: within the write in place.
+                // The only interval without a complete copy: during the write in place.
                 const bool inWindow = inPlace && end == StepFault::EndsWithin &&
                                       file == m_small.bytes.substr(0, m_small.bytes.size() / 2);
                 EXPECT_TRUE(file == kOld || file == m_small.bytes || Get("a.bak") == kOld ||
@@ -105,7 +105,7 @@ TEST_F(KilledSave, AtEachStepACompleteCopyIsLeft)
     }
 }
 
-// Kills this process after a time, whatever it does then.
+// Kills this process after the given time, at any point of its work.
 void KillAfter(std::chrono::nanoseconds time)
 {
     sigevent event{};

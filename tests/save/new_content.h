@@ -15,7 +15,7 @@ struct NewContent {
     SettingStore store;
     std::string bytes;
 
-    /// The file has a line with a value of that length for each setting, and a header.
+    /// The file has a header and, for each setting, a line with a value of that length.
     explicit NewContent(int settings, std::size_t length = 20)
     {
         for (int i = 0; i < settings; ++i) {

@@ -1,4 +1,4 @@
-// Saves on real file systems: full, read-only and guarded ones, and what else a path may lead to.
+// Saves on real file systems: full, read-only and protected ones, and to paths of all kinds.
 
 #include "tests/save/real_folder.h"
 #include "tests/save/step_file_port.h"
@@ -96,7 +96,7 @@ TEST_F(RealSave, SecondWriterIsShutOutFromTheCreationToTheClose)
         if (!shutOut)
             files.Close(second);
         steps += shutOut ? '-' : '+';
-        // A file that this has made must not be in the save's way.
+        // The save must not be disturbed by a file created here.
         if (port.steps == 8)
             files.Remove(Path("a.cfg"));
     };
@@ -174,11 +174,11 @@ TEST_F(RealSave, FolderUnderTheBackupsNameIsLeftAlone)
     EXPECT_EQ(prompts.notices.size(), 1u);
 }
 
-// Runs in a process that may do no more than its user: the superuser may do everything.
+// Runs in a process with the permissions of an ordinary user, because root may do everything.
 class UnprivilegedSave : public RealSave
 {
   protected:
-    // True when every expectation in it was met.
+    // True if every expectation in it was met.
     static bool AsNobody(const std::function<bool()>& run)
     {
         if (geteuid() != 0)
@@ -240,7 +240,7 @@ TEST_F(UnprivilegedSave, NewFileInAFolderThatCannotBeWrittenFailsSilently)
     Allow(".", 0755);
 }
 
-// What the file's flags forbid even to the superuser.
+// Protection by file flags, which applies even to root.
 class GuardedSave : public RealSave, public testing::WithParamInterface<int>
 {
   protected:
@@ -250,7 +250,7 @@ class GuardedSave : public RealSave, public testing::WithParamInterface<int>
             ChangeFlags(0);
     }
 
-    // False when the system or the file system does not let the flag be set; errno says why.
+    // False if the system or the file system does not allow setting the flag; errno contains the reason.
     bool Guard() { return m_guarded = ChangeFlags(GetParam()); }
 
   private:
@@ -286,7 +286,7 @@ TEST_P(GuardedSave, FileThatMayNotBeChangedStands)
 
 INSTANTIATE_TEST_SUITE_P(Flags, GuardedSave, testing::Values(FS_IMMUTABLE_FL, FS_APPEND_FL));
 
-// A small file system of its own in the folder, seen by this process alone.
+// Mounts a small file system in the folder, visible to this process only.
 class SmallDisk : public RealSave
 {
   protected:
@@ -300,7 +300,7 @@ class SmallDisk : public RealSave
     }
     void TearDown() override { Unmount(); }
 
-    // Puts another disk in the place of the present one, which has four pages. Errors are in errno.
+    // Replaces the present disk, which has four pages, by another one. On failure sets errno.
     bool Mount(const std::string& options)
     {
         Unmount();

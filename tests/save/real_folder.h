@@ -16,7 +16,7 @@
 namespace ov::test
 {
 
-/// A folder of its own on the disk, in which files are saved through the POSIX port.
+/// A separate folder on the disk, in which files are saved through the POSIX port.
 class RealFolder : public testing::Test
 {
   protected:
@@ -26,7 +26,7 @@ class RealFolder : public testing::Test
         if (mkdtemp(pattern.data()) == nullptr)
             throw std::runtime_error("No temporary directory");
         folder = pattern;
-        // For the user that a test becomes.
+        // For the user that a test runs as.
         std::filesystem::permissions(folder, std::filesystem::perms{0755});
     }
     ~RealFolder() override { std::filesystem::remove_all(folder); }
@@ -53,7 +53,7 @@ class RealFolder : public testing::Test
         return names;
     }
 
-    // Saves as after reading what is under the path.
+    // Saves as after reading the file at the path.
     SaveResult Save(const std::string& name, const NewContent& content, FilePort& port)
     {
         std::optional<KnownFile> known;

@@ -10,33 +10,33 @@
 namespace ov::test
 {
 
-/// What happens to one operation.
+/// The fault of one operation.
 enum class StepFault {
     None,
-    Fails,       ///< It fails; a write may get some way.
-    FailsDone,   ///< It is done and says that it failed.
-    OutOfMemory, ///< It throws std::bad_alloc; a write may get some way.
+    Fails,       ///< It fails; a write may write some bytes.
+    FailsDone,   ///< It succeeds but reports a failure.
+    OutOfMemory, ///< It throws std::bad_alloc; a write may write some bytes.
     EndsBefore,  ///< The process ends before it.
-    EndsWithin,  ///< The process ends in it; a write may get some way.
+    EndsWithin,  ///< The process ends during it; a write may write some bytes.
     EndsAfter,   ///< The process ends after it.
 };
 
-/// Stands before another port, numbers its operations from 1 and lets chosen ones fail or be the
-/// process's last.
+/// Forwards to another port, numbers the operations from 1, and lets chosen ones fail or end the
+/// process.
 class StepFilePort final : public FilePort
 {
   public:
     explicit StepFilePort(FilePort& files) : m_files(files) {}
 
     std::map<int, StepFault> faults;         ///< By the number of the operation.
-    std::size_t partOfWrite = 0;             ///< How many bytes a write gets that does not come to its end.
-    std::function<void()> end;               ///< Ends the process, or throws for what stands for that.
-    std::function<void()> afterEach = [] {}; ///< Looks at the files after each operation.
-    int steps = 0;                           ///< How many operations there were.
+    std::size_t partOfWrite = 0;             ///< The number of bytes that an incomplete write writes.
+    std::function<void()> end;               ///< Ends the process, or throws to simulate that.
+    std::function<void()> afterEach = [] {}; ///< Checks the files after each operation.
+    int steps = 0;                           ///< The number of operations so far.
     bool renamed = false;                    ///< A file was renamed.
     bool ended = false;                      ///< The process has ended.
-    bool unfinishedWrite = false;            ///< The last write did not come to its end.
-    int failedReads = 0;                     ///< How often opening for reading or reading failed.
+    bool unfinishedWrite = false;            ///< The last write was incomplete.
+    int failedReads = 0;                     ///< The number of failures to open for reading or to read.
 
     FileKind Kind(const Text& path) override
     {
@@ -82,7 +82,7 @@ class StepFilePort final : public FilePort
     {
         return Step([&] { return m_files.Flush(file); });
     }
-    // A close that fails closes all the same.
+    // A failing close closes the file nevertheless.
     FileResult Close(FileHandle file) override
     {
         return Step([&] { return m_files.Close(file); }, Failure(), [&] { m_files.Close(file); });

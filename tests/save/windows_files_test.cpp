@@ -1,5 +1,5 @@
 // Saves through the Windows port: files that others hold open, attributes, devices, and processes
-// that end while they save. Started with arguments, the program is such a process.
+// that end during a save. If started with arguments, the program is such a process.
 
 #include "config/core/save.h"
 #include "config/win32_file_port.h"
@@ -46,7 +46,7 @@ class WindowsSave : public testing::Test
     ov::SaveResult Save(ov::FilePort& port) { return Save(port, ReadBytes(path).value_or("")); }
     ov::SaveResult Save() { return Save(files); }
 
-    // The message that the user gets at the end.
+    // The message that the user sees at the end.
     static ov::Text Message(const ov::SaveResult& result)
     {
         return ov::SaveFailureText(result, [](unsigned id) { return ov::Text(ov::FindString(id)); });
@@ -60,7 +60,7 @@ class WindowsSave : public testing::Test
     ov::test::TestPrompts prompts;
 };
 
-// How another handle holds the file: what it does with it and what it lets others do.
+// How another handle opens the file: its own access and the access that it shares.
 struct Holder {
     DWORD access;
     DWORD share;
@@ -91,8 +91,8 @@ TEST_P(HeldFile, IsSavedOrStandsAsItsHolderAllows)
     const ov::SaveResult result = Save(files, oldBytes);
     ::CloseHandle(held);
 
-    // A file can be renamed when its holder lets others delete it. In place it can be written when
-    // the holder lets others write and does not itself: a second writer is shut out.
+    // A file can be renamed if its holder shares deletion. It can be written in place if the holder
+    // shares writing and does not write itself, because a second writer is prevented.
     const bool renames = (holder.share & FILE_SHARE_DELETE) != 0;
     const bool saves =
         renames || ((holder.share & FILE_SHARE_WRITE) != 0 && (holder.access & GENERIC_WRITE) == 0);
@@ -103,7 +103,7 @@ TEST_P(HeldFile, IsSavedOrStandsAsItsHolderAllows)
     EXPECT_EQ(ReadBytes(path), saves ? content.bytes : oldBytes);
     EXPECT_EQ(Message(result), u"");
     EXPECT_TRUE(prompts.questions.empty());
-    // What cannot be compared with what was read is not deleted.
+    // A file that cannot be compared with what was read is not deleted.
     if (renames && (holder.share & FILE_SHARE_READ) == 0) {
         EXPECT_EQ(Wide(result.keptPath), folder / L"a (replaced).cfg");
         EXPECT_EQ(ReadBytes(folder / L"a (replaced).cfg"), oldBytes);
@@ -157,7 +157,7 @@ TEST_F(WindowsSave, AttributesAreThoseOfANewFileExceptInPlace)
     EXPECT_TRUE(isHidden());
 }
 
-// Not everywhere does the attribute hold everybody: Wine's superuser may write such files.
+// The attribute does not stop everyone: root in Wine may write such files.
 TEST_F(WindowsSave, AReadOnlyFileWithoutABackupStandsUnlessItsUserMayWriteIt)
 {
     ASSERT_TRUE(WriteBytes(path, oldBytes));
@@ -283,7 +283,7 @@ std::wstring ProgramPath()
 class EndedProcess : public WindowsSave
 {
   protected:
-    /// Saves in a process that ends at the step; true when it did.
+    /// Saves in a process that ends at the step; true if it did.
     bool SaveInAnotherProcess(StepFault end, int step) const
     {
         const Process process(ProgramPath(),

@@ -1,5 +1,5 @@
-/// Waiting for a condition with a deadline. This is the only place in the
-/// tests that lets time pass: nobody sleeps and hopes.
+/// Waits for a condition with a deadline. Only this code in the tests waits for
+/// time to pass; no test sleeps for a fixed time.
 #pragma once
 
 #include <functional>
@@ -7,14 +7,14 @@
 namespace uidriver
 {
 
-/// Milliseconds that a condition may take on a busy machine before it counts
+/// The milliseconds that a condition may take on a busy machine before it counts
 /// as failed.
 constexpr unsigned DefaultDeadline = 20000;
 
-/// Checks the condition again and again until it holds. Messages sent to the
-/// calling thread's windows are answered meanwhile; posted ones are left alone.
-/// An event, if given, says that the condition is worth a look at once.
-/// @return whether the condition held before the deadline (milliseconds).
+/// Checks the condition repeatedly until it is true. Messages sent to the calling
+/// thread's windows are handled meanwhile; posted ones stay in the queue. An
+/// event, if given, triggers an immediate check of the condition.
+/// @return whether the condition became true before the deadline (milliseconds).
 bool Await(const std::function<bool()>& condition, unsigned deadline = DefaultDeadline,
            void* event = nullptr);
 

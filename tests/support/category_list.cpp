@@ -15,8 +15,8 @@ namespace
 
 constexpr int MaxText = 512;
 
-// A list-view item and its text in the memory of the process that owns the
-// list: its messages carry pointers that nobody translates between processes.
+// A list view item and its text in the memory of the process that owns the list,
+// because the system does not translate pointers in list view messages.
 class RemoteItem
 {
   public:
@@ -39,8 +39,8 @@ class RemoteItem
     RemoteItem(const RemoteItem&) = delete;
     RemoteItem& operator=(const RemoteItem&) = delete;
 
-    // Sends the message with the item, whose text buffer it provides; what the
-    // list answers stands in the item and in Text() afterwards.
+    // Sends the message with the item and provides its text buffer. The list's answer
+    // is in the item and in Text() afterwards.
     bool SendItem(UINT message, WPARAM row, LVITEMW& item)
     {
         if (!m_memory)
@@ -121,8 +121,8 @@ HWND SelectCategory(HWND dialog, const std::wstring& title)
     const bool change = ListViewSelection(list) != row;
     if (!SelectListViewRow(list, row))
         return nullptr;
-    // The list notifies the dialog before it answers, so the page is there now
-    // unless its category was the current one already.
+    // The list notifies the dialog before it answers, so the page exists now,
+    // unless its category was already the current one.
     HWND page = nullptr;
     Await([&] {
         page = VisiblePage(dialog);

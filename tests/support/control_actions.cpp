@@ -11,8 +11,8 @@ namespace uidriver
 namespace
 {
 
-// A marker in the message queue: WM_NULL, known by its first parameter, with
-// the event to be set as its second.
+// A marker in the message queue: WM_NULL, identified by its first parameter; the
+// second one is the event to set.
 constexpr WPARAM Marker = 0x6F764D4B;
 
 LRESULT CALLBACK SeeMarker(int code, WPARAM removed, LPARAM parameter)
@@ -23,7 +23,7 @@ LRESULT CALLBACK SeeMarker(int code, WPARAM removed, LPARAM parameter)
     return CallNextHookEx(nullptr, code, removed, parameter);
 }
 
-// The key whose release PressKey waits for; 0 once the thread has fetched it.
+// The key whose release PressKey waits for; 0 once the thread has retrieved it.
 std::atomic<WPARAM> releasedKey = 0;
 
 LRESULT CALLBACK SeeKeyRelease(int code, WPARAM removed, LPARAM parameter)
@@ -66,14 +66,14 @@ bool Settle(HWND window, unsigned deadline)
     DWORD processId = 0;
     const DWORD threadId = GetWindowThreadProcessId(window, &processId);
     if (threadId == 0)
-        return true; // gone, with everything that was posted to it
+        return true; // destroyed, together with everything posted to it
     if (processId != GetCurrentProcessId())
         return IsResponsive(window, deadline);
     HANDLE seen = CreateEventW(nullptr, TRUE, FALSE, nullptr);
     HHOOK hook = SetWindowsHookExW(WH_GETMESSAGE, SeeMarker, nullptr, threadId);
     PostThreadMessageW(threadId, WM_NULL, Marker, reinterpret_cast<LPARAM>(seen));
-    // The marker is fetched after what precedes it was handled. A window that
-    // is destroyed meanwhile may end the loop that would have fetched it.
+    // The marker is retrieved after the messages before it were handled. If the
+    // window is destroyed meanwhile, the loop that would retrieve it may end.
     const bool settled = Await(
         [&] { return WaitForSingleObject(seen, 0) == WAIT_OBJECT_0 || !IsWindow(window); }, deadline, seen);
     UnhookWindowsHookEx(hook);
@@ -153,7 +153,7 @@ bool PressKey(HWND window, WORD virtualKey, WORD modifier)
     inputs[count++] = KeyInput(virtualKey, true);
     if (modifier)
         inputs[count++] = KeyInput(modifier, true);
-    // Posted messages overtake the keyboard's, so a marker alone is not enough.
+    // Posted messages overtake keyboard input, so a marker alone is not sufficient.
     releasedKey = inputs[count - 1].ki.wVk;
     HHOOK hook =
         SetWindowsHookExW(WH_GETMESSAGE, SeeKeyRelease, nullptr, GetWindowThreadProcessId(window, nullptr));

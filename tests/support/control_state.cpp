@@ -67,8 +67,8 @@ bool IsShown(HWND control)
     return IsWindowVisible(control) != FALSE;
 }
 
-// The class's procedure lies in the library of its version, which has a folder of
-// its own, named for it.
+// The class's procedure is in the library of its version, which has a folder of its
+// own, named after the version.
 bool IsVersionSix(HWND control)
 {
     HMODULE module = nullptr;

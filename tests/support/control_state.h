@@ -1,5 +1,5 @@
-/// Reading what controls show. Works across threads and processes; a window
-/// that does not answer within the default deadline gives empty results.
+/// Reads what controls show. Works across threads and processes; a window that
+/// does not respond within the default deadline gives empty results.
 #pragma once
 
 #include <windows.h>
@@ -10,11 +10,11 @@
 namespace uidriver
 {
 
-/// Sends a message, giving up at the default deadline.
-/// @return the message's result, 0 when it was not answered.
+/// Sends a message with the default deadline.
+/// @return the message's result; 0 if the window did not respond.
 LRESULT Send(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
 
-/// The control's text as it stands.
+/// The control's present text.
 std::wstring GetText(HWND control);
 
 /// BST_UNCHECKED, BST_CHECKED or BST_INDETERMINATE of a button.
@@ -24,24 +24,24 @@ inline bool IsChecked(HWND button)
     return CheckState(button) == BST_CHECKED;
 }
 
-/// Whether the control and every window above it are enabled or visible.
+/// Whether the control and all its parent windows are enabled or visible.
 bool IsEnabled(HWND control);
 bool IsShown(HWND control);
 
-/// Whether the control's class comes from version 6 of the common controls; for
+/// Whether the control's class belongs to version 6 of the common controls. Only for
 /// controls of this process.
 bool IsVersionSix(HWND control);
 
-/// The index of the combo box's selection, -1 when nothing is selected.
+/// The index of the combo box's selection; -1 if nothing is selected.
 int ComboSelection(HWND comboBox);
-/// The combo box's entries, in the order in which it lists them.
+/// The combo box's entries, in display order.
 std::vector<std::wstring> ComboTexts(HWND comboBox);
 
 /// The list box's entries and its selection (-1 for none).
 std::vector<std::wstring> ListBoxTexts(HWND listBox);
 int ListBoxSelection(HWND listBox);
 
-/// Position of a trackbar or an up-down control.
+/// The position of a track bar or an up-down control.
 int TrackbarPosition(HWND trackbar);
 int SpinPosition(HWND upDown);
 

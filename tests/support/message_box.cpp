@@ -15,7 +15,7 @@ bool IsMessageBox(HWND window)
 {
     if (ClassOf(window) != L"#32770")
         return false;
-    // A message box holds statics and buttons and nothing else.
+    // A message box contains only statics and buttons.
     const auto children = Children(window);
     return !children.empty() && std::ranges::all_of(children, [](HWND child) {
         const auto name = ClassOf(child);

@@ -1,4 +1,4 @@
-/// Message boxes: what they say, and answering them.
+/// Reads and answers message boxes.
 #pragma once
 
 #include "tests/support/await.h"
@@ -17,20 +17,20 @@ struct MessageBoxButton {
 };
 
 struct MessageBoxContent {
-    HWND window = nullptr; ///< null: no box came up
+    HWND window = nullptr; ///< null: no box was found
     std::wstring caption;
     std::wstring text;
     std::vector<MessageBoxButton> buttons; ///< the visible ones, from left to right
     explicit operator bool() const { return window != nullptr; }
 };
 
-/// Waits for a visible message box with this caption, in the process of the
-/// given window or, with null, in any, and reads it.
+/// Waits for a visible message box with this caption in the process of the given
+/// window (null: in any process) and reads it.
 MessageBoxContent AwaitMessageBox(const std::wstring& caption, HWND sameProcess = nullptr,
                                   unsigned deadline = DefaultDeadline);
 
 /// Presses the button with this id (IDYES, ...) and waits until the box is gone.
-/// @return false when there is no such button or the box stays.
+/// @return false if there is no such button or the box stays open.
 bool AnswerMessageBox(HWND messageBox, int buttonId);
 
 } // namespace uidriver

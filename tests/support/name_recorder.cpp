@@ -14,7 +14,7 @@ namespace uidriver
 namespace
 {
 
-/// Lives as long as its owner, whoever else counts on it.
+/// Lives as long as its owner, independent of references.
 template <class Interface, const IID& InterfaceId>
 class Owned : public Interface
 {
@@ -53,7 +53,7 @@ class NameRecorder::Service final : public Owned<IAccPropServices, IID_IAccPropS
         return S_OK;
     }
 
-    // What nobody asks for here.
+    // Not used by the program.
     HRESULT STDMETHODCALLTYPE SetPropValue(const BYTE*, DWORD, MSAAPROPID, VARIANT) override
     {
         return Fail();

@@ -1,4 +1,4 @@
-/// Seeing what windows are called to screen readers.
+/// Records the accessible names that a program sets.
 #pragma once
 
 #include <windows.h>
@@ -11,17 +11,17 @@
 namespace uidriver
 {
 
-/// What a program asks of the system's service for such names. The service
-/// itself does not take them everywhere, so that this one stands in for it.
+/// The requests of a program to the system's service for accessible names. Some
+/// systems do not support the service, so NameRecorder replaces it.
 struct NameRequests {
-    std::map<HWND, std::wstring> names; ///< as they are now
-    std::vector<HWND> cleared;          ///< whose names were taken back
-    int failures = 0;                   ///< requests for other than a window's name, or for no window
+    std::map<HWND, std::wstring> names; ///< the present names
+    std::vector<HWND> cleared;          ///< the windows whose names were removed
+    int failures = 0;                   ///< requests for another property than the name, or without a window
 };
 
-/// Stands in for the service to what the constructing thread creates until
-/// then; the thread is the one whose windows are to be named. The requests must
-/// not be read while that thread runs on.
+/// Replaces the service for objects that the constructing thread creates while the
+/// recorder exists. That thread must own the windows to be named. Do not read the
+/// requests while another thread is running on.
 class NameRecorder
 {
   public:
@@ -30,7 +30,7 @@ class NameRecorder
     NameRecorder(const NameRecorder&) = delete;
     NameRecorder& operator=(const NameRecorder&) = delete;
 
-    /// Whether the system lets it stand in.
+    /// Whether the system accepted the replacement.
     bool IsRegistered() const { return m_registration != 0; }
 
   private:
@@ -42,7 +42,7 @@ class NameRecorder
     DWORD m_registration = 0;
 };
 
-/// The name that the system itself tells of a control; empty for none.
+/// The name that the system itself reports for a control; empty for none.
 std::wstring SystemName(HWND control);
 
 } // namespace uidriver

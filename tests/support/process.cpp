@@ -9,7 +9,7 @@ namespace
 {
 
 // The first fields of the process environment block up to the table of GDI
-// handles, and an entry of that table, as 64-bit Windows lays them out.
+// handles, and an entry of that table, in the layout of 64-bit Windows.
 struct EnvironmentBlock {
     unsigned char before[0xF8];
     struct GdiEntry* gdiHandles;
@@ -62,8 +62,8 @@ bool IsOwnUserHandle(HANDLE handle)
     return true;
 }
 
-// Where they are not counted, every handle value is asked what it is. The low
-// word names the object; a high word of 0 means "whatever its generation".
+// If the system does not count them, checks every possible handle value. The low
+// word identifies the object; a high word of 0 matches any generation.
 unsigned CountUserObjects()
 {
     if (const DWORD counted = GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS))
@@ -123,8 +123,8 @@ Process::Process(const std::wstring& program, const std::vector<std::wstring>& a
         commandLine += L' ' + QuoteArgument(argument);
     STARTUPINFOW startup = {};
     startup.cb = sizeof startup;
-    // Its messages are ours; its output is not, or whoever reads ours through a
-    // pipe would wait for both to end.
+    // It uses our standard error but not our output: otherwise a reader of our output
+    // through a pipe would have to wait for both processes to end.
     SECURITY_ATTRIBUTES inherited = {sizeof inherited, nullptr, TRUE};
     HANDLE nowhere = CreateFileW(L"NUL", GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE,
                                  &inherited, OPEN_EXISTING, 0, nullptr);
@@ -176,7 +176,7 @@ std::wstring QuoteArgument(const std::wstring& argument)
             ++backslashes;
             continue;
         }
-        // Back-slashes stand for themselves unless a quote follows.
+        // Backslashes are literal unless a quote follows.
         quoted.append(character == L'"' ? 2 * backslashes + 1 : backslashes, L'\\');
         backslashes = 0;
         quoted += character;

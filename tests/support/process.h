@@ -1,4 +1,4 @@
-/// Processes and what they hold.
+/// Processes and the resources that they use.
 #pragma once
 
 #include "tests/support/await.h"
@@ -11,27 +11,27 @@
 namespace uidriver
 {
 
-/// What this process holds; for leak tests over many rounds.
+/// The resources of this process, for leak tests over many rounds.
 struct Resources {
     unsigned gdiObjects = 0;
     unsigned userObjects = 0;  ///< windows, menus, icons and cursors
-    std::size_t heapBytes = 0; ///< busy bytes in all heaps
+    std::size_t heapBytes = 0; ///< allocated bytes in all heaps
     std::size_t privateBytes = 0;
 };
 
-/// Counts what this process holds now. Takes up to a second.
+/// Measures the present resources of this process. Takes up to a second.
 Resources MeasureResources();
 
-/// "12 GDI objects, 40 USER objects, ..." for a failure's message.
+/// "12 GDI objects, 40 USER objects, ..." for a failure message.
 std::string Describe(const Resources& resources);
 
-/// A process that was started; the object closes the handle, it does not end
+/// A process that was started. The destructor closes the handle but does not end
 /// the process.
 class Process
 {
   public:
-    /// Starts the program; an argument may hold blanks and quotes.
-    /// IsStarted() tells whether that worked.
+    /// Starts the program; an argument may contain blanks and quotes.
+    /// IsStarted() returns whether that succeeded.
     Process(const std::wstring& program, const std::vector<std::wstring>& arguments);
     ~Process();
     Process(const Process&) = delete;
@@ -40,7 +40,7 @@ class Process
     bool IsStarted() const { return m_handle != nullptr; }
     bool IsRunning() const;
     DWORD Id() const { return m_id; }
-    /// Waits for its end. False at the deadline.
+    /// Waits until it ends. False at the deadline.
     bool AwaitEnd(unsigned deadline = DefaultDeadline) const;
     /// The exit code; STILL_ACTIVE while it runs.
     DWORD ExitCode() const;
@@ -50,7 +50,7 @@ class Process
     DWORD m_id = 0;
 };
 
-/// Quotes one argument so that the C runtime reads it back as it is.
+/// Quotes one argument so that the C runtime reads it back unchanged.
 std::wstring QuoteArgument(const std::wstring& argument);
 
 } // namespace uidriver

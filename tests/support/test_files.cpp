@@ -57,7 +57,7 @@ std::string Printable(const std::string& line)
     return text;
 }
 
-// Lines with their line ends.
+// Splits a text into lines, including their line ends.
 std::vector<std::string> Lines(const std::string& text)
 {
     std::vector<std::string> lines;
@@ -134,7 +134,7 @@ std::string Difference(const std::string& expected, const std::string& actual)
         return {};
     const auto before = Lines(expected);
     const auto after = Lines(actual);
-    // The lines that both share at the start and at the end are left out.
+    // Omits the common lines at the beginning and at the end.
     const auto heads = std::ranges::mismatch(before, after);
     const auto start = heads.in1 - before.begin();
     auto beforeEnd = before.end();

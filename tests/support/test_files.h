@@ -8,7 +8,7 @@
 namespace uidriver
 {
 
-/// A new, empty folder; removed with all that is in it at the end.
+/// A new, empty folder; the destructor removes it and its contents.
 class TempFolder
 {
   public:
@@ -27,17 +27,17 @@ class TempFolder
     std::wstring m_path;
 };
 
-/// The file's bytes; nothing when it cannot be read.
+/// The file's bytes; nothing if it cannot be read.
 std::optional<std::string> ReadBytes(const std::wstring& path);
 
-/// Creates or replaces the file. False when that fails.
+/// Creates or replaces the file. False on failure.
 bool WriteBytes(const std::wstring& path, const std::string& bytes);
 
 bool PathExists(const std::wstring& path);
 
-/// Empty when both are equal; otherwise a unified account of the lines that
-/// differ, with bytes outside printable ASCII (line ends too) shown as escapes.
-/// `EXPECT_EQ("", Difference(expected, actual))` prints what matters.
+/// Empty if both are equal; otherwise a unified difference of the lines, with
+/// bytes outside printable ASCII (including line ends) shown as escapes.
+/// `EXPECT_EQ("", Difference(expected, actual))` then prints what differs.
 std::string Difference(const std::string& expected, const std::string& actual);
 
 } // namespace uidriver

@@ -21,7 +21,7 @@ BOOL CALLBACK CompareWindow(HWND window, LPARAM parameter)
     GetWindowThreadProcessId(window, &processId);
     if (!IsWindowVisible(window) || (search.processId != AnyProcess && search.processId != processId))
         return TRUE;
-    // InternalGetWindowText asks no window procedure, so it cannot hang.
+    // InternalGetWindowText does not call the window procedure, so it cannot hang.
     wchar_t caption[256] = {};
     InternalGetWindowText(window, caption, static_cast<int>(std::size(caption)));
     if (search.caption != caption)
