@@ -7,10 +7,11 @@
 #   generated/pages/page_classes.inc         the class of each page: an include of its
 #                                            page.h, or OV_PLAIN_PAGE(Name)
 #   generated/pages/page_strings.inc         their ids and strings
-#   generated/pages/page_templates.inc       their templates, one call of ReadTemplate each
+#   generated/pages/page_templates.inc       their ids and templates; each template is between
+#                                            OV_TEMPLATE_BEGIN and OV_TEMPLATE_END
 #
 # Name is the folder's name in capitals: cell_handling gives CellHandling. It
-# begins the name of the rows, CellHandlingRows, and ends that of the class,
+# is in the name of the rows, kCellHandlingRows, and in that of the class,
 # CPageCellHandling.
 file(
   GLOB PAGE_FILES
@@ -59,7 +60,8 @@ foreach(PAGE IN LISTS OV_PAGES)
     string(APPEND CLASSES "OV_PLAIN_PAGE(${NAME})\n")
   endif()
   string(APPEND STRINGS "#include \"pages/${PAGE}/ids.h\"\n#include \"pages/${PAGE}/strings.inc\"\n")
-  string(APPEND TEMPLATES "ReadTemplate(\n#include \"pages/${PAGE}/page.rc\"\n),\n")
+  string(APPEND TEMPLATES "#include \"pages/${PAGE}/ids.h\"\nOV_TEMPLATE_BEGIN\n"
+         "#include \"pages/${PAGE}/page.rc\"\nOV_TEMPLATE_END\n")
 endforeach()
 set(GENERATED "${PROJECT_BINARY_DIR}/generated/pages")
 file(CONFIGURE OUTPUT "${GENERATED}/page_list.inc" CONTENT "${LIST}" @ONLY)

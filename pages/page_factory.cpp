@@ -11,12 +11,12 @@ std::unique_ptr<CWizardPage> Make(CPreferencesWizard* owner)
 }
 
 struct PageMaker {
-    const ov::PageRows& (*rows)();
+    const ov::PageRows* rows;
     std::unique_ptr<CWizardPage> (*make)(CPreferencesWizard*);
 };
 
 constexpr PageMaker makers[] = {
-#define OV_PAGE(name) {&ov::name##Rows, &Make<CPage##name>},
+#define OV_PAGE(name) {&ov::k##name##Rows, &Make<CPage##name>},
 #include "pages/page_list.inc"
 #undef OV_PAGE
 };
@@ -25,7 +25,7 @@ constexpr PageMaker makers[] = {
 std::unique_ptr<CWizardPage> MakePage(const ov::PageInfo& info, CPreferencesWizard* owner)
 {
     for (const PageMaker& maker : makers) {
-        if (&maker.rows().info == &info)
+        if (&maker.rows->info == &info)
             return maker.make(owner);
     }
     return nullptr;

@@ -1,6 +1,5 @@
 /// Resource ids of the Branding page.
-#ifndef OV_PAGES_BRANDING_IDS_H
-#define OV_PAGES_BRANDING_IDS_H
+#pragma once
 
 #define IDD_PAGE_BRANDING 9364
 #define IDS_TITLE_BRANDING 2058
@@ -21,5 +20,3 @@
 #define IDS_HELP_BRANDING_DISABLE_AUTOLOAD 2062
 #define IDS_HELP_BRANDING_RENAME 2063
 #define IDS_HELP_BRANDING_RENAME_BROWSE 2064
-
-#endif

@@ -4,8 +4,7 @@
 
 namespace ov
 {
-namespace
-{
+
 constexpr SettingRow settings[] = {
     FlagRow(u"_ORTHOVAL_BRANDING_AUTO", IDC_BRANDING_AUTO, IDS_HELP_BRANDING_AUTO, true),
     FlagRow(u"_ORTHOVAL_BRANDING_OVERRIDE", IDC_BRANDING_OVERRIDE, IDS_HELP_BRANDING_OVERRIDE, true),
@@ -30,7 +29,7 @@ constexpr BrowseRow browses[] = {
                  IDC_BRANDING_RENAME),
 };
 
-constexpr PageRows rows = {
+constexpr PageRows kBrandingRows = {
     .info = {.pageId = 2,
              .titleId = IDS_TITLE_BRANDING,
              .templateId = IDD_PAGE_BRANDING,
@@ -43,11 +42,5 @@ constexpr PageRows rows = {
     .layout = layout,
     .browses = browses,
 };
-} // namespace
-
-const PageRows& BrandingRows()
-{
-    return rows;
-}
 
 } // namespace ov

@@ -4,8 +4,7 @@
 
 namespace ov
 {
-namespace
-{
+
 constexpr SettingRow settings[] = {
     FlagRow(u"_ORTHOVAL_CHECK_CELLCOMPONENTS", IDC_CELL_HANDLING_COMPONENTS,
             IDS_HELP_CELL_HANDLING_COMPONENTS),
@@ -25,7 +24,7 @@ constexpr LayoutRow layout[] = {
     {IDC_CELL_HANDLING_CACHING, kStretched},
 };
 
-constexpr PageRows rows = {
+constexpr PageRows kCellHandlingRows = {
     .info = {.pageId = 3,
              .titleId = IDS_TITLE_CELL_HANDLING,
              .templateId = IDD_PAGE_CELL_HANDLING,
@@ -36,11 +35,5 @@ constexpr PageRows rows = {
     .settings = settings,
     .layout = layout,
 };
-} // namespace
-
-const PageRows& CellHandlingRows()
-{
-    return rows;
-}
 
 } // namespace ov

@@ -9,7 +9,7 @@ BEGIN_MESSAGE_MAP(CPageCertifying, CSettingsPage)
     ON_BN_CLICKED(IDC_CERTIFYING_PLACE_MARKER_CELL, &CPageCertifying::OnSettingChanged)
 END_MESSAGE_MAP()
 
-CPageCertifying::CPageCertifying(CPreferencesWizard* owner) : CSettingsPage(owner, ov::CertifyingRows()) {}
+CPageCertifying::CPageCertifying(CPreferencesWizard* owner) : CSettingsPage(owner, ov::kCertifyingRows) {}
 
 // The first check box also shows the marker cell's flag. It is read before the
 // second one, so the second one decides the value.

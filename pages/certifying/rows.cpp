@@ -4,8 +4,7 @@
 
 namespace ov
 {
-namespace
-{
+
 // The check boxes do not edit the flags that their captions name, and existing
 // files and programs rely on that: the first two show the same flag, the third box
 // shows the flag of the second caption, and the third flag has no check box. Help
@@ -52,7 +51,7 @@ constexpr BrowseRow browses[] = {
                IDC_CERTIFYING_POST_KEYIN),
 };
 
-constexpr PageRows rows = {
+constexpr PageRows kCertifyingRows = {
     .info = {.pageId = 4,
              .titleId = IDS_TITLE_CERTIFYING,
              .templateId = IDD_PAGE_CERTIFYING,
@@ -65,11 +64,5 @@ constexpr PageRows rows = {
     .layout = layout,
     .browses = browses,
 };
-} // namespace
-
-const PageRows& CertifyingRows()
-{
-    return rows;
-}
 
 } // namespace ov

@@ -1,6 +1,5 @@
 /// Resource ids of the Colour Table page.
-#ifndef OV_PAGES_COLOUR_TABLE_IDS_H
-#define OV_PAGES_COLOUR_TABLE_IDS_H
+#pragma once
 
 #define IDD_PAGE_COLOUR_TABLE 116
 #define IDS_TITLE_COLOUR_TABLE 7011
@@ -25,5 +24,3 @@
 #define IDS_COLOUR_TABLE_LEAVE 5037
 #define IDS_COLOUR_TABLE_REMAP 5038
 #define IDS_COLOUR_TABLE_PROMPT 5039
-
-#endif

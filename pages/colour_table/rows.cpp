@@ -4,8 +4,7 @@
 
 namespace ov
 {
-namespace
-{
+
 constexpr SettingRow settings[] = {
     TextRow(u"_ORTHOVAL_COLOURTABLES", SettingKindPath, IDC_COLOUR_TABLE_ALLOWED,
             IDS_HELP_COLOUR_TABLE_ALLOWED),
@@ -38,7 +37,7 @@ constexpr BrowseRow browses[] = {
     BrowseFiles(IDC_COLOUR_TABLE_ALLOWED_BROWSE, u"_ORTHOVAL_COLOURTABLES"),
 };
 
-constexpr PageRows rows = {
+constexpr PageRows kColourTableRows = {
     .info = {.pageId = 5,
              .titleId = IDS_TITLE_COLOUR_TABLE,
              .templateId = IDD_PAGE_COLOUR_TABLE,
@@ -52,11 +51,5 @@ constexpr PageRows rows = {
     .entries = entries,
     .browses = browses,
 };
-} // namespace
-
-const PageRows& ColourTableRows()
-{
-    return rows;
-}
 
 } // namespace ov

@@ -4,8 +4,7 @@
 
 namespace ov
 {
-namespace
-{
+
 constexpr SettingRow settings[] = {
     FlagRow(u"_ORTHOVAL_CHECK_CELLS", IDC_CONFORMING_CHECK_CELLS, IDS_HELP_CONFORMING_CHECK_CELLS),
     FlagRow(u"_ORTHOVAL_CHECK_TEXT", IDC_CONFORMING_CHECK_TEXT, IDS_HELP_CONFORMING_CHECK_TEXT),
@@ -50,7 +49,7 @@ constexpr SpinRow spins[] = {
     {IDC_CONFORMING_MAX_ERROR_SPIN, IDC_CONFORMING_MAX_ERROR, 0, 10000, kFasterAndFaster},
 };
 
-constexpr PageRows rows = {
+constexpr PageRows kConformingRows = {
     .info = {.pageId = 6,
              .titleId = IDS_TITLE_CONFORMING,
              .templateId = IDD_PAGE_CONFORMING,
@@ -65,11 +64,5 @@ constexpr PageRows rows = {
     .spins = spins,
     .loadMarksModified = true,
 };
-} // namespace
-
-const PageRows& ConformingRows()
-{
-    return rows;
-}
 
 } // namespace ov

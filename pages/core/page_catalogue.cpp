@@ -11,7 +11,7 @@ namespace
 {
 std::vector<const PageRows*> CollectPages()
 {
-#define OV_PAGE(name) &name##Rows(),
+#define OV_PAGE(name) &k##name##Rows,
     std::vector<const PageRows*> pages = {
 #include "pages/page_list.inc"
     };

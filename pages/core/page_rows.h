@@ -5,9 +5,9 @@
 namespace ov
 {
 
-// Declares `const PageRows& <Name>Rows()` for each page, that is, for each folder in
-// pages/. The folder's rows.cpp defines it: ConformingRows() for pages/conforming.
-#define OV_PAGE(name) const PageRows& name##Rows();
+// Declares the rows of each page, that is, of each folder in pages/. The folder's
+// rows.cpp defines them: kConformingRows for pages/conforming.
+#define OV_PAGE(name) extern const PageRows k##name##Rows;
 #include "pages/page_list.inc"
 #undef OV_PAGE
 

@@ -5,8 +5,9 @@
 #include <algorithm>
 #include <initializer_list>
 
-// Included here first, because the templates include it in the middle of an expression.
 #include <winresrc.h>
+
+#include "pages/core/page_dialog.h"
 
 namespace ov
 {
@@ -38,10 +39,10 @@ struct StatedControl {
     }
 };
 
-/// Reads a template. The arguments are the words of its file in order: language, id,
-/// position and size, styles, font. The first control of the list is empty.
-PageTemplate ReadTemplate(int, int, unsigned id, int, int, int, int, int, int, int, std::string_view, int,
-                          int, int, std::initializer_list<StatedControl> controls)
+/// Reads a template. The arguments are the words of its file in order: id, position
+/// and size, styles, font. The first control of the list is empty.
+PageTemplate ReadTemplate(unsigned id, int, int, int, int, int, int, int, std::string_view, int, int, int,
+                          std::initializer_list<StatedControl> controls)
 {
     PageTemplate page{id, {}};
     for (const StatedControl* stated = controls.begin() + 1; stated != controls.end(); ++stated)
@@ -51,9 +52,13 @@ PageTemplate ReadTemplate(int, int, unsigned id, int, int, int, int, int, int, i
 
 std::vector<PageTemplate> ReadTemplates()
 {
+#define OV_TEMPLATE_BEGIN ReadTemplate(
+#define OV_TEMPLATE_END ),
     return {
 #include "pages/page_templates.inc"
     };
+#undef OV_TEMPLATE_BEGIN
+#undef OV_TEMPLATE_END
 }
 
 ControlRole RoleOf(TemplateKind kind)

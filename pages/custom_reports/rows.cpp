@@ -4,8 +4,7 @@
 
 namespace ov
 {
-namespace
-{
+
 constexpr SettingRow settings[] = {
     FlagRow(u"_ORTHOVAL_REPORT_CUSTOM_COMMANDS_LOCKED", IDC_CUSTOM_REPORTS_LOCKED,
             IDS_HELP_CUSTOM_REPORTS_LOCKED),
@@ -30,7 +29,7 @@ constexpr BrowseRow browses[] = {
     BrowseFiles(IDC_CUSTOM_REPORTS_VBA_BROWSE, u"_ORTHOVAL_REPORT_CUSTOM_MVBA"),
 };
 
-constexpr PageRows rows = {
+constexpr PageRows kCustomReportsRows = {
     .info = {.pageId = 7,
              .titleId = IDS_TITLE_CUSTOM_REPORTS,
              .templateId = IDD_PAGE_CUSTOM_REPORTS,
@@ -43,11 +42,5 @@ constexpr PageRows rows = {
     .layout = layout,
     .browses = browses,
 };
-} // namespace
-
-const PageRows& CustomReportsRows()
-{
-    return rows;
-}
 
 } // namespace ov

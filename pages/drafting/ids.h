@@ -1,6 +1,5 @@
 /// Resource ids of the Drafting page.
-#ifndef OV_PAGES_DRAFTING_IDS_H
-#define OV_PAGES_DRAFTING_IDS_H
+#pragma once
 
 #define IDD_PAGE_DRAFTING 102
 #define IDS_TITLE_DRAFTING 5002
@@ -14,5 +13,3 @@
 #define IDS_HELP_DRAFTING_BY_RANGES 8100
 #define IDS_HELP_DRAFTING_ORDER_BY_DESCRIPTION 8101
 #define IDS_HELP_DRAFTING_FORCE_TEXT_COLOUR 8102
-
-#endif

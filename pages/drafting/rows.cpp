@@ -4,8 +4,7 @@
 
 namespace ov
 {
-namespace
-{
+
 constexpr SettingRow settings[] = {
     FlagRow(u"_ORTHOVAL_DRAFT_BY_RANGES", IDC_DRAFTING_BY_RANGES, IDS_HELP_DRAFTING_BY_RANGES),
     FlagRow(u"_ORTHOVAL_DRAFT_MENUS_ORDERBYDESCRIPTION", IDC_DRAFTING_ORDER_BY_DESCRIPTION,
@@ -20,7 +19,7 @@ constexpr LayoutRow layout[] = {
     {IDC_DRAFTING_FORCE_TEXT_COLOUR, kStretched},
 };
 
-constexpr PageRows rows = {
+constexpr PageRows kDraftingRows = {
     .info = {.pageId = 8,
              .titleId = IDS_TITLE_DRAFTING,
              .templateId = IDD_PAGE_DRAFTING,
@@ -31,11 +30,5 @@ constexpr PageRows rows = {
     .settings = settings,
     .layout = layout,
 };
-} // namespace
-
-const PageRows& DraftingRows()
-{
-    return rows;
-}
 
 } // namespace ov

@@ -80,8 +80,9 @@ void TakeScaleSource(PageValues& values)
     if (source.others)
         list = PutScaleBrackets(list);
 }
+} // namespace
 
-constexpr PageRows rows = {
+constexpr PageRows kDrawingScalesRows = {
     .info = {.pageId = 9,
              .titleId = IDS_TITLE_DRAWING_SCALES,
              .templateId = IDD_PAGE_DRAWING_SCALES,
@@ -99,11 +100,5 @@ constexpr PageRows rows = {
     .afterLoad = ShowScaleSource,
     .beforeSave = TakeScaleSource,
 };
-} // namespace
-
-const PageRows& DrawingScalesRows()
-{
-    return rows;
-}
 
 } // namespace ov

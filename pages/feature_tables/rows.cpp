@@ -4,8 +4,7 @@
 
 namespace ov
 {
-namespace
-{
+
 constexpr SettingRow settings[] = {
     FlagRow(u"_ORTHOVAL_USEDICTVERSIONING", IDC_FEATURE_TABLES_DICT_VERSIONING,
             IDS_HELP_FEATURE_TABLES_DICT_VERSIONING),
@@ -49,7 +48,7 @@ constexpr SpinRow spins[] = {
     {IDC_FEATURE_TABLES_BACKUP_MAX_SPIN, IDC_FEATURE_TABLES_BACKUP_MAX, 0, 10000, kFasterAndFaster},
 };
 
-constexpr PageRows rows = {
+constexpr PageRows kFeatureTablesRows = {
     .info = {.pageId = 10,
              .titleId = IDS_TITLE_FEATURE_TABLES,
              .templateId = IDD_PAGE_FEATURE_TABLES,
@@ -63,11 +62,5 @@ constexpr PageRows rows = {
     .browses = browses,
     .spins = spins,
 };
-} // namespace
-
-const PageRows& FeatureTablesRows()
-{
-    return rows;
-}
 
 } // namespace ov

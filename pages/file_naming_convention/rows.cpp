@@ -4,8 +4,7 @@
 
 namespace ov
 {
-namespace
-{
+
 constexpr SettingRow settings[] = {
     FlagRow(u"_ORTHOVAL_CONVENTION_FILENAME_PROMPT", IDC_FILE_NAMING_PROMPT, IDS_HELP_FILE_NAMING_PROMPT),
     TextRow(u"_ORTHOVAL_CONVENTION_FILENAME", SettingKindText, IDC_FILE_NAMING_TEMPLATES,
@@ -30,7 +29,7 @@ constexpr BrowseRow browses[] = {
                IDC_FILE_NAMING_DESCRIPTIONS),
 };
 
-constexpr PageRows rows = {
+constexpr PageRows kFileNamingConventionRows = {
     .info = {.pageId = 15,
              .titleId = IDS_TITLE_FILE_NAMING,
              .templateId = IDD_PAGE_FILE_NAMING,
@@ -41,11 +40,5 @@ constexpr PageRows rows = {
     .settings = settings,
     .browses = browses,
 };
-} // namespace
-
-const PageRows& FileNamingConventionRows()
-{
-    return rows;
-}
 
 } // namespace ov

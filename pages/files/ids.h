@@ -1,6 +1,5 @@
 /// Resource ids of the File Paths page.
-#ifndef OV_PAGES_FILES_IDS_H
-#define OV_PAGES_FILES_IDS_H
+#pragma once
 
 #define IDD_PAGE_FILES 105
 #define IDS_TITLE_FILES 10016
@@ -68,5 +67,3 @@
 #define IDS_HELP_FILES_HTML_OUT_BROWSE 8418
 #define IDS_HELP_FILES_HTML_EXE 8419
 #define IDS_HELP_FILES_HTML_EXE_BROWSE 8420
-
-#endif

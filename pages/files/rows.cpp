@@ -69,8 +69,9 @@ void TakeOlderDataSource(PageValues& values, const SettingStore& store, int tabl
 }
 
 constexpr const char16_t* olderVariables[] = {olderDataSource};
+} // namespace
 
-constexpr PageRows rows = {
+constexpr PageRows kFilesRows = {
     .info = {.pageId = 11,
              .titleId = IDS_TITLE_FILES,
              .templateId = IDD_PAGE_FILES,
@@ -84,11 +85,5 @@ constexpr PageRows rows = {
     .olderVariables = olderVariables,
     .afterLoad = TakeOlderDataSource,
 };
-} // namespace
-
-const PageRows& FilesRows()
-{
-    return rows;
-}
 
 } // namespace ov

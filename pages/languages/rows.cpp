@@ -4,8 +4,7 @@
 
 namespace ov
 {
-namespace
-{
+
 constexpr SettingRow settings[] = {
     TextRow(u"_ORTHOVAL_MENU_NAME", SettingKindText, IDC_LANGUAGES_MENU_NAME, IDS_HELP_LANGUAGES_MENU_NAME),
     TextRow(u"_ORTHOVAL_BILINGUAL_TEXT_LANGUAGE_1", SettingKindText, IDC_LANGUAGES_LANGUAGE_1,
@@ -40,7 +39,7 @@ constexpr BrowseRow browses[] = {
     BrowseFile(IDC_LANGUAGES_TEMPLATE_FILE_BROWSE, u"_ORTHOVAL_BILINGUAL_TEXT_TEMPLATE_FILE"),
 };
 
-constexpr PageRows rows = {
+constexpr PageRows kLanguagesRows = {
     .info = {.pageId = 12,
              .titleId = IDS_TITLE_LANGUAGES,
              .templateId = IDD_PAGE_LANGUAGES,
@@ -53,11 +52,5 @@ constexpr PageRows rows = {
     .layout = layout,
     .browses = browses,
 };
-} // namespace
-
-const PageRows& LanguagesRows()
-{
-    return rows;
-}
 
 } // namespace ov

@@ -1,6 +1,5 @@
 /// Resource ids of the Logging page.
-#ifndef OV_PAGES_LOGGING_IDS_H
-#define OV_PAGES_LOGGING_IDS_H
+#pragma once
 
 #define IDD_PAGE_LOGGING 9358
 #define IDS_TITLE_LOGGING 9347
@@ -23,5 +22,3 @@
 #define IDS_LOGGING_DEBUG_LEVEL_0 5340
 #define IDS_LOGGING_DEBUG_LEVEL_1 5341
 #define IDS_LOGGING_DEBUG_LEVEL_2 5342
-
-#endif

@@ -4,8 +4,7 @@
 
 namespace ov
 {
-namespace
-{
+
 constexpr SettingRow settings[] = {
     FlagRow(u"_ORTHOVAL_REPORT_TRACKING", IDC_LOGGING_TRACKING, IDS_HELP_LOGGING_TRACKING),
     // The only variable of the program without a leading underscore.
@@ -30,7 +29,7 @@ constexpr SpinRow spins[] = {
     {IDC_LOGGING_MAX_SIZE_SPIN, IDC_LOGGING_MAX_SIZE, 0, 102400},
 };
 
-constexpr PageRows rows = {
+constexpr PageRows kLoggingRows = {
     .info = {.pageId = 14,
              .titleId = IDS_TITLE_LOGGING,
              .templateId = IDD_PAGE_LOGGING,
@@ -43,11 +42,5 @@ constexpr PageRows rows = {
     .entries = entries,
     .spins = spins,
 };
-} // namespace
-
-const PageRows& LoggingRows()
-{
-    return rows;
-}
 
 } // namespace ov

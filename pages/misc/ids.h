@@ -1,6 +1,5 @@
 /// Resource ids of the Miscellaneous page.
-#ifndef OV_PAGES_MISC_IDS_H
-#define OV_PAGES_MISC_IDS_H
+#pragma once
 
 #define IDD_PAGE_MISC 9368
 #define IDS_TITLE_MISC 8910
@@ -34,5 +33,3 @@
 #define IDS_HELP_MISC_REORDER_WINDOWS 11061
 #define IDS_HELP_MISC_AUTO_LOGIN_USER_DEFINED 2066
 #define IDS_HELP_MISC_AUTO_LOGIN_DEFAULT 2067
-
-#endif

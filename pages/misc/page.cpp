@@ -11,7 +11,7 @@ BEGIN_MESSAGE_MAP(CPageMisc, CSettingsPage)
     ON_BN_CLICKED(IDC_MISC_WILDCARD_TEST, &CPageMisc::OnTest)
 END_MESSAGE_MAP()
 
-CPageMisc::CPageMisc(CPreferencesWizard* owner) : CSettingsPage(owner, ov::MiscRows()) {}
+CPageMisc::CPageMisc(CPreferencesWizard* owner) : CSettingsPage(owner, ov::kMiscRows) {}
 
 void CPageMisc::OnTest()
 {

@@ -4,8 +4,7 @@
 
 namespace ov
 {
-namespace
-{
+
 constexpr SettingRow settings[] = {
     ChoiceRow(u"_ORTHOVAL_WILDCARD_TYPE", Encoding::Number, ControlKind::RadioGroup, IDC_MISC_WILDCARD_NONE,
               IDS_HELP_MISC_WILDCARD_NONE, 3)
@@ -35,7 +34,7 @@ constexpr LayoutRow layout[] = {
     {IDC_MISC_AUTO_LOGIN_FRAME, kStretched},
 };
 
-constexpr PageRows rows = {
+constexpr PageRows kMiscRows = {
     .info = {.pageId = 16,
              .titleId = IDS_TITLE_MISC,
              .templateId = IDD_PAGE_MISC,
@@ -47,11 +46,5 @@ constexpr PageRows rows = {
     .extraHelp = extraHelp,
     .layout = layout,
 };
-} // namespace
-
-const PageRows& MiscRows()
-{
-    return rows;
-}
 
 } // namespace ov

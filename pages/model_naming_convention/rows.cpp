@@ -4,8 +4,7 @@
 
 namespace ov
 {
-namespace
-{
+
 constexpr SettingRow settings[] = {
     FlagRow(u"_ORTHOVAL_CONVENTION_MODELNAME_PROMPT", IDC_MODEL_NAMING_PROMPT, IDS_HELP_MODEL_NAMING_PROMPT),
     TextRow(u"_ORTHOVAL_CONVENTION_MODELNAME", SettingKindText, IDC_MODEL_NAMING_TEMPLATES,
@@ -28,7 +27,7 @@ constexpr BrowseRow browses[] = {
                IDC_MODEL_NAMING_TEXT),
 };
 
-constexpr PageRows rows = {
+constexpr PageRows kModelNamingConventionRows = {
     .info = {.pageId = 17,
              .titleId = IDS_TITLE_MODEL_NAMING,
              .templateId = IDD_PAGE_MODEL_NAMING,
@@ -39,11 +38,5 @@ constexpr PageRows rows = {
     .settings = settings,
     .browses = browses,
 };
-} // namespace
-
-const PageRows& ModelNamingConventionRows()
-{
-    return rows;
-}
 
 } // namespace ov

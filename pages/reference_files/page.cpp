@@ -16,7 +16,7 @@ BEGIN_MESSAGE_MAP(CPageReferenceFiles, CSettingsPage)
 END_MESSAGE_MAP()
 
 CPageReferenceFiles::CPageReferenceFiles(CPreferencesWizard* owner)
-    : CSettingsPage(owner, ov::ReferenceFilesRows())
+    : CSettingsPage(owner, ov::kReferenceFilesRows)
 {
 }
 

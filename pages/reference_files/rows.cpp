@@ -97,8 +97,9 @@ bool ClampScaleFactor(PageValues& values)
     factor = ClampedScaleFactor(typed);
     return factor != typed;
 }
+} // namespace
 
-constexpr PageRows rows = {
+constexpr PageRows kReferenceFilesRows = {
     .info = {.pageId = 18,
              .titleId = IDS_TITLE_REFERENCE_FILES,
              .templateId = IDD_PAGE_REFERENCE_FILES,
@@ -116,11 +117,5 @@ constexpr PageRows rows = {
     .loadMarksModified = true,
     .refresh = ClampScaleFactor,
 };
-} // namespace
-
-const PageRows& ReferenceFilesRows()
-{
-    return rows;
-}
 
 } // namespace ov

@@ -1,6 +1,5 @@
 /// Resource ids of the Reporting page.
-#ifndef OV_PAGES_REPORTING_IDS_H
-#define OV_PAGES_REPORTING_IDS_H
+#pragma once
 
 #define IDD_PAGE_REPORTING 111
 #define IDS_TITLE_REPORTING 5010
@@ -55,5 +54,3 @@
 #define IDS_REPORTING_MODELS_WITH_BORDER 5354
 #define IDS_REPORTING_PROMPT_USER 5355
 #define IDS_REPORTING_DEFAULT_MODEL 5356
-
-#endif

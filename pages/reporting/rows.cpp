@@ -135,8 +135,9 @@ void PutModels(PageValues& values)
         WriteLockableChoice({values.CompanionNumberOf(IDC_REPORTING_MODELS),
                              values.CompanionNumberOf(IDC_REPORTING_MODELS_USER_DEFINABLE) != 0});
 }
+} // namespace
 
-constexpr PageRows rows = {
+constexpr PageRows kReportingRows = {
     .info = {.pageId = 19,
              .titleId = IDS_TITLE_REPORTING,
              .templateId = IDD_PAGE_REPORTING,
@@ -157,11 +158,5 @@ constexpr PageRows rows = {
     .refresh = PutPresets,
     .beforeSave = PutModels,
 };
-} // namespace
-
-const PageRows& ReportingRows()
-{
-    return rows;
-}
 
 } // namespace ov

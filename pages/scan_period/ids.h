@@ -1,6 +1,5 @@
 /// Resource ids of the Scan Period page.
-#ifndef OV_PAGES_SCAN_PERIOD_IDS_H
-#define OV_PAGES_SCAN_PERIOD_IDS_H
+#pragma once
 
 #define IDD_PAGE_SCAN_PERIOD 9367
 #define IDS_TITLE_SCAN_PERIOD 10007
@@ -73,5 +72,3 @@
 #define IDS_SCAN_PERIOD_NAME_MODE_2 5456
 #define IDS_SCAN_PERIOD_NAME_DATE_2 5457
 #define IDS_SCAN_PERIOD_NAME_OR_SELECTOR 5458
-
-#endif

@@ -25,7 +25,7 @@ ov::Text MessageOf(const ov::ImpossibleDate& error)
 
 IMPLEMENT_DYNAMIC(CPageScanPeriod, CSettingsPage)
 
-CPageScanPeriod::CPageScanPeriod(CPreferencesWizard* owner) : CSettingsPage(owner, ov::ScanPeriodRows()) {}
+CPageScanPeriod::CPageScanPeriod(CPreferencesWizard* owner) : CSettingsPage(owner, ov::kScanPeriodRows) {}
 
 BOOL CPageScanPeriod::OnInitDialog()
 {

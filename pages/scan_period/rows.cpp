@@ -1,5 +1,6 @@
 #include "pages/scan_period/rows.h"
 
+#include "pages/core/page_rows.h"
 #include "pages/core/page_values.h"
 #include "pages/scan_period/ids.h"
 
@@ -235,8 +236,9 @@ void AppendDigits(Text& text, int number, std::size_t width)
 }
 
 constexpr const char16_t* olderVariables[] = {kOlderVariable};
+} // namespace
 
-constexpr PageRows rows = {
+constexpr PageRows kScanPeriodRows = {
     .info = {.pageId = 20,
              .titleId = IDS_TITLE_SCAN_PERIOD,
              .templateId = IDD_PAGE_SCAN_PERIOD,
@@ -257,12 +259,6 @@ constexpr PageRows rows = {
     .refresh = ForgetSecondDate,
     .beforeSave = WritePeriod,
 };
-} // namespace
-
-const PageRows& ScanPeriodRows()
-{
-    return rows;
-}
 
 ImpossibleDate::ImpossibleDate(TextView variable, TextView value)
     : std::runtime_error("A variable has a date that does not exist."), m_variable(variable), m_value(value)

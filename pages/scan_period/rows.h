@@ -8,9 +8,6 @@
 namespace ov
 {
 
-/// The Scan Period page. Loading throws ImpossibleDate.
-const PageRows& ScanPeriodRows();
-
 /// Thrown while loading if a variable contains a date that the page cannot show.
 /// The page then shows no fixed period, and the setting is held back so that its
 /// value is not lost.

@@ -4,8 +4,7 @@
 
 namespace ov
 {
-namespace
-{
+
 constexpr SettingRow settings[] = {
     FlagRow(u"_ORTHOVAL_CHECK_SIGNATURECELL", IDC_SIGNATURE_CELL_CHECK, IDS_HELP_SIGNATURE_CELL_CHECK),
     FlagRow(u"_ORTHOVAL_SIGNATURECELL_DEFAULT_MODEL", IDC_SIGNATURE_CELL_DEFAULT_MODEL,
@@ -43,7 +42,7 @@ constexpr BrowseRow browses[] = {
                IDC_SIGNATURE_CELL_NAMES),
 };
 
-constexpr PageRows rows = {
+constexpr PageRows kSignatureCellRows = {
     .info = {.pageId = 21,
              .titleId = IDS_TITLE_SIGNATURE_CELL,
              .templateId = IDD_PAGE_SIGNATURE_CELL,
@@ -57,11 +56,5 @@ constexpr PageRows rows = {
     .browses = browses,
     .loadMarksModified = true,
 };
-} // namespace
-
-const PageRows& SignatureCellRows()
-{
-    return rows;
-}
 
 } // namespace ov

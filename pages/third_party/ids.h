@@ -1,6 +1,5 @@
 /// Resource ids of the Third Party Apps page.
-#ifndef OV_PAGES_THIRD_PARTY_IDS_H
-#define OV_PAGES_THIRD_PARTY_IDS_H
+#pragma once
 
 #define IDD_PAGE_THIRD_PARTY 118
 #define IDS_TITLE_THIRD_PARTY 5040
@@ -16,5 +15,3 @@
 #define IDS_HELP_THIRD_PARTY_GEOPAK 8017
 #define IDS_HELP_THIRD_PARTY_INROADS 8018
 #define IDS_HELP_THIRD_PARTY_TRIFORMA 8019
-
-#endif

@@ -4,8 +4,7 @@
 
 namespace ov
 {
-namespace
-{
+
 constexpr SettingRow settings[] = {
     FlagRow(u"_ORTHOVAL_CHECK_USERATTRIBUTES", IDC_THIRD_PARTY_USER_ATTRIBUTES,
             IDS_HELP_THIRD_PARTY_USER_ATTRIBUTES),
@@ -14,7 +13,7 @@ constexpr SettingRow settings[] = {
     FlagRow(u"_ORTHOVAL_CHECK_TRIFORMA", IDC_THIRD_PARTY_TRIFORMA, IDS_HELP_THIRD_PARTY_TRIFORMA),
 };
 
-constexpr PageRows rows = {
+constexpr PageRows kThirdPartyRows = {
     .info = {.pageId = 23,
              .titleId = IDS_TITLE_THIRD_PARTY,
              .templateId = IDD_PAGE_THIRD_PARTY,
@@ -24,11 +23,5 @@ constexpr PageRows rows = {
              .listRank = 220},
     .settings = settings,
 };
-} // namespace
-
-const PageRows& ThirdPartyRows()
-{
-    return rows;
-}
 
 } // namespace ov

@@ -1,6 +1,5 @@
 /// Resource ids of the Title Blocks page.
-#ifndef OV_PAGES_TITLE_BLOCK_IDS_H
-#define OV_PAGES_TITLE_BLOCK_IDS_H
+#pragma once
 
 #define IDD_PAGE_TITLE_BLOCK 9362
 #define IDS_TITLE_TITLE_BLOCK 2047
@@ -49,5 +48,3 @@
 #define IDS_HELP_TITLE_BLOCK_SPELL_CHECK 2076
 #define IDS_HELP_TITLE_BLOCK_SPELL_CHECK_BROWSE 2080
 #define IDS_HELP_TITLE_BLOCK_COUNT_FIELDS 2041
-
-#endif

@@ -115,8 +115,9 @@ bool ClearBoxesWithoutTagSets(PageValues& values)
         values.CompanionNumberOf(box.controlId) = 0;
     return true;
 }
+} // namespace
 
-constexpr PageRows rows = {
+constexpr PageRows kTitleBlockRows = {
     .info = {.pageId = 22,
              .titleId = IDS_TITLE_TITLE_BLOCK,
              .templateId = IDD_PAGE_TITLE_BLOCK,
@@ -133,11 +134,5 @@ constexpr PageRows rows = {
     .afterLoad = CheckBoxesOfTexts,
     .refresh = ClearBoxesWithoutTagSets,
 };
-} // namespace
-
-const PageRows& TitleBlockRows()
-{
-    return rows;
-}
 
 } // namespace ov

@@ -1,6 +1,5 @@
 /// Resource ids of the URLs page.
-#ifndef OV_PAGES_URLS_IDS_H
-#define OV_PAGES_URLS_IDS_H
+#pragma once
 
 #define IDD_PAGE_URLS 9354
 #define IDS_TITLE_URLS 2007
@@ -14,5 +13,3 @@
 // Help texts
 #define IDS_HELP_URLS_TECH_SUPPORT 8411
 #define IDS_HELP_URLS_WEBSITE 8414
-
-#endif

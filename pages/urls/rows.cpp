@@ -4,14 +4,13 @@
 
 namespace ov
 {
-namespace
-{
+
 constexpr SettingRow settings[] = {
     TextRow(u"_ORTHOVAL_TECHSUPPORT_URL", SettingKindText, IDC_URLS_TECH_SUPPORT, IDS_HELP_URLS_TECH_SUPPORT),
     TextRow(u"_ORTHOVAL_WEBSITE_URL", SettingKindText, IDC_URLS_WEBSITE, IDS_HELP_URLS_WEBSITE),
 };
 
-constexpr PageRows rows = {
+constexpr PageRows kURLsRows = {
     .info = {.pageId = 24,
              .titleId = IDS_TITLE_URLS,
              .templateId = IDD_PAGE_URLS,
@@ -21,11 +20,5 @@ constexpr PageRows rows = {
              .listRank = 230},
     .settings = settings,
 };
-} // namespace
-
-const PageRows& URLsRows()
-{
-    return rows;
-}
 
 } // namespace ov

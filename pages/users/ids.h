@@ -1,6 +1,5 @@
 /// Resource ids of the Users page.
-#ifndef OV_PAGES_USERS_IDS_H
-#define OV_PAGES_USERS_IDS_H
+#pragma once
 
 #define IDD_PAGE_USERS 9360
 #define IDS_TITLE_USERS 2037
@@ -17,5 +16,3 @@
 #define IDS_HELP_USERS_WINDOWS_AUTHENTICATION 2035
 #define IDS_HELP_USERS_CURRENT_GROUP 2036
 #define IDS_HELP_USERS_CURRENT_GROUP_BROWSE 2008
-
-#endif

@@ -4,8 +4,7 @@
 
 namespace ov
 {
-namespace
-{
+
 constexpr SettingRow settings[] = {
     FlagRow(u"_ORTHOVAL_USERS_ALLOW_GROUPS", IDC_USERS_ALLOW_GROUPS, IDS_HELP_USERS_ALLOW_GROUPS),
     FlagRow(u"_ORTHOVAL_WINDOWS_AUTHENTICATION", IDC_USERS_WINDOWS_AUTHENTICATION,
@@ -36,7 +35,7 @@ constexpr BrowseRow browses[] = {
                IDC_USERS_CURRENT_GROUP),
 };
 
-constexpr PageRows rows = {
+constexpr PageRows kUsersRows = {
     .info = {.pageId = 25,
              .titleId = IDS_TITLE_USERS,
              .templateId = IDD_PAGE_USERS,
@@ -50,11 +49,5 @@ constexpr PageRows rows = {
     .dependencies = dependencies,
     .browses = browses,
 };
-} // namespace
-
-const PageRows& UsersRows()
-{
-    return rows;
-}
 
 } // namespace ov

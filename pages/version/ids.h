@@ -1,6 +1,5 @@
 /// Resource ids of the Version page.
-#ifndef OV_PAGES_VERSION_IDS_H
-#define OV_PAGES_VERSION_IDS_H
+#pragma once
 
 #define IDD_PAGE_VERSION 112
 #define IDS_TITLE_VERSION 5011
@@ -15,5 +14,3 @@
 #define IDS_HELP_VERSION_SERVER 9700
 #define IDS_HELP_VERSION_WARN_MAJOR 9701
 #define IDS_HELP_VERSION_WARN_MINOR 9702
-
-#endif

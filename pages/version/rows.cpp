@@ -4,8 +4,7 @@
 
 namespace ov
 {
-namespace
-{
+
 constexpr SettingRow settings[] = {
     TextRow(u"_ORTHOVAL_SERVER_VERSION", SettingKindText, IDC_VERSION_SERVER, IDS_HELP_VERSION_SERVER)
         .Saved(SaveRule::Never, "Shown for information: whoever installs a version sets it."),
@@ -18,7 +17,7 @@ constexpr LayoutRow layout[] = {
     {IDC_VERSION_WARN_MINOR, kStretched},
 };
 
-constexpr PageRows rows = {
+constexpr PageRows kVersionRows = {
     .info = {.pageId = 26,
              .titleId = IDS_TITLE_VERSION,
              .templateId = IDD_PAGE_VERSION,
@@ -29,11 +28,5 @@ constexpr PageRows rows = {
     .settings = settings,
     .layout = layout,
 };
-} // namespace
-
-const PageRows& VersionRows()
-{
-    return rows;
-}
 
 } // namespace ov

@@ -66,8 +66,9 @@ constexpr BrowseRow browses[] = {
     BrowseList(IDC_WATERMARK_INTEGRITY_LEVELS_BROWSE, u"_ORTHOVAL_WATERMARK_LEVEL_EXCLUSIONS", u',',
                kFocusRemoved),
 };
+} // namespace
 
-constexpr PageRows rows = {
+constexpr PageRows kWatermarkIntegrityRows = {
     .info = {.pageId = 27,
              .titleId = IDS_TITLE_WATERMARK_INTEGRITY,
              .templateId = IDD_PAGE_WATERMARK_INTEGRITY,
@@ -81,11 +82,5 @@ constexpr PageRows rows = {
     .entries = entries,
     .browses = browses,
 };
-} // namespace
-
-const PageRows& WatermarkIntegrityRows()
-{
-    return rows;
-}
 
 } // namespace ov

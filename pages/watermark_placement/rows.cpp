@@ -4,8 +4,7 @@
 
 namespace ov
 {
-namespace
-{
+
 // Four of the texts have always been written as paths, without quotes.
 constexpr SettingRow settings[] = {
     FlagRow(u"_ORTHOVAL_REPLACETEXT_LINESPACING_SCALED", IDC_WATERMARK_PLACEMENT_LINE_SPACING_SCALED,
@@ -42,7 +41,7 @@ constexpr BrowseRow browses[] = {
                IDC_WATERMARK_PLACEMENT_CROSS),
 };
 
-constexpr PageRows rows = {
+constexpr PageRows kWatermarkPlacementRows = {
     .info = {.pageId = 28,
              .titleId = IDS_TITLE_WATERMARK_PLACEMENT,
              .templateId = IDD_PAGE_WATERMARK_PLACEMENT,
@@ -55,11 +54,5 @@ constexpr PageRows rows = {
     .layout = layout,
     .browses = browses,
 };
-} // namespace
-
-const PageRows& WatermarkPlacementRows()
-{
-    return rows;
-}
 
 } // namespace ov

@@ -1,6 +1,5 @@
 /// Resource ids of the Score Weighting page.
-#ifndef OV_PAGES_WEIGHTING_IDS_H
-#define OV_PAGES_WEIGHTING_IDS_H
+#pragma once
 
 #define IDD_PAGE_WEIGHTING 9366
 #define IDS_TITLE_WEIGHTING 2065
@@ -40,5 +39,3 @@
 #define IDS_HELP_WEIGHTING_TEXT_HEIGHT 9332
 #define IDS_HELP_WEIGHTING_TEXT_STYLE 9330
 #define IDS_HELP_WEIGHTING_DIMENSION_STYLE 9329
-
-#endif

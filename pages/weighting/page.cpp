@@ -10,7 +10,7 @@ BEGIN_MESSAGE_MAP(CPageWeighting, CSettingsPage)
     ON_WM_HSCROLL()
 END_MESSAGE_MAP()
 
-CPageWeighting::CPageWeighting(CPreferencesWizard* owner) : CSettingsPage(owner, ov::WeightingRows()) {}
+CPageWeighting::CPageWeighting(CPreferencesWizard* owner) : CSettingsPage(owner, ov::kWeightingRows) {}
 
 BOOL CPageWeighting::OnInitDialog()
 {

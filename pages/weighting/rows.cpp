@@ -70,8 +70,9 @@ constexpr LayoutRow layout[] = {
     {IDC_WEIGHTING_TEXT_STYLE, kStretched},      {IDC_WEIGHTING_TEXT_STYLE_VALUE, kTopRight},
     {IDC_WEIGHTING_DIMENSION_STYLE, kStretched}, {IDC_WEIGHTING_DIMENSION_STYLE_VALUE, kTopRight},
 };
+} // namespace
 
-constexpr PageRows rows = {
+constexpr PageRows kWeightingRows = {
     .info = {.pageId = 29,
              .titleId = IDS_TITLE_WEIGHTING,
              .templateId = IDD_PAGE_WEIGHTING,
@@ -84,11 +85,5 @@ constexpr PageRows rows = {
     .layout = layout,
     .bars = bars,
 };
-} // namespace
-
-const PageRows& WeightingRows()
-{
-    return rows;
-}
 
 } // namespace ov

@@ -23,17 +23,17 @@ constexpr char16_t references[] = u"_ORTHOVAL_CERTIFY_CHECK_REFERENCE_WATERMARKS
 
 const ov::SettingRow& RowOf(ov::TextView variable)
 {
-    const PageValues values(ov::CertifyingRows());
-    return ov::CertifyingRows().settings[values.FindRow(variable)];
+    const PageValues values(ov::kCertifyingRows);
+    return ov::kCertifyingRows.settings[values.FindRow(variable)];
 }
 
 Text HelpOf(int controlId)
 {
-    for (const ov::SettingRow& row : ov::CertifyingRows().settings) {
+    for (const ov::SettingRow& row : ov::kCertifyingRows.settings) {
         if (row.helpId != 0 && row.controlId == controlId)
             return Text(ov::FindString(row.helpId));
     }
-    for (const ov::HelpRow& row : ov::CertifyingRows().extraHelp) {
+    for (const ov::HelpRow& row : ov::kCertifyingRows.extraHelp) {
         if (row.controlId == controlId)
             return Text(ov::FindString(row.helpId));
     }
@@ -46,7 +46,7 @@ std::string SavedAfterLoading(const char16_t* variable, const char16_t* stored)
     SettingStore store;
     if (stored != nullptr)
         store.SetSetting(variable, stored, ov::SettingKindText, u"", kCurrentTable);
-    PageValues values(ov::CertifyingRows());
+    PageValues values(ov::kCertifyingRows);
     values.Load(store, kCurrentTable);
     values.Save(store, true);
     return ov::Utf8FromText(store.GetSettingValue(variable, kCurrentTable));
@@ -92,7 +92,7 @@ TEST(CertifyingPage, ReferencesOfAnyOtherNumberAreTheThirdButton)
 TEST(CertifyingPage, NeverShownAddsWhatThePageHoldsBeforeItLoads)
 {
     SettingStore store;
-    PageValues values(ov::CertifyingRows());
+    PageValues values(ov::kCertifyingRows);
     values.Save(store, false);
     EXPECT_EQ(store.GetSettingValue(markerCell, kCurrentTable), u"0");
     EXPECT_EQ(store.GetSettingValue(referenceMarkerCells, kCurrentTable), u"1");
@@ -102,7 +102,7 @@ TEST(CertifyingPage, NeverShownAddsWhatThePageHoldsBeforeItLoads)
 TEST(CertifyingPage, IsSavedFromTheMarkerCellToTheReferences)
 {
     std::vector<std::string> order;
-    for (const ov::SettingRow& row : ov::CertifyingRows().settings)
+    for (const ov::SettingRow& row : ov::kCertifyingRows.settings)
         order.push_back(ov::Utf8FromText(row.variable));
     EXPECT_EQ(order,
               (std::vector<std::string>{
@@ -113,10 +113,10 @@ TEST(CertifyingPage, IsSavedFromTheMarkerCellToTheReferences)
 
 TEST(CertifyingPage, RefusalMovesTheFocusForTheSecondKeyinOnly)
 {
-    ASSERT_GE(ov::CertifyingRows().browses.size(), 2u);
-    EXPECT_EQ(ov::CertifyingRows().browses[0].focusOnRefusal, ov::kFocusStays);
-    EXPECT_EQ(ov::CertifyingRows().browses[1].focusOnRefusal, 3330);
-    for (const ov::BrowseRow& row : ov::CertifyingRows().browses) {
+    ASSERT_GE(ov::kCertifyingRows.browses.size(), 2u);
+    EXPECT_EQ(ov::kCertifyingRows.browses[0].focusOnRefusal, ov::kFocusStays);
+    EXPECT_EQ(ov::kCertifyingRows.browses[1].focusOnRefusal, 3330);
+    for (const ov::BrowseRow& row : ov::kCertifyingRows.browses) {
         EXPECT_EQ(row.browsing, 0u);
         EXPECT_EQ(row.separator, u';');
         EXPECT_EQ(row.fieldCount, 1u);

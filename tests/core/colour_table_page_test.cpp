@@ -13,7 +13,7 @@ constexpr char16_t kRemap[] = u"_ORTHOVAL_PROMPT_COLOURTABLE_REMAP";
 
 TEST(ColourTablePage, UserIsPromptedUnlessTheFileSaysOtherwise)
 {
-    ov::PageValues values(ov::ColourTableRows());
+    ov::PageValues values(ov::kColourTableRows);
     EXPECT_EQ(values.NumberOf(kRemap), 2);
     ov::SettingStore store;
     values.Load(store, kCurrentTable);
@@ -29,7 +29,7 @@ TEST(ColourTablePage, UserIsPromptedUnlessTheFileSaysOtherwise)
 
 TEST(ColourTablePage, EntriesOfTheListStandInOrder)
 {
-    const auto entries = ov::ColourTableRows().entries;
+    const auto entries = ov::kColourTableRows.entries;
     ASSERT_EQ(entries.size(), 1u);
     ASSERT_EQ(entries[0].stringIds.size(), 3u);
     EXPECT_EQ(entries[0].stringIds[0], 5037u);
@@ -42,7 +42,7 @@ TEST(ColourTablePage, EntriesOfTheListStandInOrder)
 
 TEST(ColourTablePage, AllowedTablesAreAListOfFilesAndARefusalLeavesTheFocus)
 {
-    const ov::BrowseRow& browse = ov::ColourTableRows().browses[0];
+    const ov::BrowseRow& browse = ov::kColourTableRows.browses[0];
     EXPECT_EQ(browse.buttonId, 9329);
     EXPECT_EQ(browse.kind, ov::BrowseKind::List);
     EXPECT_EQ(browse.browsing, 1u);

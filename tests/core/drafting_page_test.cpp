@@ -9,7 +9,7 @@ namespace
 
 TEST(DraftingPage, FlagsStartOffAndLoadingMarksNothing)
 {
-    const ov::PageRows& rows = ov::DraftingRows();
+    const ov::PageRows& rows = ov::kDraftingRows;
     ov::PageValues values(rows);
     ASSERT_EQ(values.Rows().size(), 3u);
     for (std::size_t row = 0; row < values.Rows().size(); ++row)

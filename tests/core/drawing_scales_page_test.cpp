@@ -31,7 +31,7 @@ class DrawingScalesPage : public testing::Test
     bool Others() { return m_values.CompanionNumberOf(IDC_DRAWING_SCALES_ALLOW_OTHERS) != 0; }
 
     ov::SettingStore m_store;
-    ov::PageValues m_values{ov::DrawingScalesRows()};
+    ov::PageValues m_values{ov::kDrawingScalesRows};
 };
 
 TEST_F(DrawingScalesPage, ListInBracketsAllowsOtherScalesAndIsSavedInBrackets)
@@ -144,7 +144,7 @@ TEST_F(DrawingScalesPage, DefaultScaleIsKeptAsTyped)
 
 TEST_F(DrawingScalesPage, ListItsLabelAndItsButtonDependOnTheBuiltInScales)
 {
-    const auto dependencies = ov::DrawingScalesRows().dependencies;
+    const auto dependencies = ov::kDrawingScalesRows.dependencies;
     EXPECT_EQ(dependencies.size(), 3u);
     for (const int control : {2200, 2201, 2207}) {
         const auto row = std::ranges::find(dependencies, control, &ov::DependencyRow::controlId);

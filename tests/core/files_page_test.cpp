@@ -23,7 +23,7 @@ void Put(SettingStore& store, ov::TextView variable, ov::TextView value, int tab
 
 Text JetAfterLoading(const SettingStore& store, int table = kCurrentTable)
 {
-    PageValues values(ov::FilesRows());
+    PageValues values(ov::kFilesRows);
     values.Load(store, table);
     return values.TextOf(jet);
 }
@@ -32,7 +32,7 @@ TEST(FilesPage, OlderDataSourceIsShownAsJetAndSavedUnderBothNames)
 {
     SettingStore store;
     Put(store, older, u"P:\\Excel.dsn");
-    PageValues values(ov::FilesRows());
+    PageValues values(ov::kFilesRows);
     values.Load(store, kCurrentTable);
     EXPECT_EQ(values.TextOf(jet), u"P:\\Excel.dsn");
     values.Save(store, true);
@@ -62,7 +62,7 @@ TEST(FilesPage, NewerDataSourceDoesNotTouchTheOlderOne)
 {
     SettingStore store;
     Put(store, older, u"old.dsn");
-    PageValues values(ov::FilesRows());
+    PageValues values(ov::kFilesRows);
     values.Load(store, kCurrentTable);
     values.TextOf(jet) = u"new.dsn";
     values.Save(store, true);
@@ -74,8 +74,8 @@ TEST(FilesPage, NewerDataSourceDoesNotTouchTheOlderOne)
 TEST(FilesPage, FilesAreChosenForThreeFieldsAndFoldersForAllOthers)
 {
     const std::set<int> files = {2411, 2419, 2430};
-    ASSERT_FALSE(ov::FilesRows().browses.empty());
-    for (const ov::BrowseRow& row : ov::FilesRows().browses) {
+    ASSERT_FALSE(ov::kFilesRows.browses.empty());
+    for (const ov::BrowseRow& row : ov::kFilesRows.browses) {
         EXPECT_EQ(row.kind, files.contains(row.buttonId) ? ov::BrowseKind::File : ov::BrowseKind::Folder)
             << row.buttonId;
     }

@@ -26,7 +26,7 @@ TEST(LoggingPage, SizeOfTheLogFileHasNoUnderscoreInFrontOfItsName)
     SettingStore store;
     Put(store, u"ORTHOVAL_LOG_FILE_MAXSIZE", u"2048");
     Put(store, u"_ORTHOVAL_LOG_FILE_MAXSIZE", u"1");
-    PageValues values(ov::LoggingRows());
+    PageValues values(ov::kLoggingRows);
     values.Load(store, kCurrentTable);
     EXPECT_EQ(values.TextOf(u"ORTHOVAL_LOG_FILE_MAXSIZE"), u"2048");
     values.TextOf(u"ORTHOVAL_LOG_FILE_MAXSIZE") = u"4096";
@@ -38,7 +38,7 @@ TEST(LoggingPage, SizeOfTheLogFileHasNoUnderscoreInFrontOfItsName)
 TEST(LoggingPage, DebugLevelIsTheLeadingIntegerAndKeptWhenThereIsNothingToRead)
 {
     SettingStore store;
-    PageValues values(ov::LoggingRows());
+    PageValues values(ov::kLoggingRows);
     EXPECT_EQ(values.NumberOf(u"_ORTHOVAL_LOG_FILE_DEBUGLEVEL"), 0);
     Put(store, u"_ORTHOVAL_LOG_FILE_DEBUGLEVEL", u"2 or so");
     values.Load(store, kCurrentTable);
@@ -52,7 +52,7 @@ TEST(LoggingPage, DebugLevelIsTheLeadingIntegerAndKeptWhenThereIsNothingToRead)
 TEST(LoggingPage, NeverShownAddsWhatIsMissingWithItsBuiltInValues)
 {
     SettingStore store;
-    PageValues values(ov::LoggingRows());
+    PageValues values(ov::kLoggingRows);
     Save(values, store, false);
     EXPECT_EQ(store.GetSettingValue(u"_ORTHOVAL_REPORT_TRACKING", kCurrentTable), u"0");
     EXPECT_EQ(store.GetSettingValue(u"ORTHOVAL_LOG_FILE_MAXSIZE", kCurrentTable), u"");
@@ -63,8 +63,8 @@ TEST(LoggingPage, NeverShownAddsWhatIsMissingWithItsBuiltInValues)
 // More than 16 bits hold.
 TEST(LoggingPage, LogFileMayBeAHundredMegabytes)
 {
-    ASSERT_GE(ov::LoggingRows().spins.size(), 1u);
-    const ov::SpinRow& spin = ov::LoggingRows().spins[0];
+    ASSERT_GE(ov::kLoggingRows.spins.size(), 1u);
+    const ov::SpinRow& spin = ov::kLoggingRows.spins[0];
     EXPECT_EQ(spin.controlId, 3112);
     EXPECT_EQ(spin.buddyId, 3111);
     EXPECT_EQ(spin.lowest, 0);

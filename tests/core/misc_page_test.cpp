@@ -18,7 +18,7 @@ std::string Saved(ov::TextView variable, const char16_t* stored)
     ov::SettingStore store;
     if (stored != nullptr)
         store.SetSetting(variable, stored, ov::SettingKindText, u"", ov::kCurrentTable);
-    ov::PageValues values(ov::MiscRows());
+    ov::PageValues values(ov::kMiscRows);
     values.Load(store, ov::kCurrentTable);
     values.Save(store, true);
     return ov::Utf8FromText(store.GetSettingValue(variable, ov::kCurrentTable));
@@ -41,7 +41,7 @@ TEST(MiscPage, DefaultValueOfTheLoginIsOnlyOnForAOne)
     EXPECT_EQ(Saved(kDefaultValue, u"1"), "1");
     EXPECT_EQ(Saved(kDefaultValue, u"On"), "0");
     EXPECT_EQ(Saved(kDefaultValue, nullptr), "0");
-    EXPECT_EQ(ov::PageValues(ov::MiscRows()).NumberOf(kDefaultValue), 1);
+    EXPECT_EQ(ov::PageValues(ov::kMiscRows).NumberOf(kDefaultValue), 1);
 }
 
 TEST(MiscPage, HeadingOfTheTypesKeepsItsSpelling)

@@ -20,7 +20,7 @@ const ov::BrowseRow& BrowseOf(const PageRows& page, int buttonId)
 
 TEST(NamingPages, ListsAreSeparatedBySemicolonsAndTheDocumentIsAFile)
 {
-    for (const PageRows* page : {&ov::FileNamingConventionRows(), &ov::ModelNamingConventionRows()}) {
+    for (const PageRows* page : {&ov::kFileNamingConventionRows, &ov::kModelNamingConventionRows}) {
         ASSERT_EQ(page->browses.size(), 4u);
         for (std::size_t i = 0; i < 4; ++i) {
             const ov::BrowseRow& row = page->browses[i];
@@ -36,22 +36,22 @@ TEST(NamingPages, ListsAreSeparatedBySemicolonsAndTheDocumentIsAFile)
 
 TEST(NamingPages, RefusedListsHandTheFocusToTheirEdit)
 {
-    EXPECT_EQ(BrowseOf(ov::FileNamingConventionRows(), 2905).focusOnRefusal, 2901);
-    EXPECT_EQ(BrowseOf(ov::FileNamingConventionRows(), 2911).focusOnRefusal, 2903);
-    EXPECT_EQ(BrowseOf(ov::ModelNamingConventionRows(), 2904).focusOnRefusal, 2903);
-    EXPECT_EQ(BrowseOf(ov::ModelNamingConventionRows(), 2910).focusOnRefusal, 2909);
+    EXPECT_EQ(BrowseOf(ov::kFileNamingConventionRows, 2905).focusOnRefusal, 2901);
+    EXPECT_EQ(BrowseOf(ov::kFileNamingConventionRows, 2911).focusOnRefusal, 2903);
+    EXPECT_EQ(BrowseOf(ov::kModelNamingConventionRows, 2904).focusOnRefusal, 2903);
+    EXPECT_EQ(BrowseOf(ov::kModelNamingConventionRows, 2910).focusOnRefusal, 2909);
 }
 
 // The only difference between the two, which is intended.
 TEST(NamingPages, RefusedHelpTextHandsTheFocusToTheDescriptionsOfFilesAndToItselfOfModels)
 {
-    EXPECT_EQ(BrowseOf(ov::FileNamingConventionRows(), 2912).focusOnRefusal, 2903);
-    EXPECT_EQ(BrowseOf(ov::ModelNamingConventionRows(), 2912).focusOnRefusal, 9349);
+    EXPECT_EQ(BrowseOf(ov::kFileNamingConventionRows, 2912).focusOnRefusal, 2903);
+    EXPECT_EQ(BrowseOf(ov::kModelNamingConventionRows, 2912).focusOnRefusal, 9349);
 }
 
 TEST(NamingPages, StartWithoutPromptAndWithoutTexts)
 {
-    for (const PageRows* page : {&ov::FileNamingConventionRows(), &ov::ModelNamingConventionRows()}) {
+    for (const PageRows* page : {&ov::kFileNamingConventionRows, &ov::kModelNamingConventionRows}) {
         for (const ov::SettingRow& row : page->settings) {
             EXPECT_EQ(row.initialNumber, 0);
             EXPECT_EQ(ov::TextView(row.initialText), u"");

@@ -79,7 +79,7 @@ struct NamedPage {
 std::vector<NamedPage> NamedPages()
 {
     return {
-#define OV_PAGE(name) {#name "Rows", ov::name##Rows().info},
+#define OV_PAGE(name) {"k" #name "Rows", ov::k##name##Rows.info},
 #include "pages/page_list.inc"
 #undef OV_PAGE
     };

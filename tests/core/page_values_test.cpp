@@ -167,9 +167,9 @@ TEST(PageValues, LoadReadsTheSelectedTable)
 TEST(PageValues, LoadingDefaultsShowsNothingForWhatTheDefaultsLack)
 {
     SettingStore store;
-    for (const ov::SettingRow& row : ov::ConformingRows().settings)
+    for (const ov::SettingRow& row : ov::kConformingRows.settings)
         Put(store, row.variable, u"1", kCurrentTable);
-    PageValues values(ov::ConformingRows());
+    PageValues values(ov::kConformingRows);
     values.Load(store, kCurrentTable);
     values.Load(store, kDefaultTable);
     for (std::size_t i = 0; i < values.Rows().size(); ++i) {
@@ -278,7 +278,7 @@ TEST(ConformingValues, CheckCellsStoredAsYesOrTrueIsOffAndSavedAsZero)
     for (const char16_t* text : {u"yes", u"true"}) {
         SettingStore store;
         Put(store, u"_ORTHOVAL_CHECK_CELLS", text);
-        PageValues values(ov::ConformingRows());
+        PageValues values(ov::kConformingRows);
         values.Load(store, kCurrentTable);
         EXPECT_EQ(values.Number(values.FindRow(u"_ORTHOVAL_CHECK_CELLS")), 0);
         values.Save(store, withWindow);
@@ -288,7 +288,7 @@ TEST(ConformingValues, CheckCellsStoredAsYesOrTrueIsOffAndSavedAsZero)
 
 TEST(ConformingValues, BuiltInValuesShowBeforeAnythingIsLoaded)
 {
-    PageValues values(ov::ConformingRows());
+    PageValues values(ov::kConformingRows);
     for (std::size_t i = 0; i < values.Rows().size(); ++i) {
         const ov::TextView name = values.Rows()[i].variable;
         SCOPED_TRACE(ov::Utf8FromText(name));
@@ -305,20 +305,20 @@ TEST(ConformingValues, BuiltInValuesShowBeforeAnythingIsLoaded)
 TEST(ConformingValues, PageNeverOpenedWritesAnAbsentMaximumErrorAndLeavesAPresentOne)
 {
     SettingStore absent;
-    PageValues(ov::ConformingRows()).Save(absent, withoutWindow);
+    PageValues(ov::kConformingRows).Save(absent, withoutWindow);
     EXPECT_EQ(Stored(absent, u"_ORTHOVAL_MAX_ERROR_UORS"), "1");
     EXPECT_EQ(KindOf(absent, u"_ORTHOVAL_MAX_ERROR_UORS"), ov::SettingKindReal);
 
     SettingStore present;
     Put(present, u"_ORTHOVAL_MAX_ERROR_UORS", u"25");
-    PageValues(ov::ConformingRows()).Save(present, withoutWindow);
+    PageValues(ov::kConformingRows).Save(present, withoutWindow);
     EXPECT_EQ(Stored(present, u"_ORTHOVAL_MAX_ERROR_UORS"), "25");
 }
 
 TEST(ConformingValues, AbsentNumbersShowEmptyAndAreSavedEmpty)
 {
     SettingStore store;
-    PageValues values(ov::ConformingRows());
+    PageValues values(ov::kConformingRows);
     values.Load(store, kCurrentTable);
     EXPECT_EQ(values.String(values.FindRow(u"_ORTHOVAL_MAX_ERROR_UORS")), u"");
     EXPECT_EQ(values.String(values.FindRow(u"_ORTHOVAL_MIN_MU_ERRORSCALE")), u"");
@@ -331,7 +331,7 @@ TEST(ConformingValues, AbsentNumbersShowEmptyAndAreSavedEmpty)
 TEST(ConformingValues, NumericEditsTakeAnyText)
 {
     SettingStore store;
-    PageValues values(ov::ConformingRows());
+    PageValues values(ov::kConformingRows);
     values.String(values.FindRow(u"_ORTHOVAL_MAX_ERROR_UORS")) = u" about one ";
     values.Save(store, withWindow);
     EXPECT_EQ(Stored(store, u"_ORTHOVAL_MAX_ERROR_UORS"), " about one ");
@@ -340,7 +340,7 @@ TEST(ConformingValues, NumericEditsTakeAnyText)
 
 TEST(BrandingValues, FirstThreeFlagsAreOnUntilLoaded)
 {
-    PageValues values(ov::BrandingRows());
+    PageValues values(ov::kBrandingRows);
     EXPECT_EQ(values.Number(values.FindRow(u"_ORTHOVAL_BRANDING_AUTO")), 1);
     EXPECT_EQ(values.Number(values.FindRow(u"_ORTHOVAL_BRANDING_OVERRIDE")), 1);
     EXPECT_EQ(values.Number(values.FindRow(u"_ORTHOVAL_BRANDING_CERTIFY")), 1);
@@ -355,7 +355,7 @@ TEST(BrandingValues, FirstThreeFlagsAreOnUntilLoaded)
 TEST(BrandingValues, RenameListIsStoredAsText)
 {
     SettingStore store;
-    PageValues values(ov::BrandingRows());
+    PageValues values(ov::kBrandingRows);
     values.String(values.FindRow(u"_ORTHOVAL_BRANDING_RENAME_TABLES")) =
         u"Civil 2004:Civil;Survey Old:Survey";
     values.Save(store, withWindow);
@@ -380,7 +380,7 @@ TEST(PageValues, ControlShowsNoneForAnEntryThatItLacks)
 
 TEST(PageValues, GroupOfRadioButtonsShowsNoneForAButtonThatItLacks)
 {
-    PageValues misc(ov::MiscRows());
+    PageValues misc(ov::kMiscRows);
     const std::size_t type = misc.FindRow(u"_ORTHOVAL_WILDCARD_TYPE");
     for (const auto& [number, shown] : {std::pair{0, 0}, {5, 5}, {6, -1}, {-1, -1}}) {
         misc.Number(type) = number;

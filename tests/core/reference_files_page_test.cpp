@@ -28,7 +28,7 @@ class ReferenceFilesPage : public testing::Test
         return store.GetSettingValue(variable, kCurrentTable);
     }
 
-    const ov::PageRows& m_rows = ov::ReferenceFilesRows();
+    const ov::PageRows& m_rows = ov::kReferenceFilesRows;
     ov::PageValues m_values{m_rows};
 };
 

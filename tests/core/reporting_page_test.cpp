@@ -31,7 +31,7 @@ class ReportingPage : public testing::Test
         m_values.Load(m_store, table);
         Refresh();
     }
-    void Refresh() { ov::ReportingRows().refresh(m_values); }
+    void Refresh() { ov::kReportingRows.refresh(m_values); }
     std::string Saved(const char16_t* variable, bool hasWindow = true)
     {
         m_values.Save(m_store, hasWindow);
@@ -40,7 +40,7 @@ class ReportingPage : public testing::Test
     int Shown(int controlId) { return m_values.CompanionNumberOf(controlId); }
     bool IsEnabled(int controlId)
     {
-        for (const ov::DependencyRow& row : ov::ReportingRows().dependencies) {
+        for (const ov::DependencyRow& row : ov::kReportingRows.dependencies) {
             if (row.controlId == controlId)
                 return m_values.Holds(row);
         }
@@ -54,7 +54,7 @@ class ReportingPage : public testing::Test
     }
 
     SettingStore m_store;
-    PageValues m_values{ov::ReportingRows()};
+    PageValues m_values{ov::kReportingRows};
 };
 
 TEST_F(ReportingPage, MinusThreeIsDesignModelsThatTheUserMayNotChange)
@@ -110,16 +110,16 @@ TEST_F(ReportingPage, NeverShownKeepsTheModelsThatAreThereAndAddsSixOtherwise)
     m_store.SetSetting(models, u"all of them", ov::SettingKindText, u"", kCurrentTable);
     EXPECT_EQ(Saved(models, false), "all of them");
     SettingStore empty;
-    PageValues values(ov::ReportingRows());
+    PageValues values(ov::kReportingRows);
     values.Save(empty, false);
     EXPECT_EQ(empty.GetSettingValue(models, kCurrentTable), u"6");
 }
 
 TEST_F(ReportingPage, ModelsAreListedInTheirOwnOrder)
 {
-    ASSERT_GE(ov::ReportingRows().entries.size(), 1u);
+    ASSERT_GE(ov::kReportingRows.entries.size(), 1u);
     std::vector<std::string> entries;
-    for (const unsigned id : ov::ReportingRows().entries[0].stringIds)
+    for (const unsigned id : ov::kReportingRows.entries[0].stringIds)
         entries.push_back(ov::Utf8FromText(ov::FindString(id)));
     EXPECT_EQ(entries, (std::vector<std::string>{"All Models", "Active Model Only", "Design Models Only",
                                                  "Sheet Models Only", "Models With A Border",
@@ -205,13 +205,13 @@ TEST_F(ReportingPage, NumbersAreKeptAsTyped)
 
 TEST_F(ReportingPage, ArrowsHaveTheirRanges)
 {
-    ASSERT_GE(ov::ReportingRows().spins.size(), 2u);
-    const ov::SpinRow& errors = ov::ReportingRows().spins[0];
+    ASSERT_GE(ov::kReportingRows.spins.size(), 2u);
+    const ov::SpinRow& errors = ov::kReportingRows.spins[0];
     EXPECT_EQ(errors.controlId, 3105);
     EXPECT_EQ(errors.buddyId, 3103);
     EXPECT_EQ(errors.lowest, 1);
     EXPECT_EQ(errors.highest, 10000);
-    const ov::SpinRow& nesting = ov::ReportingRows().spins[1];
+    const ov::SpinRow& nesting = ov::kReportingRows.spins[1];
     EXPECT_EQ(nesting.controlId, 3108);
     EXPECT_EQ(nesting.buddyId, 3107);
     EXPECT_EQ(nesting.lowest, -1);
@@ -221,7 +221,7 @@ TEST_F(ReportingPage, ArrowsHaveTheirRanges)
 TEST_F(ReportingPage, IsSavedFromThePromptToTheModels)
 {
     std::vector<std::string> order;
-    for (const ov::SettingRow& row : ov::ReportingRows().settings)
+    for (const ov::SettingRow& row : ov::kReportingRows.settings)
         order.push_back(ov::Utf8FromText(row.variable).substr(std::string("_ORTHOVAL_REPORT_").size()));
     EXPECT_EQ(order, (std::vector<std::string>{"PROMPTMAXLOG", "AUTOGETREFS", "MAXLOGGABLE",
                                                "IGNORED_REFFILES", "REFS_NESTLEVEL", "REFS_LEGACY_NESTING",

@@ -66,7 +66,7 @@ class ScanPeriodPage : public testing::Test
     void Load(int table = kCurrentTable)
     {
         values.Load(store, table);
-        ov::ScanPeriodRows().refresh(values);
+        ov::kScanPeriodRows.refresh(values);
     }
     void Save(bool hasWindow = true) { values.Save(store, hasWindow); }
     std::string Stored(ov::TextView variable)
@@ -97,13 +97,13 @@ class ScanPeriodPage : public testing::Test
     }
 
     ov::SettingStore store;
-    ov::PageValues values{ov::ScanPeriodRows()};
+    ov::PageValues values{ov::kScanPeriodRows};
 };
 
 std::vector<std::string> EntriesOf(int control)
 {
     std::vector<std::string> texts;
-    const auto entries = ov::ScanPeriodRows().entries;
+    const auto entries = ov::kScanPeriodRows.entries;
     const auto row = std::ranges::find(entries, control, &ov::EntriesRow::controlId);
     EXPECT_NE(row, entries.end());
     for (const unsigned id : row->stringIds)
@@ -151,7 +151,7 @@ TEST_F(ScanPeriodPage, UnseenPageAddsTheFixedPeriodThatItStartsWith)
          {std::pair{"UTC0", "1, 1, 1970"}, {"AAA-9", "1, 1, 1970"}, {"BBB5", "31, 12, 1969"}}) {
         const Zone inZone(zone);
         ov::SettingStore empty;
-        ov::PageValues unseen{ov::ScanPeriodRows()};
+        ov::PageValues unseen{ov::kScanPeriodRows};
         unseen.Save(empty, false);
         EXPECT_EQ(ov::Utf8FromText(empty.GetSettingValue(kAllowUser, kCurrentTable)), "1");
         EXPECT_EQ(ov::Utf8FromText(empty.GetSettingValue(kSettings, kCurrentTable)),

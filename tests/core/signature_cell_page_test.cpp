@@ -20,9 +20,9 @@ constexpr const char16_t* countFields = u"_ORTHOVAL_SIGNATURECELL_COUNT_EDF";
 
 TEST(SignatureCellPage, EverythingElseIsEnabledWithItsFirstBox)
 {
-    PageValues values(ov::SignatureCellRows());
+    PageValues values(ov::kSignatureCellRows);
     std::set<int> dependent;
-    for (const ov::DependencyRow& row : ov::SignatureCellRows().dependencies) {
+    for (const ov::DependencyRow& row : ov::kSignatureCellRows.dependencies) {
         EXPECT_EQ(row.effect, ov::Effect::Enable);
         dependent.insert(row.controlId);
         values.NumberOf(u"_ORTHOVAL_CHECK_SIGNATURECELL") = 0;
@@ -35,7 +35,7 @@ TEST(SignatureCellPage, EverythingElseIsEnabledWithItsFirstBox)
 
 TEST(SignatureCellPage, LoadingMarksTheDialogModified)
 {
-    EXPECT_TRUE(ov::SignatureCellRows().loadMarksModified);
+    EXPECT_TRUE(ov::kSignatureCellRows.loadMarksModified);
 }
 
 TEST(SignatureCellPage, CountOfEnterDataFieldsStaysAsRead)
@@ -43,7 +43,7 @@ TEST(SignatureCellPage, CountOfEnterDataFieldsStaysAsRead)
     for (const char16_t* stored : {u"1", u"0", u"yes"}) {
         SettingStore store;
         store.SetSetting(countFields, stored, ov::SettingKindText, u"", kCurrentTable);
-        PageValues values(ov::SignatureCellRows());
+        PageValues values(ov::kSignatureCellRows);
         values.Load(store, kCurrentTable);
         values.NumberOf(countFields) = 1 - values.NumberOf(countFields);
         values.Save(store, true);
@@ -54,7 +54,7 @@ TEST(SignatureCellPage, CountOfEnterDataFieldsStaysAsRead)
 TEST(SignatureCellPage, CountOfEnterDataFieldsIsNotAddedWhereItIsAbsent)
 {
     SettingStore store;
-    PageValues(ov::SignatureCellRows()).Save(store, true);
+    PageValues(ov::kSignatureCellRows).Save(store, true);
     EXPECT_FALSE(store.HasSetting(countFields, kCurrentTable));
 }
 

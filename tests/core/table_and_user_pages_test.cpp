@@ -22,7 +22,7 @@ const ov::BrowseRow& BrowseOf(const ov::PageRows& page, int button)
 TEST(FeatureTablesPage, ListsOfTableNamesAreSplitAtCommas)
 {
     for (const int button : {9388, 9395}) {
-        const ov::BrowseRow& row = BrowseOf(ov::FeatureTablesRows(), button);
+        const ov::BrowseRow& row = BrowseOf(ov::kFeatureTablesRows, button);
         EXPECT_EQ(row.kind, ov::BrowseKind::List);
         EXPECT_EQ(row.browsing, 0u);
         EXPECT_EQ(row.separator, u',');
@@ -33,7 +33,7 @@ TEST(FeatureTablesPage, ListsOfTableNamesAreSplitAtCommas)
 
 TEST(FeatureTablesPage, BackupsGoFromNoneToTenThousandFasterAndFaster)
 {
-    const auto spins = ov::FeatureTablesRows().spins;
+    const auto spins = ov::kFeatureTablesRows.spins;
     ASSERT_EQ(spins.size(), 1u);
     EXPECT_EQ(spins[0].buddyId, 11024);
     EXPECT_EQ(spins[0].lowest, 0);
@@ -43,29 +43,29 @@ TEST(FeatureTablesPage, BackupsGoFromNoneToTenThousandFasterAndFaster)
 
 TEST(FeatureTablesPage, SecondListButtonHasNoHelp)
 {
-    EXPECT_TRUE(std::ranges::none_of(ov::FeatureTablesRows().extraHelp,
+    EXPECT_TRUE(std::ranges::none_of(ov::kFeatureTablesRows.extraHelp,
                                      [](const ov::HelpRow& row) { return row.controlId == 9395; }));
 }
 
 TEST(LanguagesPage, KeyinsAreListsBetweenSemicolonsThatKeepTheFocusAtTheirEdit)
 {
     for (const auto& [button, edit] : {std::pair{2713, 2704}, {2714, 2706}, {2715, 2711}}) {
-        const ov::BrowseRow& row = BrowseOf(ov::LanguagesRows(), button);
+        const ov::BrowseRow& row = BrowseOf(ov::kLanguagesRows, button);
         EXPECT_EQ(row.kind, ov::BrowseKind::List);
         EXPECT_EQ(row.separator, u';');
         EXPECT_EQ(row.browsing, 0u);
         EXPECT_EQ(row.focusOnRefusal, edit);
     }
-    EXPECT_EQ(BrowseOf(ov::LanguagesRows(), 2710).kind, ov::BrowseKind::File);
+    EXPECT_EQ(BrowseOf(ov::kLanguagesRows, 2710).kind, ov::BrowseKind::File);
 }
 
 TEST(UsersPage, EverythingHangsOnTheGroupsWindowsAuthenticationIncluded)
 {
-    ov::PageValues values(ov::UsersRows());
+    ov::PageValues values(ov::kUsersRows);
     std::set<int> dependent;
     for (const int on : {0, 1}) {
         values.NumberOf(u"_ORTHOVAL_USERS_ALLOW_GROUPS") = on;
-        for (const ov::DependencyRow& row : ov::UsersRows().dependencies) {
+        for (const ov::DependencyRow& row : ov::kUsersRows.dependencies) {
             EXPECT_EQ(row.effect, ov::Effect::Enable);
             EXPECT_EQ(values.Holds(row), on == 1);
             dependent.insert(row.controlId);
@@ -76,7 +76,7 @@ TEST(UsersPage, EverythingHangsOnTheGroupsWindowsAuthenticationIncluded)
 
 TEST(UsersPage, RefusedListOfGroupsKeepsTheFocusAtItsEdit)
 {
-    const ov::BrowseRow& row = BrowseOf(ov::UsersRows(), 11000);
+    const ov::BrowseRow& row = BrowseOf(ov::kUsersRows, 11000);
     EXPECT_EQ(row.separator, u';');
     EXPECT_EQ(row.focusOnRefusal, 9398);
 }

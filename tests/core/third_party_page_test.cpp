@@ -33,7 +33,7 @@ TEST(ThirdPartyPage, HelpTextsStandWordForWord)
 // The help texts describe the checker; the page shows the value in the file.
 TEST(ThirdPartyPage, FlagsAreOffWhenAbsentWhateverTheHelpSays)
 {
-    ov::PageValues values(ov::ThirdPartyRows());
+    ov::PageValues values(ov::kThirdPartyRows);
     ov::SettingStore store;
     for (std::size_t row = 0; row < values.Rows().size(); ++row)
         EXPECT_EQ(values.Number(row), 0);

@@ -33,14 +33,14 @@ void Put(SettingStore& store, ov::TextView variable, ov::TextView value)
 class TitleBlockPage : public testing::Test
 {
   protected:
-    TitleBlockPage() : m_values(ov::TitleBlockRows()) {}
+    TitleBlockPage() : m_values(ov::kTitleBlockRows) {}
 
     void Load() { m_values.Load(m_store, kCurrentTable); }
     /// Has the effect of a click on one of the check boxes.
     bool Set(int box, int checked)
     {
         m_values.CompanionNumberOf(box) = checked;
-        return ov::TitleBlockRows().refresh(m_values);
+        return ov::kTitleBlockRows.refresh(m_values);
     }
     std::set<int> CheckedBoxes()
     {
@@ -54,7 +54,7 @@ class TitleBlockPage : public testing::Test
     std::set<int> Enabled()
     {
         std::set<int> controls;
-        for (const ov::DependencyRow& row : ov::TitleBlockRows().dependencies) {
+        for (const ov::DependencyRow& row : ov::kTitleBlockRows.dependencies) {
             EXPECT_EQ(row.effect, ov::Effect::Enable);
             if (m_values.Holds(row))
                 controls.insert(row.controlId);
@@ -101,7 +101,7 @@ TEST_F(TitleBlockPage, TextThatWasSwitchedOffButNotEmptiedHasItsBoxTheNextTime)
     Load();
     Set(Tags, 0);
     m_values.Save(m_store, true);
-    PageValues next(ov::TitleBlockRows());
+    PageValues next(ov::kTitleBlockRows);
     next.Load(m_store, kCurrentTable);
     EXPECT_EQ(next.CompanionNumberOf(Tags), 1);
 }
@@ -158,7 +158,7 @@ TEST_F(TitleBlockPage, CountOfEnterDataFieldsStaysAsRead)
 // Kept as it always was: only typing these names does not mark the dialog as modified.
 TEST_F(TitleBlockPage, TypingCellNamesAloneGoesUnnoticed)
 {
-    for (const ov::SettingRow& row : ov::TitleBlockRows().settings)
+    for (const ov::SettingRow& row : ov::kTitleBlockRows.settings)
         EXPECT_EQ(row.changeGoesUnnoticed, row.controlId == 9488) << row.controlId;
 }
 
@@ -166,8 +166,8 @@ TEST_F(TitleBlockPage, RefusedListsHandTheFocusToTheirEditAndTheTagValuesToNone)
 {
     const std::map<int, int> focus = {{9493, ov::kFocusStays}, {9391, 9488}, {9392, 9489}, {9393, 9494},
                                       {9496, ov::kFocusStays}, {9394, 9495}};
-    ASSERT_EQ(ov::TitleBlockRows().browses.size(), focus.size());
-    for (const ov::BrowseRow& row : ov::TitleBlockRows().browses) {
+    ASSERT_EQ(ov::kTitleBlockRows.browses.size(), focus.size());
+    for (const ov::BrowseRow& row : ov::kTitleBlockRows.browses) {
         EXPECT_EQ(row.kind, ov::BrowseKind::List);
         EXPECT_EQ(row.separator, u';');
         EXPECT_EQ(row.browsing, row.buttonId == 9493 ? 1u : 0u);

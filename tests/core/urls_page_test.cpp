@@ -18,7 +18,7 @@ TEST(UrlsPage, HelpTextsStandWordForWord)
 
 TEST(UrlsPage, AddressesStartEmptyAndAreKeptAsTyped)
 {
-    ov::PageValues values(ov::URLsRows());
+    ov::PageValues values(ov::kURLsRows);
     for (const ov::SettingRow& row : values.Rows())
         EXPECT_EQ(values.TextOf(row.variable), u"");
     values.TextOf(u"_ORTHOVAL_WEBSITE_URL") = u" intranet/cad ";

@@ -15,7 +15,7 @@ TEST(VersionPage, ServerVersionStaysAsRead)
 {
     SettingStore store;
     store.SetSetting(u"_ORTHOVAL_SERVER_VERSION", u"v6.5.0", ov::SettingKindText, u"", kCurrentTable);
-    PageValues values(ov::VersionRows());
+    PageValues values(ov::kVersionRows);
     values.Load(store, kCurrentTable);
     EXPECT_EQ(values.TextOf(u"_ORTHOVAL_SERVER_VERSION"), u"v6.5.0");
     values.TextOf(u"_ORTHOVAL_SERVER_VERSION") = u"v7.0.0";
@@ -27,7 +27,7 @@ TEST(VersionPage, ServerVersionIsNotAddedWhereItIsAbsent)
 {
     for (const bool hasWindow : {false, true}) {
         SettingStore store;
-        PageValues(ov::VersionRows()).Save(store, hasWindow);
+        PageValues(ov::kVersionRows).Save(store, hasWindow);
         EXPECT_FALSE(store.HasSetting(u"_ORTHOVAL_SERVER_VERSION", kCurrentTable));
         EXPECT_EQ(store.Count(kCurrentTable), 2u);
     }
@@ -36,14 +36,14 @@ TEST(VersionPage, ServerVersionIsNotAddedWhereItIsAbsent)
 TEST(VersionPage, WarnsOfMajorVersionsOnlyBeforeAnythingIsRead)
 {
     SettingStore store;
-    PageValues(ov::VersionRows()).Save(store, false);
+    PageValues(ov::kVersionRows).Save(store, false);
     EXPECT_EQ(store.GetSettingValue(u"_ORTHOVAL_WARN_MAJOR_UPGRADE", kCurrentTable), u"1");
     EXPECT_EQ(store.GetSettingValue(u"_ORTHOVAL_WARN_MINOR_UPGRADE", kCurrentTable), u"0");
 }
 
 TEST(VersionPage, AbsentWarningsReadAsOff)
 {
-    PageValues values(ov::VersionRows());
+    PageValues values(ov::kVersionRows);
     values.Load(SettingStore(), kCurrentTable);
     EXPECT_EQ(values.NumberOf(u"_ORTHOVAL_WARN_MAJOR_UPGRADE"), 0);
     EXPECT_EQ(values.NumberOf(u"_ORTHOVAL_WARN_MINOR_UPGRADE"), 0);

@@ -26,7 +26,7 @@ std::string SavedAfterLoading(const char16_t* variable, const char16_t* stored, 
     SettingStore store;
     if (stored != nullptr)
         store.SetSetting(variable, stored, ov::SettingKindText, u"", kCurrentTable);
-    PageValues values(ov::WatermarkIntegrityRows());
+    PageValues values(ov::kWatermarkIntegrityRows);
     if (hasWindow)
         values.Load(store, kCurrentTable);
     values.Save(store, hasWindow);
@@ -51,7 +51,7 @@ TEST(WatermarkIntegrityPage, OverwriteOfTwoIsTheUsersAndSavedAsMinusOne)
 TEST(WatermarkIntegrityPage, AlwaysIsTheFirstEntryAndNeverTheSecond)
 {
     SettingStore store;
-    PageValues values(ov::WatermarkIntegrityRows());
+    PageValues values(ov::kWatermarkIntegrityRows);
     for (const char16_t* list : lists) {
         store.SetSetting(list, u"1", ov::SettingKindText, u"", kCurrentTable);
         values.Load(store, kCurrentTable);
@@ -82,7 +82,7 @@ TEST(WatermarkIntegrityPage, NeverShownLeavesTheListsAloneAndAddsTheRest)
 TEST(WatermarkIntegrityPage, IsSavedFromTheInvalidationToTheLists)
 {
     std::vector<std::string> order;
-    for (const ov::SettingRow& row : ov::WatermarkIntegrityRows().settings)
+    for (const ov::SettingRow& row : ov::kWatermarkIntegrityRows.settings)
         order.push_back(ov::Utf8FromText(row.variable).substr(std::string("_ORTHOVAL_").size()));
     EXPECT_EQ(order, (std::vector<std::string>{"WATERMARKS_INSTANTINVALIDATE", "REPORT_DOUBLECROSS_ON_FAIL",
                                                "WATERMARKS_CONFORM", "WATERMARKS_CHECK_FONTNUMS",
@@ -94,8 +94,8 @@ TEST(WatermarkIntegrityPage, IsSavedFromTheInvalidationToTheLists)
 
 TEST(WatermarkIntegrityPage, ExclusionsAreSeparatedByCommasAndTheirRefusalsDiffer)
 {
-    ASSERT_GE(ov::WatermarkIntegrityRows().browses.size(), 2u);
-    for (const ov::BrowseRow& row : ov::WatermarkIntegrityRows().browses) {
+    ASSERT_GE(ov::kWatermarkIntegrityRows.browses.size(), 2u);
+    for (const ov::BrowseRow& row : ov::kWatermarkIntegrityRows.browses) {
         EXPECT_EQ(row.browsing, 0u);
         EXPECT_EQ(row.separator, u',');
         EXPECT_EQ(row.fieldCount, 1u);

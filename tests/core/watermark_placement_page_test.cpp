@@ -12,7 +12,7 @@ namespace
 
 ov::SettingKind KindOf(ov::TextView variable)
 {
-    const ov::PageValues values(ov::WatermarkPlacementRows());
+    const ov::PageValues values(ov::kWatermarkPlacementRows);
     return values.Rows()[values.FindRow(variable)].kind;
 }
 
@@ -30,7 +30,7 @@ TEST(WatermarkPlacementPage, FourTextsGoIntoTheFileAsPaths)
 TEST(WatermarkPlacementPage, LineSpacingIsKeptAsTyped)
 {
     ov::SettingStore store;
-    ov::PageValues values(ov::WatermarkPlacementRows());
+    ov::PageValues values(ov::kWatermarkPlacementRows);
     values.Load(store, ov::kCurrentTable);
     values.TextOf(u"_ORTHOVAL_REPLACETEXT_LINESPACING") = u" 0.5 ";
     values.Save(store, true);
@@ -40,7 +40,7 @@ TEST(WatermarkPlacementPage, LineSpacingIsKeptAsTyped)
 TEST(WatermarkPlacementPage, IsSavedFromTheScalingToTheUsersString)
 {
     std::vector<std::string> order;
-    for (const ov::SettingRow& row : ov::WatermarkPlacementRows().settings)
+    for (const ov::SettingRow& row : ov::kWatermarkPlacementRows.settings)
         order.push_back(ov::Utf8FromText(row.variable).substr(std::string("_ORTHOVAL_").size()));
     EXPECT_EQ(order,
               (std::vector<std::string>{"REPLACETEXT_LINESPACING_SCALED", "WATERMARK_CROSS",
@@ -51,8 +51,8 @@ TEST(WatermarkPlacementPage, IsSavedFromTheScalingToTheUsersString)
 
 TEST(WatermarkPlacementPage, CrossIsAListWhoseRefusalGoesToItsEdit)
 {
-    ASSERT_GE(ov::WatermarkPlacementRows().browses.size(), 1u);
-    const ov::BrowseRow& row = ov::WatermarkPlacementRows().browses[0];
+    ASSERT_GE(ov::kWatermarkPlacementRows.browses.size(), 1u);
+    const ov::BrowseRow& row = ov::kWatermarkPlacementRows.browses[0];
     EXPECT_EQ(row.buttonId, 3321);
     EXPECT_EQ(row.browsing, 0u);
     EXPECT_EQ(row.separator, u';');

@@ -17,7 +17,7 @@ namespace
 TEST(WeightingPage, WritesTheTextStyleBeforeTheTextHeight)
 {
     std::vector<std::string> variables;
-    for (const ov::SettingRow& row : ov::WeightingRows().settings)
+    for (const ov::SettingRow& row : ov::kWeightingRows.settings)
         variables.push_back(ov::Utf8FromText(row.variable));
     EXPECT_EQ(variables, (std::vector<std::string>{
                              "_ORTHOVAL_WEIGHTING_COLOUR", "_ORTHOVAL_WEIGHTING_WEIGHT",
@@ -29,7 +29,7 @@ TEST(WeightingPage, WritesTheTextStyleBeforeTheTextHeight)
 TEST(WeightingPage, TakesTheCommentsFromTheBars)
 {
     std::vector<unsigned> comments;
-    for (const ov::SettingRow& row : ov::WeightingRows().settings)
+    for (const ov::SettingRow& row : ov::kWeightingRows.settings)
         comments.push_back(row.commentHelpId);
     EXPECT_EQ(comments, (std::vector<unsigned>{9317, 9321, 9326, 9327, 9328, 9330, 9332, 9329}));
 }
@@ -43,7 +43,7 @@ TEST(WeightingPage, HasABarForEachSetting)
         {"_ORTHOVAL_WEIGHTING_TEXTSTYLE", 11042}, {"_ORTHOVAL_WEIGHTING_DIMENSIONSTYLE", 11048},
     };
     std::map<std::string, int> found;
-    for (const ov::BarRow& bar : ov::WeightingRows().bars) {
+    for (const ov::BarRow& bar : ov::kWeightingRows.bars) {
         found[ov::Utf8FromText(bar.variable)] = bar.controlId;
         EXPECT_EQ(bar.highest, 20);
     }
@@ -53,11 +53,11 @@ TEST(WeightingPage, HasABarForEachSetting)
 TEST(WeightingPage, AbsentWeightIsSavedAsZero)
 {
     ov::SettingStore store;
-    ov::PageValues values(ov::WeightingRows());
+    ov::PageValues values(ov::kWeightingRows);
     values.Load(store, ov::kCurrentTable);
     values.Save(store, true);
     EXPECT_EQ(store.Count(ov::kCurrentTable), 8u);
-    for (const ov::SettingRow& row : ov::WeightingRows().settings)
+    for (const ov::SettingRow& row : ov::kWeightingRows.settings)
         EXPECT_EQ(store.GetSettingValue(row.variable, ov::kCurrentTable), u"0");
 }
 
@@ -66,7 +66,7 @@ TEST(WeightingPage, WeightBeyondTheBarIsSavedAsItStands)
     ov::SettingStore store;
     store.SetSetting(u"_ORTHOVAL_WEIGHTING_STYLE", u"25", ov::SettingKindInteger, u"", ov::kCurrentTable);
     store.SetSetting(u"_ORTHOVAL_WEIGHTING_COLOUR", u"much", ov::SettingKindInteger, u"", ov::kCurrentTable);
-    ov::PageValues values(ov::WeightingRows());
+    ov::PageValues values(ov::kWeightingRows);
     values.Load(store, ov::kCurrentTable);
     values.Save(store, true);
     EXPECT_EQ(store.GetSettingValue(u"_ORTHOVAL_WEIGHTING_STYLE", ov::kCurrentTable), u"25");

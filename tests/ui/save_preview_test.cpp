@@ -43,7 +43,7 @@ std::chrono::year_month_day Today()
 /// Whether the dialog reports a date of the scan period when its page loads the table.
 bool ReportsDate(const ov::SettingStore& store, int table)
 {
-    ov::PageValues page(ov::ScanPeriodRows());
+    ov::PageValues page(ov::kScanPeriodRows);
     try {
         page.Load(store, table);
     } catch (const ov::ImpossibleDate&) {

@@ -9,9 +9,6 @@
 // NOLINTBEGIN(cppcoreguidelines-macro-usage, bugprone-macro-parentheses)
 
 // clang-format off
-#define LANGUAGE
-#define LANG_ENGLISH 0
-#define SUBLANG_ENGLISH_UK 0,
 #define DIALOGEX ,
 #define STYLE ,
 #define EXSTYLE ,
