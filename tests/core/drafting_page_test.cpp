@@ -1,4 +1,4 @@
-// Drafting: three flags that start off.
+// Drafting: three flags that are off initially.
 #include "pages/core/page_rows.h"
 #include "pages/core/page_values.h"
 

@@ -118,7 +118,7 @@ TEST_F(DrawingScalesPage, ListOfACodeThatAllowsOthersGetsBrackets)
     EXPECT_EQ(Saved(kList), u"[]");
 }
 
-// The next look at the edit takes them off; until then they are there.
+// The next time the edit is read, they are removed; until then they remain.
 TEST_F(DrawingScalesPage, SavedListKeepsItsBracketsInThePage)
 {
     Put(kList, u"[1:50]");

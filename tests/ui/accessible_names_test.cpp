@@ -1,4 +1,4 @@
-// What every control of every window is called to those who do not see it.
+// The accessible name of every control of every window.
 #include "pages/conforming/ids.h"
 #include "pages/files/ids.h"
 #include "pages/misc/ids.h"
@@ -33,7 +33,7 @@ bool IsLabel(HWND window)
     return window && ClassOf(window) == L"Static";
 }
 
-/// What somebody reaches by the keyboard or clicks into.
+/// Whether the user can reach the window by keyboard or click into it.
 bool IsControl(HWND window)
 {
     static const std::set<std::wstring> classes = {L"Button",        L"ComboBox",         L"Edit",
@@ -55,9 +55,9 @@ class AccessibleNamesTest : public DialogSession
         });
     }
 
-    /// As a screen reader finds it: the name that was asked for, else that of
-    /// the system, which takes a button's caption and an edit's label. Not every
-    /// system looks for the labels of the other inputs.
+    /// The name that a screen reader finds: the one that the program set, otherwise the
+    /// system's, which is a button's caption or an edit's label. Some systems do not
+    /// look for the labels of other inputs.
     std::wstring NameOf(HWND control)
     {
         const auto named = m_requests.names.find(control);
@@ -71,8 +71,8 @@ class AccessibleNamesTest : public DialogSession
     }
     std::wstring NameOnPage(int id) { return NameOf(PageControl(id)); }
 
-    /// Each has a name that says something; two of a kind have the same one at
-    /// most where a frame tells them apart.
+    /// Every control has a meaningful name. Two controls of a kind may share a name
+    /// only if a frame distinguishes them.
     void ExpectNamed(HWND window)
     {
         std::set<std::pair<std::wstring, std::wstring>> seen;
@@ -207,7 +207,7 @@ TEST_F(AccessibleNamesTest, AreTakenBackBeforeTheWindowsGo)
     EXPECT_GT(m_requests.names.size(), 50u);
     Cancel();
     EXPECT_EQ(0u, m_requests.names.size());
-    EXPECT_EQ(0, m_requests.failures); // none for a window that was gone
+    EXPECT_EQ(0, m_requests.failures); // no names for windows that were already destroyed
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-/// The pages that the library under test has.
+/// The pages in the library under test.
 #pragma once
 
 #include "tests/pages/expected_pages.h"
@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-/// From the top of the category list to its bottom; known by their templates.
+/// In the order of the category pane, identified by their templates.
 std::vector<const expected::Page*> BuiltPages();
 
-/// Their titles, as the category list shows them.
+/// Their titles, as the category pane shows them.
 std::vector<std::wstring> BuiltTitles();

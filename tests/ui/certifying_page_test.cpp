@@ -12,7 +12,7 @@ class CertifyingPageTest : public PageSession
   protected:
     bool OpenPage() { return Open() && ShowPage(L"Certifying"); }
 
-    /// The checked button of the references' group, -1 for none.
+    /// The index of the checked button in the group for references; -1 for none.
     int References() const
     {
         const int buttons[] = {IDC_CERTIFYING_REFERENCES_NEED_NOT, IDC_CERTIFYING_REFERENCES_MUST,
@@ -69,7 +69,7 @@ TEST_F(CertifyingPageTest, CheckingOnlyTheSecondBoxSavesTheMarkerCellAsOn)
               Saved("_ORTHOVAL_CERTIFY_CHECK_REFERENCE_MARKERCELLS"));
 }
 
-// The values are read and shown again; the second box has the last word there too.
+// The values are read and shown again; the second check box decides here, too.
 TEST_F(CertifyingPageTest, EditorOfTheKeyinsTakesTheFirstBoxBack)
 {
     ASSERT_TRUE(OpenPage());

@@ -1,5 +1,5 @@
-// Requests to close that come from elsewhere than the user's keys and mouse: while a modal window is open
-// over the dialog, and to what lies in the dialog.
+// Close requests that do not come from the user: while a modal window is open over the dialog, and to
+// windows inside the dialog.
 #include "pages/branding/ids.h"
 #include "resources/ids.h"
 #include "tests/ui/dialog_session.h"
@@ -15,7 +15,7 @@ namespace
 class CloseRequestsTest : public DialogSession
 {
   protected:
-    /// Opens the list editor over an unsaved change of the dialog.
+    /// Opens the list editor while the dialog has an unsaved change.
     HWND OpenModifiedEditor()
     {
         UseCurrent("_ORTHOVAL_BRANDING_RENAME_TABLES = \"a:b\"\r\n");
@@ -27,7 +27,7 @@ class CloseRequestsTest : public DialogSession
         return editor;
     }
 
-    /// All that programs send to close the dialog.
+    /// Sends all messages with which programs close a dialog.
     void AskDialogToClose()
     {
         Send(Dialog(), WM_CLOSE);
@@ -37,7 +37,7 @@ class CloseRequestsTest : public DialogSession
         EXPECT_TRUE(Settle(Dialog()));
     }
 
-    /// The window is open over the dialog, which takes no input.
+    /// Expects the window to be open over the dialog, which is disabled.
     void ExpectModalWindow(HWND window)
     {
         EXPECT_FALSE(HasEnded());
@@ -101,7 +101,7 @@ TEST_F(CloseRequestsTest, TheListEditorComesForward)
     HWND other = CreateWindowExW(0, L"Static", L"Other", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 100, 80,
                                  nullptr, nullptr, nullptr, nullptr);
     EXPECT_TRUE(BringToForeground(other));
-    // The window manager may give the other window the focus a moment later; then once more.
+    // The window manager may give the other window the focus a moment later; then sends the request again.
     EXPECT_TRUE(Await([&] { return GetForegroundWindow() == editor || (Send(Dialog(), WM_CLOSE), false); }));
     DestroyWindow(other);
     CloseValueEditor(editor, IDCANCEL);

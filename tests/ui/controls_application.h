@@ -2,8 +2,8 @@
 
 #include "controls/application.h"
 
-// This program is the application of the controls that it tests, with as much
-// of one as a test gives it.
+// This program takes the role of the application for the controls that it tests, with
+// only those parts that a test provides.
 
 extern CFont* sharedFont;
 extern HICON applicationIcon;

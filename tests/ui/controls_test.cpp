@@ -1,4 +1,4 @@
-// The dialog bases, the tooltip registry and the list control, with real windows.
+// The dialog base classes, the tooltip registry and the list control, with real windows.
 #include <map>
 #include <optional>
 #include <ostream>
@@ -25,7 +25,7 @@ constexpr UINT designWidth = 580;
 constexpr UINT designHeight = 400;
 constexpr int gripSize = 11;
 
-// The flags of a control stand in its id, from 1000 on.
+// The flags of a control are encoded in its id, from 1000 on.
 constexpr UINT listedControls[] = {1003, 1006, 1009, 1012, 1258, 1264, 1512, stretchedList};
 constexpr UINT FlagsOf(UINT controlId)
 {
@@ -402,7 +402,7 @@ TEST_F(ToolTip, EntriesAndTheirIconsGoWithTheWindow)
     const HICON icon = ::CopyIcon(::LoadIconW(nullptr, IDI_APPLICATION));
     ASSERT_NE(icon, nullptr);
     tip.RegisterControl(Control(1258), u"<D>text", icon);
-    // The entry outlives other registrations.
+    // Registering other controls does not change the entry.
     tip.RegisterControl(Control(1258), u"<D>other");
     ICONINFO info{};
     ASSERT_TRUE(::GetIconInfo(icon, &info));

@@ -11,8 +11,8 @@ namespace
 
 constexpr const wchar_t* DialogCaption = L"Preferences";
 
-// Finds a modal window of the thread other than the dialog, which is known by
-// its caption: it may become visible at any moment.
+// Finds a modal window of the thread other than the dialog. The dialog is identified
+// by its caption, because it may become visible at any moment.
 BOOL CALLBACK FindModalWindow(HWND window, LPARAM parameter)
 {
     if (!IsWindowVisible(window) || ClassOf(window) != L"#32770" || GetText(window) == DialogCaption)
@@ -47,10 +47,10 @@ void DialogSession::TearDown()
     EXPECT_EQ(OV_PREFERENCES_SHOWN, m_result.load());
 }
 
-// Whatever is open is cancelled, and the question whether to abandon answered
-// with Yes, until the call returns. A call that does not return ends the
-// program: the library takes no second call meanwhile, and a suite that hangs
-// tells less than one that stops.
+// Cancels whatever is open, and answers the question whether to abandon changes
+// with Yes, until the call returns. If the call does not return, ends the
+// program: the library accepts no second call meanwhile, and a stopped suite is
+// easier to diagnose than one that hangs.
 void DialogSession::CloseByForce()
 {
     const bool closed = Await([this] {

@@ -8,7 +8,7 @@
 namespace
 {
 
-/// Reads the parts of a resource one after another.
+/// Reads the parts of a resource in order.
 class Reader
 {
   public:
@@ -45,7 +45,7 @@ class Reader
         return text;
     }
 
-    /// A text, or the number that stands in place of one after 0xFFFF.
+    /// A text, or the number that replaces it after 0xFFFF.
     std::wstring TakeTextOrNumber(WORD& number)
     {
         const std::size_t before = m_at;
@@ -102,7 +102,7 @@ TemplateControl TakeControl(Reader& reader)
     control.style = reader.Take<DWORD>();
     control.rect = TakeRectangle(reader);
     control.id = static_cast<int>(reader.Take<DWORD>());
-    // RC writes "no id" in 16 bits.
+    // RC writes "no id" with 16 bits only.
     if (control.id == 0xFFFF)
         control.id = -1;
     control.windowClass = reader.TakeTextOrNumber(number);

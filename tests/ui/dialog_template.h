@@ -1,4 +1,4 @@
-/// The dialog templates of the library, as its resources hold them.
+/// The dialog templates in the library's resources.
 #pragma once
 
 #include <windows.h>
@@ -7,12 +7,12 @@
 #include <string>
 #include <vector>
 
-/// What a template says of a control; its rectangle in dialog units.
+/// A control in a template; its rectangle is in dialog units.
 struct TemplateControl {
     int id = 0; ///< -1 for none
     DWORD style = 0;
     RECT rect = {};
-    std::wstring windowClass; ///< "Button", "Edit", "Static", "ComboBox"; others in small letters
+    std::wstring windowClass; ///< "Button", "Edit", "Static", "ComboBox"; others in lower case
     std::wstring text;
     int Width() const { return static_cast<int>(rect.right - rect.left); }
     int Height() const { return static_cast<int>(rect.bottom - rect.top); }
@@ -24,9 +24,9 @@ struct DialogTemplate {
     SIZE size = {};
     int pointSize = 0;
     std::wstring font;
-    std::vector<TemplateControl> controls; ///< in the order of their creation
+    std::vector<TemplateControl> controls; ///< in the order of creation
 };
 
-/// Reads a template of the extended form. Nothing when the module has none of
-/// that id, or it is damaged.
+/// Reads a template in the extended form. Nothing if the module has none with
+/// that id, or if it is damaged.
 std::optional<DialogTemplate> ReadDialogTemplate(HMODULE module, unsigned id);

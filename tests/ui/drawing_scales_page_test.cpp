@@ -15,7 +15,7 @@ class DrawingScalesPageTest : public PageSession
     bool OpenPage() { return Open() && ShowPage(L"Drawing Scales"); }
 
     /// Whether the office's own list can be edited; its label and its button
-    /// have to agree.
+    /// must be in the same state.
     bool ListIsEnabled() const
     {
         const bool edit = IsEnabled(PageControl(2201));
@@ -115,7 +115,7 @@ TEST_F(DrawingScalesPageTest, BoxOfTheBuiltInScalesMarksTheDialogModified)
     Abandon();
 }
 
-// The brackets are put into the page's own text; the edit never shows them.
+// The brackets are added to the page's own text; the edit never shows them.
 TEST_F(DrawingScalesPageTest, SavingAgainAfterAFailureBracketsTheListOnce)
 {
     m_currentPath = m_folder / L"missing folder\\new.cfg";

@@ -1,4 +1,4 @@
-// Opening and closing again and again.
+// Opens and closes the dialog many times.
 #include "tests/support/process.h"
 #include "tests/ui/dialog_session.h"
 
@@ -35,19 +35,19 @@ class EnduranceTest : public DialogSession
     std::size_t m_labels = 0;
 };
 
-// A round opens all pages; OV_DIALOG_OPENINGS asks for more of them.
+// A round opens all pages; OV_DIALOG_OPENINGS requests more rounds.
 TEST_F(EnduranceTest, OpeningAgainAndAgainDoesNotGrow)
 {
     constexpr int warmUp = 10;
     const char* const asked = std::getenv("OV_DIALOG_OPENINGS");
     const int rounds = asked != nullptr ? std::max(std::atoi(asked), 25) : 25;
-    // Anything that a round leaves behind adds up to as many handles or blocks.
-    // The tolerances are for what the system keeps in reserve.
+    // A leak in each round adds up to as many handles or blocks. The tolerances are
+    // for resources that the system keeps in reserve.
     constexpr unsigned handleTolerance = 5;
     constexpr std::size_t heapTolerance = 4 * 1024;
     constexpr std::size_t privateTolerance = 1024 * 1024;
-    // In Wine a version 6 label that has been given a font keeps this much when
-    // it is destroyed, in any program.
+    // In Wine a version 6 label whose font was set leaks this much when it is
+    // destroyed, in any program.
     constexpr std::size_t bytesOfALabel = 24;
     UseDefaults("_ORTHOVAL_CHECK_CELLS = 1\r\n");
     UseCurrent("_ORTHOVAL_CHECK_TEXT = 1\r\n_ORTHOVAL_BRANDING_RENAME_TABLES = a:b\r\n");

@@ -1,7 +1,7 @@
-// Every page that is built, through the real dialog: what its controls show of
-// a file, of the defaults and of neither, what a person's changes save, what an
-// untouched page saves. OV_DIALOG_ROUNDS asks for more random files,
-// OV_DIALOG_SEED for others.
+// Every page in the library, through the real dialog: what its controls show for a
+// file, for defaults and for neither; what the user's changes save; and what an
+// unchanged page saves. OV_DIALOG_ROUNDS requests more random files,
+// OV_DIALOG_SEED other ones.
 #include "pages/branding/ids.h"
 #include "tests/pages/page_changes.h"
 #include "tests/pages/random_table.h"
@@ -67,12 +67,12 @@ std::string DayOf(HWND picker)
 class EveryPageTest : public DialogSession
 {
   protected:
-    /// Neither a file nor defaults: the file to be made.
+    /// Uses no defaults and a path that does not exist yet.
     void UseNewFile() { m_currentPath = m_folder / L"new.cfg"; }
 
     bool ShowPageOf(const expected::Page& page) { return ShowPage(Wide(page.title)) != nullptr; }
 
-    /// Whether the control shows what it should; otherwise what it shows.
+    /// Empty if the control is in the expected state; otherwise its actual state.
     std::string Deviation(const Look& look)
     {
         HWND control = PageControl(look.control);
@@ -104,7 +104,7 @@ class EveryPageTest : public DialogSession
         return wanted == found ? "" : "shows \"" + found + "\", not \"" + wanted + "\"";
     }
 
-    /// Every page that is built shows the table.
+    /// Expects every page to show the table.
     void ExpectShown(const Table& table)
     {
         for (const expected::Page* page : BuiltPages()) {
@@ -115,8 +115,8 @@ class EveryPageTest : public DialogSession
         }
     }
 
-    /// What all built pages make of the table that they have loaded, in the
-    /// file that held another one.
+    /// The file that contained one table, after all pages have loaded another one and
+    /// saved.
     static Table Saved(const Table& loaded, Table file)
     {
         for (const expected::Page* page : BuiltPages())
@@ -124,7 +124,7 @@ class EveryPageTest : public DialogSession
         return file;
     }
 
-    /// Every line of the file that is no comment.
+    /// Compares every line of the file that is not a comment.
     void ExpectSaved(const Table& table)
     {
         std::string lines;
@@ -150,7 +150,7 @@ class EveryPageTest : public DialogSession
         return window && IsEnabled(window) && IsShown(window);
     }
 
-    /// The button's list editor: a new entry at the end, OK.
+    /// Adds an entry at the end with the button's list editor and presses OK.
     void AddEntry(int button, const std::string& entry)
     {
         ClickOnPage(button);
@@ -172,7 +172,7 @@ class EveryPageTest : public DialogSession
         change.st.wMonth = static_cast<WORD>(std::atoi(text.c_str() + 5));
         change.st.wDay = static_cast<WORD>(std::atoi(text.c_str() + 8));
         SendMessageW(picker, DTM_SETSYSTEMTIME, GDT_VALID, reinterpret_cast<LPARAM>(&change.st));
-        // Only a person's choice is notified.
+        // Only a choice by the user sends a notification.
         SendMessageW(Page(), WM_NOTIFY, change.nmhdr.idFrom, reinterpret_cast<LPARAM>(&change));
         EXPECT_EQ(text, DayOf(picker));
     }
@@ -205,21 +205,21 @@ class EveryPageTest : public DialogSession
         }
     }
 
-    /// Does it, with an eye on Save: every step marks the dialog modified,
-    /// also the one after another.
+    /// Performs the step and checks Save: every step must mark the dialog modified,
+    /// even directly after another one.
     void DoAndExpectMark(const expected::Page& page, const Step& step)
     {
         SCOPED_TRACE(testing::Message() << "control " << step.control);
         ASSERT_TRUE(IsUsable(step.control)) << "out of reach";
         EnableWindow(Control(IDC_PREFERENCES_SAVE), FALSE);
         Do(step);
-        // Typing the cells of a title block has never been noticed.
+        // Typing the cells of a title block has never marked the dialog.
         const bool goesUnnoticed = page.pageId == titleBlocks && step.control == titleBlockCells;
         EXPECT_EQ(!goesUnnoticed, CanSave()) << "whether Save can be pressed";
     }
 
-    /// Makes all changes, those whose controls are out of reach at first once
-    /// they come into it.
+    /// Makes all changes. Changes whose controls are not usable at first are made
+    /// as soon as they become usable.
     void DoAll(const expected::Page& page, std::vector<Change> changes)
     {
         ASSERT_TRUE(ShowPageOf(page));
@@ -237,7 +237,7 @@ class EveryPageTest : public DialogSession
         }
     }
 
-    /// Changes everything on every page, saves, and opens the dialog again.
+    /// Changes every setting on every page, saves, and opens the dialog again.
     void ChangeEverything(Table& table, int round)
     {
         SCOPED_TRACE(testing::Message() << "round " << round);
@@ -273,7 +273,7 @@ Table OfBuiltPages(Table table)
     return table;
 }
 
-/// Every variable with a value that its page does not begin with.
+/// Every variable with a value other than its page's initial one.
 Table FullTable()
 {
     Table table = {
@@ -361,8 +361,8 @@ TEST_F(EveryPageTest, EveryChangeIsMarkedSavedAndShownAgain)
     Cancel();
 }
 
-// Pages other than those that were changed, and what no page knows, keep their
-// meaning whatever it is.
+// Pages that were not changed, and variables that no page has, keep their meaning
+// for any content.
 TEST_F(EveryPageTest, RandomFilesAreShownChangedAndSavedAsTheirMeaningSays)
 {
     const int rounds = FromEnvironment("OV_DIALOG_ROUNDS", 3);
@@ -378,7 +378,7 @@ TEST_F(EveryPageTest, RandomFilesAreShownChangedAndSavedAsTheirMeaningSays)
         const int round = static_cast<int>(random() % 2);
         Table changed = file;
         for (const expected::Page* page : BuiltPages()) {
-            // Scales change together or not at all.
+            // The settings for scales are changed together or not at all.
             if (random() % 4 != 0 || page->pageId == drawingScales)
                 continue;
             SCOPED_TRACE(page->title);

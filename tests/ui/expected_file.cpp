@@ -51,13 +51,13 @@ std::string WithCrLf(const std::string& text)
     return std::regex_replace(text, std::regex("\n"), "\r\n");
 }
 
-// A line of more than 100 characters is broken at its last blank so far, the
-// one behind the hundredth included; a word that is longer stays whole.
+// A line of more than 100 characters is broken at the last blank before the limit,
+// including one directly after the hundredth character. A longer word is not broken.
 std::string Wrap(std::string text)
 {
     constexpr std::size_t width = 100;
     std::size_t column = 0;
-    std::size_t blank = 0; // 0: none; a blank at the very front is never used
+    std::size_t blank = 0; // 0: none; a blank at the very beginning is not replaced
     for (std::size_t index = 0; index < text.size(); ++index) {
         if (text[index] == '\n') {
             column = 0;
@@ -150,7 +150,7 @@ void ExpectedFile::Add(const std::string& variable, const std::string& comment,
 
 void ExpectedFile::AddMissingSettings()
 {
-    constexpr int textKind = 1; // the one that is written between quotes
+    constexpr int textKind = 1; // the kind that is written in quotes
     for (const expected::Page* page : BuiltPages()) {
         for (const expected::Setting& setting : page->settings) {
             const auto value = expected::AfterSave(setting, {});

@@ -1,5 +1,5 @@
-// The two exports: what they remember, whom they make modal, and whose
-// controls they show.
+// The two exports: the texts that they remember, the windows that they disable, and
+// the version of the controls that they show.
 #include "pages/branding/ids.h"
 #include "tests/ui/dialog_session.h"
 #include "tests/ui/expected_file.h"
@@ -38,7 +38,7 @@ class ExportsTest : public DialogSession
         {
             return ShowWith([](HWND) { return nullptr; });
         }
-        /// Passes as the parent what is made of the host's window.
+        /// Passes a parent derived from the host's window.
         unsigned ShowWith(const std::function<void*(HWND)>& parentOf)
         {
             window = MakeWindow(L"Host");
@@ -138,7 +138,7 @@ TEST_F(ExportsTest, SavingAndCancellingBothReturnZero)
     UseCurrent("_ORTHOVAL_BRANDING_AUTO = 1\r\n");
     ASSERT_TRUE(Open());
     ClickOnPage(IDC_BRANDING_AUTO);
-    Save(); // asserts the result, as Abandon does
+    Save(); // checks the result, like Abandon
     ASSERT_TRUE(Open());
     ClickOnPage(IDC_BRANDING_AUTO);
     Abandon();
@@ -179,7 +179,7 @@ TEST_F(ExportsTest, AWindowHandleInTheParentsPlaceOwnsTheDialogAndIsDisabled)
 
 TEST_F(ExportsTest, AForeignObjectIsNotReadAndTheActiveWindowOwnsTheDialog)
 {
-    // Whoever reads it ends the program.
+    // Reading it ends the program.
     void* const object = VirtualAlloc(nullptr, 4096, MEM_RESERVE | MEM_COMMIT, PAGE_NOACCESS);
     ASSERT_NE(nullptr, object);
     Host host;
@@ -256,7 +256,7 @@ TEST_F(ExportsTest, ControlsAreVersionSixThoughTheProgramHasNoManifest)
     Cancel();
 }
 
-/// Calls a function whenever its thread is about to leave COM.
+/// Calls a function whenever its thread is about to uninitialise COM.
 class LeavingSpy final : public IInitializeSpy
 {
   public:

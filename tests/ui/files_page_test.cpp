@@ -20,7 +20,7 @@ constexpr PathField fields[] = {
     {"_ORTHOVAL_DOCS_DIR", 2403, 2405, false},
     {"_ORTHOVAL_FILEDSN_DIR", 2406, 2408, false},
     {"_ORTHOVAL_REPORT_FILEDSN_DIR", 2432, 2433, false},
-    {"_ORTHOVAL_REPORT_TEMPLATE_JET_DSN_XLS", 2435, 2436, false}, // a folder, though it takes a file
+    {"_ORTHOVAL_REPORT_TEMPLATE_JET_DSN_XLS", 2435, 2436, false}, // a folder, although the setting is a file
     {"_ORTHOVAL_REPORT_TEMPLATE_ACE_DSN_XLS", 2441, 2442, false}, // likewise
     {"_ORTHOVAL_README_FILE", 2409, 2411, true},
     {"_ORTHOVAL_SCRIPTS", 2412, 2414, false},
@@ -77,7 +77,7 @@ TEST_F(FilesPageTest, OlderDataSourceIsShownInTheJetFieldAndBothLinesAreSaved)
     Save();
     EXPECT_EQ("_ORTHOVAL_REPORT_TEMPLATE_JET_DSN_XLS = P:\\Excel.dsn",
               Saved("_ORTHOVAL_REPORT_TEMPLATE_JET_DSN_XLS"));
-    // No page writes this one: it keeps the quotes of the texts that are read.
+    // No page writes this variable: it keeps the quotes of texts that were read.
     EXPECT_EQ("_ORTHOVAL_REPORT_TEMPLATE_DSN_XLS = \"P:\\Excel.dsn\"",
               Saved("_ORTHOVAL_REPORT_TEMPLATE_DSN_XLS"));
 }

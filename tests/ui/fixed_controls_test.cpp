@@ -1,5 +1,5 @@
-// The templates and the strings of the library against what is expected of
-// every single control and text.
+// Compares the library's templates and strings with the expected controls and
+// texts.
 #include "tests/pages/expected_controls.h"
 #include "tests/pages/expected_texts.h"
 #include "tests/ui/built_pages.h"
@@ -97,7 +97,7 @@ bool IsMeant(const ControlRow& row, const TemplateControl& control)
     return ClassOf(control) == row.controlClass && control.text == Wide(row.caption);
 }
 
-/// Calls `check` with what is expected of a page and with its template.
+/// Calls `check` with every expected page and its template.
 template <typename Check>
 void ForEachPage(Check check)
 {
@@ -110,7 +110,7 @@ void ForEachPage(Check check)
     }
 }
 
-/// What is said of a control: its number, or the caption that it is known by.
+/// Identifies a control in messages: its id, or its caption if the id is free.
 std::string NameOf(const ControlRow& row)
 {
     return row.id != expected::kAnyId ? std::to_string(row.id) : row.caption;
@@ -203,7 +203,7 @@ TEST(FixedControls, StandInTheRowsOfTheScanPeriod)
             const auto control = std::ranges::find(dialog->controls, id, &TemplateControl::id);
             ASSERT_NE(dialog->controls.end(), control) << id;
             const RECT& rect = control->rect;
-            // A list in its template is as high as opened.
+            // In a template the height of a list is that of the open list.
             constexpr LONG closedList = 14;
             const LONG end = control->windowClass == L"ComboBox" ? rect.top + closedList : rect.bottom;
             EXPECT_GE(rect.top, endOfRow) << id;
@@ -223,7 +223,7 @@ TEST(FixedTexts, AreInTheLibrary)
     Library::Get().Load();
     for (const expected::FixedText& fixed : expected::FixedTexts()) {
         const wchar_t* start = nullptr;
-        // A length of 0 gives the string where it lies in the resources.
+        // With a length of 0 the function returns a pointer to the string in the resources.
         const int length =
             LoadStringW(Library::Get().Module(), fixed.id, reinterpret_cast<wchar_t*>(&start), 0);
         const std::wstring text(start != nullptr ? start : L"", static_cast<std::size_t>(length));

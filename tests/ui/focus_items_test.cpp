@@ -1,4 +1,4 @@
-// The two focus-item fields tell of the control that has the focus.
+// The focus fields describe the control with the focus.
 #include "tests/ui/dialog_session.h"
 #include "tests/ui/expected_file.h"
 #include "tests/ui/value_editor.h"
@@ -26,13 +26,13 @@ class FocusItemsTest : public DialogSession
     std::wstring Name() { return GetText(Control(IDC_PREFERENCES_VARIABLE_NAME)); }
     std::wstring Description() { return GetText(Control(IDC_PREFERENCES_DESCRIPTION)); }
 
-    /// Focuses the control and expects the fields to say what is given.
+    /// Focuses the control and expects these texts in the fields.
     void ExpectItem(HWND control, const std::string& variable, const std::string& description)
     {
         SCOPED_TRACE(testing::PrintToString(GetText(control)));
         Focus(control);
         ASSERT_EQ(control, FocusIn(Dialog()));
-        // The fields follow with the next message that the dialog handles.
+        // The fields are updated with the next message that the dialog handles.
         Await([&] { return Name() == Wide(variable) && Description() == Wide(description); }, FollowDeadline);
         EXPECT_EQ(Wide(variable), Name());
         EXPECT_EQ(Wide(description), Description());

@@ -1,4 +1,4 @@
-/// Seeing the keyboard focus go.
+/// Detects that the keyboard focus is removed.
 #pragma once
 
 #include "tests/support/await.h"
@@ -8,9 +8,9 @@
 
 #include <atomic>
 
-/// Sees the host's thread take the keyboard focus from every window. A window
-/// manager may activate the dialog a moment later, which gives the focus back,
-/// so that looking for it afterwards would come too late now and then.
+/// Records that the host's thread removes the keyboard focus from every window. A
+/// window manager may activate the dialog a moment later, which restores the focus,
+/// so checking for it afterwards would sometimes be too late.
 class FocusRemoval
 {
   public:

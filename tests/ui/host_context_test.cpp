@@ -48,10 +48,10 @@ class HostContextTest : public DialogSession
     void Tell(UINT message) { Send(m_window, message); }
 
     HANDLE m_before = nullptr; ///< the thread's context before the call
-    HANDLE m_seen = nullptr;   ///< what the host's code found in the loop
+    HANDLE m_seen = nullptr;   ///< the context that the host's code saw in the loop
     HANDLE m_afterCall = nullptr;
-    HANDLE m_context = nullptr; ///< the host's own, while it is active
-    bool m_deactivated = false; ///< the host could take its own context back
+    HANDLE m_context = nullptr; ///< the host's own context, while it is active
+    bool m_deactivated = false; ///< the host succeeded in deactivating its own context
     HWND m_window = nullptr;
 
   private:
@@ -125,7 +125,7 @@ TEST_F(HostContextTest, ContextThatTheHostLeavesUnderAMessageBoxRaisesNothing)
     Abandon();
     EXPECT_EQ(hosts, m_afterCall);
     EXPECT_TRUE(m_deactivated);
-    // The next call removes what had to stay below the host's.
+    // The next call removes the context that had to remain below the host's.
     const HANDLE before = m_before;
     ASSERT_TRUE(OpenFromHost());
     Cancel();

@@ -4,7 +4,7 @@
 
 HostThread& HostThread::Get()
 {
-    // Never destroyed: the thread uses it until the process ends.
+    // Never destroyed, because the thread uses it until the process ends.
     static auto* thread = new HostThread;
     return *thread;
 }

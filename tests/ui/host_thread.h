@@ -1,4 +1,4 @@
-/// The thread that calls the library in place of a host's user-interface thread.
+/// The thread that calls the library in the role of a host's user interface thread.
 #pragma once
 
 #include <windows.h>
@@ -6,15 +6,15 @@
 #include <functional>
 #include <mutex>
 
-/// One thread for all calls of the process, as a host has one: a new thread
-/// would open its own connection to the display every time. Between two calls
-/// it handles its messages like any thread that has windows.
+/// One thread for all calls of the process, as in a host: a new thread would open
+/// another connection to the display every time. Between two calls it handles its
+/// messages like any thread with windows.
 class HostThread
 {
   public:
     static HostThread& Get();
 
-    /// Has the thread run this next. The previous job must have ended.
+    /// Runs the job on the thread. The previous job must have ended.
     void Run(std::function<void()> job);
 
     DWORD Id() const { return m_id; }

@@ -1,4 +1,4 @@
-// The dialog without a mouse.
+// Operates the dialog without a mouse.
 #include "pages/branding/ids.h"
 #include "pages/conforming/ids.h"
 #include "tests/ui/built_pages.h"

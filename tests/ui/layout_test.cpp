@@ -1,4 +1,4 @@
-// The dialog's sizes: how its controls follow, the smallest size, the grip.
+// The dialog's sizes: how its controls follow, the minimum size, the size grip.
 #include "tests/ui/built_pages.h"
 #include "tests/ui/dialog_session.h"
 
@@ -29,8 +29,8 @@ class LayoutTest : public DialogSession
         return {rect.right - rect.left, rect.bottom - rect.top};
     }
 
-    /// Resizes the dialog. A window manager's answer to an earlier size may come
-    /// late and undo this one; then it is asked for again.
+    /// Resizes the dialog. A window manager may answer an earlier resize late and
+    /// undo this one; the request is then repeated.
     bool ResizeTo(LONG width, LONG height)
     {
         return Await([&] {
@@ -89,7 +89,7 @@ class LayoutTest : public DialogSession
 /// How the dialog's controls follow its edges.
 struct Rule {
     int id;
-    int left, top, right, bottom; // whether the edge moves along
+    int left, top, right, bottom; // whether the edge follows
 };
 
 constexpr Rule rules[] = {
@@ -170,7 +170,7 @@ TEST_F(LayoutTest, RepeatedResizingDoesNotDrift)
     ASSERT_TRUE(Open());
     ASSERT_TRUE(ShowPage(L"Conforming"));
     const SIZE outer = OuterSize(Dialog());
-    // So that the page is where a layout puts it.
+    // Causes a layout pass, which places the page.
     ASSERT_TRUE(ResizeTo(outer.cx + 1, outer.cy));
     ASSERT_TRUE(ResizeTo(outer.cx, outer.cy));
     const auto before = AllRectangles();
@@ -210,7 +210,7 @@ TEST_F(LayoutTest, MinimisingMovesNothingAndRestoringComesBack)
     ASSERT_TRUE(Await([&] { return !IsIconic(Dialog()); }));
     Settle(Dialog());
     EXPECT_EQ(before, AllRectangles());
-    // Relative to each other they stood still while minimised.
+    // Their positions relative to each other did not change while minimised.
     const RECT saveNow = RectIn(save, Dialog());
     const RECT labelNow = RectIn(label, Dialog());
     EXPECT_EQ(saveNow.left - labelNow.left, saveRect.left - labelRect.left);

@@ -13,7 +13,7 @@ std::wstring LibraryPath()
     return program.substr(0, program.rfind(L'\\') + 1) + OV_PREFERENCES_LIBRARY;
 }
 
-// By way of void*, which a function pointer may be cast to where both have the
+// Casts through void*, which is allowed for a function pointer where both have the
 // same size.
 template <typename Function>
 Function FindExport(HMODULE module, const char* name)

@@ -5,18 +5,18 @@
 
 #include <windows.h>
 
-/// ovPreferences.dll from the folder of this program. One for the process:
+/// ovPreferences.dll from this program's folder. One object per process, because
 /// the library keeps its texts from call to call.
 class Library
 {
   public:
     static Library& Get();
 
-    /// Loads it unless it is loaded. False when it or one of its two functions
-    /// is missing.
+    /// Loads the library if it is not loaded yet. False if it or one of its two
+    /// functions is missing.
     bool Load();
 
-    /// Gives the one reference up. False when the library stays in memory.
+    /// Releases the only reference. False if the library stays in memory.
     bool Unload();
 
     HMODULE Module() const { return m_module; }

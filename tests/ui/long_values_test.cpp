@@ -1,4 +1,4 @@
-// Values far longer than people type them.
+// Values far longer than typed ones.
 #include "pages/conforming/ids.h"
 #include "pages/files/ids.h"
 #include "pages/title_block/ids.h"
@@ -17,7 +17,7 @@ class LongValuesTest : public DialogSession
   protected:
     static std::wstring Wide(const std::string& ascii) { return {ascii.begin(), ascii.end()}; }
 
-    /// A path of so many characters.
+    /// A path with that many characters.
     static std::string LongPath(std::size_t length)
     {
         std::string path = R"(\\?\C:)";
@@ -53,7 +53,7 @@ TEST_F(LongValuesTest, FiveThousandEntriesOpenWithinASecond)
 
 TEST_F(LongValuesTest, LongestPathIsLoadedEditedAndSaved)
 {
-    constexpr std::size_t longest = 32767; // that the system knows
+    constexpr std::size_t longest = 32767; // the longest path of the system
     const std::string path = LongPath(longest);
     UseCurrent("_ORTHOVAL_DICT_DIR = \"" + path + "\"\r\n_ORTHOVAL_SCRIPTS = \"" + path + "\"\r\n");
     ASSERT_TRUE(Open());

@@ -1,5 +1,5 @@
-// Questions and choices of the dialog itself: abandoning changes, the defaults,
-// naming a file.
+// The dialog's own questions and choices: abandoning changes, loading defaults,
+// choosing a file.
 #include "pages/branding/ids.h"
 #include "pages/conforming/ids.h"
 #include "tests/ui/dialog_session.h"
@@ -38,7 +38,7 @@ class MessageTest : public DialogSession
         EXPECT_TRUE(IsPageChecked(IDC_BRANDING_AUTO));
     }
 
-    /// Presses "..." and answers the chooser: with a path and its open button,
+    /// Presses "..." and answers the file chooser: with a path and its open button
     /// or, for an empty path, with its cancel button.
     void Choose(const std::wstring& path)
     {
@@ -54,7 +54,7 @@ class MessageTest : public DialogSession
         Settle(Dialog());
     }
 
-    /// The combo box that the file name is typed into; it lies in another one.
+    /// The combo box for the file name, which is nested in another one.
     static HWND FileNameBox(HWND chooser)
     {
         return FindWindowExW(AwaitControl(chooser, cmb13), nullptr, L"ComboBox", nullptr);
@@ -161,7 +161,7 @@ TEST_F(MessageTest, LoadDefaultPreferencesShowsTheDefaultsAndMarksModified)
     Press(IDC_PREFERENCES_LOAD_DEFAULTS);
     EXPECT_TRUE(CanSave());
     EXPECT_TRUE(CanLoadDefaults());
-    // What the defaults lack is off or empty, on the hidden page as well.
+    // Settings that the defaults lack are off or empty, on the hidden page as well.
     EXPECT_FALSE(IsPageChecked(IDC_BRANDING_AUTO));
     ASSERT_TRUE(ShowPage(L"Conforming"));
     EXPECT_TRUE(IsPageChecked(IDC_CONFORMING_CHECK_TEXT));
@@ -183,7 +183,7 @@ TEST_F(MessageTest, NamingAFileThatDoesNotExistEnablesSaveWhichWritesIt)
     Choose(m_currentPath);
     EXPECT_EQ(m_currentPath, ShownPath());
     EXPECT_TRUE(CanSave());
-    // A new file has no old one to rename: a stale backup is no obstacle.
+    // A new file has no old one to rename, so a stale backup does not matter.
     ASSERT_TRUE(WriteBytes(m_folder / L"chosen.bak", "left over\r\n"));
     Save();
     EXPECT_EQ("_ORTHOVAL_CHECK_CELLS = 0", AssignmentOf(CurrentBytes(), "_ORTHOVAL_CHECK_CELLS"));
@@ -221,7 +221,7 @@ TEST_F(MessageTest, TheDialogTakesNoInputUnderTheBoxOfAFailedRead)
     CloseHandle(held);
     EXPECT_EQ(nullptr, GetWindow(box.window, GW_OWNER));
     EXPECT_FALSE(IsWindowEnabled(Dialog()));
-    // Sent past the disabled window.
+    // Sent although the window is disabled.
     Send(Dialog(), WM_CLOSE);
     Press(IDC_PREFERENCES_SAVE);
     EXPECT_TRUE(IsWindowVisible(box.window));

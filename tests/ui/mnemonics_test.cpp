@@ -1,4 +1,4 @@
-// The keys that captions underline, in every window.
+// The mnemonics in the captions of every window.
 #include "pages/branding/ids.h"
 #include "pages/conforming/ids.h"
 #include "pages/misc/ids.h"
@@ -16,7 +16,7 @@ using namespace uidriver;
 namespace
 {
 
-/// The key that a caption names; 0 for none.
+/// The mnemonic of a caption; 0 for none.
 wchar_t KeyOf(const std::wstring& caption)
 {
     for (std::size_t i = 0; i + 1 < caption.size(); ++i) {
@@ -29,8 +29,8 @@ wchar_t KeyOf(const std::wstring& caption)
     return 0;
 }
 
-/// The visible controls by their keys, those of child dialogs included; a key
-/// that two of them have fails the test.
+/// Collects the visible controls by mnemonic, including those of child dialogs. A
+/// mnemonic that two of them share fails the test.
 void CollectKeys(HWND window, std::map<wchar_t, HWND>& keys)
 {
     for (HWND child : Children(window)) {
@@ -60,8 +60,8 @@ std::wstring KeysOf(HWND window)
 class MnemonicsTest : public DialogSession
 {
   protected:
-    /// Opens the list editor on four entries that are no files, or are, the
-    /// second one selected: every button is enabled.
+    /// Opens the list editor for four entries, which are files or not. The second one is
+    /// selected, so every button is enabled.
     HWND OpenEditor(bool files)
     {
         EXPECT_TRUE(ShowPage(files ? L"Title Blocks" : L"Conforming"));
@@ -86,7 +86,7 @@ TEST_F(MnemonicsTest, OfTheDialogWorkFromEveryPage)
     for (const std::wstring& title : BuiltTitles()) {
         SCOPED_TRACE(testing::PrintToString(title));
         ASSERT_TRUE(ShowPage(title));
-        // Each of them is pressed here.
+        // The test presses each of them.
         EXPECT_EQ(L"CDS", KeysOf(Dialog()));
         const auto stops = TabStopsInReadingOrder(Page());
         Focus(stops.empty() ? List() : stops.front());
@@ -117,7 +117,7 @@ TEST_F(MnemonicsTest, OfTheListEditorWorkFromEveryControl)
         std::vector<std::wstring> rows = {L"a", L"b", L"c", L"d"};
         for (HWND stop : TabStopsInReadingOrder(editor)) {
             SCOPED_TRACE(GetDlgCtrlID(stop));
-            // With a row in the middle and a value every button is enabled.
+            // With a row in the middle selected and a value typed, every button is enabled.
             SelectOnly(list, 1);
             Focus(stop);
             EXPECT_TRUE(PressKey(editor, 'D', VK_MENU));
@@ -159,8 +159,8 @@ TEST_F(MnemonicsTest, OfTheListEditorCloseIt)
 
 TEST_F(MnemonicsTest, OfThePatternTesterDoNotExist)
 {
-    // Its captions are the product's own, without marks; whoever gives one a key
-    // is to press it here.
+    // Its captions have no mnemonics. If one gets a mnemonic, this test has to press
+    // it.
     ASSERT_TRUE(Open());
     ASSERT_TRUE(ShowPage(L"Miscellaneous"));
     ClickOnPage(IDC_MISC_WILDCARD_TEST);

@@ -6,7 +6,7 @@ using namespace uidriver;
 namespace
 {
 
-/// One of the two pages: its title, its variables' beginning and its controls.
+/// One of the two pages: its title, the beginning of its variables and its controls.
 struct NamingPage {
     const wchar_t* title;
     std::string variable;
@@ -90,7 +90,7 @@ TEST_P(NamingPagesTest, TemplatesBetweenSemicolonsOpenInTheEditor)
     Abandon();
 }
 
-// The help text of files hands the focus to the descriptions: kept as it is.
+// For the help text of files the focus moves to the descriptions; this is intended.
 TEST_P(NamingPagesTest, RefusedListsFocusTheirEditButForTheHelpTextOfFiles)
 {
     ASSERT_TRUE(OpenPage());

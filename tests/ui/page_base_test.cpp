@@ -1,4 +1,4 @@
-// What every page does: scrolling, the wheel, edits that hold no value.
+// What all pages have in common: scrolling, the wheel, edits without a value.
 #include "pages/conforming/ids.h"
 #include "tests/ui/dialog_session.h"
 #include "tests/ui/expected_file.h"
@@ -11,7 +11,7 @@ using namespace uidriver;
 namespace
 {
 
-/// The setting for the lines of a wheel notch, put back at the end.
+/// Sets the lines per wheel notch, and restores the setting in the destructor.
 class WheelLines
 {
   public:
@@ -28,17 +28,17 @@ class WheelLines
     UINT m_before = 3;
 };
 
-/// So long that an edit on its own account would take no more of it.
+/// Longer than an edit's default limit.
 constexpr std::size_t longText = 64 * 1024;
 
 class PageBaseTest : public DialogSession
 {
   protected:
-    // Size of the Conforming page's content.
+    // The width of the Conforming page's content.
     static constexpr int ContentWidth = 440;
     static constexpr int ContentHeight = 370;
 
-    /// Conforming at the dialog's smallest size, where it has to scroll.
+    /// Shows Conforming in the dialog at its minimum size, where it has to scroll.
     bool OpenSmall()
     {
         if (!Open())
@@ -80,7 +80,7 @@ class PageBaseTest : public DialogSession
         Settle(Dialog());
     }
 
-    /// Scrolled by so many pixels, the bar and the controls agreeing.
+    /// Expects that many pixels of scrolling, both at the bar and at the controls.
     void ExpectScrolled(int vertical)
     {
         EXPECT_EQ(vertical, Position());
@@ -116,7 +116,7 @@ TEST_F(PageBaseTest, PageThatDoesNotFitShowsBarsOverItsWholeContent)
     EXPECT_TRUE(HasStyle(WS_HSCROLL));
     EXPECT_EQ(ContentHeight - 1, Scroll(SB_VERT).nMax);
     EXPECT_EQ(ContentWidth - 1, Scroll(SB_HORZ).nMax);
-    // The page's size inside its border, as if it had no bars.
+    // The page's size inside its border, as if it had no scroll bars.
     RECT page = {};
     GetWindowRect(Page(), &page);
     if (HasStyle(WS_BORDER))
@@ -131,8 +131,8 @@ TEST_F(PageBaseTest, EveryControlCanBeReachedByScrolling)
     ASSERT_TRUE(OpenSmall());
     RECT client = {};
     GetClientRect(Page(), &client);
-    // Which controls were wholly in view on an axis, step by step to the end.
-    // A control wider than the page has to show both its ends.
+    // Collects the controls that were completely visible on an axis, step by step to the
+    // end. A control wider than the page has to show both its ends.
     std::set<int> seen;
     std::set<int> seenLeft;
     std::set<int> seenRight;
@@ -163,7 +163,7 @@ TEST_F(PageBaseTest, EveryControlCanBeReachedByScrolling)
         const int id = GetDlgCtrlID(child);
         EXPECT_TRUE(seen.contains(id) && seenLeft.contains(id) && seenRight.contains(id)) << id;
     }
-    // The last control of the last row is in view now.
+    // The last control of the last row is visible now.
     const RECT last = RectIn(PageControl(IDC_CONFORMING_IGNORED_LEVELS_BROWSE), Page());
     EXPECT_LE(last.right, client.right);
     EXPECT_LE(last.bottom, client.bottom);

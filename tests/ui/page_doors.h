@@ -1,4 +1,4 @@
-/// What a page's "..." buttons open, and what its settings are after Save.
+/// The modal windows of a page's "..." buttons, and its settings after Save.
 #pragma once
 
 #include "tests/ui/page_session.h"
@@ -9,8 +9,8 @@
 class PageDoors : public PageSession
 {
   protected:
-    /// The entries that the list editor shows for the button's setting; the
-    /// editor is cancelled. It offers to browse for files exactly if they are.
+    /// The entries that the list editor shows for the button's setting; the editor
+    /// is then cancelled. It must have a browse button if and only if they are files.
     std::vector<std::wstring> EntriesBehind(int button, bool files = false)
     {
         const Editor editor = UseEditor(button, IDCANCEL);
@@ -18,10 +18,10 @@ class PageDoors : public PageSession
         return editor.rows;
     }
 
-    /// Enters a first value in the list editor and presses its OK.
+    /// Enters a first value in the list editor and presses OK.
     void EnterInEditor(int button, const std::wstring& value) { UseEditor(button, IDOK, value); }
 
-    /// The button opens a window with this caption, which is cancelled.
+    /// Expects the button to open a window with this caption, and cancels it.
     void ExpectOpens(int button, const std::wstring& caption)
     {
         ClickOnPage(button);

@@ -1,5 +1,5 @@
-// Every window of the program, as its controls lie in it at several sizes. What
-// is said here holds at every resolution: ./test runs it at four.
+// The positions of the controls in every window of the program, at several sizes. The
+// rules apply at every resolution: ./test runs this test at four.
 #include "pages/branding/ids.h"
 #include "pages/core/page_catalogue.h"
 #include "pages/drawing_scales/ids.h"
@@ -25,14 +25,14 @@ static void PrintTo(const RECT& rect, std::ostream* stream)
 namespace
 {
 
-/// A visible control and where it lies in its window, which is not scrolled.
+/// A visible control and its position in its window, unscrolled.
 struct Placed {
     int id;
     HWND window;
     RECT rect;
     std::wstring windowClass;
     DWORD style;
-    std::wstring caption; ///< of labels, buttons and frames
+    std::wstring caption; ///< for labels, buttons and frames
 
     DWORD ButtonType() const { return windowClass == L"Button" ? style & BS_TYPEMASK : ~0U; }
     bool IsFrame() const { return ButtonType() == BS_GROUPBOX; }
@@ -45,7 +45,7 @@ bool Contains(const RECT& outer, const RECT& inner)
            outer.bottom >= inner.bottom;
 }
 
-/// A length at the usual resolution in the pixels of this one.
+/// Converts a length at the usual resolution to pixels of the present one.
 LONG Scaled(LONG length)
 {
     HDC screen = GetDC(nullptr);
@@ -73,7 +73,7 @@ std::vector<Placed> ControlsOf(HWND window)
     return controls;
 }
 
-/// What a bar lets see beyond what is visible.
+/// The additional size that scrolling makes visible.
 LONG Scrollable(HWND window, int bar)
 {
     SCROLLINFO info = {};
@@ -83,7 +83,7 @@ LONG Scrollable(HWND window, int bar)
     return info.nMax > 0 ? info.nMax + 1 - static_cast<LONG>(info.nPage) : 0;
 }
 
-/// Within what the window shows or scrolls to.
+/// Expects the controls inside the part that the window shows or scrolls to.
 void ExpectReachable(HWND window, const std::vector<Placed>& controls)
 {
     RECT content = {};
@@ -97,14 +97,14 @@ void ExpectReachable(HWND window, const std::vector<Placed>& controls)
     }
 }
 
-/// An up-down control's edge covers that of its edit.
+/// Whether they belong together: the edges of an up-down control and its edit overlap.
 bool IsBuddy(const Placed& spin, const Placed& edit)
 {
     return spin.windowClass == L"msctls_updown32" &&
            reinterpret_cast<HWND>(Send(spin.window, UDM_GETBUDDY)) == edit.window;
 }
 
-/// A frame and what it surrounds, with a distance from its edges.
+/// Whether the frame surrounds the control, with a distance from its edges.
 bool Surrounds(const Placed& frame, const Placed& member)
 {
     RECT inside = frame.rect;
@@ -113,7 +113,7 @@ bool Surrounds(const Placed& frame, const Placed& member)
     return frame.IsFrame() && Contains(inside, member.rect);
 }
 
-/// Whether the size grip may lie over the control: its corner is the dialog's.
+/// Whether it is the size grip, which may overlap controls in the dialog's corner.
 bool IsGrip(const Placed& control)
 {
     return control.windowClass == L"ScrollBar";
@@ -134,8 +134,8 @@ void ExpectApart(const std::vector<Placed>& controls)
     }
 }
 
-/// Measures as the control draws: in its font and on its screen, where letters
-/// may have other widths than in memory.
+/// Measures texts as the control draws them: with its font and its device context,
+/// because letters may have other widths in a memory context.
 class Measure
 {
   public:
@@ -164,17 +164,17 @@ class Measure
     HGDIOBJ m_before;
 };
 
-/// Measured, the longest of all captions takes more than the smallest dialog has.
-/// Drawn, it fits: letters are measured up to an eighth wider than they are drawn.
+/// The longest of all captions, when measured, exceeds the smallest dialog. When
+/// drawn, it fits: letters are measured up to an eighth wider than they are drawn.
 bool IsDrawnNarrower(const Placed& control)
 {
     return control.id == IDC_DRAWING_SCALES_IGNORE_ANNOTATION_LOCK;
 }
 
-/// Every caption is shown whole.
+/// Expects every caption to be completely visible.
 void ExpectUncut(const std::vector<Placed>& controls)
 {
-    // What a box takes with its distance from the caption, a frame's and a button's edges.
+    // The width of a box including its distance from the caption, and the edges of frames and buttons.
     const LONG boxWidth = Scaled(18);
     const LONG frameEdges = Scaled(18);
     const LONG buttonEdges = Scaled(6);
@@ -197,7 +197,7 @@ void ExpectUncut(const std::vector<Placed>& controls)
     }
 }
 
-/// Every entry of a drop-down list is shown whole once it is open.
+/// Expects every entry of a drop-down list to be completely visible when it is open.
 void ExpectEntriesUncut(const std::vector<Placed>& controls)
 {
     const LONG edges = Scaled(8);
@@ -233,7 +233,7 @@ class GeometryTest : public DialogSession
         }
     }
 
-    /// An up-down control lies in the end of its field, where the template has it.
+    /// Expects every up-down control at the end of its edit, as in the template.
     void ExpectUpDownControlsInPlace()
     {
         for (const expected::Page* page : BuiltPages()) {
@@ -253,7 +253,7 @@ class GeometryTest : public DialogSession
         }
     }
 
-    /// A window that a page's button opens, at its first and at its smallest size.
+    /// Checks a window that a page's button opens, at its initial and its minimum size.
     void ExpectWellAndClose(HWND window)
     {
         ASSERT_TRUE(window);
@@ -309,8 +309,8 @@ TEST_F(GeometryTest, TesterIsWell)
     Cancel();
 }
 
-/// What holds at the usual resolution alone: finer type takes more room than the
-/// smallest dialog has.
+/// Rules that apply at the usual resolution only: at others the texts may need more
+/// room than the smallest dialog has.
 class UsualGeometryTest : public GeometryTest
 {
 };

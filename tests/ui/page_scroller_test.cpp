@@ -1,4 +1,4 @@
-// The page scroller and the memory context, with real windows.
+// The page scroller and the memory device context, with real windows.
 #include <ostream>
 
 #include <gtest/gtest.h>
@@ -18,7 +18,7 @@ constexpr UINT scrolledTemplate = 2;
 constexpr UINT movedButton = 2001;
 constexpr UINT spinButton = 2002;
 
-// A page whose content measures 300 x 1000 pixels.
+// A page with a content of 300 x 1000 pixels.
 class ScrolledPage : public CDialog
 {
   public:
@@ -74,7 +74,7 @@ class Scroller : public ::testing::Test
         return rect;
     }
 
-    // How far the content is scrolled, as the child window shows it.
+    // The distance by which the content is scrolled, read from the child window.
     CPoint Scrolled() const
     {
         const CRect now = ButtonRect();

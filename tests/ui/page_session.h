@@ -1,5 +1,5 @@
-/// What the tests of single pages have in common: the saved file, the entries
-/// of lists, and what a "..." button of a list opens or refuses to open.
+/// Common code of the tests for single pages: the saved file, list entries, and the
+/// list editor of a "..." button, which opens or refuses to open.
 #pragma once
 
 #include "tests/ui/dialog_session.h"
@@ -15,12 +15,12 @@
 class PageSession : public DialogSession
 {
   protected:
-    /// What the multi-entry editor shows.
+    /// The contents of the list editor.
     struct Editor {
-        std::vector<std::wstring> rows;    ///< the first field of each
-        std::vector<std::wstring> seconds; ///< the second one
+        std::vector<std::wstring> rows;    ///< the first field of each row
+        std::vector<std::wstring> seconds; ///< the second field of each row
         int fields = 0;
-        bool browses = false; ///< offers to choose files
+        bool browses = false; ///< has a browse button for files
     };
 
     /// The line of the saved file that assigns to the variable.
@@ -31,7 +31,7 @@ class PageSession : public DialogSession
     std::vector<std::wstring> PageEntries(int id) const { return uidriver::ComboTexts(PageControl(id)); }
     void SelectOnPage(int id, int index) { uidriver::SelectComboEntry(PageControl(id), index); }
 
-    /// The range of an up-down control, which has to fill that edit.
+    /// The range of an up-down control, whose edit must be `buddy`.
     std::pair<int, int> RangeOfSpin(int id, int buddy) const
     {
         EXPECT_EQ(PageControl(buddy), reinterpret_cast<HWND>(uidriver::Send(PageControl(id), UDM_GETBUDDY)));
@@ -42,8 +42,8 @@ class PageSession : public DialogSession
         return {low, high};
     }
 
-    /// Expects each change, one after the other on the page, to mark the dialog
-    /// modified. What a change disables or hides has to come before it.
+    /// Expects each of the changes, made one after the other on the page, to mark the
+    /// dialog modified. A change must come before one that disables or hides its control.
     void ExpectEachMarksModified(const std::wstring& title, const std::vector<std::function<void()>>& changes)
     {
         ASSERT_TRUE(Open());
@@ -58,8 +58,8 @@ class PageSession : public DialogSession
         Cancel();
     }
 
-    /// Presses the "..." button and closes the editor that it opens by `answer`,
-    /// IDOK or IDCANCEL, inserting a row before unless it is empty.
+    /// Presses the "..." button and closes the list editor with `answer`, IDOK or
+    /// IDCANCEL. Before that, inserts `newRow` unless it is empty.
     Editor UseEditor(int button, int answer, const std::wstring& newRow = {})
     {
         Editor editor;
@@ -84,8 +84,8 @@ class PageSession : public DialogSession
         return editor;
     }
 
-    /// With a lone quote in the edit, the button opens no editor and the edit
-    /// keeps its text. The focus goes to that control; to none for 0.
+    /// With a single quote in the edit, expects the button to open no editor and the edit
+    /// to keep its text. Expects the focus on `focused`; on no control for 0.
     void ExpectRefusal(int edit, int button, int focused)
     {
         TypeOnPage(edit, L"a\"b");
@@ -96,7 +96,7 @@ class PageSession : public DialogSession
         EXPECT_EQ(L"a\"b", PageText(edit));
     }
 
-    /// The same where a lone quote stands in the button's setting already.
+    /// The same if the button's setting already contains a single quote.
     void ExpectRefused(int button, int focused)
     {
         uidriver::Focus(PageControl(button));

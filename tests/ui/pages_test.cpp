@@ -1,4 +1,4 @@
-// The two pages: what their controls read, show and save.
+// The pages Branding and Conforming: what their controls read, show and save.
 #include "pages/branding/ids.h"
 #include "pages/conforming/ids.h"
 #include "tests/ui/page_session.h"
@@ -26,7 +26,7 @@ class PagesTest : public PageSession
         ClickOnPage(IDC_BRANDING_AUTO);
     }
 
-    /// Switches every check box of the page on by a click.
+    /// Checks every check box of the page with a click.
     void ClickEveryBox(const std::vector<PageSetting>& settings)
     {
         for (const auto& setting : settings) {
@@ -96,7 +96,7 @@ TEST_F(PagesTest, OnlyTheTextOneSwitchesAFlagOn)
                "_ORTHOVAL_CHECK_TAGS =  1\r\n_ORTHOVAL_CHECK_PATTERNS = 01\r\n"
                "_ORTHOVAL_BRANDING_AUTO = \"1\"\r\n_ORTHOVAL_BRANDING_CERTIFY = TRUE\r\n");
     ASSERT_TRUE(Open());
-    EXPECT_TRUE(IsPageChecked(IDC_BRANDING_AUTO)); // the quotes belong to the file
+    EXPECT_TRUE(IsPageChecked(IDC_BRANDING_AUTO)); // the quotes belong to the file's syntax
     EXPECT_FALSE(IsPageChecked(IDC_BRANDING_CERTIFY));
     ASSERT_TRUE(ShowPage(L"Conforming"));
     for (const int id : {IDC_CONFORMING_CHECK_CELLS, IDC_CONFORMING_CHECK_TEXT, IDC_CONFORMING_CHECK_TAGS,
@@ -212,8 +212,8 @@ TEST_F(PagesTest, ArrowKeysStepTheMaximumErrorWithinItsRange)
     EXPECT_EQ("_ORTHOVAL_MAX_ERROR_UORS = 10000", Saved("_ORTHOVAL_MAX_ERROR_UORS"));
 }
 
-/// What an up-down control does while its arrow is held: the positions that it
-/// reports and the rounds of its timer.
+/// Records what an up-down control does while its arrow is held: the positions that
+/// it reports and the rounds of its timer.
 class HeldArrow
 {
   public:
@@ -254,7 +254,7 @@ class HeldArrow
         const std::lock_guard lock(s_lock);
         return s_steps;
     }
-    /// Waits until the arrow has had that many more chances to step.
+    /// Waits until the arrow has had that many more opportunities to step.
     bool AwaitRounds(int more) const
     {
         const int before = Rounds();
@@ -323,7 +323,7 @@ TEST_F(PagesTest, HeldArrowStepsByOneThenByFiveAfterThreeSecondsThenByTenAfterSi
         EXPECT_TRUE(next == 1 || next == 5 || next == 10) << next;
         EXPECT_GE(next, width) << "at " << steps[i].time << " ms";
         width = std::max(width, next);
-        // A busy machine may be late with a step, never early.
+        // On a busy machine a step may be late, but never early.
         EXPECT_GE(steps[i].time, next == 10 ? 6000U : next == 5 ? 3000U : 0U) << "a step of " << next;
     }
     EXPECT_EQ(10, width);
@@ -370,7 +370,7 @@ TEST_F(PagesTest, LoneQuoteInTheIgnoredLevelsIsRefusedAndNoWindowKeepsTheFocus)
     ClickOnPage(IDC_CONFORMING_IGNORED_LEVELS_BROWSE);
     const FocusRemoval removal;
     AnswerBox(QualifierText, {IDOK}, IDOK);
-    ExpectOpen(); // no editor came up
+    ExpectOpen(); // no list editor was opened
     EXPECT_TRUE(removal.Await());
     EXPECT_NE(PageControl(IDC_CONFORMING_IGNORED_LEVELS), FocusIn(Dialog()));
     EXPECT_EQ(L"Scratch,\"Notes", PageText(IDC_CONFORMING_IGNORED_LEVELS));

@@ -18,7 +18,7 @@ class PaneTest : public DialogSession
     bool ShowsBranding() { return PageControl(IDC_BRANDING_RENAME) != nullptr; }
     bool ShowsConforming() { return PageControl(IDC_CONFORMING_MAX_ERROR) != nullptr; }
 
-    /// The row of Conforming; those after it follow in the list.
+    /// The row of Conforming; rows follow it.
     static int ConformingRow()
     {
         const auto titles = BuiltTitles();
@@ -27,7 +27,7 @@ class PaneTest : public DialogSession
 
     int ColumnWidth() { return static_cast<int>(Send(List(), LVM_GETCOLUMNWIDTH, 0)); }
 
-    /// Clicks into a row as a person does.
+    /// Clicks a row as a user does.
     void ClickRow(int row)
     {
         RECT rect = {LVIR_LABEL, 0, 0, 0};
@@ -91,7 +91,7 @@ TEST_F(PaneTest, ArrowKeyOnTheLastRowStaysThere)
     const int last = static_cast<int>(BuiltTitles().size()) - 1;
     ClickRow(last);
     HWND page = Page();
-    PostKey(Dialog(), VK_DOWN); // there is no further row
+    PostKey(Dialog(), VK_DOWN); // there are no more rows
     EXPECT_EQ(last, ListViewSelection(List()));
     EXPECT_EQ(page, Page());
     Cancel();
@@ -181,7 +181,7 @@ TEST_F(PaneTest, PaneFillsItsPlaceholderAndTheListItsHeight)
     Cancel();
 }
 
-// Lower than its content the pane has a bar as every page has, over the list's.
+// If it is lower than its content, the pane has a scroll bar like every page, beside the list's.
 TEST_F(PaneTest, PaneScrollsLikeAPageWhereTheDialogIsLow)
 {
     ASSERT_TRUE(Open());
@@ -195,7 +195,7 @@ TEST_F(PaneTest, PaneScrollsLikeAPageWhereTheDialogIsLow)
     EXPECT_TRUE(hasBar(pane, WS_VSCROLL));
     EXPECT_FALSE(hasBar(pane, WS_HSCROLL));
     EXPECT_FALSE(hasBar(List(), WS_HSCROLL));
-    // The longest title ends before the bar.
+    // The longest title ends before the scroll bar.
     RECT client = {};
     GetClientRect(pane, &client);
     int widest = 0;

@@ -15,7 +15,7 @@ bool IsContainer(HWND window)
     return (GetWindowLongPtrW(window, GWL_EXSTYLE) & WS_EX_CONTROLPARENT) != 0;
 }
 
-// Whatever begins above the middle of a row's first window stands in that row.
+// Windows that begin above the middle of a row's first window belong to that row.
 std::vector<HWND> InReadingOrder(HWND parent, std::vector<HWND> windows)
 {
     const auto rectOf = [parent](HWND window) { return RectIn(window, parent); };
@@ -25,7 +25,7 @@ std::vector<HWND> InReadingOrder(HWND parent, std::vector<HWND> windows)
         const auto next = std::find_if(row, windows.end(), [&](HWND window) {
             return rectOf(window).top >= (first.top + first.bottom) / 2;
         });
-        // What stands below one another beside a high window is read downwards.
+        // Windows one below another, beside a high window, are read downwards.
         std::sort(row, next, [&](HWND one, HWND other) {
             const RECT a = rectOf(one);
             const RECT b = rectOf(other);

@@ -1,10 +1,10 @@
-/// The order in which the eye reads a dialog's controls, from where they lie.
+/// The order in which a user reads a dialog's controls, computed from their positions.
 #pragma once
 
 #include <windows.h>
 
 #include <vector>
 
-/// The visible and enabled controls that Tab stops at, row by row from the top
-/// and from left to right in a row; a child dialog's are read where it lies.
+/// The visible and enabled tab stops, row by row from the top and from left to right
+/// in a row; those of a child dialog at the position of the child dialog.
 std::vector<HWND> TabStopsInReadingOrder(HWND dialog);

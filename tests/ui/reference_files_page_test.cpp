@@ -1,5 +1,5 @@
-// Reference Files in the dialog: the scale factor, and what follows the texts
-// of the border sheets and of the plot border.
+// Reference Files in the dialog: the scale factor, and the controls that depend on
+// the texts for border sheets and for the plot border.
 #include "tests/ui/page_session.h"
 #include "tests/ui/value_editor.h"
 
@@ -27,12 +27,12 @@ class ReferenceFilesPageTest : public PageSession
             EXPECT_EQ(first, IsEnabled(PageControl(control))) << control;
         return first;
     }
-    /// What needs border sheets, a plot border, and both.
+    /// The controls that need border sheets, a plot border, or both.
     bool BorderControls() const { return AreEnabled({9506, 9511, 3006, 3007}); }
     bool ShapeControls() const { return AreEnabled({9509, 9510, 11018, 11019, 11020}); }
     bool BothControl() const { return IsEnabled(PageControl(9512)); }
 
-    /// Gives a control the focus and takes it away again.
+    /// Gives a control the focus and removes it again.
     void PassThrough(int control)
     {
         Focus(PageControl(control));
@@ -216,7 +216,7 @@ TEST_F(ReferenceFilesPageTest, LoadingDefaultsEnablesWhatTheyNeedAndMarksTheDial
     Abandon();
 }
 
-// A refresh enables by the texts as they were before the key that led to it.
+// A refresh enables controls by the texts before the key that caused it.
 TEST_F(ReferenceFilesPageTest, FirstKeyInTheBorderSheetsEnablesNothingYet)
 {
     ASSERT_TRUE(OpenPage());
@@ -274,8 +274,8 @@ TEST_F(ReferenceFilesPageTest, PageShownAgainIsRight)
     Abandon();
 }
 
-// A refresh unchecks nothing for good: the checks are kept while their boxes
-// are disabled, and saved.
+// A refresh never unchecks anything permanently: disabled check boxes keep their
+// state, and it is saved.
 TEST_F(ReferenceFilesPageTest, DisabledBoxesKeepTheirChecks)
 {
     UseCurrent("_ORTHOVAL_CHECK_BORDERSHEETS = 1\r\n_ORTHOVAL_BORDERSHEETS_DEFAULT_MODEL = 1\r\n"
@@ -315,7 +315,7 @@ TEST_F(ReferenceFilesPageTest, BorderSheetsAreEditedAsFilesAndModels)
     Abandon();
 }
 
-// The refresh after the editor marks the dialog, whatever came of the editor.
+// The refresh after the list editor marks the dialog, even if the editor was cancelled.
 TEST_F(ReferenceFilesPageTest, EditorOfThePlotBorderIsFollowedByARefresh)
 {
     ASSERT_TRUE(OpenPage());

@@ -1,6 +1,6 @@
-// Windows that are told of another resolution, against the same windows as they
-// open at that resolution. A thread that is not aware of resolutions opens its
-// windows at 96 dpi, whatever the system's resolution is: ./test runs this at four.
+// Compares windows that are notified of another resolution with windows that open at
+// that resolution. A thread that is not DPI-aware opens its windows at 96 pixels per
+// inch, independent of the system's resolution: ./test runs this at four resolutions.
 #include "pages/branding/ids.h"
 #include "pages/misc/ids.h"
 #include "resources/ids.h"
@@ -19,12 +19,12 @@ namespace
 constexpr UINT usualResolution = 96;
 constexpr std::size_t pageCount = 27;
 
-// Child windows get these before and after their top-level window is told.
+// Child windows get these before and after their top-level window is notified.
 constexpr UINT beforeParent = 0x02E2;
 constexpr UINT afterParent = 0x02E3;
 
 // Page sizes: larger than any content at any resolution, so that no page scrolls; too
-// narrow for most; too small for most in both directions.
+// narrow for most pages; too small for most pages in both directions.
 constexpr SIZE largePage{1400, 1700};
 constexpr SIZE narrowPage{300, 1700};
 constexpr SIZE smallPage{300, 200};
@@ -36,14 +36,14 @@ Function* UserFunction(const char* name)
         reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"user32.dll"), name)));
 }
 
-/// The resolution for which the calling thread's windows are made.
+/// The resolution at which the calling thread's windows are created.
 UINT ThreadResolution()
 {
     return UserFunction<UINT WINAPI()>("GetDpiForSystem")();
 }
 
-/// Makes the calling thread unaware of resolutions: its windows open at 96 dpi,
-/// and it measures windows of such threads.
+/// Makes the calling thread DPI-unaware: its windows open at 96 pixels per inch, and
+/// it measures windows of such threads.
 class UnawareThread
 {
   public:
@@ -88,7 +88,7 @@ LONG FontHeight(HWND control)
     return description.lfHeight;
 }
 
-/// What a list in report view shows of its resolution: a row's height, the columns.
+/// Measures of a list in report view that depend on its resolution: row height, column widths.
 std::vector<LONG> ListMeasures(HWND list)
 {
     RECT row = {LVIR_BOUNDS, 0, 0, 0};
@@ -100,8 +100,8 @@ std::vector<LONG> ListMeasures(HWND list)
     return measures;
 }
 
-/// The controls of a window in their order, each with its place, its font and what
-/// else depends on the resolution, in words.
+/// The controls of a window in order, each as text with its position, its font and
+/// its other properties that depend on the resolution.
 using Layout = std::vector<std::string>;
 
 std::string Describe(HWND control, HWND window)
@@ -139,7 +139,7 @@ Layout LayoutOf(HWND window)
     return layout;
 }
 
-/// What a page's scroll bars are set to: range and visible part of both.
+/// The settings of a page's scroll bars: range and visible part of both.
 std::vector<UINT> BarsOf(HWND page)
 {
     std::vector<UINT> bars;
@@ -154,8 +154,8 @@ std::vector<UINT> BarsOf(HWND page)
     return bars;
 }
 
-/// A page in three sizes: where its controls lie if it need not scroll and if it is
-/// narrow, and how far it scrolls.
+/// A page in three sizes: the positions of its controls when it does not scroll and when
+/// it is narrow, and its scroll range.
 struct PageMeasures {
     Layout layout;
     Layout narrow;
@@ -184,14 +184,14 @@ PageMeasures MeasurePage(HWND page)
     return measures;
 }
 
-/// A window and, of the dialog, all pages and the pane, most of them hidden.
+/// A window and, for the dialog, all pages and the pane, most of which are hidden.
 struct Measures {
     SIZE client = {};
     Layout layout;
     std::vector<PageMeasures> pages;
 };
 
-/// The window as after a resize: until then, a list's columns have widths of their own.
+/// The window after a resize; before it, a list's columns have widths of their own.
 Measures Measure(HWND window)
 {
     const SIZE client = ClientSize(window);
@@ -223,13 +223,13 @@ void ExpectSame(const Measures& expected, const Measures& measures)
     }
 }
 
-/// Tells the window of a resolution and gives it a place.
+/// Notifies the window of a resolution with a suggested rectangle.
 void Tell(HWND window, UINT resolution, RECT rect)
 {
     Send(window, WM_DPICHANGED, MAKEWPARAM(resolution, resolution), reinterpret_cast<LPARAM>(&rect));
 }
 
-/// The same with a place that leaves the window's top-left corner and gives it that
+/// The same with a rectangle that keeps the window's top-left corner and results in that
 /// client area.
 void Tell(HWND window, UINT resolution, SIZE client)
 {
@@ -240,8 +240,8 @@ void Tell(HWND window, UINT resolution, SIZE client)
     Tell(window, resolution, rect);
 }
 
-/// The pixels of four horizontal and eight vertical dialog units: the average letter
-/// and the line of the control's font.
+/// The size in pixels of four horizontal and eight vertical dialog units: the average
+/// letter width and the line height of the control's font.
 SIZE UnitsOf(HWND control)
 {
     HDC context = GetDC(nullptr);
@@ -274,7 +274,7 @@ int IconSize(LRESULT icon)
     return static_cast<int>(bitmap.bmWidth);
 }
 
-/// As Tell, with the notices that newer systems send to child windows around it.
+/// Tell, with the messages that newer systems send to child windows before and after it.
 void TellAll(HWND window, UINT resolution, SIZE client)
 {
     const std::vector<HWND> inside = ChildDialogs(window);
@@ -295,7 +295,7 @@ void ExpectGrown(const Measures& usual, const Measures& finer)
     }
 }
 
-/// A resize to the same size moves nothing.
+/// Expects that a resize to the same size moves nothing.
 void ExpectLaidOutAtOnce(HWND window)
 {
     std::vector<HWND> windows = ChildDialogs(window);
@@ -311,8 +311,8 @@ void ExpectLaidOutAtOnce(HWND window)
 class ResolutionTest : public DialogSession
 {
   protected:
-    /// What there is to compare with at 96 dpi: nothing else where that is the
-    /// system's resolution.
+    /// A resolution other than the system's: 96 if possible, otherwise
+    /// 144.
     UINT Other() const { return ThreadResolution() != usualResolution ? usualResolution : 144; }
 
     HWND OpenUnaware()
@@ -344,8 +344,8 @@ class ResolutionTest : public DialogSession
         EXPECT_TRUE(AwaitGone(window));
     }
 
-    /// The window opened by `open` at 96 dpi; nothing where that is no other
-    /// resolution than the system's.
+    /// Measures the window that `open` opens at 96 pixels per inch; nothing if that is the
+    /// system's resolution.
     template <class Opener>
     std::optional<Measures> MeasureAtUsualResolution(Opener open)
     {
@@ -361,7 +361,7 @@ class ResolutionTest : public DialogSession
         return measures;
     }
 
-    /// The window, told of the other resolution and back.
+    /// Expects the window to follow the other resolution and back.
     void ExpectFollowing(HWND window, const std::optional<Measures>& expected)
     {
         ASSERT_TRUE(window);
@@ -420,7 +420,7 @@ TEST_F(ResolutionTest, ValueEditorOpensAtTheDialogsResolution)
     Cancel();
 }
 
-/// 580 by 400 pixels at 96 dpi, and as many units at others.
+/// 580 by 400 pixels at 96 pixels per inch, and the same number of units at others.
 void ExpectSmallestSize(HWND window)
 {
     constexpr SIZE usualUnits{6, 13};

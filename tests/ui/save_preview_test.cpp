@@ -1,6 +1,6 @@
-// What ovprefs shows as the file that Save would write, against the dialog itself:
-// the samples, and random files with and without defaults. OV_PREVIEW_FILES asks for
-// more of them, OV_PREVIEW_SEED for others.
+// Compares the file that ovprefs previews with the one that the dialog saves: for the
+// samples, and for random files with and without defaults. OV_PREVIEW_FILES requests
+// more of them, OV_PREVIEW_SEED other ones.
 #include "config/core/config_reader.h"
 #include "framework/wide.h"
 #include "inspect/core/save_preview.h"
@@ -52,7 +52,7 @@ bool ReportsDate(const ov::SettingStore& store, int table)
     return false;
 }
 
-/// How many message boxes the dialog shows while it opens on the files.
+/// The number of message boxes that the dialog shows while it opens the files.
 int MessagesOnOpening(const std::string& current, const std::optional<std::string>& defaults)
 {
     ov::SettingStore store;
@@ -68,7 +68,7 @@ int MessagesOnOpening(const std::string& current, const std::optional<std::strin
 class SavePreviewTest : public DialogSession
 {
   protected:
-    /// The file after the dialog was opened on it, one change made and taken back, and Save pressed.
+    /// The file after the dialog was opened on it, one change was made and undone, and Save was pressed.
     std::string SavedByDialog(const std::string& current, const std::optional<std::string>& defaults)
     {
         UseCurrent(current);
@@ -86,7 +86,7 @@ class SavePreviewTest : public DialogSession
         return CurrentBytes();
     }
 
-    /// The preview equals what the dialog saves, byte for byte. The header's texts are the dialog's.
+    /// Expects the preview to equal the saved file byte for byte, with the dialog's header texts.
     void ExpectEqual(const std::string& current, const std::optional<std::string>& defaults)
     {
         const std::string saved = SavedByDialog(current, defaults);
@@ -116,7 +116,7 @@ class SavePreviewTest : public DialogSession
     }
 
   private:
-    /// For whoever looks into the failure.
+    /// Keeps the file for examining a failure.
     static void Keep(const std::string& name, const std::string& bytes)
     {
         const char* folder = std::getenv("OV_PREVIEW_KEEP");

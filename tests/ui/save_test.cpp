@@ -1,4 +1,4 @@
-// What Save writes, byte for byte, and what becomes of the backup.
+// The bytes that Save writes, and what happens to the backup.
 #include "pages/branding/ids.h"
 #include "pages/conforming/ids.h"
 #include "tests/ui/dialog_session.h"
@@ -15,7 +15,7 @@ namespace
 class SaveTest : public DialogSession
 {
   protected:
-    /// The saved file with "%DATE%" for its date, which has to be today's form.
+    /// The saved file with "%DATE%" for its date, which must be today's.
     std::string SavedBytes()
     {
         std::string bytes = CurrentBytes();
@@ -25,8 +25,8 @@ class SaveTest : public DialogSession
 
     static std::wstring CannotRename() { return L"Cannot rename backup file while saving."; }
 
-    /// The message that the old file could not be renamed, the system's text
-    /// below it.
+    /// Answers the message that the old file could not be renamed, which contains the
+    /// system's message.
     void AnswerCannotRename()
     {
         const auto box = AwaitBox();
@@ -113,7 +113,7 @@ TEST_F(SaveTest, SavingAnUntouchedFileAgainChangesNothingButTheDate)
     file.Add("_ORTHOVAL_MAX_ERROR_UORS", "\n#\n# error\n#\n", {"_ORTHOVAL_MAX_ERROR_UORS = 0.5"});
     file.Add("_SITE_TEXT", "\n# text\n", {"_SITE_TEXT = \"some text\""});
     file.AddMissingSettings();
-    // A comment line comes back without the blanks at its end.
+    // A comment line is saved without its trailing blanks.
     const std::string bytes =
         std::regex_replace(file.Bytes("Ada Archer"), std::regex("(#[^\r\n]*?) +\r\n"), "$1\r\n");
     UseCurrent(bytes);
@@ -155,7 +155,7 @@ TEST_F(SaveTest, ExistingFileLeavesNoBackupBehind)
 
 TEST_F(SaveTest, EveryCharacterOfTheFileSurvives)
 {
-    // In the "C" locale each byte is a character of its own.
+    // In the "C" locale each byte is one character.
     UseCurrent("_SITE_TEXT = \xE9t\xE9 \x80\xFF\r\n");
     ASSERT_TRUE(Open());
     TypeOnPage(IDC_BRANDING_RENAME, L"\u00C4ltere:\u00FC");
@@ -208,7 +208,7 @@ TEST_F(SaveTest, FileHeldOpenElsewhereKeepsItsBytesAndTheDialogItsEdits)
     ClickOnPage(IDC_BRANDING_AUTO);
     Press(IDC_PREFERENCES_SAVE);
     AnswerCannotRename();
-    // That the file cannot be created for writing has no message of its own.
+    // If the file cannot be created for writing, there is no message.
     ExpectOpen();
     EXPECT_TRUE(CanSave());
     EXPECT_TRUE(IsPageChecked(IDC_BRANDING_AUTO));

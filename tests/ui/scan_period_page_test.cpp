@@ -1,5 +1,5 @@
-// The Scan Period page in the dialog: what is in sight when, what is saved, and
-// the message about a date that does not exist.
+// The Scan Period page in the dialog: which controls are visible, what is saved, and
+// the message about an impossible date.
 #include "tests/ui/dialog_session.h"
 #include "tests/ui/expected_file.h"
 
@@ -40,21 +40,21 @@ class ScanPeriodPageTest : public DialogSession
     void Choose(int list, int entry) { SelectComboEntry(PageControl(list), entry); }
     int Chosen(int list) { return ComboSelection(PageControl(list)); }
 
-    /// Exactly these of the period's controls are in sight.
+    /// Expects only these of the period's controls to be visible.
     void ExpectInSight(const std::set<int>& expected)
     {
         for (const int id : Controls)
             EXPECT_EQ(expected.contains(id), IsShown(PageControl(id))) << id;
     }
-    /// Exactly these of the period's controls are enabled, whether in sight or not.
+    /// Expects only these of the period's controls to be enabled, visible or not.
     void ExpectEnabled(std::set<int> expected)
     {
-        // Nothing disables these.
+        // These are never disabled.
         expected.insert({IDC_SCAN_PERIOD_SECOND, IDC_SCAN_PERIOD_OR_SELECTOR});
         for (const int id : Controls)
             EXPECT_EQ(expected.contains(id), IsWindowEnabled(PageControl(id)) != FALSE) << id;
     }
-    /// A day as a person chooses it in the calendar.
+    /// Chooses a day as a user does in the calendar.
     void ChooseDay(int picker, WORD year, WORD month, WORD day)
     {
         SYSTEMTIME time = {};
@@ -125,7 +125,7 @@ TEST_F(ScanPeriodPageTest, ControlsAreEnabledWithTheirDate)
     ExpectEnabled(first);
     ClickOnPage(IDC_SCAN_PERIOD_SECOND);
     ExpectEnabled(both);
-    // An event takes the date out of sight and leaves it enabled.
+    // Choosing an event hides the date but leaves it enabled.
     Choose(IDC_SCAN_PERIOD_MODE_1, 3);
     Choose(IDC_SCAN_PERIOD_MODE_2, 3);
     ExpectEnabled(both);
@@ -177,7 +177,7 @@ TEST_F(ScanPeriodPageTest, SecondDateComesBackWithTheFirst)
 TEST_F(ScanPeriodPageTest, EveryChangeMarksTheDialog)
 {
     UseCurrent(Both);
-    // The last two hide what came before.
+    // The last two hide controls of earlier changes.
     const std::function<void()> changes[] = {[&] { ClickOnPage(IDC_SCAN_PERIOD_ALLOW_USER); },
                                              [&] { Choose(IDC_SCAN_PERIOD_SEGMENT_1, 0); },
                                              [&] { Choose(IDC_SCAN_PERIOD_SEGMENT_2, 1); },
@@ -236,7 +236,7 @@ TEST_F(ScanPeriodPageTest, DayThatKeysChangeIsSaved)
     PostKey(Dialog(), VK_UP);
     SYSTEMTIME day = {};
     ASSERT_EQ(GDT_VALID, SendMessageW(picker, DTM_GETSYSTEMTIME, 0, reinterpret_cast<LPARAM>(&day)));
-    // Whichever field comes first in the system's way of writing dates.
+    // One of the fields has changed; which one comes first depends on the system's date format.
     EXPECT_EQ(1, (day.wDay - 15) + (day.wMonth - 6) + (day.wYear - 2020));
     EXPECT_TRUE(CanSave());
     Save();
@@ -246,7 +246,7 @@ TEST_F(ScanPeriodPageTest, DayThatKeysChangeIsSaved)
               Saved(Settings));
 }
 
-/// Hours by which the clock here is ahead of universal time.
+/// The hours by which the local time is ahead of universal time.
 int HoursAhead()
 {
     SYSTEMTIME local = {};
@@ -263,7 +263,7 @@ int HoursAhead()
     return static_cast<int>(std::lround((ticks(times[0]) - ticks(times[1])) / ticksPerHour));
 }
 
-// Whoever runs this in several zones says in OV_ZONE_HOURS which one it is.
+// A script that runs this in several time zones passes the zone in OV_ZONE_HOURS.
 TEST_F(ScanPeriodPageTest, SecondDateStartsAsTodayInLocalTime)
 {
     if (const char* hours = std::getenv("OV_ZONE_HOURS")) {
@@ -277,7 +277,7 @@ TEST_F(ScanPeriodPageTest, SecondDateStartsAsTodayInLocalTime)
     SendMessageW(PageControl(IDC_SCAN_PERIOD_DATE_2), DTM_GETSYSTEMTIME, 0, reinterpret_cast<LPARAM>(&shown));
     SYSTEMTIME after = {};
     GetLocalTime(&after);
-    // Midnight may pass meanwhile.
+    // Midnight may pass during the test.
     EXPECT_TRUE((shown.wDay == before.wDay && shown.wMonth == before.wMonth && shown.wYear == before.wYear) ||
                 (shown.wDay == after.wDay && shown.wMonth == after.wMonth && shown.wYear == after.wYear))
         << shown.wDay << '.' << shown.wMonth << '.' << shown.wYear;

@@ -14,7 +14,7 @@ class SignatureCellPageTest : public PageDoors
   protected:
     bool OpenPage() { return Open() && ShowPage(L"Signature Cells"); }
 
-    /// All but the first box follow it.
+    /// All controls but the first check box depend on it.
     void ExpectEnabled(bool enabled)
     {
         for (const int id : {9495, 9509, 9501, 9499, 9500, 9502, 9497, 9498})
@@ -53,7 +53,7 @@ TEST_F(SignatureCellPageTest, FirstBoxEnablesTheOthersAtEveryMoment)
     UseDefaults("_ORTHOVAL_CHECK_SIGNATURECELL = 1\r\n");
     UseCurrent("_ORTHOVAL_CHECK_SIGNATURECELL = 0\r\n");
     ASSERT_TRUE(OpenPage());
-    EXPECT_FALSE(CanSave()); // neither loading nor showing the page leaves a mark
+    EXPECT_FALSE(CanSave()); // neither loading nor showing the page marks the dialog
     ExpectEnabled(false);
     ClickOnPage(IDC_SIGNATURE_CELL_CHECK);
     ExpectEnabled(true);

@@ -1,5 +1,5 @@
-// How the dialog opens: with neither file, with one, with both, and with a
-// current file that cannot be read.
+// Opens the dialog without files, with one, with both, and with a current file
+// that cannot be read.
 #include "pages/branding/ids.h"
 #include "pages/conforming/ids.h"
 #include "tests/ui/dialog_session.h"
@@ -13,7 +13,7 @@ namespace
 class StartTest : public DialogSession
 {
   protected:
-    /// All check boxes of the visible page that are on.
+    /// All checked check boxes of the visible page.
     std::vector<std::string> CheckedSettings(const std::vector<PageSetting>& settings)
     {
         std::vector<std::string> checked;
@@ -44,7 +44,7 @@ TEST_F(StartTest, WithNeitherFileNothingCanBeSavedOrLoadedAndCancelClosesAtOnce)
 
 TEST_F(StartTest, WithNeitherFilePagesShowEmptySettings)
 {
-    // Loading from the empty table replaces what the pages were built with.
+    // Loading from the empty table replaces the initial values of the pages.
     ASSERT_TRUE(Open());
     EXPECT_EQ(std::vector<std::string>{}, CheckedSettings(BrandingSettings()));
     ASSERT_TRUE(ShowPage(L"Conforming"));

@@ -1,5 +1,5 @@
-// New system colours while the dialog is open, as when a user turns on a
-// high-contrast theme: read from the pixels.
+// New system colours while the dialog is open, as when a user switches to a
+// high-contrast theme. The test reads pixels.
 #include "pages/branding/ids.h"
 #include "tests/ui/dialog_session.h"
 
@@ -10,7 +10,7 @@ using namespace uidriver;
 namespace
 {
 
-/// Other system colours, put back at the end.
+/// Sets other system colours, and restores them in the destructor.
 class SystemColours
 {
   public:
@@ -44,7 +44,7 @@ class SystemColoursTest : public DialogSession
         ReleaseDC(window, context);
         return pixel;
     }
-    /// The background, in the corner where nothing lies.
+    /// The background colour, in a corner without controls.
     static COLORREF Corner(HWND window)
     {
         RECT client = {};
@@ -64,8 +64,8 @@ class SystemColoursTest : public DialogSession
         }
         return false;
     }
-    // Each new colour redraws the dialog more than once: the system tells it, and so does the test. Between
-    // two of them everything is erased, so no pixel may be read only once.
+    // Each new colour redraws the dialog more than once: after the system's notification and the test's.
+    // In between everything is erased, so one reading of a pixel is not sufficient.
     static void AwaitCorner(HWND window, COLORREF colour)
     {
         EXPECT_TRUE(Await([&] { return Corner(window) == colour; })) << Corner(window);

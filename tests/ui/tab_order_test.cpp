@@ -1,4 +1,4 @@
-// Tab and Shift and Tab through every window.
+// Tab and Shift+Tab through every window.
 #include "pages/conforming/ids.h"
 #include "pages/drawing_scales/ids.h"
 #include "pages/logging/ids.h"
@@ -40,9 +40,9 @@ class TabOrderTest : public DialogSession
         return boxes;
     }
 
-    /// Ticks every check box and chooses the last radio button of each group,
-    /// again while that enables or shows others: what they switch on is reached
-    /// by Tab, too.
+    /// Checks every check box and chooses the last radio button of each group, repeatedly
+    /// while that enables or shows more of them: Tab must reach the controls that they
+    /// enable, too.
     void TickEverything()
     {
         for (bool changed = true; changed;) {
@@ -63,13 +63,13 @@ class TabOrderTest : public DialogSession
         }
     }
 
-    /// Walks once around, the focus always in view.
+    /// Walks around once and expects the focused control to be visible.
     void ExpectPageCycle()
     {
         ExpectTabCycle(Dialog(), List(), [this](HWND control) { ExpectInView(control); });
     }
 
-    /// The page's tab stops that Tab passes, for being hidden or disabled.
+    /// The page's tab stops that Tab skips, because they are hidden or disabled.
     std::set<int> PassedStops()
     {
         std::set<int> passed;
@@ -81,8 +81,8 @@ class TabOrderTest : public DialogSession
         return passed;
     }
 
-    /// The control is where the user sees it, or its beginning is, if it is
-    /// wider than what the scroll bars leave of the page.
+    /// Expects the user to see the control, or its beginning if it is wider than the
+    /// visible part of the page.
     void ExpectInView(HWND control)
     {
         if (!IsChild(Page(), control))
@@ -102,7 +102,7 @@ class TabOrderTest : public DialogSession
 
 TEST_F(TabOrderTest, EveryPageAtItsSmallestIsWalkedThroughOnceAndSeen)
 {
-    // What a text switches on.
+    // Enables the controls that depend on a text.
     UseCurrent("_ORTHOVAL_BORDERSHEETS = a.dgn\r\n_ORTHOVAL_BORDERSHEETS_PLOT_SHAPE = b\r\n");
     UseDefaults("_ORTHOVAL_CHECK_CELLS = 1\r\n");
     ASSERT_TRUE(Open());
@@ -118,11 +118,11 @@ TEST_F(TabOrderTest, EveryPageAtItsSmallestIsWalkedThroughOnceAndSeen)
         ExpectPageCycle();
     }
     const std::set<std::pair<std::wstring, int>> expected = {
-        // For a value of the file that is not edited here.
+        // Disabled, because it only shows a value of the file.
         {L"Logging", IDC_LOGGING_TRACKING},
         {L"Signature Cells", IDC_SIGNATURE_CELL_COUNT_FIELDS},
         {L"Title Blocks", IDC_TITLE_BLOCK_COUNT_FIELDS},
-        // Walked through in the next test.
+        // Tested in the next test.
         {L"Drawing Scales", IDC_DRAWING_SCALES_VALUES},
         {L"Drawing Scales", IDC_DRAWING_SCALES_VALUES_BROWSE},
         {L"Scan Period", IDC_SCAN_PERIOD_OR_SELECTOR},
@@ -169,11 +169,11 @@ TEST_F(TabOrderTest, TheListEditorIsWalkedThroughOnce)
         ASSERT_TRUE(editor);
         HWND list = GetDlgItem(editor, IDC_CONFIG_SETTING_LIST);
         EXPECT_EQ(list, FocusIn(editor));
-        // The row in the middle can be moved both ways: every button is enabled.
+        // The row in the middle can be moved both ways, so every button is enabled.
         SelectOnly(list, 1);
         EXPECT_EQ(c.browses ? 9u : 8u, TabStopsInReadingOrder(editor).size());
         ExpectTabCycle(editor, list);
-        // Without a row there is nothing to move or to delete, without a value nothing to insert.
+        // Without a row nothing can be moved or deleted; without a value nothing can be inserted.
         for (int row = 0; row < 3; ++row) {
             SelectOnly(list, 0);
             Click(GetDlgItem(editor, IDC_CONFIG_SETTING_DELETE));

@@ -46,7 +46,7 @@ void ExpectTabCycle(HWND window, HWND start, const std::function<void(HWND)>& lo
     ASSERT_NE(expected.end(), found) << "Tab does not stop where the walk is to begin";
     std::ranges::rotate(expected, found + 1); // the start comes last
     Focus(start);
-    // Numbers recur from page to page: the windows themselves are compared.
+    // Ids are repeated from page to page, so the windows themselves are compared.
     auto visited = Walk(window, expected.size(), false, look);
     EXPECT_TRUE(expected == visited) << testing::PrintToString(IdsOf(expected)) << " expected, not\n"
                                      << testing::PrintToString(IdsOf(visited));

@@ -1,5 +1,5 @@
-// The dialog templates of all pages that are built, against their rows and the
-// rules of their design.
+// Checks the dialog templates of all pages against their rows and the design
+// rules.
 #include "pages/core/page_catalogue.h"
 #include "pages/core/page_layout.h"
 #include "tests/ui/built_pages.h"
@@ -24,11 +24,11 @@ static void PrintTo(const RECT& rect, std::ostream* stream)
 namespace
 {
 
-// A dialog unit in pixels at 96 dpi.
+// The size of a dialog unit in pixels at 96 pixels per inch.
 constexpr double unitWidth = 1.5;
 constexpr double unitHeight = 1.625;
 
-// A drop-down list in its template is as high as opened; closed it is an edit.
+// In a template the height of a drop-down list is that of the open list; closed it is as high as an edit.
 constexpr LONG editHeight = 14;
 
 bool IsButton(const TemplateControl& control)
@@ -64,7 +64,7 @@ bool IsSpin(const TemplateControl& control)
 {
     return control.windowClass == L"msctls_updown32";
 }
-/// What a person fills in and cannot know without a label.
+/// Whether it is an input that needs a label.
 bool IsInput(const TemplateControl& control)
 {
     static const std::set<std::wstring> classes = {L"Edit", L"ComboBox", L"sysdatetimepick32",
@@ -72,7 +72,7 @@ bool IsInput(const TemplateControl& control)
     return classes.contains(control.windowClass);
 }
 
-/// Where it lies while no list is open.
+/// Its rectangle while no list is open.
 RECT Closed(const TemplateControl& control)
 {
     RECT rect = control.rect;
@@ -92,7 +92,7 @@ bool Contains(const RECT& outer, const RECT& inner)
            outer.bottom >= inner.bottom;
 }
 
-/// The font of the dialogs at 96 dpi.
+/// The font of the dialogs at 96 pixels per inch.
 class DialogFont
 {
   public:
@@ -111,7 +111,7 @@ class DialogFont
     DialogFont(const DialogFont&) = delete;
     DialogFont& operator=(const DialogFont&) = delete;
 
-    /// Pixels that the caption takes: in one line, or broken into lines of that width.
+    /// The size of the caption in pixels: in one line, or wrapped to that width.
     SIZE Measure(const std::wstring& caption, int width, bool breaks) const
     {
         RECT rect = {0, 0, width, 0};
@@ -125,7 +125,7 @@ class DialogFont
     HFONT m_font;
 };
 
-/// A page's rows, what is expected of it, and its template.
+/// A page's rows, its expected properties, and its template.
 struct BuiltPage {
     const PageRows& rows;
     const expected::Page& page;
@@ -168,7 +168,7 @@ struct BuiltPage {
     }
 };
 
-/// Calls `check` with every page that is built.
+/// Calls `check` with every page in the library.
 template <typename Check>
 void ForEachPage(Check check)
 {
@@ -286,7 +286,7 @@ TEST(Templates, HaveTheControlOfEveryExpectedSetting)
     });
 }
 
-/// Row by row: whatever begins above the middle of a row's first control stands in that row.
+/// Row by row: controls that begin above the middle of a row's first control belong to that row.
 std::vector<const TemplateControl*> InReadingOrder(const DialogTemplate& dialog)
 {
     std::vector<const TemplateControl*> controls;
@@ -333,12 +333,12 @@ TEST(Templates, LetTabStopAtWhatCanBeUsed)
             if (IsInput(control) || IsCheckBox(control) || IsPushButton(control)) {
                 EXPECT_TRUE(isStop || (control.style & ES_READONLY)) << control.id;
             } else if (IsRadioButton(control)) {
-                // The others stop Tab only while they are checked, which the system sees to.
+                // The system makes the others tab stops only while they are checked.
                 EXPECT_TRUE(isStop || !begins) << control.id;
             } else {
                 EXPECT_FALSE(isStop) << control.id;
             }
-            // Arrow keys go no further than the last button of a group.
+            // Arrow keys must not go beyond the last button of a group.
             if (i > 0 && IsRadioButton(page.dialog.controls[i - 1]) && !IsRadioButton(control)) {
                 EXPECT_TRUE(begins) << control.id << " follows a radio button";
             }
@@ -346,7 +346,7 @@ TEST(Templates, LetTabStopAtWhatCanBeUsed)
     });
 }
 
-/// The key that a caption names; 0 for none.
+/// The mnemonic of a caption; 0 for none.
 wchar_t Mnemonic(const std::wstring& caption)
 {
     for (std::size_t i = 0; i + 1 < caption.size(); ++i) {
@@ -377,11 +377,11 @@ TEST(Templates, NameEachKeyOnceTogetherWithTheDialog)
     });
 }
 
-/// Inputs without a label of their own, and why.
+/// Inputs that need no label of their own.
 bool IsExplainedByItsRow(const BuiltPage& page, const TemplateControl& control)
 {
     constexpr int scanPeriod = 20;
-    // The parts of a period read as a sentence from the box "Define a fixed scan period" on.
+    // The controls of a period read as a sentence that begins with "Define a fixed scan period".
     return page.page.pageId == scanPeriod && IsInput(control);
 }
 
@@ -435,7 +435,7 @@ TEST(Templates, DoNotLetControlsOverlap)
     });
 }
 
-// An up-down control takes its width from the right end of its edit.
+// An up-down control occupies the right end of its edit.
 TEST(Templates, PlaceUpDownControlsAtTheEndOfTheirEdits)
 {
     ForEachPage([](const BuiltPage& page) {
@@ -482,13 +482,13 @@ TEST(Templates, GiveControlsTheHeightOfTheirKind)
 TEST(Templates, GiveCaptionsTheRoomThatTheyTake)
 {
     const DialogFont font;
-    // What a box takes with its distance from the caption, a button's and a frame's edges.
+    // The width of a box including its distance from the caption, and the edges of buttons and frames.
     constexpr int boxWidth = 18;
     constexpr int buttonEdges = 6;
     constexpr int frameEdges = 18;
     ForEachPage([&](const BuiltPage& page) {
         for (const TemplateControl& control : page.dialog.controls) {
-            // What stretches with the page is wider in the dialog.
+            // Controls that stretch with the page are wider in the dialog.
             if (control.text.empty() || page.IsStretched(control.id))
                 continue;
             const bool isBox = IsCheckBox(control) || IsRadioButton(control);

@@ -35,7 +35,7 @@ TEST_F(ThirdPartyPageTest, EachBoxIsSavedAndShownAgain)
     EXPECT_FALSE(CanSave());
     for (const Box& box : boxes) {
         EXPECT_EQ(box.caption, PageText(box.id));
-        // Also those whose help says ON: the file does not have them.
+        // Includes those whose help text says ON, because the file does not contain them.
         EXPECT_FALSE(IsPageChecked(box.id)) << box.variable;
         ClickOnPage(box.id);
         EXPECT_TRUE(CanSave());

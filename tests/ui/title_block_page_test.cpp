@@ -82,7 +82,7 @@ TEST_F(TitleBlockPageTest, EveryControlIsSavedAndShownAgain)
     EXPECT_TRUE(IsPageChecked(IDC_TITLE_BLOCK_CHECK));
     EXPECT_EQ(L"P:\\cells\\title.cel", PageText(IDC_TITLE_BLOCK_LIBRARY));
     EXPECT_EQ(L"A1,A3", PageText(IDC_TITLE_BLOCK_NAMES));
-    // No text, no box.
+    // Without a text its check box is unchecked.
     EXPECT_EQ((std::set<int>{IDC_TITLE_BLOCK_USE_TAG_SETS, IDC_TITLE_BLOCK_USE_TAGS,
                              IDC_TITLE_BLOCK_USE_SPELL_CHECK}),
               CheckedTagBoxes());
@@ -93,7 +93,7 @@ TEST_F(TitleBlockPageTest, SwitchingPagesLosesNoEdit)
 {
     UseCurrent("_ORTHOVAL_CHECK_TITLEBLOCK = 1\r\n_ORTHOVAL_TITLEBLOCK_CELLS = old\r\n");
     ASSERT_TRUE(OpenPage());
-    TypeOnPage(IDC_TITLE_BLOCK_NAMES, L"new names"); // alone: nothing has read it yet
+    TypeOnPage(IDC_TITLE_BLOCK_NAMES, L"new names"); // only typed: nothing has read it yet
     ASSERT_TRUE(ShowPage(L"Branding"));
     ASSERT_TRUE(ShowPage(L"Title Blocks"));
     EXPECT_EQ(L"new names", PageText(IDC_TITLE_BLOCK_NAMES));
@@ -117,7 +117,7 @@ TEST_F(TitleBlockPageTest, SwitchingPagesLosesNoEdit)
 
 TEST_F(TitleBlockPageTest, ShowingThePageDoesNotMarkTheDialogModified)
 {
-    UseCurrent("_ORTHOVAL_TITLEBLOCK_TAGDEFS = C\r\n"); // its box goes, there is no tag set
+    UseCurrent("_ORTHOVAL_TITLEBLOCK_TAGDEFS = C\r\n"); // unchecks its box: there is no tag set
     ASSERT_TRUE(OpenPage());
     EXPECT_EQ(std::set<int>(), CheckedTagBoxes());
     EXPECT_EQ(L"C", PageText(IDC_TITLE_BLOCK_TAGS));
@@ -125,7 +125,7 @@ TEST_F(TitleBlockPageTest, ShowingThePageDoesNotMarkTheDialogModified)
     Cancel();
 }
 
-// Kept as it is.
+// Kept unchanged.
 TEST_F(TitleBlockPageTest, TypingCellNamesAloneDoesNotMarkTheDialogModifiedAndIsSavedWithTheRest)
 {
     UseCurrent("_ORTHOVAL_CHECK_TITLEBLOCK = 1\r\n");
@@ -168,7 +168,7 @@ TEST_F(TitleBlockPageTest, ClearingAllowedTagSetsUnchecksTheOtherTagBoxesAndTheT
     Save();
     ExpectTagsSaved();
     ASSERT_TRUE(OpenPage());
-    EXPECT_EQ(4u, CheckedTagBoxes().size()); // the texts are there, so are their boxes
+    EXPECT_EQ(4u, CheckedTagBoxes().size()); // the texts exist, so their check boxes are checked
     Cancel();
 }
 

@@ -1,5 +1,5 @@
-// The tooltip's display, which nothing in the program sets off: these tests arm
-// and call it, and look at what it draws.
+// The tooltip's window, which the program never shows: these tests start a show and
+// check what it draws.
 #include <algorithm>
 #include <array>
 #include <ostream>
@@ -28,13 +28,13 @@ constexpr int tailHeight = 25;
 
 constexpr auto fullText = u"<T>_ORTHOVAL_LLLL<H>HHHH<D>EEEE\r\nEEEE";
 
-// A room for each of the four placements, on a screen of any usual size.
+// Points with room for each of the four placements, on a screen of any usual size.
 constexpr CPoint topLeft(5, 5);
 constexpr CPoint topRight(600, 5);
 constexpr CPoint bottomLeft(5, 600);
 constexpr CPoint bottomRight(600, 600);
 
-/// Opens what a caller that shows tooltips would use.
+/// Gives access to the functions for showing tooltips.
 class ShownToolTip : public CToolTipControl
 {
   public:
@@ -57,7 +57,7 @@ class ShownToolTip : public CToolTipControl
     }
 };
 
-/// What the tooltip draws, on a background of a colour that it does not have.
+/// A picture of the tooltip, on a background colour that it does not use.
 class Picture
 {
   public:
@@ -80,7 +80,7 @@ class Picture
     int Height() const { return m_height; }
     COLORREF At(int x, int y) const { return ::GetPixel(m_context, x, y); }
 
-    /// Number of pixels of the colour within the rectangle.
+    /// The number of pixels of the colour within the rectangle.
     int Count(COLORREF colour, const CRect& rect) const
     {
         int count = 0;
@@ -90,7 +90,7 @@ class Picture
         }
         return count;
     }
-    /// First and last drawn column of a row; -1 for none.
+    /// The first and last drawn column of a row; -1 for none.
     std::pair<int, int> DrawnColumns(int y) const
     {
         std::pair<int, int> columns{-1, -1};
@@ -207,14 +207,14 @@ TEST_F(ToolTipDisplay, TailPointsAtTheAnchorInEveryPlacement)
         EXPECT_EQ(tip.m_side.right, right);
         EXPECT_EQ(tip.m_side.above, above);
         const Picture picture(tip);
-        // From the tip, which may be too thin to be drawn, the tail grows by a pixel a row.
+        // From its tip, which may be too thin to be drawn, the tail widens by one pixel per row.
         for (int row = 1; row < tailHeight; ++row) {
             const auto [first, last] = picture.DrawnColumns(above ? picture.Height() - 1 - row : row);
             const int outer = right ? first : picture.Width() - 1 - last;
             EXPECT_NEAR(outer, 12, 1) << row;
             EXPECT_NEAR(last - first + 1, row + 1, 1) << row;
         }
-        // The body takes the rest: no gap towards the tail, none at the far end.
+        // The body occupies the rest, without a gap at the tail or at the far end.
         for (int row = tailHeight + 5; row < picture.Height() - 5; ++row) {
             const auto [first, last] = picture.DrawnColumns(above ? picture.Height() - 1 - row : row);
             EXPECT_EQ(first, 0) << row;
@@ -225,7 +225,7 @@ TEST_F(ToolTipDisplay, TailPointsAtTheAnchorInEveryPlacement)
         const auto [first, last] = picture.DrawnColumns(above ? 1 : picture.Height() - 3);
         EXPECT_LE(first, 6);
         EXPECT_GE(last, picture.Width() - 8);
-        // The window is cut to what is drawn.
+        // The window's region is exactly what is drawn.
         CRgn region;
         ASSERT_TRUE(region.CreateRectRgnIndirect(CRect()));
         ASSERT_NE(::GetWindowRgn(tip, region), ERROR);
@@ -279,7 +279,7 @@ TEST_F(ToolTipDisplay, RectangleHasAnEdgeInTwoColours)
     EXPECT_EQ(picture.At(right, 0), ToolTipDarkFrameColour);
     EXPECT_EQ(picture.At(0, bottom), ToolTipDarkFrameColour);
     EXPECT_EQ(picture.At(right, bottom), ToolTipDarkFrameColour);
-    // Inside it the edge in the system's colours shows.
+    // Inside it is the edge in the system's colours.
     EXPECT_EQ(picture.At(1, 5), ::GetSysColor(COLOR_3DHILIGHT));
     EXPECT_EQ(picture.At(right - 1, 5), ::GetSysColor(COLOR_3DSHADOW));
     EXPECT_EQ(picture.At(2, 5), ToolTipFillColour);
@@ -305,7 +305,7 @@ TEST_F(ToolTipDisplay, SectionsStandBelowEachOtherInTheirColours)
                 else
                     EXPECT_EQ(picture.Count(colours[other], band), 0) << section << " has " << other;
             }
-            // Three pixels of fill separate it from the next.
+            // Three background pixels separate it from the next part.
             const CRect gap(12, band.bottom, picture.Width() - 12, band.bottom + 3);
             EXPECT_EQ(picture.Count(ToolTipFillColour, gap), gap.Width() * gap.Height()) << section;
             top = gap.bottom;
@@ -384,7 +384,7 @@ TEST_F(ToolTipDisplay, FontFollowsTheParents)
     tip.m_currentText = u"<H>Heading";
     tip.ShowAt(bottomRight);
     EXPECT_EQ(tip.m_outline.body.Height(), HeightOfText(30, FW_BOLD, false) + 30 / 3 + 2 * 10);
-    // The next window asks its own parent.
+    // The next window uses the font of its own parent.
     parent.SendMessage(WM_SETFONT, 0, FALSE);
     Make(ToolTipBalloon);
     tip.m_currentText = u"<H>Heading";
@@ -437,7 +437,7 @@ TEST_F(ToolTipDisplay, NothingArmsTheShow)
     EXPECT_FALSE(tip.IsWindowVisible());
 }
 
-/// The cursor stands in the middle of the control; a show waits for its delay.
+/// The cursor is in the middle of the control, and a show is waiting for its delay.
 class ToolTipTimers : public ToolTipDisplay
 {
   protected:
@@ -504,7 +504,7 @@ TEST_F(ToolTipTimers, OtherTimersDoNothing)
     EXPECT_TRUE(tip.m_pending);
 }
 
-// With the real timers and a short delay, by the messages as they come.
+// Uses the real timers with a short delay, and their messages as they arrive.
 TEST_F(ToolTipTimers, RunByThemselves)
 {
     tip.m_showDelay = 10;

@@ -1,4 +1,4 @@
-// A host of the universal C runtime, whose own setlocale the library does not see.
+// A host for the universal C runtime, whose own setlocale the library does not see.
 #include "pages/branding/ids.h"
 #include "resources/ids.h"
 #include "tests/support/await.h"
@@ -20,7 +20,7 @@ using namespace uidriver;
 namespace
 {
 
-/// The bytes of a text in the ANSI code page; nothing when it has not all its characters.
+/// The text's bytes in the ANSI code page; nothing if the code page lacks a character.
 std::optional<std::string> AnsiBytes(const std::wstring& text)
 {
     std::string bytes(text.size() * 4, '\0');

@@ -1,5 +1,5 @@
-// The keyboard focus never stays on what is hidden or disabled: from there the next letter would search
-// for a mnemonic without end.
+// The keyboard focus never stays on a hidden or disabled control: from there the next letter would search
+// for a mnemonic endlessly.
 #include "tests/ui/dialog_session.h"
 #include "tests/ui/value_editor.h"
 
@@ -18,7 +18,7 @@ constexpr const char* FixedPeriod =
 class UsableFocusTest : public DialogSession
 {
   protected:
-    /// Selects the category as accessibility tools do: by a message to the list, which need not have
+    /// Selects the category as accessibility tools do: with a message to the list, which may not have
     /// the focus.
     void SelectByMessage(const std::wstring& title)
     {
@@ -29,7 +29,7 @@ class UsableFocusTest : public DialogSession
 
     static constexpr unsigned FocusDeadline = 3000;
 
-    /// The category list has the focus, and the dialog takes keys.
+    /// Expects the category list to have the focus and the dialog to accept keys.
     void ExpectListFocused()
     {
         // On activation the system restores the old focus before the dialog can correct it.
@@ -43,8 +43,8 @@ class UsableFocusTest : public DialogSession
         EXPECT_TRUE(Settle(Dialog()));
     }
 
-    /// Activates the window until the dialog has lost the focus or got it back. The window manager may
-    /// still have an earlier activation under way, which comes after the first attempt.
+    /// Activates the window until the dialog has lost or regained the focus. An earlier activation by the
+    /// window manager may still be pending and arrive after the first attempt.
     bool Activate(HWND window)
     {
         const bool dialog = window == Dialog();
@@ -101,7 +101,7 @@ TEST_F(UsableFocusTest, OpenListsAndCalendarsCloseWithTheirPage)
     COMBOBOXINFO info = {};
     info.cbSize = sizeof info;
     ASSERT_TRUE(GetComboBoxInfo(combo, &info));
-    // Opened by a message, neither of them has the focus, by whose loss it would close.
+    // Opened by a message, they do not have the focus, so losing the focus does not close them.
     Send(combo, CB_SHOWDROPDOWN, TRUE);
     ASSERT_TRUE(IsWindowVisible(info.hwndList));
     ASSERT_NO_FATAL_FAILURE(SelectByMessage(L"Conforming"));
@@ -125,7 +125,7 @@ TEST_F(UsableFocusTest, LeavesAControlThatIsHiddenOnItsPage)
     ASSERT_TRUE(Open());
     ASSERT_TRUE(ShowPage(L"Scan Period"));
     Focus(PageControl(IDC_SCAN_PERIOD_MODE_1));
-    // Sent, as accessibility tools do: the box is pressed without getting the focus.
+    // Sent as by accessibility tools: the button is pressed without getting the focus.
     Send(PageControl(IDC_SCAN_PERIOD_FIXED), BM_CLICK);
     ASSERT_FALSE(IsShown(PageControl(IDC_SCAN_PERIOD_MODE_1)));
     EXPECT_TRUE(IsShown(FocusIn(Dialog())));

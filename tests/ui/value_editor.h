@@ -1,4 +1,4 @@
-/// The multi-entry editor that the "..." buttons of lists open.
+/// The list editor, opened by the "..." buttons of lists.
 #pragma once
 
 #include "tests/ui/dialog_session.h"
@@ -6,7 +6,7 @@
 #include <commctrl.h>
 
 /// Presses the "..." button.
-/// @return the editor; null when it does not come up.
+/// @return the list editor; null if it does not appear.
 inline HWND OpenValueEditor(HWND button)
 {
     uidriver::Click(button);
@@ -18,7 +18,7 @@ inline std::vector<std::wstring> ValueEditorRows(HWND editor)
     return uidriver::ListViewTexts(GetDlgItem(editor, IDC_CONFIG_SETTING_LIST));
 }
 
-/// Selects the row and no other; the dialog has seen to it then.
+/// Selects only this row and waits until the dialog has handled that.
 inline void SelectOnly(HWND list, int row)
 {
     LVITEMW none = {};
@@ -35,7 +35,7 @@ inline void InsertValue(HWND editor, const std::wstring& value)
     uidriver::Click(GetDlgItem(editor, IDC_CONFIG_SETTING_INSERT));
 }
 
-/// Closes the editor by IDOK or IDCANCEL; the dialog has taken its text then.
+/// Closes the editor with IDOK or IDCANCEL and waits until the dialog has taken over its text.
 inline void CloseValueEditor(HWND editor, int button)
 {
     HWND dialog = GetWindow(editor, GW_OWNER);

@@ -20,7 +20,7 @@ TEST_F(VersionPageTest, ServerVersionCannotBeEditedAndIsNotSaved)
     TypeText(PageControl(IDC_VERSION_SERVER), L"v7.0.0");
     EXPECT_EQ(L"v6.5.0", PageText(IDC_VERSION_SERVER));
     EXPECT_FALSE(CanSave());
-    // Not even a text that comes by another way is saved.
+    // A text that is set by other means is not saved, either.
     SetText(PageControl(IDC_VERSION_SERVER), L"v7.0.0");
     ClickOnPage(IDC_VERSION_WARN_MAJOR);
     Save();

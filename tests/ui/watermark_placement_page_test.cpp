@@ -19,7 +19,7 @@ struct TextField {
     const char* assignment; ///< after "mark it" was typed
 };
 
-// What goes in as a path or a number stands without quotes.
+// Paths and numbers are written without quotes.
 constexpr TextField fields[] = {
     {IDC_WATERMARK_PLACEMENT_USER_STRING, "_ORTHOVAL_REPLACETEXT_USERDEFINED_STRING", " = \"mark it\""},
     {IDC_WATERMARK_PLACEMENT_DATE_STRING, "_ORTHOVAL_REPLACETEXT_DATE_STRING", " = mark it"},

@@ -102,7 +102,7 @@ TEST_F(WeightingPageTest, ValueBeyondTheBarIsKeptUntilTheBarMoves)
     EXPECT_EQ("_ORTHOVAL_WEIGHTING_TEXTHEIGHT = 0", Saved("_ORTHOVAL_WEIGHTING_TEXTHEIGHT"));
 }
 
-// The bars of this page send what its own scroll bar sends.
+// The track bars send the same messages as the page's own scroll bar.
 TEST_F(WeightingPageTest, ScrollOfAnotherWindowMarksAndThePagesOwnDoesNot)
 {
     UseCurrent("_ORTHOVAL_WEIGHTING_STYLE = 2\r\n");

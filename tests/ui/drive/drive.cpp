@@ -1,5 +1,5 @@
-// ovDrive: a command line over the dialog driver, for scripts. One command a
-// call; the dialog lives in another process. Exit code 0, or 1 with the reason
+// ovDrive: a command line for the dialog driver, for scripts. One command per
+// call; the dialog is in another process. The exit code is 0, or 1 with the reason
 // on stderr.
 #include "tests/support/category_list.h"
 #include "tests/support/control_actions.h"
@@ -17,11 +17,11 @@ using namespace uidriver;
 namespace
 {
 
-// What the commands drive; "in" names another one.
+// The window that the commands drive; the option "in" selects another one.
 const wchar_t* dialogCaption = L"Preferences";
 constexpr const wchar_t* BoxCaption = L"Orthoval for MicroStation Preferences";
 
-// Controls come with their page, which the commands have waited for.
+// Controls appear with their page, for which the commands have already waited.
 constexpr unsigned ControlDeadline = 2000;
 
 constexpr const char* Usage = R"(usage: ovDrive COMMAND
@@ -64,7 +64,7 @@ int ToInt(const wchar_t* text)
     return static_cast<int>(std::wcstol(text, nullptr, 10));
 }
 
-// The dialog, waited for; says so when it does not come up.
+// Waits for the dialog and returns it; reports an error if it does not appear.
 HWND OpenDialog()
 {
     HWND dialog = AwaitTopWindow(dialogCaption);
@@ -197,7 +197,7 @@ int WaitClose(Arguments arguments)
         return 0;
     DWORD processId = 0;
     GetWindowThreadProcessId(dialog, &processId);
-    // Opened before the press: a process that has ended cannot be asked.
+    // Opened before the press, because a process that has ended cannot be opened.
     HANDLE host = OpenProcess(SYNCHRONIZE | PROCESS_QUERY_LIMITED_INFORMATION, FALSE, processId);
     if (!arguments.empty() && Press(arguments) != 0)
         return 1;

@@ -1,9 +1,9 @@
-// ovUniversalHost [--as-the-header-says] FILE: a host that is built for the
-// universal C runtime alone and opens the dialog on the file. It has none of the
-// compiler's own start code, which would bring the older runtime.
+// ovUniversalHost [--as-the-header-says] FILE: a host built for the universal C
+// runtime alone, which opens the dialog for the file. It does not use the
+// compiler's startup code, because that would load the older runtime.
 //
-// Exit code: that of the call; 100 when the library cannot be loaded, 101 when the
-// locale of the older runtime cannot be set.
+// The exit code is that of the call; 100 if the library cannot be loaded, 101 if
+// the locale of the older runtime cannot be set.
 #include "include/ovPreferences.h"
 
 #include <windows.h>
@@ -15,7 +15,7 @@
 namespace
 {
 
-// The lines are the host's own; a host has no need of this project's style.
+// The lines belong to the host, to which this project's style rules do not apply.
 bool SetLocaleAsTheHeaderSays()
 {
 #include "set_locale_lines.inc"
@@ -34,7 +34,7 @@ unsigned Run()
 {
     int count = 0;
     const wchar_t* const* const arguments = CommandLineToArgvW(GetCommandLineW(), &count);
-    // Of this host's runtime, as every host does; the library does not see it.
+    // Sets the locale of this host's runtime, as every host does; the library does not see it.
     setlocale(LC_CTYPE, "");
     if (count > 2 && !SetLocaleAsTheHeaderSays())
         return 101;
