@@ -12,9 +12,7 @@
 
 #include <algorithm>
 #include <charconv>
-#include <locale>
 #include <span>
-#include <sstream>
 
 namespace ov
 {
@@ -72,11 +70,10 @@ std::optional<double> NumberOf(TextView text)
         text.remove_prefix(1);
     const bool plain =
         std::ranges::all_of(text, [](char16_t c) { return IsDigit(c) || c == u'.' || c == u'-'; });
-    // Not from_chars: libc++ has it for integers only.
-    std::istringstream input(Utf8FromText(text));
-    input.imbue(std::locale::classic());
+    const std::string bytes = Utf8FromText(text);
     double number = 0;
-    if (!plain || !(input >> number) || input.peek() != std::istringstream::traits_type::eof())
+    const auto result = std::from_chars(bytes.data(), bytes.data() + bytes.size(), number);
+    if (!plain || result.ec != std::errc() || result.ptr != bytes.data() + bytes.size())
         return std::nullopt;
     return number;
 }

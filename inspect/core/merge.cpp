@@ -28,22 +28,22 @@ bool SameValue(const MergeVariable* first, const MergeVariable* second)
 }
 
 // The side whose version of a variable, or of its comment, is used.
-enum class Winner { Ours, Theirs, Both };
+enum class Choice { Ours, Theirs, Both };
 
-Winner ChooseValue(const MergeVariable* base, const MergeVariable* ours, const MergeVariable* theirs)
+Choice ChooseValue(const MergeVariable* base, const MergeVariable* ours, const MergeVariable* theirs)
 {
     if (SameValue(theirs, base) || SameValue(theirs, ours))
-        return Winner::Ours;
-    return SameValue(ours, base) ? Winner::Theirs : Winner::Both;
+        return Choice::Ours;
+    return SameValue(ours, base) ? Choice::Theirs : Choice::Both;
 }
 
 // Both files assign the variable. Without a common version, having a comment is better than having none.
-Winner ChooseComment(const MergeVariable* base, const MergeVariable& ours, const MergeVariable& theirs)
+Choice ChooseComment(const MergeVariable* base, const MergeVariable& ours, const MergeVariable& theirs)
 {
     const Text common = base != nullptr ? base->comment : Text();
     if (theirs.comment == common || theirs.comment == ours.comment)
-        return Winner::Ours;
-    return ours.comment == common ? Winner::Theirs : Winner::Both;
+        return Choice::Ours;
+    return ours.comment == common ? Choice::Theirs : Choice::Both;
 }
 
 // The entries of a list, by the lines that add them: before the inherited entries or after them.
@@ -115,29 +115,29 @@ class Merger
     {
         const MergeVariable* const base = m_base.Find(ours.name);
         const MergeVariable* const theirs = m_theirs.Find(ours.name);
-        const Winner choice = ChooseValue(base, &ours, theirs);
+        const Choice choice = ChooseValue(base, &ours, theirs);
         if (theirs == nullptr) {
-            if (choice == Winner::Ours)
+            if (choice == Choice::Ours)
                 Want(ours.name, &ours);
             else
                 RemoveOurs(ours,
-                           choice == Winner::Theirs && base != nullptr && base->comment == ours.comment);
+                           choice == Choice::Theirs && base != nullptr && base->comment == ours.comment);
             return;
         }
-        Winner comment = ChooseComment(base, ours, *theirs);
-        if (base == nullptr && comment == Winner::Both && choice == Winner::Ours)
-            comment = Winner::Ours;
+        Choice comment = ChooseComment(base, ours, *theirs);
+        if (base == nullptr && comment == Choice::Both && choice == Choice::Ours)
+            comment = Choice::Ours;
         if (m_refused.contains(ours.name))
-            comment = Winner::Both;
-        if (comment == Winner::Both) {
+            comment = Choice::Both;
+        if (comment == Choice::Both) {
             PutConflict(ours, theirs, true);
             return;
         }
-        if (comment == Winner::Theirs)
+        if (comment == Choice::Theirs)
             ReplaceComment(ours, *theirs);
-        if (choice == Winner::Ours)
+        if (choice == Choice::Ours)
             Want(ours.name, &ours);
-        else if (choice == Winner::Theirs)
+        else if (choice == Choice::Theirs)
             TakeTheirs(ours, *theirs);
         else if (!MergeLists(base, ours, *theirs))
             PutConflict(ours, theirs, false);

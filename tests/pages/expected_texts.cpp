@@ -3,7 +3,7 @@
 namespace expected
 {
 
-// The texts include misspellings and repeated blanks.
+// Including misspellings and repeated blanks.
 // clang-format off
 const std::vector<FixedText>& FixedTexts()
 {
