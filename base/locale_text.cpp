@@ -207,7 +207,7 @@ EncodeResult EncodeUtf8(TextView text, std::string& bytes)
 bool AppendMultiByte(wchar_t character, std::string& bytes)
 {
     std::string buffer(static_cast<std::size_t>(MB_CUR_MAX), '\0');
-    std::wctomb(nullptr, 0);
+    [[maybe_unused]] const int hasStates = std::wctomb(nullptr, 0);
     const int length = std::wctomb(buffer.data(), character);
     if (length <= 0)
         return false;

@@ -1,5 +1,5 @@
 // Measures reading, writing and saving of configuration files, in comparison with other libraries on the
-// same files. The reference is the minimum work of any reader: reading the file and finding its line
+// same files. The baseline is the minimum work of any reader: reading the file and finding its line
 // ends.
 
 #include "bench/config_input.h"

@@ -78,8 +78,8 @@ class CWnd : public CCmdTarget
     /// Sets the window's region, in window coordinates. On success the window owns
     /// the region; 0 means failure.
     int SetWindowRgn(HRGN region, BOOL redraw) { return ::SetWindowRgn(m_hWnd, region, redraw); }
-    /// Centres a top-level window over its owner, or on the screen if it has none,
-    /// the work area.
+    /// Centres a top-level window over its owner, or on the screen if it has none. The
+    /// window stays inside the work area.
     void CenterWindow();
 
     // --- parents and children ------------------------------------------------

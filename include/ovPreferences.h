@@ -9,7 +9,7 @@
  *
  *   - ovPreferences_showDialog and ovPreferences_showDialogEx, declared below,
  *     under these plain names. A host links the import library (ovPreferences.dll.a
- *     for MinGW, ovPreferences.lib for linkers of MSVC's kind), or uses LoadLibrary
+ *     for MinGW, ovPreferences.lib for MSVC-compatible linkers), or uses LoadLibrary
  *     and GetProcAddress with the function pointer types and names below.
  *   - ??4BSize@UIFramework@Bentley@@QEAAAEAV012@AEBV012@@Z and
  *     ??4BSize@UIFramework@Bentley@@QEAAAEAV012@$$QEAV012@@Z, the copy and the
@@ -130,8 +130,8 @@ OV_PREFERENCES_API unsigned int ovPreferences_showDialog(void);
  * Shows the dialog for the given files.
  *
  * Each text is null-terminated. A null text keeps the one set by an earlier
- * call; an empty text clears it. The texts last until the
- * library is unloaded: a later call that passes null uses them again.
+ * call; an empty text clears it. The texts are kept until the library is
+ * unloaded: a later call that passes null uses them again.
  *
  * @param parent       The window whose top-level window owns the dialog, or null
  *                     (see Parents).

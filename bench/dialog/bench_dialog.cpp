@@ -1,5 +1,5 @@
 // Measures how fast the dialog opens, changes pages and saves. The library is called as a host calls
-// it, in this process and on this thread. The reference is the system's own work: creating, showing and
+// it, in this process and on this thread. The baseline is the system's own work: creating, showing and
 // drawing windows from the same templates, without any code behind them.
 //
 // A timer drives the dialog. Timer messages come last in a queue: when one arrives, everything is drawn.

@@ -12,7 +12,9 @@
 
 #include <algorithm>
 #include <charconv>
+#include <locale>
 #include <span>
+#include <sstream>
 
 namespace ov
 {
@@ -70,10 +72,11 @@ std::optional<double> NumberOf(TextView text)
         text.remove_prefix(1);
     const bool plain =
         std::ranges::all_of(text, [](char16_t c) { return IsDigit(c) || c == u'.' || c == u'-'; });
-    const std::string bytes = Utf8FromText(text);
+    // Not from_chars: libc++ has it for integers only.
+    std::istringstream input(Utf8FromText(text));
+    input.imbue(std::locale::classic());
     double number = 0;
-    const auto result = std::from_chars(bytes.data(), bytes.data() + bytes.size(), number);
-    if (!plain || result.ec != std::errc() || result.ptr != bytes.data() + bytes.size())
+    if (!plain || !(input >> number) || input.peek() != std::istringstream::traits_type::eof())
         return std::nullopt;
     return number;
 }

@@ -28,22 +28,22 @@ bool SameValue(const MergeVariable* first, const MergeVariable* second)
 }
 
 // The side whose version of a variable, or of its comment, is used.
-enum class Choice { Ours, Theirs, Both };
+enum class Winner { Ours, Theirs, Both };
 
-Choice ChooseValue(const MergeVariable* base, const MergeVariable* ours, const MergeVariable* theirs)
+Winner ChooseValue(const MergeVariable* base, const MergeVariable* ours, const MergeVariable* theirs)
 {
     if (SameValue(theirs, base) || SameValue(theirs, ours))
-        return Choice::Ours;
-    return SameValue(ours, base) ? Choice::Theirs : Choice::Both;
+        return Winner::Ours;
+    return SameValue(ours, base) ? Winner::Theirs : Winner::Both;
 }
 
 // Both files assign the variable. Without a common version, having a comment is better than having none.
-Choice ChooseComment(const MergeVariable* base, const MergeVariable& ours, const MergeVariable& theirs)
+Winner ChooseComment(const MergeVariable* base, const MergeVariable& ours, const MergeVariable& theirs)
 {
     const Text common = base != nullptr ? base->comment : Text();
     if (theirs.comment == common || theirs.comment == ours.comment)
-        return Choice::Ours;
-    return ours.comment == common ? Choice::Theirs : Choice::Both;
+        return Winner::Ours;
+    return ours.comment == common ? Winner::Theirs : Winner::Both;
 }
 
 // The entries of a list, by the lines that add them: before the inherited entries or after them.
@@ -115,29 +115,29 @@ class Merger
     {
         const MergeVariable* const base = m_base.Find(ours.name);
         const MergeVariable* const theirs = m_theirs.Find(ours.name);
-        const Choice choice = ChooseValue(base, &ours, theirs);
+        const Winner choice = ChooseValue(base, &ours, theirs);
         if (theirs == nullptr) {
-            if (choice == Choice::Ours)
+            if (choice == Winner::Ours)
                 Want(ours.name, &ours);
             else
                 RemoveOurs(ours,
-                           choice == Choice::Theirs && base != nullptr && base->comment == ours.comment);
+                           choice == Winner::Theirs && base != nullptr && base->comment == ours.comment);
             return;
         }
-        Choice comment = ChooseComment(base, ours, *theirs);
-        if (base == nullptr && comment == Choice::Both && choice == Choice::Ours)
-            comment = Choice::Ours;
+        Winner comment = ChooseComment(base, ours, *theirs);
+        if (base == nullptr && comment == Winner::Both && choice == Winner::Ours)
+            comment = Winner::Ours;
         if (m_refused.contains(ours.name))
-            comment = Choice::Both;
-        if (comment == Choice::Both) {
+            comment = Winner::Both;
+        if (comment == Winner::Both) {
             PutConflict(ours, theirs, true);
             return;
         }
-        if (comment == Choice::Theirs)
+        if (comment == Winner::Theirs)
             ReplaceComment(ours, *theirs);
-        if (choice == Choice::Ours)
+        if (choice == Winner::Ours)
             Want(ours.name, &ours);
-        else if (choice == Choice::Theirs)
+        else if (choice == Winner::Theirs)
             TakeTheirs(ours, *theirs);
         else if (!MergeLists(base, ours, *theirs))
             PutConflict(ours, theirs, false);

@@ -13,7 +13,7 @@ namespace ov::test
 inline constexpr std::uint32_t kMatchTooManyCalls = 1;
 inline constexpr std::size_t kAnyNumberOfCalls = std::numeric_limits<std::size_t>::max();
 
-/// The reference for MatchPattern: the wildcard walk in its simplest form, rule by rule, with a recursive
+/// For comparison with MatchPattern: the wildcard walk in its simplest form, rule by rule, with a recursive
 /// call for each recursion, regardless of cost and depth. Supports every type except PERL and POSIX.
 /// Returns kMatchTooManyCalls if it would need more than `calls` calls.
 std::uint32_t LiteralMatch(std::uint32_t* match, const char16_t* pattern, const char16_t* text,

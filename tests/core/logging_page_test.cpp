@@ -1,4 +1,4 @@
-// What is peculiar to the Logging page.
+// Behaviour that only the Logging page has.
 #include "pages/core/page_rows.h"
 #include "pages/core/page_values.h"
 
@@ -60,7 +60,7 @@ TEST(LoggingPage, NeverShownAddsWhatIsMissingWithItsBuiltInValues)
     EXPECT_EQ(store.Count(kCurrentTable), 3u);
 }
 
-// More than 16 bits hold.
+// More than 16 bits can hold.
 TEST(LoggingPage, LogFileMayBeAHundredMegabytes)
 {
     ASSERT_GE(ov::kLoggingRows.spins.size(), 1u);

@@ -90,7 +90,7 @@ std::string Described(const Row& row)
            "', type " + std::to_string(row.type) + ", case flag " + std::to_string(row.caseFlag);
 }
 
-// Checks the matcher's results and, except for regular expressions, those of the reference.
+// Checks the matcher's results and, except for regular expressions, those of the simple walk.
 void Check(const std::vector<Row>& rows)
 {
     for (const Row& row : rows) {

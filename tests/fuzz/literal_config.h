@@ -21,7 +21,7 @@ struct LiteralRecord {
 
 using LiteralTable = std::map<Text, LiteralRecord>;
 
-/// Reads and writes configuration files without any optimisation: the reference for the product's
+/// Reads and writes configuration files without any optimisation, for comparison with the product's
 /// reader and writer.
 struct LiteralStore {
     LiteralTable current;

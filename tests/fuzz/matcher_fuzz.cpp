@@ -89,7 +89,7 @@ bool Occurs(const Text& part, const Text& text, bool exact)
     return false;
 }
 
-// PCRE2 is the reference; an expression without special characters is searched for literally.
+// PCRE2 gives the expected result; an expression without special characters is searched for literally.
 void CheckPerl(const Text& pattern, const Text& text, int caseFlag)
 {
     const Answer answer = Ask(pattern, text, WildcardTypePerl, caseFlag);

@@ -3,7 +3,7 @@
 namespace expected
 {
 
-// Including misspellings and repeated blanks.
+// The texts include misspellings and repeated blanks.
 // clang-format off
 const std::vector<FixedText>& FixedTexts()
 {

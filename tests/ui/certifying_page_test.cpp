@@ -104,53 +104,12 @@ TEST_F(CertifyingPageTest, ReferencesOfMinusOneOrSevenSelectTheThirdButton)
     }
 }
 
-TEST_F(CertifyingPageTest, WhatIsSetIsSavedAndShownAgain)
-{
-    m_currentPath = m_folder / L"new.cfg";
-    ASSERT_TRUE(OpenPage());
-    ClickOnPage(IDC_CERTIFYING_CHECK_MARKER_CELLS);
-    ClickOnPage(IDC_CERTIFYING_NO_DIFFERING);
-    TypeOnPage(IDC_CERTIFYING_PRE_KEYIN, L"file design");
-    TypeOnPage(IDC_CERTIFYING_POST_KEYIN, L"fit view extended");
-    ClickOnPage(IDC_CERTIFYING_REFERENCES_MUST);
-    Save();
-    EXPECT_EQ("_ORTHOVAL_CERTIFY_CHECK_REFERENCE_MARKERCELLS = 1",
-              Saved("_ORTHOVAL_CERTIFY_CHECK_REFERENCE_MARKERCELLS"));
-    EXPECT_EQ("_ORTHOVAL_CERTIFY_PREWATERMARK_KEYIN = \"file design\"",
-              Saved("_ORTHOVAL_CERTIFY_PREWATERMARK_KEYIN"));
-    EXPECT_EQ("_ORTHOVAL_CERTIFY_POSTWATERMARK_KEYIN = \"fit view extended\"",
-              Saved("_ORTHOVAL_CERTIFY_POSTWATERMARK_KEYIN"));
-    EXPECT_EQ("_ORTHOVAL_CERTIFY_CHECK_REFERENCE_WATERMARKS = 1",
-              Saved("_ORTHOVAL_CERTIFY_CHECK_REFERENCE_WATERMARKS"));
-    ASSERT_TRUE(OpenPage());
-    EXPECT_TRUE(IsPageChecked(IDC_CERTIFYING_PLACE_MARKER_CELL));
-    EXPECT_TRUE(IsPageChecked(IDC_CERTIFYING_CHECK_MARKER_CELLS));
-    EXPECT_TRUE(IsPageChecked(IDC_CERTIFYING_NO_DIFFERING));
-    EXPECT_EQ(L"file design", PageText(IDC_CERTIFYING_PRE_KEYIN));
-    EXPECT_EQ(L"fit view extended", PageText(IDC_CERTIFYING_POST_KEYIN));
-    EXPECT_EQ(1, References());
-    Cancel();
-}
-
 TEST_F(CertifyingPageTest, RefusalMovesTheFocusForTheSecondKeyinOnly)
 {
     ASSERT_TRUE(OpenPage());
     ExpectRefusal(IDC_CERTIFYING_PRE_KEYIN, IDC_CERTIFYING_PRE_KEYIN_BROWSE, IDC_CERTIFYING_PRE_KEYIN_BROWSE);
     ExpectRefusal(IDC_CERTIFYING_POST_KEYIN, IDC_CERTIFYING_POST_KEYIN_BROWSE, IDC_CERTIFYING_POST_KEYIN);
     Abandon();
-}
-
-TEST_F(CertifyingPageTest, EachChangeMarksModified)
-{
-    ExpectEachMarksModified(L"Certifying", {
-                                               [&] { ClickOnPage(IDC_CERTIFYING_PLACE_MARKER_CELL); },
-                                               [&] { ClickOnPage(IDC_CERTIFYING_CHECK_MARKER_CELLS); },
-                                               [&] { ClickOnPage(IDC_CERTIFYING_NO_DIFFERING); },
-                                               [&] { TypeOnPage(IDC_CERTIFYING_PRE_KEYIN, L"a"); },
-                                               [&] { TypeOnPage(IDC_CERTIFYING_POST_KEYIN, L"a"); },
-                                               [&] { ClickOnPage(IDC_CERTIFYING_REFERENCES_MUST); },
-                                               [&] { ClickOnPage(IDC_CERTIFYING_REFERENCES_USER); },
-                                           });
 }
 
 } // namespace

@@ -19,33 +19,6 @@ class ColourTablePageTest : public DialogSession
     HWND Remap() const { return PageControl(IDC_COLOUR_TABLE_REMAP); }
 };
 
-TEST_F(ColourTablePageTest, EveryControlIsSavedAndShownAgain)
-{
-    m_currentPath = m_folder / L"new.cfg";
-    ASSERT_TRUE(OpenPage());
-    EXPECT_EQ(L"Allowed Colour Tables", PageText(IDC_COLOUR_TABLE_ALLOWED_LABEL));
-    EXPECT_EQ(L"Allow any colour table", PageText(IDC_COLOUR_TABLE_ALLOW_ANY));
-    EXPECT_EQ(L"Check colour table on opening a DGN", PageText(IDC_COLOUR_TABLE_CHECK_ON_OPEN));
-    EXPECT_EQ(L"When attaching a new colour table...", PageText(IDC_COLOUR_TABLE_REMAP_LABEL));
-    TypeOnPage(IDC_COLOUR_TABLE_ALLOWED, L"S:\\a.tbl");
-    ClickOnPage(IDC_COLOUR_TABLE_ALLOW_ANY);
-    ClickOnPage(IDC_COLOUR_TABLE_CHECK_ON_OPEN);
-    SelectComboEntry(Remap(), 0);
-    Save();
-    EXPECT_EQ("_ORTHOVAL_COLOURTABLES = S:\\a.tbl", Saved("_ORTHOVAL_COLOURTABLES"));
-    EXPECT_EQ("_ORTHOVAL_ALLOW_ANY_COLOURTABLE = 1", Saved("_ORTHOVAL_ALLOW_ANY_COLOURTABLE"));
-    EXPECT_EQ("_ORTHOVAL_PROMPT_COLOURTABLE_ON_FILE_OPEN = 1",
-              Saved("_ORTHOVAL_PROMPT_COLOURTABLE_ON_FILE_OPEN"));
-    EXPECT_EQ("_ORTHOVAL_PROMPT_COLOURTABLE_REMAP = 0", Saved("_ORTHOVAL_PROMPT_COLOURTABLE_REMAP"));
-    ASSERT_TRUE(OpenPage());
-    EXPECT_EQ(L"S:\\a.tbl", PageText(IDC_COLOUR_TABLE_ALLOWED));
-    EXPECT_TRUE(IsPageChecked(IDC_COLOUR_TABLE_ALLOW_ANY));
-    EXPECT_TRUE(IsPageChecked(IDC_COLOUR_TABLE_CHECK_ON_OPEN));
-    EXPECT_EQ(0, ComboSelection(Remap()));
-    EXPECT_FALSE(CanSave());
-    Cancel();
-}
-
 TEST_F(ColourTablePageTest, ListHasItsEntriesInOrderAndStartsWithPrompting)
 {
     ASSERT_TRUE(OpenPage());

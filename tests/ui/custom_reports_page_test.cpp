@@ -13,25 +13,6 @@ class CustomReportsPageTest : public PageSession
     bool OpenPage() { return Open() && ShowPage(L"Custom Reports"); }
 };
 
-TEST_F(CustomReportsPageTest, WhatIsSetIsSavedAndShownAgain)
-{
-    m_currentPath = m_folder / L"new.cfg";
-    ASSERT_TRUE(OpenPage());
-    TypeOnPage(IDC_CUSTOM_REPORTS_COMMANDS, L"a,b,c,d");
-    ClickOnPage(IDC_CUSTOM_REPORTS_LOCKED);
-    TypeOnPage(IDC_CUSTOM_REPORTS_VBA, L"P:\\one.mvba");
-    Save();
-    EXPECT_EQ("_ORTHOVAL_REPORT_CUSTOM_COMMANDS = \"a,b,c,d\"", Saved("_ORTHOVAL_REPORT_CUSTOM_COMMANDS"));
-    EXPECT_EQ("_ORTHOVAL_REPORT_CUSTOM_COMMANDS_LOCKED = 1",
-              Saved("_ORTHOVAL_REPORT_CUSTOM_COMMANDS_LOCKED"));
-    EXPECT_EQ("_ORTHOVAL_REPORT_CUSTOM_MVBA = \"P:\\one.mvba\"", Saved("_ORTHOVAL_REPORT_CUSTOM_MVBA"));
-    ASSERT_TRUE(OpenPage());
-    EXPECT_EQ(L"a,b,c,d", PageText(IDC_CUSTOM_REPORTS_COMMANDS));
-    EXPECT_TRUE(IsPageChecked(IDC_CUSTOM_REPORTS_LOCKED));
-    EXPECT_EQ(L"P:\\one.mvba", PageText(IDC_CUSTOM_REPORTS_VBA));
-    Cancel();
-}
-
 TEST_F(CustomReportsPageTest, CommandsAreEditedInFourFields)
 {
     ASSERT_TRUE(OpenPage());
@@ -62,15 +43,6 @@ TEST_F(CustomReportsPageTest, RefusalLeavesTheFocusOnTheButton)
                   IDC_CUSTOM_REPORTS_COMMANDS_BROWSE);
     ExpectRefusal(IDC_CUSTOM_REPORTS_VBA, IDC_CUSTOM_REPORTS_VBA_BROWSE, IDC_CUSTOM_REPORTS_VBA_BROWSE);
     Abandon();
-}
-
-TEST_F(CustomReportsPageTest, EachChangeMarksModified)
-{
-    ExpectEachMarksModified(L"Custom Reports", {
-                                                   [&] { TypeOnPage(IDC_CUSTOM_REPORTS_COMMANDS, L"a"); },
-                                                   [&] { TypeOnPage(IDC_CUSTOM_REPORTS_VBA, L"a"); },
-                                                   [&] { ClickOnPage(IDC_CUSTOM_REPORTS_LOCKED); },
-                                               });
 }
 
 } // namespace

@@ -25,45 +25,6 @@ class DrawingScalesPageTest : public PageSession
     }
 };
 
-TEST_F(DrawingScalesPageTest, EveryControlIsSavedAndShownAgain)
-{
-    m_currentPath = m_folder / L"new.cfg";
-    ASSERT_TRUE(OpenPage());
-    EXPECT_EQ(L"Prompt user for drawing scale when not set", PageText(2202));
-    EXPECT_EQ(L"Allow undefined drawing scale in reports", PageText(2203));
-    EXPECT_EQ(L"Ignore annotation scale lock when reading model annotation scale", PageText(2208));
-    EXPECT_EQ(L"Use MicroStation built-in values for allowable scales", PageText(2205));
-    EXPECT_EQ(L"Allow any user-defined drawing scale", PageText(2206));
-    EXPECT_EQ(L"Allowed drawing scale values", PageText(2200));
-    EXPECT_FALSE(CanSave());
-    for (const int box : {2202, 2203, 2208, 2206}) {
-        EXPECT_FALSE(IsPageChecked(box)) << box;
-        ClickOnPage(box);
-        EXPECT_TRUE(CanSave()) << box;
-    }
-    TypeOnPage(2201, L"1:20,1:50");
-    TypeOnPage(2213, L"50");
-    TypeOnPage(2211, L"one;two");
-    Save();
-    EXPECT_EQ("_ORTHOVAL_PROMPT_DRAWINGSCALES = 1", Saved("_ORTHOVAL_PROMPT_DRAWINGSCALES"));
-    EXPECT_EQ("_ORTHOVAL_DRAWINGSCALE_ALLOW_NONE = 1", Saved("_ORTHOVAL_DRAWINGSCALE_ALLOW_NONE"));
-    EXPECT_EQ("_ORTHOVAL_DRAWINGSCALE_ANNO_LOCK = 1", Saved("_ORTHOVAL_DRAWINGSCALE_ANNO_LOCK"));
-    EXPECT_EQ("_ORTHOVAL_DRAWINGSCALE_USE_DEFAULT = 0", Saved("_ORTHOVAL_DRAWINGSCALE_USE_DEFAULT"));
-    EXPECT_EQ("_ORTHOVAL_DRAWINGSCALE_VALUES = \"[1:20,1:50]\"", Saved("_ORTHOVAL_DRAWINGSCALE_VALUES"));
-    EXPECT_EQ("_ORTHOVAL_DRAWINGSCALE_DEFAULT_VALUE = 50", Saved("_ORTHOVAL_DRAWINGSCALE_DEFAULT_VALUE"));
-    EXPECT_EQ("_ORTHOVAL_DRAWINGSCALE_COMMAND = one|_ORTHOVAL_DRAWINGSCALE_COMMAND > two",
-              Saved("_ORTHOVAL_DRAWINGSCALE_COMMAND"));
-    ASSERT_TRUE(OpenPage());
-    for (const int box : {2202, 2203, 2208, 2206})
-        EXPECT_TRUE(IsPageChecked(box)) << box;
-    EXPECT_FALSE(IsPageChecked(2205));
-    EXPECT_EQ(L"1:20,1:50", PageText(2201));
-    EXPECT_EQ(L"50", PageText(2213));
-    EXPECT_EQ(L"one;two", PageText(2211));
-    EXPECT_FALSE(CanSave());
-    Cancel();
-}
-
 TEST_F(DrawingScalesPageTest, ListInBracketsLosesThemHereAndGetsThemBackInTheFile)
 {
     UseCurrent("_ORTHOVAL_DRAWINGSCALE_VALUES = \"[1:50,1:100]\"\r\n");

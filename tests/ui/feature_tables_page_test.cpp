@@ -12,36 +12,6 @@ class FeatureTablesPageTest : public PageSession
 {
 };
 
-TEST_F(FeatureTablesPageTest, BoxesAndTextsAreSaved)
-{
-    m_currentPath = m_folder / L"new.cfg";
-    ASSERT_TRUE(Open());
-    ASSERT_TRUE(ShowPage(L"Feature Tables"));
-    constexpr std::pair<int, const char*> boxes[] = {
-        {IDC_FEATURE_TABLES_DICT_VERSIONING, "_ORTHOVAL_USEDICTVERSIONING"},
-        {IDC_FEATURE_TABLES_TRICAD, "_ORTHOVAL_SUPPORT_TRICAD"},
-        {IDC_FEATURE_TABLES_SHAPES_AS_LINEAR, "_ORTHOVAL_CHECK_SHAPESASLINEAR"},
-        {IDC_FEATURE_TABLES_SHOW_HIDDEN, "_ORTHOVAL_FEATURES_SHOWHIDDEN"},
-        {IDC_FEATURE_TABLES_SHOW_SUGGESTED, "_ORTHOVAL_FEATURES_SHOWSUGGESTED"},
-        {IDC_FEATURE_TABLES_ATTACHED_TAGS, "_ORTHOVAL_CHECK_ATTACHED_TAGS"},
-        {IDC_FEATURE_TABLES_ORDER_BY_DESCRIPTION, "_ORTHOVAL_TABLE_ORDERBY_DESCRIPTION"},
-    };
-    for (const auto& [box, variable] : boxes) {
-        EXPECT_FALSE(IsPageChecked(box)) << variable;
-        ClickOnPage(box);
-    }
-    TypeOnPage(IDC_FEATURE_TABLES_SQL_LONG_STRING, L"VARCHAR(2000)");
-    Save();
-    for (const auto& [box, variable] : boxes)
-        EXPECT_EQ(std::string(variable) + " = 1", Saved(variable));
-    ASSERT_TRUE(Open());
-    ASSERT_TRUE(ShowPage(L"Feature Tables"));
-    for (const auto& [box, variable] : boxes)
-        EXPECT_TRUE(IsPageChecked(box)) << variable;
-    EXPECT_EQ(L"VARCHAR(2000)", PageText(IDC_FEATURE_TABLES_SQL_LONG_STRING));
-    Cancel();
-}
-
 TEST_F(FeatureTablesPageTest, ListsOfTableNamesAreTakenApartAtCommasNotAtSemicolons)
 {
     ASSERT_TRUE(Open());

@@ -13,34 +13,6 @@ class LanguagesPageTest : public DialogSession
 {
 };
 
-TEST_F(LanguagesPageTest, EveryTextIsChangedSavedAndShownAgain)
-{
-    constexpr std::pair<int, const char*> texts[] = {
-        {IDC_LANGUAGES_MENU_NAME, "_ORTHOVAL_MENU_NAME"},
-        {IDC_LANGUAGES_LANGUAGE_1, "_ORTHOVAL_BILINGUAL_TEXT_LANGUAGE_1"},
-        {IDC_LANGUAGES_LANGUAGE_2, "_ORTHOVAL_BILINGUAL_TEXT_LANGUAGE_2"},
-        {IDC_LANGUAGES_KEYIN_1, "_ORTHOVAL_BILINGUAL_TEXT_KEYIN_1"},
-        {IDC_LANGUAGES_KEYIN_2, "_ORTHOVAL_BILINGUAL_TEXT_KEYIN_2"},
-        {IDC_LANGUAGES_INITIAL_KEYIN, "_ORTHOVAL_BILINGUAL_TEXT_INITIAL_KEYIN"},
-        {IDC_LANGUAGES_TEMPLATE_FILE, "_ORTHOVAL_BILINGUAL_TEXT_TEMPLATE_FILE"},
-    };
-    m_currentPath = m_folder / L"new.cfg";
-    ASSERT_TRUE(Open());
-    ASSERT_TRUE(ShowPage(L"Languages"));
-    for (const auto& [control, variable] : texts)
-        TypeOnPage(control, L"text" + std::to_wstring(control));
-    Save();
-    const std::string bytes = CurrentBytes();
-    for (const auto& [control, variable] : texts)
-        EXPECT_NE(std::string::npos, AssignmentOf(bytes, variable).find("text" + std::to_string(control)))
-            << variable;
-    ASSERT_TRUE(Open());
-    ASSERT_TRUE(ShowPage(L"Languages"));
-    for (const auto& [control, variable] : texts)
-        EXPECT_EQ(L"text" + std::to_wstring(control), PageText(control)) << variable;
-    Cancel();
-}
-
 TEST_F(LanguagesPageTest, KeyinsAreListsAndARefusalKeepsTheFocusAtTheirEdit)
 {
     ASSERT_TRUE(Open());

@@ -33,25 +33,6 @@ TEST_F(LoggingPageTest, TrackingIsShownButCannotBeChanged)
     Abandon();
 }
 
-TEST_F(LoggingPageTest, WhatIsSetIsSavedAndShownAgain)
-{
-    m_currentPath = m_folder / L"new.cfg";
-    ASSERT_TRUE(OpenPage());
-    EXPECT_FALSE(IsPageChecked(IDC_LOGGING_TRACKING));
-    EXPECT_EQ(L"", PageText(IDC_LOGGING_MAX_SIZE));
-    EXPECT_EQ(0, PageSelection(IDC_LOGGING_DEBUG_LEVEL));
-    TypeOnPage(IDC_LOGGING_MAX_SIZE, L"2048");
-    SelectOnPage(IDC_LOGGING_DEBUG_LEVEL, 2);
-    Save();
-    EXPECT_EQ("_ORTHOVAL_REPORT_TRACKING = 0", Saved("_ORTHOVAL_REPORT_TRACKING"));
-    EXPECT_EQ("ORTHOVAL_LOG_FILE_MAXSIZE = 2048", Saved("ORTHOVAL_LOG_FILE_MAXSIZE"));
-    EXPECT_EQ("_ORTHOVAL_LOG_FILE_DEBUGLEVEL = 2", Saved("_ORTHOVAL_LOG_FILE_DEBUGLEVEL"));
-    ASSERT_TRUE(OpenPage());
-    EXPECT_EQ(L"2048", PageText(IDC_LOGGING_MAX_SIZE));
-    EXPECT_EQ(2, PageSelection(IDC_LOGGING_DEBUG_LEVEL));
-    Cancel();
-}
-
 TEST_F(LoggingPageTest, DebugLevelsAreZeroToTwo)
 {
     ASSERT_TRUE(OpenPage());
@@ -91,14 +72,6 @@ TEST_F(LoggingPageTest, MaximumSizeTakesDigitsOnly)
     TypeText(PageControl(IDC_LOGGING_MAX_SIZE), L"1x2,3");
     EXPECT_EQ(L"123", PageText(IDC_LOGGING_MAX_SIZE));
     Abandon();
-}
-
-TEST_F(LoggingPageTest, EachChangeMarksModified)
-{
-    ExpectEachMarksModified(L"Logging", {
-                                            [&] { TypeOnPage(IDC_LOGGING_MAX_SIZE, L"1"); },
-                                            [&] { SelectOnPage(IDC_LOGGING_DEBUG_LEVEL, 1); },
-                                        });
 }
 
 } // namespace

@@ -41,44 +41,6 @@ class NamingPagesTest : public PageDoors, public testing::WithParamInterface<con
     const NamingPage& page = *GetParam();
 };
 
-TEST_P(NamingPagesTest, EveryControlIsSavedAndShownAgain)
-{
-    m_currentPath = m_folder / L"new.cfg";
-    ASSERT_TRUE(OpenPage());
-    ClickOnPage(page.prompt);
-    TypeOnPage(page.templates, L"B-0??.DGN");
-    TypeOnPage(page.descriptions, L" Border sheets ");
-    TypeOnPage(page.document, L"P:\\docs\\names.pdf");
-    TypeOnPage(page.text, L"B, a zero");
-    Save();
-    EXPECT_EQ(page.variable + "_PROMPT = 1", Saved(page.variable + "_PROMPT"));
-    EXPECT_EQ(page.variable + " = \"B-0??.DGN\"", Saved(page.variable));
-    EXPECT_EQ(page.variable + "_HELP_FILE = \"P:\\docs\\names.pdf\"", Saved(page.variable + "_HELP_FILE"));
-    ASSERT_TRUE(OpenPage());
-    EXPECT_TRUE(IsPageChecked(page.prompt));
-    EXPECT_EQ(L"B-0??.DGN", PageText(page.templates));
-    EXPECT_EQ(L"P:\\docs\\names.pdf", PageText(page.document));
-    EXPECT_EQ(L"B, a zero", PageText(page.text));
-    Cancel();
-}
-
-TEST_P(NamingPagesTest, EveryControlMarksTheDialogModified)
-{
-    UseCurrent(page.variable + "_PROMPT = 0\r\n");
-    ASSERT_TRUE(OpenPage());
-    EXPECT_FALSE(CanSave());
-    for (const int id : {page.prompt, page.templates, page.descriptions, page.document, page.text}) {
-        SCOPED_TRACE(id);
-        if (id == page.prompt)
-            ClickOnPage(id);
-        else
-            TypeOnPage(id, L"x");
-        EXPECT_TRUE(CanSave());
-        TakeMarkBack();
-    }
-    Cancel();
-}
-
 TEST_P(NamingPagesTest, TemplatesBetweenSemicolonsOpenInTheEditor)
 {
     ASSERT_TRUE(OpenPage());

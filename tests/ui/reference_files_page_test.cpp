@@ -63,48 +63,6 @@ TEST_F(ReferenceFilesPageTest, CaptionsAreTheProductsOwn)
     Cancel();
 }
 
-TEST_F(ReferenceFilesPageTest, EveryControlIsSavedAndShownAgain)
-{
-    m_currentPath = m_folder / L"new.cfg";
-    ASSERT_TRUE(OpenPage());
-    EXPECT_TRUE(IsPageChecked(9380));
-    TypeOnPage(BorderSheets, L"S:\\a1.dgn,Default");
-    TypeOnPage(PlotShape, L"lv=Plot;co=6");
-    TypeOnPage(3006, L"one;two");
-    for (const int box : {3003, 3000, 3004, 9378, 9506, 9511, 9512, 9510, 9509}) {
-        EXPECT_FALSE(IsPageChecked(box)) << box;
-        ClickOnPage(box);
-        EXPECT_TRUE(IsPageChecked(box)) << box;
-    }
-    ClickOnPage(9380);
-    TypeOnPage(ScaleFactor, L"1.1");
-    SelectComboEntry(PageControl(11066), 1);
-    Save();
-    for (const char* variable :
-         {"_ORTHOVAL_PROMPT_REF_ATTACHED", "_ORTHOVAL_PROMPT_REF_DETACHED", "_ORTHOVAL_PROMPT_REF_MODIFIED",
-          "_ORTHOVAL_REPORT_REFS_SCALEINDEPENDENT", "_ORTHOVAL_CHECK_BORDERSHEETS",
-          "_ORTHOVAL_BORDERSHEETS_DEFAULT_MODEL", "_ORTHOVAL_BORDERSHEETS_PLOTSHAPE_EXISTS",
-          "_ORTHOVAL_BORDERSHEETS_DISALLOW_OUTSIDE", "_ORTHOVAL_BORDERSHEETS_IGNORE_OUTSIDE"})
-        EXPECT_EQ(std::string(variable) + " = 1", Saved(variable));
-    EXPECT_EQ("_ORTHOVAL_REPORT_REF_UNSCALE_DIMS = 0", Saved("_ORTHOVAL_REPORT_REF_UNSCALE_DIMS"));
-    EXPECT_EQ("_ORTHOVAL_BORDERSHEETS = \"S:\\a1.dgn,Default\"", Saved("_ORTHOVAL_BORDERSHEETS"));
-    EXPECT_EQ("_ORTHOVAL_PLACE_BORDER_KEYIN = one|_ORTHOVAL_PLACE_BORDER_KEYIN > two",
-              Saved("_ORTHOVAL_PLACE_BORDER_KEYIN"));
-    EXPECT_EQ("_ORTHOVAL_BORDERSHEETS_PLOT_SHAPE = lv=Plot|_ORTHOVAL_BORDERSHEETS_PLOT_SHAPE > co=6",
-              Saved("_ORTHOVAL_BORDERSHEETS_PLOT_SHAPE"));
-    EXPECT_EQ("_ORTHOVAL_REPORT_USEREFCLIPPING = 0", Saved("_ORTHOVAL_REPORT_USEREFCLIPPING"));
-    ASSERT_TRUE(OpenPage());
-    for (const int box : {3003, 3000, 3004, 9378, 9506, 9511, 9512, 9510, 9509})
-        EXPECT_TRUE(IsPageChecked(box)) << box;
-    EXPECT_FALSE(IsPageChecked(9380));
-    EXPECT_EQ(L"S:\\a1.dgn,Default", PageText(BorderSheets));
-    EXPECT_EQ(L"one;two", PageText(3006));
-    EXPECT_EQ(L"lv=Plot;co=6", PageText(PlotShape));
-    EXPECT_EQ(L"1.1", PageText(ScaleFactor));
-    EXPECT_EQ(1, ComboSelection(PageControl(11066)));
-    Cancel();
-}
-
 TEST_F(ReferenceFilesPageTest, ClippingThatIsAbsentOrMinusOneIsUserDefinedAndSavedAsMinusOne)
 {
     for (const char* bytes : {"", "_ORTHOVAL_REPORT_USEREFCLIPPING = -1\r\n"}) {

@@ -138,48 +138,6 @@ TEST_F(ReportingPageTest, LoadingTheDefaultsSetsTheEditsRight)
     Abandon();
 }
 
-TEST_F(ReportingPageTest, WhatIsSetIsSavedAndShownAgain)
-{
-    m_currentPath = m_folder / L"new.cfg";
-    ASSERT_TRUE(OpenPage());
-    TypeOnPage(IDC_REPORTING_MAX_ERRORS, L"500");
-    ClickOnPage(IDC_REPORTING_PROMPT_MAX_ERRORS);
-    ClickOnPage(IDC_REPORTING_ADD_REFERENCES);
-    TypeOnPage(IDC_REPORTING_NEST_LEVEL, L"3");
-    ClickOnPage(IDC_REPORTING_LEGACY_NESTING);
-    TypeOnPage(IDC_REPORTING_IGNORED, L"survey.dgn");
-    SelectOnPage(IDC_REPORTING_MODELS, 0);
-    ClickOnPage(IDC_REPORTING_MODELS_USER_DEFINABLE);
-    ClickOnPage(IDC_REPORTING_NAME_USER_DEFINED);
-    TypeOnPage(IDC_REPORTING_NAME, L"mine");
-    ClickOnPage(IDC_REPORTING_FOLDER_DISCIPLINE);
-    Save();
-    EXPECT_EQ("_ORTHOVAL_REPORT_MAXLOGGABLE = 500", Saved("_ORTHOVAL_REPORT_MAXLOGGABLE"));
-    EXPECT_EQ("_ORTHOVAL_REPORT_PROMPTMAXLOG = 1", Saved("_ORTHOVAL_REPORT_PROMPTMAXLOG"));
-    EXPECT_EQ("_ORTHOVAL_REPORT_AUTOGETREFS = 1", Saved("_ORTHOVAL_REPORT_AUTOGETREFS"));
-    EXPECT_EQ("_ORTHOVAL_REPORT_REFS_NESTLEVEL = 3", Saved("_ORTHOVAL_REPORT_REFS_NESTLEVEL"));
-    EXPECT_EQ("_ORTHOVAL_REPORT_REFS_LEGACY_NESTING = 1", Saved("_ORTHOVAL_REPORT_REFS_LEGACY_NESTING"));
-    EXPECT_EQ("_ORTHOVAL_REPORT_IGNORED_REFFILES = \"survey.dgn\"",
-              Saved("_ORTHOVAL_REPORT_IGNORED_REFFILES"));
-    EXPECT_EQ("_ORTHOVAL_REPORT_AUTOGETMODELS = -1", Saved("_ORTHOVAL_REPORT_AUTOGETMODELS"));
-    EXPECT_EQ("_ORTHOVAL_REPORT_NAMING = \"mine\"", Saved("_ORTHOVAL_REPORT_NAMING"));
-    EXPECT_EQ("_ORTHOVAL_REPORT_OUTPUT_DEFAULT_NAME = \"$(ORTHOVAL_CURRENT_DISCIPLINE)\"",
-              Saved("_ORTHOVAL_REPORT_OUTPUT_DEFAULT_NAME"));
-    ASSERT_TRUE(OpenPage());
-    EXPECT_EQ(L"500", PageText(IDC_REPORTING_MAX_ERRORS));
-    EXPECT_TRUE(IsPageChecked(IDC_REPORTING_PROMPT_MAX_ERRORS));
-    EXPECT_TRUE(IsPageChecked(IDC_REPORTING_ADD_REFERENCES));
-    EXPECT_EQ(L"3", PageText(IDC_REPORTING_NEST_LEVEL));
-    EXPECT_TRUE(IsPageChecked(IDC_REPORTING_LEGACY_NESTING));
-    EXPECT_EQ(L"survey.dgn", PageText(IDC_REPORTING_IGNORED));
-    EXPECT_EQ(0, PageSelection(IDC_REPORTING_MODELS));
-    EXPECT_FALSE(IsPageChecked(IDC_REPORTING_MODELS_USER_DEFINABLE));
-    EXPECT_TRUE(IsPageChecked(IDC_REPORTING_NAME_USER_DEFINED));
-    EXPECT_EQ(L"mine", PageText(IDC_REPORTING_NAME));
-    EXPECT_TRUE(IsPageChecked(IDC_REPORTING_FOLDER_DISCIPLINE));
-    Cancel();
-}
-
 TEST_F(ReportingPageTest, ArrowsStepWithinTheirRanges)
 {
     ASSERT_TRUE(OpenPage());
@@ -225,25 +183,6 @@ TEST_F(ReportingPageTest, RefusalTakesTheFocusAway)
     ASSERT_TRUE(OpenPage());
     ExpectRefusal(IDC_REPORTING_IGNORED, IDC_REPORTING_IGNORED_BROWSE, 0);
     Abandon();
-}
-
-TEST_F(ReportingPageTest, EachChangeMarksModified)
-{
-    UseCurrent("_ORTHOVAL_REPORT_NAMING = \"mine\"\r\n_ORTHOVAL_REPORT_OUTPUT_DEFAULT_NAME = \"P:\\\"\r\n");
-    ExpectEachMarksModified(L"Reporting", {
-                                              [&] { TypeOnPage(IDC_REPORTING_MAX_ERRORS, L"1"); },
-                                              [&] { ClickOnPage(IDC_REPORTING_PROMPT_MAX_ERRORS); },
-                                              [&] { ClickOnPage(IDC_REPORTING_ADD_REFERENCES); },
-                                              [&] { TypeOnPage(IDC_REPORTING_NEST_LEVEL, L"1"); },
-                                              [&] { ClickOnPage(IDC_REPORTING_LEGACY_NESTING); },
-                                              [&] { TypeOnPage(IDC_REPORTING_IGNORED, L"a"); },
-                                              [&] { SelectOnPage(IDC_REPORTING_MODELS, 1); },
-                                              [&] { ClickOnPage(IDC_REPORTING_MODELS_USER_DEFINABLE); },
-                                              [&] { TypeOnPage(IDC_REPORTING_NAME, L"a"); },
-                                              [&] { ClickOnPage(IDC_REPORTING_NAME_USER_FILE); },
-                                              [&] { TypeOnPage(IDC_REPORTING_FOLDER, L"a"); },
-                                              [&] { ClickOnPage(IDC_REPORTING_FOLDER_STANDARD); },
-                                          });
 }
 
 } // namespace

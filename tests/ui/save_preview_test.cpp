@@ -5,6 +5,7 @@
 #include "framework/wide.h"
 #include "inspect/core/save_preview.h"
 #include "pages/branding/ids.h"
+#include "pages/core/page_rows.h"
 #include "pages/scan_period/rows.h"
 #include "tests/data/test_data.h"
 #include "tests/pages/random_file.h"

@@ -24,30 +24,6 @@ class SignatureCellPageTest : public PageDoors
     }
 };
 
-TEST_F(SignatureCellPageTest, EveryControlIsSavedAndShownAgain)
-{
-    m_currentPath = m_folder / L"new.cfg";
-    ASSERT_TRUE(OpenPage());
-    ClickOnPage(IDC_SIGNATURE_CELL_CHECK);
-    EXPECT_TRUE(CanSave());
-    ClickOnPage(IDC_SIGNATURE_CELL_DEFAULT_MODEL);
-    ClickOnPage(IDC_SIGNATURE_CELL_ALLOW_ONE);
-    TypeOnPage(IDC_SIGNATURE_CELL_LIBRARY, L"P:\\cells\\sign.cel");
-    TypeOnPage(IDC_SIGNATURE_CELL_NAMES, L"SIGN-A;SIGN-B");
-    Save();
-    EXPECT_EQ("_ORTHOVAL_CHECK_SIGNATURECELL = 1", Saved("_ORTHOVAL_CHECK_SIGNATURECELL"));
-    EXPECT_EQ("_ORTHOVAL_SIGNATURECELL_DEFAULT_MODEL = 1", Saved("_ORTHOVAL_SIGNATURECELL_DEFAULT_MODEL"));
-    EXPECT_EQ("_ORTHOVAL_SIGNATURECELL_ALLOW_ONE = 1", Saved("_ORTHOVAL_SIGNATURECELL_ALLOW_ONE"));
-    EXPECT_EQ("", Saved("_ORTHOVAL_SIGNATURECELL_COUNT_EDF"));
-    ASSERT_TRUE(OpenPage());
-    for (const int id :
-         {IDC_SIGNATURE_CELL_CHECK, IDC_SIGNATURE_CELL_DEFAULT_MODEL, IDC_SIGNATURE_CELL_ALLOW_ONE})
-        EXPECT_TRUE(IsPageChecked(id)) << id;
-    EXPECT_EQ(L"P:\\cells\\sign.cel", PageText(IDC_SIGNATURE_CELL_LIBRARY));
-    EXPECT_EQ(L"SIGN-A;SIGN-B", PageText(IDC_SIGNATURE_CELL_NAMES));
-    Cancel();
-}
-
 TEST_F(SignatureCellPageTest, FirstBoxEnablesTheOthersAtEveryMoment)
 {
     UseDefaults("_ORTHOVAL_CHECK_SIGNATURECELL = 1\r\n");

@@ -30,25 +30,6 @@ constexpr TextField fields[] = {
     {IDC_WATERMARK_PLACEMENT_CROSS, "_ORTHOVAL_WATERMARK_CROSS", " = \"mark it\""},
 };
 
-TEST_F(WatermarkPlacementPageTest, WhatIsSetIsSavedAndShownAgain)
-{
-    m_currentPath = m_folder / L"new.cfg";
-    ASSERT_TRUE(OpenPage());
-    for (const TextField& field : fields)
-        TypeOnPage(field.control, L"mark it");
-    ClickOnPage(IDC_WATERMARK_PLACEMENT_LINE_SPACING_SCALED);
-    Save();
-    for (const TextField& field : fields)
-        EXPECT_EQ(std::string(field.variable) + field.assignment, Saved(field.variable));
-    EXPECT_EQ("_ORTHOVAL_REPLACETEXT_LINESPACING_SCALED = 1",
-              Saved("_ORTHOVAL_REPLACETEXT_LINESPACING_SCALED"));
-    ASSERT_TRUE(OpenPage());
-    for (const TextField& field : fields)
-        EXPECT_EQ(L"mark it", PageText(field.control)) << field.variable;
-    EXPECT_TRUE(IsPageChecked(IDC_WATERMARK_PLACEMENT_LINE_SPACING_SCALED));
-    Cancel();
-}
-
 TEST_F(WatermarkPlacementPageTest, TextsAreSavedAsTypedAndAbsentOnesEmpty)
 {
     UseCurrent("_ORTHOVAL_REPLACETEXT_DATE_FORMAT = %d/%m/%Y\r\n");
@@ -74,15 +55,6 @@ TEST_F(WatermarkPlacementPageTest, CrossIsEditedAsAListAndRefusedWithALoneQuote)
     ExpectRefusal(IDC_WATERMARK_PLACEMENT_CROSS, IDC_WATERMARK_PLACEMENT_CROSS_BROWSE,
                   IDC_WATERMARK_PLACEMENT_CROSS);
     Abandon();
-}
-
-TEST_F(WatermarkPlacementPageTest, EachChangeMarksModified)
-{
-    std::vector<std::function<void()>> changes = {
-        [&] { ClickOnPage(IDC_WATERMARK_PLACEMENT_LINE_SPACING_SCALED); }};
-    for (const TextField& field : fields)
-        changes.emplace_back([&] { TypeOnPage(field.control, L"a"); });
-    ExpectEachMarksModified(L"Watermark Placement", changes);
 }
 
 } // namespace
