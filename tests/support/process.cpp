@@ -32,19 +32,6 @@ EnvironmentBlock* CurrentEnvironmentBlock()
     return block;
 }
 
-// Wine does not count handles, but fills the handle table.
-unsigned CountGdiObjects()
-{
-    if (const DWORD counted = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS))
-        return counted;
-    constexpr int tableSize = 0x4000;
-    const GdiEntry* table = CurrentEnvironmentBlock()->gdiHandles;
-    unsigned count = 0;
-    for (int index = 0; table && index < tableSize; ++index)
-        count += table[index].type != 0;
-    return count;
-}
-
 bool IsOwnUserHandle(HANDLE handle)
 {
     auto* window = static_cast<HWND>(handle);
@@ -60,20 +47,6 @@ bool IsOwnUserHandle(HANDLE handle)
     if (icon.hbmColor)
         DeleteObject(icon.hbmColor);
     return true;
-}
-
-// If the system does not count them, checks every possible handle value. The low
-// word identifies the object; a high word of 0 matches any generation.
-unsigned CountUserObjects()
-{
-    if (const DWORD counted = GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS))
-        return counted;
-    constexpr ULONG_PTR first = 0x20;
-    constexpr ULONG_PTR last = 0x4000;
-    unsigned count = 0;
-    for (ULONG_PTR value = first; value < last; value += 2)
-        count += IsOwnUserHandle(reinterpret_cast<HANDLE>(value));
-    return count;
 }
 
 std::size_t CountHeapBytes()
@@ -95,6 +68,33 @@ std::size_t CountHeapBytes()
 }
 
 } // namespace
+
+// Wine does not count handles, but fills the handle table.
+unsigned CountGdiObjects()
+{
+    if (const DWORD counted = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS))
+        return counted;
+    constexpr int tableSize = 0x4000;
+    const GdiEntry* table = CurrentEnvironmentBlock()->gdiHandles;
+    unsigned count = 0;
+    for (int index = 0; table && index < tableSize; ++index)
+        count += table[index].type != 0;
+    return count;
+}
+
+// If the system does not count them, checks every possible handle value. The low
+// word identifies the object; a high word of 0 matches any generation.
+unsigned CountUserObjects()
+{
+    if (const DWORD counted = GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS))
+        return counted;
+    constexpr ULONG_PTR first = 0x20;
+    constexpr ULONG_PTR last = 0x4000;
+    unsigned count = 0;
+    for (ULONG_PTR value = first; value < last; value += 2)
+        count += IsOwnUserHandle(reinterpret_cast<HANDLE>(value));
+    return count;
+}
 
 Resources MeasureResources()
 {

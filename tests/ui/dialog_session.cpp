@@ -11,11 +11,19 @@ namespace
 
 constexpr const wchar_t* DialogCaption = L"Preferences";
 
+// Reads the caption without a message: a window that is closing answers none.
+bool IsDialog(HWND window)
+{
+    wchar_t caption[32] = {};
+    InternalGetWindowText(window, caption, static_cast<int>(std::size(caption)));
+    return std::wstring(caption) == DialogCaption;
+}
+
 // Finds a modal window of the thread other than the dialog. The dialog is identified
 // by its caption, because it may become visible at any moment.
 BOOL CALLBACK FindModalWindow(HWND window, LPARAM parameter)
 {
-    if (!IsWindowVisible(window) || ClassOf(window) != L"#32770" || GetText(window) == DialogCaption)
+    if (!IsWindowVisible(window) || ClassOf(window) != L"#32770" || IsDialog(window))
         return TRUE;
     *reinterpret_cast<HWND*>(parameter) = window;
     return FALSE;
