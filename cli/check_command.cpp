@@ -104,8 +104,8 @@ class CheckCommand final : public Command
             for (const FileFindings& file : files)
                 PrintFindings(output, file);
         }
-        output.Remark(Counted(Severity::Error) + ", " + Counted(Severity::Warning) + ", " +
-                      Counted(Severity::Note));
+        output.Summarise(Counted(Severity::Error) + ", " + Counted(Severity::Warning) + ", " +
+                         Counted(Severity::Note));
     }
 
     nlohmann::ordered_json AsJson(const std::vector<FileFindings>& files) const

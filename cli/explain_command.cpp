@@ -5,6 +5,7 @@
 #include "cli/setting_text.h"
 #include "config/core/config_reader.h"
 #include "inspect/core/inspected_file.h"
+#include "pages/core/string_table.h"
 
 #include <algorithm>
 
@@ -39,14 +40,15 @@ class ExplainCommand final : public Command
         for (const std::string& given : m_names) {
             const Text name = TextFromUtf8(given);
             const SettingPlace* place = FindSetting(name);
-            if (place == nullptr) {
+            const PageRows* olderPage = PageOfOlderVariable(name);
+            if (place == nullptr && olderPage == nullptr) {
                 output.Problem("There is no setting " + given + Suggestions(name));
                 code = ExitCode::Found;
                 continue;
             }
             if (!isFirst)
                 output.Print("\n");
-            output.Print(SettingAsText(Describe(*place)));
+            output.Print(place != nullptr ? SettingAsText(Describe(*place)) : OlderText(given, *olderPage));
             isFirst = false;
             if (file)
                 output.Print(InFile(name, *file, store));
@@ -55,6 +57,12 @@ class ExplainCommand final : public Command
     }
 
   private:
+    static std::string OlderText(const std::string& name, const PageRows& page)
+    {
+        return name + "\n  Page: " + Utf8FromText(FindString(page.info.titleId)) +
+               "\n\nA variable of earlier versions: the page reads it and never writes it.\n";
+    }
+
     static std::string Suggestions(const Text& name)
     {
         if (const auto similar = SimilarVariable(name))

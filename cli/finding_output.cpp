@@ -1,6 +1,7 @@
 #include "cli/finding_output.h"
 
 #include "cli/output.h"
+#include "cli/platform.h"
 #include "version/version.h"
 
 #include <nlohmann/json.hpp>
@@ -54,10 +55,23 @@ Json AsJson(const Finding& finding)
     return json;
 }
 
+/// "DirectiveLost" for "directive-lost": names of SARIF are written so.
+std::string PascalCase(std::string_view name)
+{
+    std::string result;
+    bool isFirst = true;
+    for (const char c : name) {
+        if (c != '-')
+            result += isFirst ? static_cast<char>(std::toupper(static_cast<unsigned char>(c))) : c;
+        isFirst = c == '-';
+    }
+    return result;
+}
+
 Json SarifRule(const Rule& rule)
 {
     return {{"id", rule.id},
-            {"name", rule.name},
+            {"name", PascalCase(rule.name)},
             {"shortDescription", {{"text", std::string(rule.summary) + "."}}},
             {"fullDescription", {{"text", rule.explanation}}},
             {"help", {{"text", rule.explanation}}},
@@ -69,14 +83,18 @@ std::string UriOf(std::string_view path)
 {
     constexpr std::string_view kPlain = "-._~/";
     std::string uri;
-    const bool hasDrive =
-        path.size() > 2 && path[1] == ':' && std::isalpha(static_cast<unsigned char>(path[0])) != 0;
+    const bool hasDrive = kBackslashDivides && path.size() > 2 && path[1] == ':' &&
+                          std::isalpha(static_cast<unsigned char>(path[0])) != 0;
     if (path.starts_with('/') || hasDrive)
         uri = hasDrive ? "file:///" : "file://";
+    else if (kBackslashDivides && path.starts_with("\\\\"))
+        uri = "file:";
     for (std::size_t i = 0; i < path.size(); ++i) {
         const auto byte = static_cast<unsigned char>(path[i]);
-        if (hasDrive && (byte == '\\' || i == 1)) {
-            uri += byte == '\\' ? '/' : ':';
+        if (hasDrive && i == 1) {
+            uri += ':';
+        } else if (kBackslashDivides && byte == '\\') {
+            uri += '/';
         } else if (std::isalnum(byte) != 0 || kPlain.find(path[i]) != std::string_view::npos) {
             uri += path[i];
         } else {

@@ -46,8 +46,7 @@ void AddParts(std::vector<std::string>& values, const std::string& text)
 {
     for (std::size_t start = 0; start <= text.size();) {
         const std::size_t end = std::min(text.find(',', start), text.size());
-        if (end > start)
-            values.push_back(text.substr(start, end - start));
+        values.push_back(text.substr(start, end - start));
         start = end + 1;
     }
 }

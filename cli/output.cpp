@@ -54,7 +54,10 @@ void Output::Remark(std::string_view line)
 ExitCode Output::Finish(ExitCode code)
 {
     std::string problem;
-    if (WriteBytes(Stream::Output, m_answer, problem) != WriteOutcome::Failed)
+    const WriteOutcome outcome = WriteBytes(Stream::Output, m_answer, problem);
+    std::string ignored;
+    WriteBytes(Stream::Error, m_summary, ignored);
+    if (outcome != WriteOutcome::Failed)
         return code;
     Problem("The output cannot be written: " + problem);
     return ExitCode::Failed;

@@ -36,12 +36,16 @@ class Output
     /// Writes a line to the standard error at once, for text that is neither the answer nor a problem.
     void Remark(std::string_view line);
 
+    /// Writes a line to the standard error after the answer, such as the number of findings.
+    void Summarise(std::string_view line) { m_summary.append(line).append("\n"); }
+
     /// Writes the answer. Returns the exit code: `code`, or Failed if the answer cannot be written.
     /// A stream whose reader is gone is not a failure.
     ExitCode Finish(ExitCode code);
 
   private:
     std::string m_answer;
+    std::string m_summary;
     bool m_colours;
 };
 

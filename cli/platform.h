@@ -10,6 +10,13 @@
 namespace ov::cli
 {
 
+/// Whether a backslash divides the names in a path, and a drive may come first.
+#ifdef _WIN32
+inline constexpr bool kBackslashDivides = true;
+#else
+inline constexpr bool kBackslashDivides = false;
+#endif
+
 /// The two streams that the program writes to.
 enum class Stream { Output, Error };
 

@@ -1,8 +1,8 @@
 #include "cli/commands.h"
+#include "cli/file_output.h"
 #include "cli/options.h"
 #include "cli/output.h"
-#include "cli/platform.h"
-#include "cli/setting_text.h"
+#include "cli/reference_output.h"
 
 namespace ov::cli
 {
@@ -23,7 +23,7 @@ class ReferenceCommand final : public Command
     {
         const std::string reference = Reference();
         if (m_path)
-            return Write(output, reference);
+            return ReplaceFile(*m_path, reference, output);
         output.Print(reference);
         return ExitCode::Done;
     }
@@ -44,28 +44,6 @@ class ReferenceCommand final : public Command
             break;
         }
         return ReferenceAsSchema();
-    }
-
-    ExitCode Write(Output& output, const std::string& bytes) const
-    {
-        const auto files = MakeFilePort();
-        const Text path = TextFromUtf8(*m_path);
-        const FileKind kind = files->Kind(path);
-        if (kind == FileKind::Directory || kind == FileKind::Other) {
-            output.Problem(*m_path + ": It is no regular file");
-            return ExitCode::Failed;
-        }
-        FileHandle file{};
-        FileResult result = files->Create(path, CreateMode::Truncate, file);
-        if (result) {
-            result = files->Write(file, bytes);
-            if (FileResult closing = files->Close(file); result)
-                result = std::move(closing);
-        }
-        if (result)
-            return ExitCode::Done;
-        output.Problem(*m_path + ": " + Utf8FromText(result.systemText));
-        return ExitCode::Failed;
     }
 
     Format m_format = Format::Markdown;

@@ -4,7 +4,8 @@
 #include "cli/rule_text.h"
 
 #include <algorithm>
-#include <string_view>
+#include <string>
+#include <vector>
 
 namespace ov::cli
 {
@@ -16,7 +17,7 @@ class RulesCommand final : public Command
   public:
     void Declare(Options& options) override
     {
-        options.Operands("RULE", m_rules, 0, "Rules by their ids; without any, the table of all");
+        options.Operands("RULE", m_rules, 0, "Rules by their ids or names; without any, the table of all");
         options.Choice("--format", m_format, {"text", "markdown"}, "The form of the output");
     }
 
@@ -29,17 +30,19 @@ class RulesCommand final : public Command
         if (m_rules.empty())
             output.Print(TableOfRules());
         ExitCode code = ExitCode::Done;
-        for (std::size_t i = 0; i < m_rules.size(); ++i) {
+        bool isFirst = true;
+        for (const std::string& which : m_rules) {
             const auto rules = Rules();
-            const auto rule = std::ranges::find(rules, std::string_view(m_rules[i]),
-                                                [](const Rule& each) { return std::string_view(each.id); });
+            const auto rule = std::ranges::find_if(
+                rules, [&](const Rule& each) { return which == each.id || which == each.name; });
             if (rule == rules.end()) {
-                output.Problem("There is no rule " + m_rules[i]);
+                output.Problem("There is no rule " + which);
                 code = ExitCode::Found;
                 continue;
             }
-            if (i > 0)
+            if (!isFirst)
                 output.Print("\n");
+            isFirst = false;
             output.Print(RuleAsText(*rule));
         }
         return code;

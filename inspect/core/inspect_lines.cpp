@@ -172,7 +172,7 @@ void InspectLines(Inspection& inspection)
 {
     const InspectedFile& file = inspection.File();
     if (file.Bytes().starts_with("\xEF\xBB\xBF"))
-        inspection.Add(RuleId::ByteOrderMark, 0, {});
+        inspection.AddToFile(RuleId::ByteOrderMark, {});
     if (!file.HeaderLines().empty() && !file.IsHeaderSaved())
         inspection.Add(RuleId::HeaderReplaced, file.HeaderLines().front(), {});
     for (std::size_t number = 0; number < file.Lines().size(); ++number)

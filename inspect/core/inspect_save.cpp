@@ -121,11 +121,9 @@ void FindAddedSettings(Inspection& inspection)
     if (added.empty())
         return;
     std::ranges::sort(added);
-    Finding* finding = inspection.Add(RuleId::SettingsAdded, 0, {{"count", std::to_string(added.size())}});
-    if (finding != nullptr) {
-        finding->column = 1;
+    Finding* finding = inspection.AddToFile(RuleId::SettingsAdded, {{"count", std::to_string(added.size())}});
+    if (finding != nullptr)
         finding->added = std::move(added);
-    }
 }
 
 /// The variable that Save writes first.
@@ -187,12 +185,9 @@ void FindRefusedCharacter(Inspection& inspection)
     if (result)
         return;
     const std::string place = result.inHeader ? "the header" : "the lines of " + Quotable(result.variable);
-    Finding* finding = inspection.Add(RuleId::CharacterRefused, 0,
-                                      {{"character", Quotable(result.character)}, {"place", place}});
-    if (finding == nullptr)
-        return;
-    finding->column = 1;
-    if (!result.inHeader)
+    Finding* finding = inspection.AddToFile(RuleId::CharacterRefused,
+                                            {{"character", Quotable(result.character)}, {"place", place}});
+    if (finding != nullptr && !result.inHeader)
         finding->variable = result.variable;
 }
 

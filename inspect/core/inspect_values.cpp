@@ -336,7 +336,7 @@ bool BeginsAsASetting(TextView name)
 
 void InspectUnknown(Inspection& inspection, const Variable& variable, const Text& name)
 {
-    if (IsOlderVariable(name))
+    if (PageOfOlderVariable(name) != nullptr)
         return;
     const std::optional<Text> similar = SimilarVariable(name);
     if (!similar && !BeginsAsASetting(name))

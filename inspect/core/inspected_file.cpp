@@ -89,7 +89,7 @@ Text InspectedFile::Decode(std::string_view bytes) const
 std::size_t InspectedFile::ValueColumn(std::size_t line) const
 {
     const std::string_view value = m_lines[line].parts.value;
-    if (m_lines[line].parts.kind != LineKind::Assignment || value.empty())
+    if (m_lines[line].variable == kNone || value.empty())
         return 1;
     const std::string_view whole = m_document.Line(line).text;
     std::string_view before = whole.substr(0, static_cast<std::size_t>(value.data() - whole.data()));

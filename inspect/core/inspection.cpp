@@ -77,6 +77,14 @@ Finding* Inspection::Add(RuleId rule, std::size_t line, const std::vector<Messag
     return &m_findings.back();
 }
 
+Finding* Inspection::AddToFile(RuleId rule, const std::vector<MessagePart>& parts)
+{
+    Finding* finding = Add(rule, 0, parts);
+    if (finding != nullptr)
+        finding->column = 1;
+    return finding;
+}
+
 Finding* Inspection::AddAt(RuleId rule, const InspectedFile::Variable& variable,
                            const std::vector<MessagePart>& parts)
 {
@@ -97,7 +105,7 @@ std::vector<Finding> Inspector::Inspect(const InspectedFile& file)
 {
     Inspection inspection(m_settings, file, m_dialog, m_defaults);
     if (const char* reason = WhyUnreadable(file.Bytes())) {
-        inspection.Add(RuleId::NotPlainText, 0, {{"reason", reason}});
+        inspection.AddToFile(RuleId::NotPlainText, {{"reason", reason}});
         return std::move(inspection.Findings());
     }
     m_dialog.Open({file.Bytes(), file.Encoding()});

@@ -87,6 +87,9 @@ class Inspection
     /// the finding so that it can be completed; null if the rule is not selected.
     Finding* Add(RuleId rule, std::size_t line, const std::vector<MessagePart>& parts);
 
+    /// Adds a finding about the file as a whole: at its first line and column.
+    Finding* AddToFile(RuleId rule, const std::vector<MessagePart>& parts);
+
     /// Adds a finding about a variable, at the variable's last line.
     Finding* AddAt(RuleId rule, const InspectedFile::Variable& variable,
                    const std::vector<MessagePart>& parts);

@@ -41,7 +41,8 @@ std::string_view KindOf(const SettingPlace& place, const SettingDescription& set
         return "number";
     if (setting.isList)
         return "list";
-    return place.row->kind == SettingKindPath ? "path" : "text";
+    // The kind of the row says how the value is written; a path is what a file or folder is chosen for.
+    return BrowseOf(place) != nullptr ? "path" : "text";
 }
 
 std::optional<Text> InitialValue(const SettingPlace& place)
@@ -99,9 +100,7 @@ SettingDescription Describe(const SettingPlace& place)
     setting.help = Description(help);
     if (const auto format = ListFormatOf(place)) {
         setting.isList = true;
-        setting.separator = format->separator;
-        setting.fieldSeparator = format->fieldSeparator;
-        setting.fieldCount = format->fieldCount;
+        setting.list = *format;
     }
     const std::span<const Choice> choices = ChoicesOf(place);
     setting.choices.assign(choices.begin(), choices.end());

@@ -19,9 +19,7 @@ struct SettingDescription {
     Text help;             ///< the help text's description, with CR LF and tabs
     std::string_view kind; ///< "flag", "number", "choice", "list", "path" or "text"
     bool isList = false;
-    char16_t separator = u'\0';      ///< for a list
-    char16_t fieldSeparator = u'\0'; ///< between the fields of a list entry; 0 without fields
-    std::size_t fieldCount = 1;      ///< the number of fields of a list entry
+    ListFormat list; ///< for a list
     std::vector<Choice> choices;
     std::optional<NumberRange> range;
     std::optional<Text> initial; ///< the value before the first load; nothing if it depends on the day

@@ -181,12 +181,15 @@ const SettingPlace* FindSetting(TextView variable)
     return found != byName.end() ? found->second : nullptr;
 }
 
-bool IsOlderVariable(TextView variable)
+const PageRows* PageOfOlderVariable(TextView variable)
 {
-    return std::ranges::any_of(AllPageRows(), [&](const PageRows* page) {
-        return std::ranges::any_of(page->olderVariables,
-                                   [&](const char16_t* older) { return variable == older; });
-    });
+    for (const PageRows* page : AllPageRows()) {
+        for (const char16_t* older : page->olderVariables) {
+            if (variable == older)
+                return page;
+        }
+    }
+    return nullptr;
 }
 
 std::optional<Text> SimilarVariable(TextView variable)

@@ -23,8 +23,9 @@ std::span<const SettingPlace> AllSettings();
 /// The setting stored in the variable; null if no page has it.
 const SettingPlace* FindSetting(TextView variable);
 
-/// True if a page reads the variable from files of earlier versions and never writes it.
-bool IsOlderVariable(TextView variable);
+/// The page that reads the variable in files of earlier versions and never writes it; null when there
+/// is none.
+const PageRows* PageOfOlderVariable(TextView variable);
 
 /// The name of a setting, or of an older variable, that differs from the given one in case only,
 /// or in one or two letters. Nothing if there is none; the nearest one of several.

@@ -1,4 +1,5 @@
 // Every rule fires where it has to, and does not fire on similar but correct files.
+#include "inspect/core/save_preview.h"
 #include "tests/core/findings_support.h"
 
 #include <gtest/gtest.h>
@@ -119,6 +120,8 @@ TEST(Findings, OfHeadersAndComments)
         {RuleId::CommentLost, "A = 1\n# b\n", {"2:1"}},
         {RuleId::CommentLost, "A = 1\n#\n# b\n\n# c\nA > 2\nB = 1\n", {"2:1"}},
         {RuleId::CommentLost, "\n# nothing follows\n", {"2:1"}},
+        {RuleId::CommentLost, "# header\n\n# nothing follows\n", {"3:1"}},
+        {RuleId::CommentLost, "# header\n\n", {}},
         {RuleId::CommentLost, "A = 1\n# \xC3\xA9\nA = 2\n", {"2:1"}},
         {RuleId::CommentLost, "A = 1\n# =====\n#\nA > 2\n# ---\n", {}},
         {RuleId::CommentLost, "# a\nA = 1\n# b\nB = 1\n", {}},
@@ -127,6 +130,7 @@ TEST(Findings, OfHeadersAndComments)
         {RuleId::HeaderRepeats, "\n\nB = 1\n_ORTHOVAL_CHECK_CELLS = 1\nA = 2\n", {"5:5"}},
         {RuleId::HeaderRepeats, savedHeader + "A = 1\n", {"14:5"}},
         {RuleId::HeaderRepeats, "# note\nA = 1\n", {}},
+        {RuleId::HeaderRepeats, "\nA = 1\n", {}},
         {RuleId::HeaderRepeats, "A = 1\n", {}, "#\n\n# note\nA = 1\n"},
         {RuleId::HeaderRepeats, "_ORTHOVAL_CHECK_CELLS = 1\n", {}},
     });
@@ -144,7 +148,7 @@ TEST(Findings, OfOperators)
         {RuleId::AssignedAgain, "A = 1\nA = 2\nA = 3\n", {"1:5", "2:5"}},
         {RuleId::AssignedAgain, "A = 1\nA > 2\na = 3\n", {}},
         {RuleId::MalformedOperator, "A =1\n", {"1:1"}},
-        {RuleId::MalformedOperator, "NAME= C:\\x y\n", {"1:13"}},
+        {RuleId::MalformedOperator, "NAME= C:\\x y\n", {"1:12"}},
         {RuleId::MalformedOperator, "A == 1\nB := 1\n", {"1:6", "2:6"}},
         {RuleId::MalformedOperator, "A = =1\nA > 1\nA : 1\nA + 1\nA < 1\n", {}},
         {RuleId::ConflictMarker, "<<<<<<< a\nA = 1\n=======\n>>>>>>> b\n", {"1:1", "3:1", "4:1"}},
@@ -166,16 +170,25 @@ TEST(Findings, OfWhatSaveMakesOfValues)
         {RuleId::ValueChanges, "_ORTHOVAL_BORDERSHEETS_ERROR_SCALE = 1.5\n", {}},
         {RuleId::ValueChanges, "_ORTHOVAL_REPORT_NAMING = $$userinitials$$-$$currentfile$$\n", {"1:27"}},
         {RuleId::ValueChanges, "_ORTHOVAL_CHECK_CELLS = Yes\n", {}},
+        {RuleId::ValueChanges, "_ORTHOVAL_PROMPT_COLOURTABLE_REMAP = 7\n", {}},
+        {RuleId::ValueChanges, "_ORTHOVAL_SCANPERIOD_SETTINGS = 1,1,0,1,13,2011\n", {}},
         {RuleId::ValueChanges, "A = a;b\nB = \"#b\"\nC = \"a b \"\nD = 1.5\nE = \n", {}},
         {RuleId::EntryCut,
          "_ORTHOVAL_COLOURTABLES = a\n_ORTHOVAL_COLOURTABLES > " + std::string(1025, 'x') + "\n",
          {"2:26"}},
         {RuleId::EntryCut, "_ORTHOVAL_CHECK_IGNORED_LEVELS = a," + std::string(2000, 'x') + ",b\n", {"1:34"}},
         {RuleId::EntryCut,
+         "_ORTHOVAL_BORDERSHEETS = a.dgn," + std::string(1025, 'x') + ";" + std::string(1025, 'y') + "\n",
+         {"1:26", "1:26"}},
+        {RuleId::EntryCut,
          "_ORTHOVAL_CHECK_IGNORED_LEVELS = " + std::string(1024, 'x') + "," + std::string(1024, 'y') + "\n",
          {}},
         {RuleId::EntryCut, "_ORTHOVAL_MENU_NAME = " + std::string(2000, 'x') + "\n", {}},
         {RuleId::ByteOrderMark, "\xEF\xBB\xBF# a\n", {"1:1"}},
+        {RuleId::ByteOrderMark, "\xEF\xBB\xBF_ORTHOVAL_CHECK_TAGS = 1\nA = 1\n", {"1:1"}},
+        {RuleId::ByteOrderMark, "\xEF\xBB\xBF", {"1:1"}},
+        {RuleId::ByteOrderMark, "\n\xEF\xBB\xBF# a\n", {}},
+        {RuleId::ByteOrderMark, "\xEF\xBB", {}},
         {RuleId::ByteOrderMark, "A = \xEF\xBB\xBF\n", {}},
         {RuleId::NotPlainText,
          std::string("\xFF\xFE"
@@ -187,9 +200,15 @@ TEST(Findings, OfWhatSaveMakesOfValues)
         {RuleId::NotPlainText, "A = 1\r", {}},
         {RuleId::NotPlainText, std::string("A = 1\r\nB = \0\r\n", 14), {}},
         {RuleId::NotPlainText, "", {}},
-        {RuleId::CharacterRefused, "# \xE9\n\nA = 1\n", {"1:1"}, "#\n\n# \xC5\x81\nA = 1\n"},
-        {RuleId::CharacterRefused, "# \xE9\n\n# b\nA = 1\n", {}, "#\n\n# \xC5\x81\nA = 1\n"},
-        {RuleId::CharacterRefused, "#\n\nA = 1\n", {}, "#\n\n# \xC5\x81\nA = 1\n"},
+        {RuleId::CharacterRefused, "# \xE9\nB = 1\nA = 1\n", {"1:1"}, "#\n\n# \xC5\x81\nA = 1\n"},
+        {RuleId::CharacterRefused, "\nB = \xA3\nA > 1\n", {"1:1"}, "\n# \xD0\xAF\nA = 1\nC = 1\n"},
+        {RuleId::CharacterRefused,
+         "# \xE9\nA = 1\n_ORTHOVAL_CHECK_TAGS = 1\n",
+         {"1:1"},
+         "#\n\n# \xE2\x82\xAC \xE2\x98\x83\n_ORTHOVAL_CHECK_TAGS = 1\n"},
+        {RuleId::CharacterRefused, "# \xE9\nB = 1\n# b\nA = 1\n", {}, "#\n\n# \xC5\x81\nA = 1\n"},
+        {RuleId::CharacterRefused, "#\nB = 1\nA = 1\n", {}, "#\n\n# \xC5\x81\nA = 1\n"},
+        {RuleId::CharacterRefused, "# \xE9\nB = 1\nA = 1\n", {}, "#\n\n# \xE2\x82\xAC\nA = 1\n"},
     });
 }
 
@@ -326,6 +345,22 @@ TEST(Findings, SayWhatBecomesOfAValue)
     EXPECT_EQ(changed[0].after, u"a ");
     EXPECT_EQ(changed[1].before, u";");
     EXPECT_EQ(changed[1].after, std::nullopt);
+}
+
+TEST(Findings, CountTheSettingsThatSaveAddsOnceAFile)
+{
+    ExpectPlaces({
+        {RuleId::SettingsAdded, "", {"1:1"}},
+        {RuleId::SettingsAdded, "A = 1\n\nB = 2\n", {"1:1"}},
+        {RuleId::SettingsAdded, "# header\n\n_ORTHOVAL_CHECK_TAGS = 1\n", {"1:1"}},
+    });
+    // A saved file has them all.
+    ov::InspectionSettings settings;
+    settings.today =
+        std::chrono::year_month_day(std::chrono::year(2026), std::chrono::month(11), std::chrono::day(20));
+    const std::string saved =
+        ov::PreviewSave(ov::InspectedFile("A = 1\n", ov::Charset::Windows1252), settings).bytes;
+    EXPECT_EQ(PlacesOf(RuleId::SettingsAdded, saved), Places{});
 }
 
 TEST(Findings, NameTheSettingsThatSaveAdds)
