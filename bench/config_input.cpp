@@ -53,7 +53,7 @@ class Generator
 
 } // namespace
 
-std::string MakeConfigFile(int variables, bool inOrder)
+std::string MakeConfigFile(int variables, bool inOrder, const char* prefix)
 {
     Generator generator;
     std::vector<int> numbers(static_cast<std::size_t>(variables));
@@ -63,7 +63,7 @@ std::string MakeConfigFile(int variables, bool inOrder)
     std::string bytes = "#\r\n# A header.\r\n#\r\n";
     for (const int number : numbers) {
         std::array<char, 32> name{};
-        std::snprintf(name.data(), name.size(), "_ORTHOVAL_BENCH_%07d", number);
+        std::snprintf(name.data(), name.size(), "%s%07d", prefix, number);
         bytes += "\r\n#\r\n";
         const std::size_t lines = 2 + generator.Below(2);
         for (std::size_t line = 0; line < lines; ++line)
