@@ -22,7 +22,7 @@ BOOL CAbstractFontDlg::OnInitDialog()
     CRect units(0, 0, 4, 8);
     ::MapDialogRect(m_hWnd, &units);
     m_units = {units.Width(), units.Height()};
-    m_firstChildren = AfxChildWindows(m_hWnd);
+    m_firstChildren = GetControls();
     if (const CFont* const font = GetSharedDialogFont(m_resolution))
         GiveFont(*font);
     return result;

@@ -55,7 +55,8 @@ class DialogControls : public ov::LayoutControls
     {
         const HWND control = m_dialog.FindControl(controlId);
         if (ControlRect(controlId) != rect)
-            ::MoveWindow(control, rect.left, rect.top, rect.Width(), rect.Height(), m_visible);
+            ::SetWindowPos(control, nullptr, rect.left, rect.top, rect.Width(), rect.Height(),
+                           SWP_NOZORDER | SWP_NOACTIVATE | (m_visible ? 0 : SWP_NOREDRAW | SWP_DEFERERASE));
         if (m_visible)
             ::InvalidateRect(control, nullptr, TRUE);
     }
@@ -284,7 +285,7 @@ void CResizableDlg::LayoutPass()
     const CRect client = GetClientRectangle();
     DialogControls controls(*this);
     // A window receives its first size before its controls are created.
-    if (::GetWindow(m_hWnd, GW_CHILD) != nullptr)
+    if (!FirstChildren().empty())
         ov::ApplyLayout(m_controlLayout, controls, m_designWidth, m_designHeight, client.Width(),
                         client.Height());
     RepositionCurrentPage();

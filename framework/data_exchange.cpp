@@ -122,7 +122,7 @@ void DDX_Radio(CDataExchange* exchange, int id, int& value)
 {
     std::vector<HWND> buttons;
     const HWND first = exchange->PrepareCtrl(id);
-    const std::vector<HWND> siblings = AfxChildWindows(::GetParent(first));
+    const std::vector<HWND> siblings = exchange->m_pDlgWnd->GetControls();
     for (auto control = std::ranges::find(siblings, first); control != siblings.end(); ++control) {
         if (*control != first && (::GetWindowLongPtrW(*control, GWL_STYLE) & WS_GROUP) != 0)
             break;

@@ -32,7 +32,8 @@ void DDX_Text(CDataExchange* exchange, int id, ov::Text& text);
 /// A check box: BST_UNCHECKED, BST_CHECKED or BST_INDETERMINATE.
 void DDX_Check(CDataExchange* exchange, int id, int& value);
 /// The index of the checked button in the group that begins with the given button
-/// (the one with WS_GROUP); -1 if none is checked.
+/// (the one with WS_GROUP); -1 if none is checked. The group consists of buttons that
+/// CWnd::GetControls returns.
 void DDX_Radio(CDataExchange* exchange, int id, int& value);
 /// The index of the selected entry of a combo box; -1 for none, and for an index
 /// out of range.

@@ -132,6 +132,7 @@ LRESULT CDialog::HandleInitDialog(WPARAM, LPARAM)
 
 BOOL CDialog::Initialise()
 {
+    ForgetControls(); // the template's controls were not complete before
     CRect before;
     GetWindowRect(before);
     const BOOL setFocus = OnInitDialog();

@@ -101,10 +101,15 @@ struct AFX_ACTIVATION {
     const void* scope; ///< the CActivationScope that activated it; null once that has ended
 };
 
+/// The direct children that a window had when they were last enumerated.
+struct AFX_CONTROLS {
+    std::vector<HWND> windows; ///< in Z order, from the top
+    std::unordered_map<int, HWND> byId;
+};
+
 struct AFX_THREAD_STATE {
     std::unordered_map<HWND, CWnd*> permanentWindows;
-    /// Controls already looked up, by dialog and id.
-    std::unordered_map<HWND, std::unordered_map<int, HWND>> foundControls;
+    std::unordered_map<HWND, AFX_CONTROLS> controls; ///< by parent window
     AFX_TEMP_MAPS temporary;
     MSG currentMessage{};
     CCreationHook* creation = nullptr; ///< waiting for its window to be created

@@ -67,7 +67,7 @@ HWND CWnd::Detach()
     const HWND window = m_hWnd;
     if (window != nullptr && FromHandlePermanent(window) == this) {
         AfxGetThreadState().permanentWindows.erase(window);
-        AfxGetThreadState().foundControls.erase(window);
+        AfxGetThreadState().controls.erase(window);
     }
     m_hWnd = nullptr;
     m_superWndProc = nullptr;
@@ -103,28 +103,68 @@ HWND CWnd::UnsubclassWindow()
     return Detach();
 }
 
+namespace
+{
+const AFX_CONTROLS& EnumerateControls(HWND parent)
+{
+    AFX_CONTROLS& controls = AfxGetThreadState().controls[parent];
+    controls = {AfxChildWindows(parent), {}};
+    for (const HWND child : controls.windows)
+        controls.byId.try_emplace(::GetDlgCtrlID(child), child);
+    return controls;
+}
+
+const AFX_CONTROLS* KnownControls(HWND parent)
+{
+    const auto& controls = AfxGetThreadState().controls;
+    const auto known = controls.find(parent);
+    return known != controls.end() ? &known->second : nullptr;
+}
+
+bool IsChildOf(HWND parent, HWND child)
+{
+    return ::IsWindow(child) && ::GetParent(child) == parent;
+}
+} // namespace
+
 HWND CWnd::FindControl(int id) const
 {
-    // A temporary object is not notified when its window is destroyed.
+    // A temporary object gets no notice when its window is destroyed.
     if (FromHandlePermanent(m_hWnd) == nullptr)
         return ::GetDlgItem(m_hWnd, id);
-    auto& controls = AfxGetThreadState().foundControls[m_hWnd];
-    const auto isCurrent = [&](HWND control) {
-        return control != nullptr && ::IsWindow(control) && ::GetParent(control) == m_hWnd &&
-               ::GetDlgCtrlID(control) == id;
-    };
-    if (const auto found = controls.find(id); found != controls.end() && isCurrent(found->second))
-        return found->second;
-    // Collects all controls at once, because most dialogs look up most of their controls.
-    controls.clear();
-    for (const HWND child : AfxChildWindows(m_hWnd))
-        controls.try_emplace(::GetDlgCtrlID(child), child);
+    if (const AFX_CONTROLS* const known = KnownControls(m_hWnd)) {
+        const auto found = known->byId.find(id);
+        if (found != known->byId.end() && IsChildOf(m_hWnd, found->second) &&
+            ::GetDlgCtrlID(found->second) == id)
+            return found->second;
+    }
+    const auto& controls = EnumerateControls(m_hWnd).byId;
     const auto found = controls.find(id);
     return found != controls.end() ? found->second : nullptr;
 }
 
+std::vector<HWND> CWnd::GetControls() const
+{
+    if (FromHandlePermanent(m_hWnd) == nullptr)
+        return AfxChildWindows(m_hWnd);
+    const AFX_CONTROLS* const known = KnownControls(m_hWnd);
+    const bool isCurrent = known != nullptr && std::ranges::all_of(known->windows, [this](HWND child) {
+                               return IsChildOf(m_hWnd, child);
+                           });
+    return isCurrent ? known->windows : EnumerateControls(m_hWnd).windows;
+}
+
+void CWnd::ForgetControls() const
+{
+    AfxGetThreadState().controls.erase(m_hWnd);
+}
+
 BOOL CWnd::EnableWindow(BOOL enable)
 {
+    // The system would cancel modes and ask for the focus even if nothing changes.
+    const BOOL wasDisabled = IsWindowEnabled() ? FALSE : TRUE;
+    if ((enable == FALSE) == (wasDisabled != FALSE))
+        return wasDisabled;
     if (!enable)
         AfxReleaseFocus(m_hWnd);
     return ::EnableWindow(m_hWnd, enable);

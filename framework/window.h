@@ -85,9 +85,14 @@ class CWnd : public CCmdTarget
     // --- parents and children ------------------------------------------------
     CWnd* GetParent() const { return FromHandle(::GetParent(m_hWnd)); }
     CWnd* GetDlgItem(int id) const { return FromHandle(FindControl(id)); }
-    /// The child window with that id, or null. Results are cached, because the system
-    /// searches all children each time.
+    /// The direct child with that id, or null. The children are cached, because the
+    /// system enumerates all of them for each search.
     HWND FindControl(int id) const;
+    /// The direct children in Z order, topmost first, from the same cache: it may miss
+    /// changes of the Z order and children that CWnd::Create did not create.
+    std::vector<HWND> GetControls() const;
+    /// Clears the cache of FindControl and GetControls.
+    void ForgetControls() const;
 
     // --- painting --------------------------------------------------------------
     void Invalidate(BOOL erase = TRUE) { ::InvalidateRect(m_hWnd, nullptr, erase); }
@@ -209,8 +214,8 @@ inline HWND AfxSafeHwnd(const CWnd* window)
     return window != nullptr ? window->m_hWnd : nullptr;
 }
 
-/// The direct children of a window in Z order, topmost first. One request to the
-/// system; going from sibling to sibling would take one request per child.
+/// The direct children of a window in Z order, topmost first, without a cache. Wine
+/// takes one request to its server for each window inside.
 std::vector<HWND> AfxChildWindows(HWND parent);
 
 /// True if the window is of the given class; the name is compared without regard to

@@ -96,8 +96,10 @@ BOOL CWnd::CreateEx(DWORD exStyle, LPCWSTR className, LPCWSTR text, DWORD style,
         const CCreationHook hook(this);
         const HWND created = ::CreateWindowExW(exStyle, className, text, style, x, y, width, height, parent,
                                                menuOrId, AfxGetInstanceHandle(), nullptr);
-        if (hook.Finish(created))
+        if (hook.Finish(created)) {
+            AfxGetThreadState().controls.erase(parent);
             return created != nullptr;
+        }
     }
     // The window was never created, but the object still expects PostNcDestroy.
     PostNcDestroy();

@@ -143,7 +143,7 @@ void CPageScroller::ScrollContent(int dx, int dy)
     }
     // Windows scrolls nothing in a hidden window, and a page is resized before
     // it is shown again: its controls are moved one by one.
-    for (const HWND child : AfxChildWindows(m_page.m_hWnd)) {
+    for (const HWND child : m_page.GetControls()) {
         CRect rect;
         ::GetWindowRect(child, &rect);
         m_page.ScreenToClient(&rect);

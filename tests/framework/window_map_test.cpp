@@ -3,7 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <thread>
+#include <vector>
 
 namespace
 {
@@ -99,6 +101,59 @@ TEST_F(WindowMap, ControlsAreFoundWhateverBecomesOfThem)
     foreign.m_hWnd = other;
     EXPECT_EQ(second, foreign.FindControl(secondId));
     foreign.m_hWnd = nullptr;
+}
+
+TEST_F(WindowMap, ControlsAreListedInZOrder)
+{
+    const auto make = [&] {
+        return ::CreateWindowExW(0, L"STATIC", L"", WS_CHILD, 0, 0, 10, 10, m_window, nullptr, nullptr,
+                                 nullptr);
+    };
+    using Windows = std::vector<HWND>;
+    EXPECT_EQ(Windows(), m_window.GetControls());
+    CWnd own;
+    ASSERT_TRUE(own.Create(L"STATIC", L"", 0, CRect(0, 0, 10, 10), &m_window, 7));
+    EXPECT_EQ(Windows{own.m_hWnd}, m_window.GetControls());
+    const HWND second = make();
+    ::CreateWindowExW(0, L"STATIC", L"", WS_CHILD, 0, 0, 10, 10, second, nullptr, nullptr, nullptr);
+    m_window.ForgetControls();
+    EXPECT_EQ((Windows{own.m_hWnd, second}), m_window.GetControls()) << "direct children only";
+    EXPECT_EQ((Windows{own.m_hWnd, second}), AfxChildWindows(m_window));
+    ::DestroyWindow(own.m_hWnd);
+    EXPECT_EQ(Windows{second}, m_window.GetControls());
+    const HWND third = make();
+    ::SetWindowPos(third, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    m_window.ForgetControls();
+    EXPECT_EQ((Windows{third, second}), m_window.GetControls());
+}
+
+TEST_F(WindowMap, EnablingWhatIsEnabledSendsNothing)
+{
+    class CNoted : public CWnd
+    {
+      public:
+        std::vector<UINT> messages;
+
+      protected:
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            messages.push_back(message);
+            return CWnd::WindowProc(message, wParam, lParam);
+        }
+    } control;
+    ASSERT_TRUE(control.Create(L"STATIC", L"", 0, CRect(0, 0, 10, 10), &m_window, 7));
+    control.messages.clear();
+    EXPECT_FALSE(control.EnableWindow(TRUE)) << "was it disabled?";
+    EXPECT_TRUE(control.messages.empty());
+    EXPECT_FALSE(control.EnableWindow(FALSE));
+    EXPECT_NE(0, std::ranges::count(control.messages, UINT{WM_ENABLE}));
+    EXPECT_FALSE(control.IsWindowEnabled());
+    control.messages.clear();
+    EXPECT_TRUE(control.EnableWindow(FALSE));
+    EXPECT_TRUE(control.messages.empty());
+    EXPECT_TRUE(control.EnableWindow(TRUE));
+    EXPECT_NE(0, std::ranges::count(control.messages, UINT{WM_ENABLE}));
+    EXPECT_TRUE(control.IsWindowEnabled());
 }
 
 TEST_F(WindowMap, AttachAndDetachDoNotTouchTheWindow)
