@@ -41,9 +41,9 @@ void CloseCalendar(HWND datePicker)
 }
 } // namespace
 
-void CloseDropped(HWND dialog)
+void CloseDropped(const std::vector<HWND>& controls)
 {
-    for (const HWND control : AfxChildWindows(dialog)) {
+    for (const HWND control : controls) {
         if (AfxIsOfClass(control, WC_COMBOBOXW) && ::SendMessageW(control, CB_GETDROPPEDSTATE, 0, 0) != 0)
             ::SendMessageW(control, CB_SHOWDROPDOWN, FALSE, 0);
         else if (AfxIsOfClass(control, DATETIMEPICK_CLASSW))

@@ -1,9 +1,12 @@
 #pragma once
 
+#include <vector>
+
 #include "framework/afxwin.h"
 
 /// Makes an open drop-down list at least as wide as its longest entry.
 void FitDroppedWidth(HWND comboBox);
 
-/// Closes the drop-down lists and calendars that combo boxes and date pickers of the dialog have open.
-void CloseDropped(HWND dialog);
+/// Closes the drop-down lists and calendars that combo boxes and date pickers among the controls have
+/// open.
+void CloseDropped(const std::vector<HWND>& controls);

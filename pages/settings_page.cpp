@@ -148,7 +148,7 @@ int CSettingsPage::NarrowestWidth(HWND control, const CRect& units) const
     const CRect rect = RectOn(m_hWnd, control);
     if (IsFrame(control)) {
         int width = 0;
-        for (const HWND member : AfxChildWindows(m_hWnd)) {
+        for (const HWND member : FirstChildren()) {
             const CRect inner = RectOn(m_hWnd, member);
             if (member != control && rect.PtInRect(inner.TopLeft()) && !Follows(member))
                 width = std::max<int>(width, inner.right + units.left - rect.left);
@@ -186,7 +186,7 @@ int CSettingsPage::NarrowestWidth() const
 CSize CSettingsPage::NeededSize() const
 {
     int bottom = 0;
-    for (const HWND control : AfxChildWindows(m_hWnd))
+    for (const HWND control : FirstChildren())
         bottom = std::max<int>(bottom, RectOn(m_hWnd, control).bottom);
     return {m_narrowestWidth, bottom};
 }
@@ -255,10 +255,24 @@ void CSettingsPage::RegisterTooltips()
 void CSettingsPage::DoDataExchange(CDataExchange* exchange)
 {
     CWizardPage::DoDataExchange(exchange);
-    if (exchange->m_bSaveAndValidate)
+    if (PostponesExchange()) {
+        if (exchange->m_bSaveAndValidate)
+            m_values.TakeShown();
+    } else if (exchange->m_bSaveAndValidate) {
         ReadControls(exchange);
-    else
+    } else {
         ShowValues(exchange);
+    }
+}
+
+void CSettingsPage::EndOpening()
+{
+    const bool postponed = PostponesExchange();
+    CWizardPage::EndOpening();
+    if (!postponed || GetSafeHwnd() == nullptr)
+        return;
+    UpdateData(FALSE);
+    ApplyDependencies(m_values);
 }
 
 void CSettingsPage::ReadControls(CDataExchange* exchange)
@@ -359,6 +373,8 @@ void CSettingsPage::ApplyRefreshHook()
 
 void CSettingsPage::ApplyDependencies(const ov::PageValues& values)
 {
+    if (PostponesExchange())
+        return;
     for (const ov::DependencyRow& row : m_rows.dependencies) {
         CWnd* const control = GetDlgItem(row.controlId);
         if (control == nullptr)

@@ -25,10 +25,17 @@ class CSettingsPage : public CWizardPage
     bool SaveSettings(CPreferencesWizard* wizard) override;
     virtual void RegisterTooltips();
 
+    /// Shows the values of the last load.
+    void EndOpening() override;
+
   protected:
     void DoDataExchange(CDataExchange* exchange) override;
     void InitControlLayout() override;
     UINT AccessibleNameId(int controlId) const override;
+
+    /// Whether the controls wait for EndOpening, so that they are set once instead of after
+    /// each load. Until then, reading a control gives what it would show.
+    virtual bool PostponesExchange() const { return IsOpening(); }
 
     /// Handles notifications that no message-map entry handles: "..." buttons, and
     /// the notification with which a control of a row reports a

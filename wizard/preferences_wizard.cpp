@@ -105,6 +105,8 @@ bool CPreferencesWizard::CreateLeftPane()
 BOOL CPreferencesWizard::OnInitDialog()
 {
     CResizableDlg::OnInitDialog();
+    for (const auto& page : m_pages)
+        page->BeginOpening();
     if (!CreateLeftPane())
         return TRUE;
     RegisterTooltips();
@@ -130,9 +132,18 @@ BOOL CPreferencesWizard::OnInitDialog()
     }
     if (haveDefaults && m_currentPath.empty())
         m_store.SetModified(false);
+    ShowFirstPage();
     UpdateButtons();
     FitIntoWorkArea();
     return TRUE;
+}
+
+void CPreferencesWizard::ShowFirstPage()
+{
+    for (const auto& page : m_pages)
+        page->EndOpening();
+    if (m_currentPage >= 0)
+        m_pages[static_cast<size_t>(m_currentPage)]->ShowWindow(SW_SHOW);
 }
 
 void CPreferencesWizard::OnTemplateLayout()
@@ -173,8 +184,9 @@ CRect CPreferencesWizard::PlaceholderRect(int id) const
 void CPreferencesWizard::PlaceAfter(CWnd& child, int placeholderId)
 {
     // The tab order is the Z order: the child replaces its placeholder there.
+    const UINT drawing = child.IsWindowVisible() ? 0 : SWP_NOREDRAW | SWP_DEFERERASE;
     if (const CWnd* placeholder = GetDlgItem(placeholderId))
-        child.SetWindowPos(placeholder, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+        child.SetWindowPos(placeholder, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | drawing);
 }
 
 void CPreferencesWizard::SelectPage(UINT pageId)

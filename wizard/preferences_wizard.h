@@ -88,6 +88,8 @@ class CPreferencesWizard : public CResizableDlg
     /// focus to its name.
     bool WriteConfigFile();
     CTextFileEx& ConfigFile();
+    /// Ends the pages' opening and shows the current one.
+    void ShowFirstPage();
     void UpdateButtons();
     void UpdateFocusItems();
     void ScrollToFocus();

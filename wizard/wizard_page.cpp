@@ -97,15 +97,20 @@ bool CWizardPage::CreateOrShow(CWnd* parent, const CRect& rectangle)
         parent->ScreenToClient(&present);
         if (present != rectangle)
             MoveToRect(rectangle);
-        ShowWindow(SW_SHOW);
+        if (!m_isOpening)
+            ShowWindow(SW_SHOW);
     }
     return true;
 }
 
 void CWizardPage::MoveToRect(const CRect& rectangle)
 {
-    if (GetSafeHwnd() != nullptr)
-        MoveWindow(rectangle, TRUE);
+    if (GetSafeHwnd() == nullptr)
+        return;
+    // Nothing of a hidden page has to be drawn again.
+    const UINT drawing = IsWindowVisible() ? 0 : SWP_NOREDRAW | SWP_DEFERERASE;
+    SetWindowPos(nullptr, rectangle.left, rectangle.top, rectangle.Width(), rectangle.Height(),
+                 SWP_NOZORDER | SWP_NOACTIVATE | drawing);
 }
 
 void CWizardPage::ScrollTo(HWND control)
@@ -210,7 +215,7 @@ LRESULT CWizardPage::OnShowWindow(WPARAM show, LPARAM)
     const LRESULT result = Default();
     if (show == 0) {
         // Open lists and calendars are windows of their own and would remain above the next page.
-        CloseDropped(m_hWnd);
+        CloseDropped(FirstChildren());
         // A calendar that had the focus has returned it to its date picker.
         AfxReleaseFocus(m_hWnd);
     }
@@ -221,7 +226,8 @@ void CWizardPage::OnSize(UINT type, int width, int height)
 {
     CResizableDlg::OnSize(type, width, height);
     m_scroller.OnSize();
-    Invalidate(TRUE);
+    if (IsWindowVisible())
+        Invalidate(TRUE);
 }
 
 void CWizardPage::OnPaint()

@@ -26,6 +26,11 @@ class CWizardPage : public CResizableDlg
     /// if the window could not be created.
     virtual bool CreateOrShow(CWnd* parent, const CRect& rectangle);
 
+    /// From now until EndOpening, CreateOrShow creates the page's window without showing
+    /// it: nothing of the dialog is visible while it opens.
+    void BeginOpening() { m_isOpening = true; }
+    virtual void EndOpening() { m_isOpening = false; }
+
     /// Called after the page was shown.
     virtual void OnPostShow() {}
 
@@ -87,6 +92,7 @@ class CWizardPage : public CResizableDlg
     /// page.
     void LayoutPass() override;
 
+    bool IsOpening() const { return m_isOpening; }
     CPreferencesWizard* Owner() const { return m_owner; }
     int TakePendingSelector();
     void OnSettingChanged();
@@ -108,6 +114,7 @@ class CWizardPage : public CResizableDlg
     DECLARE_MESSAGE_MAP()
 
   private:
+    bool m_isOpening = false;
     int m_pendingSelector = 0;
     UINT m_templateId;
     UINT m_pageId;

@@ -15,6 +15,7 @@ CPageCertifying::CPageCertifying(CPreferencesWizard* owner) : CSettingsPage(owne
 // second one, so the second one decides the value.
 void CPageCertifying::DoDataExchange(CDataExchange* exchange)
 {
-    DDX_Check(exchange, IDC_CERTIFYING_PLACE_MARKER_CELL, Values().NumberOf(u"_ORTHOVAL_MARKERCELL"));
+    if (!PostponesExchange())
+        DDX_Check(exchange, IDC_CERTIFYING_PLACE_MARKER_CELL, Values().NumberOf(u"_ORTHOVAL_MARKERCELL"));
     CSettingsPage::DoDataExchange(exchange);
 }

@@ -108,6 +108,18 @@ Text PageValues::ShownCompanionString(std::size_t companion) const
     return Shown(m_rows.companions[companion].control, m_companions[companion]);
 }
 
+void PageValues::TakeShown()
+{
+    for (std::size_t row = 0; row < m_values.size(); ++row) {
+        m_values[row].number = ShownNumber(row);
+        m_values[row].text = ShownString(row);
+    }
+    for (std::size_t companion = 0; companion < m_companions.size(); ++companion) {
+        m_companions[companion].number = ShownCompanionNumber(companion);
+        m_companions[companion].text = ShownCompanionString(companion);
+    }
+}
+
 std::size_t PageValues::FindRow(TextView variable) const
 {
     const auto found = std::ranges::find(m_rows.settings, variable,

@@ -53,6 +53,9 @@ class PageValues
     int ShownCompanionNumber(std::size_t companion) const;
     Text ShownCompanionString(std::size_t companion) const;
 
+    /// Replaces every value by what its control shows for it.
+    void TakeShown();
+
     /// Sets the day that loading uses as today; without it, the clock's.
     void SetToday(std::chrono::year_month_day today) { m_today = today; }
     std::optional<std::chrono::year_month_day> Today() const { return m_today; }

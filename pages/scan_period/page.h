@@ -22,4 +22,6 @@ class CPageScanPeriod : public CSettingsPage
   protected:
     BOOL OnCmdMsg(UINT id, int code, NMHDR* notify, LRESULT* result) override;
     void RefreshControls() override { UpdateScanPeriodControls(); }
+    /// A date of which a file gives only a part keeps the rest from what the controls show.
+    bool PostponesExchange() const override { return false; }
 };

@@ -26,8 +26,10 @@ bool CPageWeighting::LoadSettings(int selector)
         return loaded;
     // A track bar is limited to its range; the edit shows the text even if it is outside.
     for (const ov::BarRow& bar : Rows().bars) {
-        GetDlgItem(bar.controlId)
-            ->SendMessage(TBM_SETPOS, TRUE, ov::ToInteger(Values().TextOf(bar.variable)));
+        const CWnd* const control = GetDlgItem(bar.controlId);
+        const LRESULT position = ov::ToInteger(Values().TextOf(bar.variable));
+        if (control->SendMessage(TBM_GETPOS) != position)
+            control->SendMessage(TBM_SETPOS, TRUE, position);
     }
     return loaded;
 }

@@ -59,6 +59,30 @@ TEST(PageValues, StartWithTheBuiltInValues)
     EXPECT_EQ(values.String(2), u"built in");
 }
 
+TEST(PageValues, ShownValuesReplaceTheOthers)
+{
+    static constexpr unsigned entries[] = {1, 2};
+    static constexpr ov::EntriesRow lists[] = {{2, entries}, {5, entries}};
+    static constexpr ov::CompanionRow companions[] = {{ov::ControlKind::DropDownList, 5, u"FLAG", -2},
+                                                      {ov::ControlKind::Edit, 6, u"FLAG", 3}};
+    ov::PageRows page = samplePage;
+    page.entries = lists;
+    page.companions = companions;
+    PageValues values(page);
+    values.String(2) = Text(u"before\0after", 12);
+    values.CompanionString(1) = Text(u"\0", 1);
+    values.TakeShown();
+    EXPECT_EQ(values.Number(0), 1);
+    EXPECT_EQ(values.Number(1), -1) << "the list has two entries, but 7 is selected";
+    EXPECT_EQ(values.String(2), u"before");
+    EXPECT_EQ(values.CompanionNumber(0), -1);
+    EXPECT_EQ(values.CompanionNumber(1), 3);
+    EXPECT_EQ(values.CompanionString(1), u"");
+    values.Number(1) = 1;
+    values.TakeShown();
+    EXPECT_EQ(values.Number(1), 1);
+}
+
 TEST(PageValues, RowsAreFoundByVariable)
 {
     const PageValues values(samplePage);
