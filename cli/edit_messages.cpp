@@ -25,6 +25,8 @@ std::string ValueProblem(const Text& value)
 std::string ReasonText(const RefusedEdit& refused)
 {
     switch (refused.reason) {
+    case EditRefusal::NotPlainText:
+        return "the file is not plain text: " + Utf8FromText(refused.detail);
     case EditRefusal::Conditional:
         return "a variable that is assigned between %if and %endif is not edited";
     case EditRefusal::EndsInCondition:

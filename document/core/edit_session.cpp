@@ -2,6 +2,7 @@
 
 #include "base/utf8.h"
 #include "config/core/config_reader.h"
+#include "document/core/plain_text.h"
 
 #include <algorithm>
 #include <set>
@@ -52,9 +53,9 @@ std::vector<NamedValue> ValuesOfOthers(const SettingStore& store, const std::set
 } // namespace
 
 EditSession::EditSession(const EditedFile& file, const FactsOf& factsOf)
-    : m_file(file), m_factsOf(factsOf), m_charset(file.CharsetOf(file.bytes)),
-      m_document(std::string(file.bytes)), m_lines(m_document), m_headerLines(HeaderLineCount(m_document)),
-      m_edits(m_document)
+    : m_file(file), m_factsOf(factsOf), m_charset(file.CharsetOf(file.bytes)), m_encoder(m_charset),
+      m_decoder(m_charset), m_document(std::string(file.bytes)), m_lines(m_document),
+      m_headerLines(HeaderLineCount(m_document)), m_edits(m_document)
 {
     ReadConfig(m_before, kCurrentTable, m_document.Bytes(), m_charset);
 }
@@ -62,13 +63,16 @@ EditSession::EditSession(const EditedFile& file, const FactsOf& factsOf)
 std::span<const VariableLine> EditSession::LinesOf(TextView name) const
 {
     std::string bytes;
-    return LocaleEncoder(m_charset).Append(name, bytes) ? m_lines.Of(bytes) : std::span<const VariableLine>();
+    return m_encoder.Append(name, bytes) ? m_lines.Of(bytes) : std::span<const VariableLine>();
 }
 
 bool EditSession::MayChange(TextView name)
 {
     const auto lines = LinesOf(name);
-    if (std::any_of(lines.begin(), lines.end(), [](const VariableLine& line) { return line.conditional; }))
+    if (const char* const reason = WhyNotPlainText(m_document.Bytes()))
+        Refuse(EditRefusal::NotPlainText, name, TextFromUtf8(reason));
+    else if (std::any_of(lines.begin(), lines.end(),
+                         [](const VariableLine& line) { return line.conditional; }))
         Refuse(EditRefusal::Conditional, name);
     else if (lines.empty() && m_lines.EndsInCondition())
         Refuse(EditRefusal::EndsInCondition, name);
@@ -81,7 +85,7 @@ Text EditSession::ValueOf(std::size_t line) const
 {
     const std::string_view bytes = m_document.Parts(line).value;
     Text value;
-    LocaleDecoder(m_charset).Append(bytes, value);
+    m_decoder.Append(bytes, value);
     Text room;
     return IsQuoted(bytes) ? Text(Unquoted(TextView(value), room)) : value;
 }
@@ -156,7 +160,7 @@ std::size_t EditSession::DialogCommentAbove(std::size_t line, const Text& commen
         return 0;
     for (std::size_t i = 0; i < block.size(); ++i) {
         std::string bytes;
-        if (!LocaleEncoder(m_charset).Append(Trim(block[i]), bytes) ||
+        if (!m_encoder.Append(Trim(block[i]), bytes) ||
             m_document.Parts(line - block.size() + i).text != bytes)
             return 0;
     }
@@ -191,7 +195,7 @@ std::string EditSession::Indentation(std::size_t line) const
 std::optional<std::string> EditSession::Encoded(TextView name, TextView text)
 {
     std::string bytes;
-    const EncodeResult result = LocaleEncoder(m_charset).Append(text, bytes);
+    const EncodeResult result = m_encoder.Append(text, bytes);
     if (result)
         return bytes;
     Refuse(EditRefusal::CharacterLacking, name,

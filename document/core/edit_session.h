@@ -68,6 +68,8 @@ class EditSession
     const EditedFile& m_file;
     const FactsOf& m_factsOf;
     Charset m_charset;
+    LocaleEncoder m_encoder;
+    LocaleDecoder m_decoder;
     Document m_document;
     VariableLines m_lines;
     std::size_t m_headerLines; ///< Before the blank line that ends the header.

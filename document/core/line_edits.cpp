@@ -18,6 +18,9 @@ class LineJoiner
         m_bytes.append(text).append(end);
         m_end = end;
         m_neededEnd = end.empty() ? endWhenNeeded : std::string_view();
+        // A CR at the end of the text would be taken for a part of the line end.
+        if (m_neededEnd == "\n" && text.ends_with('\r'))
+            m_neededEnd = "\r\n";
     }
 
     // The joined lines, with or without a final line end.

@@ -9,6 +9,7 @@
 #include <iterator>
 #include <list>
 #include <optional>
+#include <unordered_set>
 #include <utility>
 
 namespace ov
@@ -23,11 +24,11 @@ class EntryChange
 {
   public:
     EntryChange(const ListChange& change, Entries before, const ListFormat& format)
-        : m_format(format), m_entries(std::move(before))
+        : m_format(format), m_before(std::move(before)), m_entries(m_before)
     {
         for (const Text& entry : change.remove)
             m_removed.push_back(EntryKey(entry, format));
-        m_changed = Remove(m_entries);
+        Remove(m_entries);
         for (const Text& entry : change.prepend) {
             if (!Has(entry)) {
                 m_prepended.emplace_back(Trim(entry));
@@ -52,7 +53,8 @@ class EntryChange
                }) > 0;
     }
 
-    bool IsNone() const { return !m_changed && m_prepended.empty() && m_appended.empty(); }
+    /// True when the list is what it was; entries may have been removed and added again.
+    bool IsNone() const { return m_entries == m_before; }
     const Entries& Prepended() const { return m_prepended; } ///< In the order of prepending.
     const Entries& Appended() const { return m_appended; }
     const Entries& Result() const { return m_entries; }
@@ -66,11 +68,11 @@ class EntryChange
     }
 
     ListFormat m_format;
+    Entries m_before;
     Entries m_entries;
     Entries m_removed; // The keys of the entries to remove.
     Entries m_prepended;
     Entries m_appended;
-    bool m_changed = false;
 };
 
 // A line that the variable has after the edit: an old one, changed or not, or a new one.
@@ -149,7 +151,8 @@ class LinePlan
         m_lines.insert(m_lines.begin(), std::move(heir));
     }
 
-    // If no line with "<" follows, new entries are put first in the same form as the writer's.
+    // Without a "<" line after it, the "=" line takes a new first entry. The single entry that it had moves
+    // to a line of its own, as the writer would have it; several entries stay in the line.
     void Prepend(const Entries& entries)
     {
         const bool prepends = std::any_of(m_lines.begin(), m_lines.end(),
@@ -161,6 +164,10 @@ class LinePlan
                 continue;
             }
             base.changed = true;
+            if (base.entries.size() > 1) {
+                base.entries.insert(base.entries.begin(), entry);
+                continue;
+            }
             const Entries old = std::exchange(base.entries, {entry});
             const auto place = std::next(m_lines.begin());
             for (const Text& other : old)
@@ -216,9 +223,10 @@ void ApplyPlan(EditSession& session, TextView name, std::span<const VariableLine
             session.Rewrite(*planned.line, planned.operation, name, text);
     }
     const std::size_t firstThatCounts = kept.front();
+    const std::unordered_set<std::size_t> staying(kept.begin(), kept.end());
     for (const VariableLine& line : lines) {
         const bool dead = line.line < firstThatCounts;
-        if (!dead && line.operation != ':' && std::find(kept.begin(), kept.end(), line.line) == kept.end())
+        if (!dead && line.operation != ':' && !staying.contains(line.line))
             session.Edits().Erase(line.line);
     }
 }

@@ -14,6 +14,7 @@ namespace ov
 
 /// Why an edit was refused.
 enum class EditRefusal {
+    NotPlainText,     ///< The file is not plain text: `detail` says why.
     Conditional,      ///< The variable is assigned between "%if" and "%endif".
     EndsInCondition,  ///< A new variable would come after an open "%if".
     CharacterLacking, ///< The file's encoding lacks the character in `detail`.

@@ -1,30 +1,13 @@
 #include "inspect/core/inspection.h"
 
 #include "config/core/config_reader.h"
+#include "document/core/plain_text.h"
 
 #include <algorithm>
 #include <tuple>
 
 namespace ov
 {
-namespace
-{
-/// Why the dialog would not read anything from the file; null if it reads its lines.
-const char* WhyUnreadable(std::string_view bytes)
-{
-    if (bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF"))
-        return "it is in UTF-16";
-    // Latin text in UTF-16 without a byte-order mark has NUL as every other byte.
-    const std::string_view beginning = bytes.substr(0, 4096);
-    const auto nuls = static_cast<std::size_t>(std::ranges::count(beginning, '\0'));
-    if (beginning.size() >= 4 && nuls * 5 >= beginning.size() * 2)
-        return "it is in UTF-16";
-    const std::size_t first = bytes.find('\r');
-    if (first == std::string_view::npos || bytes.find('\n') != std::string_view::npos)
-        return nullptr;
-    return TrimBytes(bytes.substr(first)).empty() ? nullptr : "its lines end in CR only";
-}
-} // namespace
 
 HeaderInfo HeaderToWrite(const InspectedFile& file, const HeaderSources& sources)
 {
@@ -104,7 +87,7 @@ Inspector::Inspector(const InspectionSettings& settings)
 std::vector<Finding> Inspector::Inspect(const InspectedFile& file)
 {
     Inspection inspection(m_settings, file, m_dialog, m_defaults);
-    if (const char* reason = WhyUnreadable(file.Bytes())) {
+    if (const char* reason = WhyNotPlainText(file.Bytes())) {
         inspection.AddToFile(RuleId::NotPlainText, {{"reason", reason}});
         return std::move(inspection.Findings());
     }

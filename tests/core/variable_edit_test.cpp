@@ -1,6 +1,6 @@
 #include "document/core/variable_edit.h"
 
-#include "config/core/setting_comment.h"
+#include "tests/core/edit_properties.h"
 
 #include <gtest/gtest.h>
 
@@ -11,24 +11,7 @@ namespace ov
 namespace
 {
 
-// K_... are settings of a page: K_FLAG, K_PATH, K_TEXT, and K_COMMAS, a list with commas.
-VariableFacts FactsOfName(TextView name)
-{
-    VariableFacts facts;
-    if (!name.starts_with(u"K_"))
-        return facts;
-    facts.comment = MakeCommentBlock(u"This is " + Text(name) + u".");
-    facts.kind = SettingKindText;
-    if (name == u"K_FLAG")
-        facts.kind = SettingKindFlag;
-    if (name == u"K_PATH")
-        facts.kind = SettingKindPath;
-    if (name == u"K_COMMAS")
-        facts.list.separator = u',';
-    return facts;
-}
-
-const FactsOf kFacts = FactsOfName;
+const FactsOf kFacts = test::KnownFacts;
 
 std::string Outcome(const EditResult& result)
 {
@@ -165,6 +148,18 @@ TEST(SetVariable, ConditionalLinesAreRefused)
     EXPECT_EQ(Set("A = 1\n%if X\nB = 2\n", u"A", u"3"), "A = 3\n%if X\nB = 2\n");
 }
 
+TEST(SetVariable, AFileThatIsNotPlainTextIsRefused)
+{
+    EXPECT_EQ(Set(std::string("\xFF\xFE"
+                              "A\0 \0=\0 \0001\0\n\0",
+                              14),
+                  u"A", u"2"),
+              Refused(EditRefusal::NotPlainText, "A", "it is in UTF-16"));
+    EXPECT_EQ(Set("A = 1\rB = 1\r", u"A", u"2"),
+              Refused(EditRefusal::NotPlainText, "A", "its lines end in CR only"));
+    EXPECT_EQ(Set("A = 1\r", u"A", u"2"), "A = 2");
+}
+
 TEST(SetVariable, AllNamedOnesChangeOrNone)
 {
     const EditedFile file{"A = 1\nB = 2\n", std::nullopt};
@@ -247,6 +242,7 @@ TEST(ChangeListOfLines, SeveralEntriesInALineStayThere)
 {
     EXPECT_EQ(List("A = \"a;b;c\"\n", u"A", {{u"b"}, {}, {u"d"}}), "A = \"a;c\"\nA > d\n");
     EXPECT_EQ(List("A = a;b;c\n", u"A", {{u"b"}, {}, {}}), "A = a;c\n");
+    EXPECT_EQ(List("A = \"a;b\"\n", u"A", {{}, {u"p", u"q"}, {}}), "A = \"q;p;a;b\"\n");
 }
 
 TEST(ChangeListOfLines, EarlierAssignmentsAreLeftAlone)

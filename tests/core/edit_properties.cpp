@@ -1,0 +1,511 @@
+#include "tests/core/edit_properties.h"
+
+#include "config/core/config_reader.h"
+#include "config/core/setting_comment.h"
+#include "config/core/setting_store.h"
+#include "document/core/document.h"
+
+#include <algorithm>
+#include <iterator>
+#include <map>
+#include <set>
+#include <utility>
+#include <vector>
+
+namespace ov::test
+{
+namespace
+{
+
+// A line as the slow model takes it apart.
+struct ModelLine {
+    LineKind kind = LineKind::Blank;
+    std::string text;
+    std::string end;
+    std::string trimmed;
+    std::string name;
+    char operation = '\0';
+    bool conditional = false;
+};
+
+using ModelLines = std::vector<ModelLine>;
+
+std::string Trimmed(const std::string& text)
+{
+    const char* const white = " \t\n\v\f\r";
+    const std::size_t first = text.find_first_not_of(white);
+    return first == std::string::npos ? "" : text.substr(first, text.find_last_not_of(white) - first + 1);
+}
+
+void TakeApart(ModelLine& line)
+{
+    line.trimmed = Trimmed(line.text);
+    if (line.trimmed.empty())
+        return;
+    if (line.trimmed[0] == '#' || line.trimmed[0] == '%') {
+        line.kind = line.trimmed[0] == '#' ? LineKind::Comment : LineKind::Directive;
+        return;
+    }
+    const std::size_t nameEnd = std::min(line.trimmed.find_first_of(" \t"), line.trimmed.size());
+    const std::size_t start = std::min(line.trimmed.find_first_not_of(" \t", nameEnd), line.trimmed.size());
+    const std::size_t end = std::min(line.trimmed.find_first_of(" \t", start), line.trimmed.size());
+    const std::string token = line.trimmed.substr(start, end - start);
+    line.name = line.trimmed.substr(0, nameEnd);
+    line.kind = LineKind::Ignored;
+    for (const char operation : {'=', '>', '<', '+', ':'}) {
+        if (token.find(operation) == std::string::npos)
+            continue;
+        line.operation = operation;
+        line.kind = LineKind::Assignment;
+        return;
+    }
+}
+
+bool BeginsWithWord(const std::string& directive, const std::string& word)
+{
+    std::string text = Trimmed(directive.substr(1)).substr(0, word.size());
+    for (char& c : text)
+        c = c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+    return text == word;
+}
+
+struct ModelFile {
+    ModelLines lines;
+    bool endsInCondition = false;
+
+    explicit ModelFile(std::string_view bytes)
+    {
+        while (!bytes.empty()) {
+            ModelLine line;
+            line.text = bytes.substr(0, bytes.find('\n') + 1);
+            if (line.text.empty())
+                line.text = bytes;
+            bytes.remove_prefix(line.text.size());
+            Add(std::move(line));
+        }
+        endsInCondition = m_depth > 0;
+    }
+
+    bool Has(const std::string& name) const
+    {
+        return std::ranges::any_of(lines, [&](const ModelLine& line) { return Assigns(line, name); });
+    }
+    bool HasOperation(const std::string& name, char operation) const
+    {
+        return std::ranges::any_of(
+            lines, [&](const ModelLine& line) { return Assigns(line, name) && line.operation == operation; });
+    }
+    bool IsConditional(const std::string& name) const
+    {
+        return std::ranges::any_of(
+            lines, [&](const ModelLine& line) { return Assigns(line, name) && line.conditional; });
+    }
+
+    static bool Assigns(const ModelLine& line, const std::string& name)
+    {
+        return line.kind == LineKind::Assignment && line.name == name;
+    }
+
+  private:
+    void Add(ModelLine line)
+    {
+        for (const std::string end : {"\r\n", "\n"}) {
+            if (line.end.empty() && line.text.ends_with(end)) {
+                line.end = end;
+                line.text.resize(line.text.size() - end.size());
+            }
+        }
+        TakeApart(line);
+        if (line.kind == LineKind::Directive && BeginsWithWord(line.trimmed, "if"))
+            ++m_depth;
+        else if (line.kind == LineKind::Directive && BeginsWithWord(line.trimmed, "endif") && m_depth > 0)
+            --m_depth;
+        line.conditional = m_depth > 0;
+        lines.push_back(std::move(line));
+    }
+
+    int m_depth = 0;
+};
+
+using Values = std::map<Text, Text>;
+
+Values ValuesOf(std::string_view bytes, Charset charset)
+{
+    SettingStore store;
+    ReadConfig(store, kCurrentTable, bytes, charset);
+    Values values;
+    store.VisitInOrder(kCurrentTable, [&values](const SettingRecord& record) {
+        values[record.name] = record.value;
+        return true;
+    });
+    return values;
+}
+
+// The comment that the dialog gives a new variable, without white space at the ends of its lines.
+std::vector<std::string> BlockOf(const Text& name)
+{
+    std::vector<std::string> block;
+    std::string rest = Utf8FromText(KnownFacts(name).comment);
+    while (!rest.empty()) {
+        const std::size_t end = rest.find('\n');
+        block.push_back(Trimmed(rest.substr(0, end)));
+        rest.erase(0, end + 1);
+    }
+    return block;
+}
+
+Text Join(const std::vector<Text>& entries, char16_t separator)
+{
+    Text value;
+    for (std::size_t i = 0; i < entries.size(); ++i)
+        value += (i > 0 ? Text(1, separator) : Text()) + entries[i];
+    return value;
+}
+
+std::vector<Text> Split(TextView value, char16_t separator)
+{
+    std::vector<Text> entries;
+    while (!value.empty()) {
+        const std::size_t end = std::min(value.find(separator), value.size());
+        entries.emplace_back(value.substr(0, end));
+        value.remove_prefix(std::min(end + 1, value.size()));
+    }
+    return entries;
+}
+
+bool HasQuote(const Text& text)
+{
+    return text.find(u'"') != Text::npos;
+}
+
+// The entries of a list after the change. Nothing is moved or removed that need not be.
+std::vector<Text> ChangedEntries(std::vector<Text> entries, const ListChange& change)
+{
+    const auto there = [&entries](const Text& entry) {
+        return std::ranges::any_of(entries, [&](const Text& each) { return Trim(each) == Trim(entry); });
+    };
+    for (const Text& entry : change.remove)
+        std::erase_if(entries, [&](const Text& each) { return Trim(each) == Trim(entry); });
+    for (const Text& entry : change.prepend) {
+        if (!there(entry))
+            entries.emplace(entries.begin(), Trim(entry));
+    }
+    for (const Text& entry : change.append) {
+        if (!there(entry))
+            entries.emplace_back(Trim(entry));
+    }
+    return entries;
+}
+
+// One edit of one file, with what was there before it.
+class EditCheck
+{
+  public:
+    EditCheck(const EditedFile& file, const AnyEdit& edit)
+        : m_file(file), m_edit(edit), m_charset(file.CharsetOf(file.bytes)), m_before(file.bytes),
+          m_result(Apply(file, edit)), m_after(m_result.bytes)
+    {
+        LocaleEncoder(m_charset).Append(edit.name, m_name);
+        m_isNew = !m_before.Has(m_name);
+    }
+
+    std::string Fault() const
+    {
+        if (!m_result.refused.empty())
+            return IsOrdinary() && !MayBeRefused() ? "An ordinary edit is refused" : "";
+        if (MustStay() && m_result.bytes != m_file.bytes)
+            return "What depends on a condition has changed";
+        for (const auto check :
+             {&EditCheck::FaultOfEnds, &EditCheck::FaultOfOtherLines, &EditCheck::FaultOfOwnLines,
+              &EditCheck::FaultOfValues, &EditCheck::FaultOfSecondTime, &EditCheck::FaultOfWayBack}) {
+            if (std::string fault = (this->*check)(); !fault.empty())
+                return fault;
+        }
+        return "";
+    }
+
+  private:
+    bool MustStay() const
+    {
+        return m_before.IsConditional(m_name) ||
+               (m_isNew && m_before.endsInCondition && m_edit.kind != AnyEdit::Kind::Unset);
+    }
+
+    static bool IsOrdinaryText(TextView text)
+    {
+        return text == Trim(text) && std::ranges::all_of(text, [](char16_t c) {
+                   return c >= u' ' && c <= u'~' && TextView(u"\"#;,").find(c) == TextView::npos;
+               });
+    }
+
+    bool IsOrdinary() const
+    {
+        const auto isEntry = [](const Text& text) { return !text.empty() && IsOrdinaryText(text); };
+        const bool isName = !m_edit.name.empty() && std::ranges::all_of(m_edit.name, [](char16_t c) {
+            return (c >= u'A' && c <= u'Z') || c == u'_';
+        });
+        return isName && IsOrdinaryText(m_edit.value) && std::ranges::all_of(m_edit.change.remove, isEntry) &&
+               std::ranges::all_of(m_edit.change.prepend, isEntry) &&
+               std::ranges::all_of(m_edit.change.append, isEntry);
+    }
+
+    // Values that were there before may make a list that cannot be written.
+    bool MayBeRefused() const
+    {
+        const EditRefusal reason = m_result.refused.front().reason;
+        const bool isList = m_edit.kind == AnyEdit::Kind::List;
+        return MustStay() || reason == EditRefusal::EncodingChanged || reason == EditRefusal::NotPlainText ||
+               (isList && (reason == EditRefusal::ListNotPlain || reason == EditRefusal::ValueNotKept));
+    }
+
+    static bool EndsInLineEnd(std::string_view bytes) { return bytes.empty() || bytes.back() == '\n'; }
+
+    std::string FaultOfEnds() const
+    {
+        if (!m_file.bytes.empty() && !m_result.bytes.empty() &&
+            EndsInLineEnd(m_file.bytes) != EndsInLineEnd(m_result.bytes))
+            return "The final line end has come or gone";
+        std::set<std::string> ends{""};
+        for (const ModelLine& line : m_before.lines)
+            ends.insert(line.end);
+        // A CR at the end of the file, with LF behind it, would be taken for a part of the line end.
+        if (ends.size() == 1 || m_file.bytes.ends_with('\r'))
+            ends.insert("\r\n");
+        const bool known = std::ranges::all_of(
+            m_after.lines, [&](const ModelLine& line) { return ends.contains(line.end); });
+        return known ? "" : "There is a line end that the file did not have";
+    }
+
+    // The lines of the variables that are not named, of comments and all others. A comment block that
+    // goes with the variable is left out.
+    ModelLines OtherLinesBefore(bool keepBlankBelowHeader) const
+    {
+        const ModelLines& lines = m_before.lines;
+        std::vector<bool> goes(lines.size());
+        const std::vector<std::string> block = BlockOf(m_edit.name);
+        for (std::size_t i = 0; i < lines.size(); ++i) {
+            if (!ModelFile::Assigns(lines[i], m_name))
+                continue;
+            goes[i] = true;
+            if (m_after.Has(m_name) || !HasBlockAbove(i, block))
+                continue;
+            for (std::size_t above = i - block.size(); above < i; ++above)
+                goes[above] = !(keepBlankBelowHeader && above == HeaderLineCount());
+        }
+        ModelLines others;
+        for (std::size_t i = 0; i < lines.size(); ++i) {
+            if (!goes[i])
+                others.push_back(lines[i]);
+        }
+        return others;
+    }
+
+    bool HasBlockAbove(std::size_t line, const std::vector<std::string>& block) const
+    {
+        if (block.empty() || block.size() > line)
+            return false;
+        return std::equal(
+            block.begin(), block.end(),
+            m_before.lines.begin() + static_cast<std::ptrdiff_t>(line - block.size()),
+            [](const std::string& text, const ModelLine& each) { return each.trimmed == text; });
+    }
+
+    // The index of the blank line that ends the header; the number of lines without one.
+    std::size_t HeaderLineCount() const
+    {
+        for (std::size_t i = 0; i < m_before.lines.size(); ++i) {
+            const LineKind kind = m_before.lines[i].kind;
+            if (kind == LineKind::Blank && i > 0)
+                return i;
+            if (kind != LineKind::Comment && kind != LineKind::Directive)
+                break;
+        }
+        return m_before.lines.size();
+    }
+
+    static bool SameLines(const ModelLines& first, const ModelLines& second)
+    {
+        return std::ranges::equal(first, second, [](const ModelLine& a, const ModelLine& b) {
+            return a.text == b.text && (a.end == b.end || a.end.empty() || b.end.empty());
+        });
+    }
+
+    std::string FaultOfOtherLines() const
+    {
+        ModelLines others;
+        for (const ModelLine& line : m_after.lines) {
+            if (!ModelFile::Assigns(line, m_name))
+                others.push_back(line);
+        }
+        if (m_isNew && m_after.Has(m_name)) {
+            const std::vector<std::string> block = BlockOf(m_edit.name);
+            const std::size_t kept = m_before.lines.size();
+            const bool under =
+                others.size() == kept + block.size() &&
+                std::equal(
+                    block.begin(), block.end(), others.begin() + static_cast<std::ptrdiff_t>(kept),
+                    [](const std::string& text, const ModelLine& each) { return each.trimmed == text; });
+            if (!under)
+                return "The new variable is not under the dialog's comment";
+            others.resize(kept);
+        }
+        return SameLines(others, OtherLinesBefore(false)) || SameLines(others, OtherLinesBefore(true))
+                   ? ""
+                   : "Other lines than the variable's have changed";
+    }
+
+    std::string FaultOfOwnLines() const
+    {
+        const auto count = std::ranges::count_if(
+            m_after.lines, [&](const ModelLine& line) { return ModelFile::Assigns(line, m_name); });
+        if (m_edit.kind == AnyEdit::Kind::Unset)
+            return count == 0 ? "" : "A line of the variable is left";
+        if (m_edit.kind == AnyEdit::Kind::List) {
+            const bool stays = m_isNew || m_before.HasOperation(m_name, '=') ||
+                               !m_after.HasOperation(m_name, '=') ||
+                               KnownFacts(m_edit.name).list.separator == u',';
+            return stays ? "" : "A list that was inherited is not any more";
+        }
+        if (!m_after.HasOperation(m_name, '='))
+            return "The variable has no \"=\" line";
+        const bool changed = m_result.bytes != m_file.bytes;
+        return changed && m_edit.value.find(u';') == Text::npos && count != 1
+                   ? "More than one line is left of the variable"
+                   : "";
+    }
+
+    std::string FaultOfValues() const
+    {
+        Values wanted = ValuesOf(m_file.bytes, m_charset);
+        Values values = ValuesOf(m_result.bytes, m_file.CharsetOf(m_result.bytes));
+        if (m_edit.kind == AnyEdit::Kind::Set) {
+            wanted[m_edit.name] = m_edit.value;
+        } else if (m_edit.kind == AnyEdit::Kind::Unset) {
+            wanted.erase(m_edit.name);
+        } else if (!SetWantedList(wanted)) {
+            wanted.erase(m_edit.name);
+            values.erase(m_edit.name);
+        }
+        return values == wanted ? "" : "The values are not as wanted";
+    }
+
+    // False when quotes make it unclear where entries begin and end.
+    bool SetWantedList(Values& wanted) const
+    {
+        const char16_t separator = KnownFacts(m_edit.name).list.separator;
+        const auto found = wanted.find(m_edit.name);
+        const Text value = found == wanted.end() ? Text() : found->second;
+        if (HasQuote(value) || std::ranges::any_of(m_edit.change.remove, HasQuote) ||
+            std::ranges::any_of(m_edit.change.prepend, HasQuote) ||
+            std::ranges::any_of(m_edit.change.append, HasQuote))
+            return false;
+        const std::vector<Text> before = Split(value, separator);
+        const std::vector<Text> after = ChangedEntries(before, m_edit.change);
+        if (after == before)
+            return true;
+        if (after.empty() && separator == u';' && !m_before.HasOperation(m_name, '='))
+            wanted.erase(m_edit.name);
+        else
+            wanted[m_edit.name] = Join(after, separator);
+        return true;
+    }
+
+    // An entry that is removed and added again is moved, each time.
+    bool MovesEntry() const
+    {
+        const auto plain = [](Text entry) {
+            std::erase(entry, u'"');
+            return Text(Trim(entry));
+        };
+        std::set<Text> added;
+        for (const std::vector<Text>* entries : {&m_edit.change.prepend, &m_edit.change.append})
+            std::ranges::transform(*entries, std::inserter(added, added.end()), plain);
+        return std::ranges::any_of(m_edit.change.remove,
+                                   [&](const Text& entry) { return added.contains(plain(entry)); });
+    }
+
+    std::string FaultOfSecondTime() const
+    {
+        if (MovesEntry())
+            return "";
+        const EditResult again = Apply({m_result.bytes, m_file.charset}, m_edit);
+        return again.refused.empty() && again.bytes == m_result.bytes ? ""
+                                                                      : "A second time the edit changes more";
+    }
+
+    std::string FaultOfWayBack() const
+    {
+        if (!m_isNew)
+            return "";
+        const AnyEdit unset{AnyEdit::Kind::Unset, m_edit.name, {}, {}};
+        const EditResult back = Apply({m_result.bytes, m_file.charset}, unset);
+        return back.refused.empty() && back.bytes == m_file.bytes ? "" : "Unset does not restore the file";
+    }
+
+    const EditedFile& m_file;
+    const AnyEdit& m_edit;
+    Charset m_charset;
+    ModelFile m_before;
+    EditResult m_result;
+    ModelFile m_after;
+    std::string m_name; // In the bytes of the file.
+    bool m_isNew;
+};
+
+} // namespace
+
+VariableFacts KnownFacts(TextView name)
+{
+    VariableFacts facts;
+    if (!name.starts_with(u"K_"))
+        return facts;
+    facts.comment = MakeCommentBlock(u"This is " + Text(name) + u".");
+    facts.kind = SettingKindText;
+    if (name == u"K_FLAG")
+        facts.kind = SettingKindFlag;
+    if (name == u"K_PATH")
+        facts.kind = SettingKindPath;
+    if (name == u"K_COMMAS")
+        facts.list.separator = u',';
+    return facts;
+}
+
+EditResult Apply(const EditedFile& file, const AnyEdit& edit)
+{
+    switch (edit.kind) {
+    case AnyEdit::Kind::Set:
+        return SetVariables(file, {{edit.name, edit.value}}, KnownFacts);
+    case AnyEdit::Kind::Unset:
+        return UnsetVariables(file, {edit.name}, KnownFacts);
+    default:
+        return ChangeList(file, edit.name, edit.change, KnownFacts);
+    }
+}
+
+std::string FaultOfDocument(const std::string& bytes)
+{
+    const Document document(bytes);
+    const ModelFile model(bytes);
+    if (document.Bytes() != bytes || document.LineCount() != model.lines.size())
+        return "The document has other bytes or lines";
+    const char* next = document.Bytes().data();
+    for (std::size_t i = 0; i < document.LineCount(); ++i) {
+        const DocumentLine& line = document.Line(i);
+        if (line.text.data() != next || line.end.data() != next + line.text.size())
+            return "A byte belongs to no line or to two";
+        next = line.end.data() + line.end.size();
+        const ModelLine& expected = model.lines[i];
+        const ConfigLine parts = document.Parts(i);
+        if (line.text != expected.text || line.end != expected.end || parts.kind != expected.kind ||
+            parts.name != expected.name || parts.operation != expected.operation)
+            return "Line " + std::to_string(i) + " is taken for another one";
+    }
+    return next == document.Bytes().data() + bytes.size() ? "" : "Bytes are missing at the end";
+}
+
+std::string FaultOfEdit(const EditedFile& file, const AnyEdit& edit)
+{
+    return EditCheck(file, edit).Fault();
+}
+
+} // namespace ov::test
