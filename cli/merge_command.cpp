@@ -3,6 +3,7 @@
 #include "cli/input.h"
 #include "cli/options.h"
 #include "cli/output.h"
+#include "document/core/plain_text.h"
 #include "inspect/core/merge.h"
 #include "inspect/core/page_facts.h"
 
@@ -33,6 +34,8 @@ class MergeCommand final : public Command
         const auto theirs = reader.Read(m_theirs);
         if (!base || !ours || !theirs)
             return ExitCode::Failed;
+        if (!IsPlainText(*base, output) || !IsPlainText(*ours, output) || !IsPlainText(*theirs, output))
+            return ExitCode::Failed;
         const MergeResult result = MergeFiles({base->bytes, base->charset}, {ours->bytes, ours->charset},
                                               {theirs->bytes, theirs->charset}, FactsOfPages);
         for (const Text& name : result.conflicts)
@@ -47,6 +50,15 @@ class MergeCommand final : public Command
     }
 
   private:
+    // Merging lines would damage any other file.
+    static bool IsPlainText(const InputFile& file, Output& output)
+    {
+        const char* const reason = WhyNotPlainText(file.bytes);
+        if (reason != nullptr)
+            output.Problem(file.path + ": It is not plain text: " + reason);
+        return reason == nullptr;
+    }
+
     std::string m_base;
     std::string m_ours;
     std::string m_theirs;

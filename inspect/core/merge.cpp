@@ -86,11 +86,14 @@ class Merger
     MergeResult Run()
     {
         m_result.otherLines = !MergeOtherLines(m_base, m_ours, m_theirs, m_output);
+        // What is inserted first is above what is inserted later: these go above the comment of the variable
+        // that follows them, which may be new too.
+        MergeNewOnes(NewPlace::AboveAllCommon);
         for (const MergeVariable& ours : m_ours.Variables()) {
             if (!ours.lines.empty())
                 MergeOurs(ours);
         }
-        MergeNewOnes();
+        MergeNewOnes(NewPlace::BelowACommon);
         m_result.bytes = m_output.Finish();
         std::sort(m_result.conflicts.begin(), m_result.conflicts.end());
         return m_result;
@@ -125,8 +128,6 @@ class Merger
             return;
         }
         Winner comment = ChooseComment(base, ours, *theirs);
-        if (base == nullptr && comment == Winner::Both && choice == Winner::Ours)
-            comment = Winner::Ours;
         if (m_refused.contains(ours.name))
             comment = Winner::Both;
         if (comment == Winner::Both) {
@@ -147,7 +148,7 @@ class Merger
     void RemoveOurs(const MergeVariable& ours, bool unchanged)
     {
         if (!unchanged || m_refused.contains(ours.name)) {
-            PutConflict(ours, nullptr, false);
+            PutConflict(ours, nullptr, true);
             return;
         }
         RemoveLines(ours);
@@ -233,9 +234,12 @@ class Merger
         return true;
     }
 
+    // Where a variable is in their file that only they have.
+    enum class NewPlace { AboveAllCommon, BelowACommon };
+
     // Variables that only they have are placed below the variable that is above them in their file. Those
     // above all common variables are placed above the first common one.
-    void MergeNewOnes()
+    void MergeNewOnes(NewPlace place)
     {
         const MergeVariable* above = nullptr;
         const MergeVariable* first = nullptr;
@@ -246,7 +250,7 @@ class Merger
         for (const MergeVariable& theirs : m_theirs.Variables()) {
             if (const MergeVariable* const ours = m_ours.Find(theirs.name))
                 above = ours;
-            else if (!theirs.lines.empty())
+            else if (!theirs.lines.empty() && (above == nullptr) == (place == NewPlace::AboveAllCommon))
                 MergeNew(theirs, above, first);
         }
     }
@@ -286,16 +290,19 @@ class Merger
 
     void PutConflict(const MergeVariable& ours, const MergeVariable* theirs, bool withComments)
     {
-        std::vector<std::size_t> ourLines = ours.lines;
+        std::size_t ourStart = withComments ? ours.commentStart : ours.lines.front();
         std::vector<std::size_t> theirLines;
-        if (theirs != nullptr)
-            theirLines = theirs->lines;
-        if (withComments && theirs != nullptr) {
-            const auto above = LineNumbers(ours.commentStart, ours.lines.front());
-            const auto theirAbove = LineNumbers(theirs->commentStart, theirs->lines.front());
-            ourLines.insert(ourLines.begin(), above.begin(), above.end());
-            theirLines.insert(theirLines.begin(), theirAbove.begin(), theirAbove.end());
+        if (theirs != nullptr) {
+            theirLines = LineNumbers(withComments ? theirs->commentStart : theirs->lines.front(),
+                                     theirs->lines.front());
+            theirLines.insert(theirLines.end(), theirs->lines.begin(), theirs->lines.end());
+        } else {
+            // Blank lines that separate what is above are not part of the variable.
+            while (m_ours.File().Parts(ourStart).kind == LineKind::Blank)
+                ++ourStart;
         }
+        std::vector<std::size_t> ourLines = LineNumbers(ourStart, ours.lines.front());
+        ourLines.insert(ourLines.end(), ours.lines.begin(), ours.lines.end());
         m_result.conflicts.push_back(ours.name);
         m_output.Replace(ourLines,
                          MergeOutput::Conflict(m_output.OurLines(ourLines), m_output.TheirLines(theirLines)));

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <optional>
 #include <string>
+#include <utility>
 
 namespace ov
 {
@@ -170,10 +171,7 @@ bool MergeHeader(const MergeSide& base, const MergeSide& ours, const MergeSide& 
         output.Replace(ours.HeaderLines(), texts);
         return clean;
     }
-    // Without a blank line after it, the header would become the comment of the first variable.
-    if (ours.File().LineCount() > 0 && ours.File().Parts(0).kind != LineKind::Blank)
-        texts.emplace_back();
-    output.InsertAbove(0, texts);
+    output.InsertHeader(std::move(texts));
     return clean;
 }
 

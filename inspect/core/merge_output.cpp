@@ -93,15 +93,26 @@ void MergeOutput::EraseComment(const MergeVariable& ours)
 
 std::string MergeOutput::Finish()
 {
-    // The blank line that had to remain and the one that now follows it would be two; removes one.
-    if (m_blankBelowHeaderIsSpare) {
-        std::size_t next = *m_ours.BlankBelowHeader() + 1;
-        while (next < m_ours.File().LineCount() && m_edits.IsErased(next))
-            ++next;
-        if (next < m_ours.File().LineCount() && m_ours.File().Parts(next).kind == LineKind::Blank)
-            m_edits.Erase(next);
-    }
+    if (m_blankBelowHeaderIsSpare)
+        EraseSecondBlank(*m_ours.BlankBelowHeader() + 1);
+    if (m_headerIsNew)
+        EraseSecondBlank(0);
     return m_edits.Apply();
+}
+
+void MergeOutput::EraseSecondBlank(std::size_t line)
+{
+    while (line < m_ours.File().LineCount() && m_edits.IsErased(line))
+        ++line;
+    if (line < m_ours.File().LineCount() && m_ours.File().Parts(line).kind == LineKind::Blank)
+        m_edits.Erase(line);
+}
+
+void MergeOutput::InsertHeader(std::vector<std::string> texts)
+{
+    texts.emplace_back();
+    InsertAbove(0, texts);
+    m_headerIsNew = true;
 }
 
 std::vector<std::string> MergeOutput::Conflict(const std::vector<std::string>& ours,

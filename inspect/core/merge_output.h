@@ -44,6 +44,10 @@ class MergeOutput
     /// Inserts lines below one of ours.
     void InsertBelow(std::size_t line, const std::vector<std::string>& texts);
 
+    /// Inserts a header at the beginning of our file, which has none, and a blank line below it. Without the
+    /// blank line, the header would become the comment of the first variable.
+    void InsertHeader(std::vector<std::string> texts);
+
     /// Removes the comment lines above one of our variables. The blank line below the header remains;
     /// without it the header would become a comment.
     void EraseComment(const MergeVariable& ours);
@@ -56,12 +60,16 @@ class MergeOutput
                                              const std::vector<std::string>& theirs);
 
   private:
+    // Removes our line, or the next one that remains, if it is blank: one blank line is above it already.
+    void EraseSecondBlank(std::size_t line);
+
     const MergeSide& m_ours;
     const MergeSide& m_theirs;
     Charset m_charset; ///< The encoding of the result.
     LineEdits m_edits;
     bool m_lossy = false;
     bool m_blankBelowHeaderIsSpare = false;
+    bool m_headerIsNew = false;
 };
 
 /// The numbers from `first` up to, but not including, `last`.
