@@ -39,4 +39,12 @@ ExitCode FileEdit::Run(Output& output, const std::function<EditResult(const Edit
                                        : WriteFile(m_path, file->bytes, result.bytes, output);
 }
 
+Text TextOfArgument(const std::string& argument)
+{
+    Text text = TextFromUtf8(argument);
+    if (Utf8FromText(text) != argument)
+        throw Usage("'" + Utf8FromText(text) + "' is not valid UTF-8");
+    return text;
+}
+
 } // namespace ov::cli

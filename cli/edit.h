@@ -27,4 +27,8 @@ class FileEdit
     EncodingOption m_encoding;
 };
 
+/// The text of an argument that may be written into a file. Throws Usage if the argument is not valid
+/// UTF-8: the file would get other characters.
+Text TextOfArgument(const std::string& argument);
+
 } // namespace ov::cli

@@ -98,6 +98,10 @@ bool MayWriteTo(const std::string& path, Output& output)
         output.Problem("-: The standard input cannot be edited");
         return false;
     }
+    if (Utf8FromText(TextFromUtf8(path)) != path) {
+        output.Problem(path + ": The name is not valid UTF-8");
+        return false;
+    }
     switch (MakeFilePort()->Kind(TextFromUtf8(path))) {
     case FileKind::Directory:
         output.Problem(path + ": It is a folder");
@@ -113,10 +117,15 @@ bool MayWriteTo(const std::string& path, Output& output)
 ExitCode WriteFile(const std::string& path, const std::optional<std::string>& before,
                    const std::string& after, Output& output)
 {
-    const std::unique_ptr<FilePort> files = MakeFilePort();
+    return WriteFile(path, before, after, *MakeFilePort(), output);
+}
+
+ExitCode WriteFile(const std::string& path, const std::optional<std::string>& before,
+                   const std::string& after, FilePort& files, Output& output)
+{
     const Text name = TextFromUtf8(path);
     std::string backup;
-    if (before && !HasFreeBackupName(name, *files, backup)) {
+    if (before && !HasFreeBackupName(name, files, backup)) {
         output.Problem(path + ": " + backup + " is in the way: it has the backup's name");
         return ExitCode::Failed;
     }
@@ -126,7 +135,7 @@ ExitCode WriteFile(const std::string& path, const std::optional<std::string>& be
     const AttributeKeeper attributes(path);
     Refusals refusals;
     try {
-        return Report(path, SaveBytes(after, name, known, *files, refusals), output);
+        return Report(path, SaveBytes(after, name, known, files, refusals), output);
     } catch (const NoBackup& noBackup) {
         output.Problem(path + ": No backup can be made" + Because(noBackup.SystemText()) +
                        "; nothing was written");

@@ -5,6 +5,11 @@
 #include <optional>
 #include <string>
 
+namespace ov
+{
+class FilePort;
+}
+
 namespace ov::cli
 {
 
@@ -19,6 +24,10 @@ bool MayWriteTo(const std::string& path, Output& output);
 /// the backup's name. Reports failures and returns the exit code.
 ExitCode WriteFile(const std::string& path, const std::optional<std::string>& before,
                    const std::string& after, Output& output);
+
+/// The same through a given file port.
+ExitCode WriteFile(const std::string& path, const std::optional<std::string>& before,
+                   const std::string& after, FilePort& files, Output& output);
 
 /// Sets the content of a file with the save sequence, whatever its present content. Does not write a file
 /// that already has this content. Reports failures and returns the exit code.

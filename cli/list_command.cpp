@@ -16,7 +16,7 @@ std::vector<Text> Texts(const std::vector<std::string>& entries)
 {
     std::vector<Text> texts;
     std::ranges::transform(entries, std::back_inserter(texts),
-                           [](const std::string& entry) { return TextFromUtf8(entry); });
+                           [](const std::string& entry) { return TextOfArgument(entry); });
     return texts;
 }
 
@@ -36,10 +36,10 @@ class ListCommand final : public Command
     {
         if (m_remove.empty() && m_prepend.empty() && m_append.empty())
             output.Remark("Nothing to do without --remove, --prepend and --append.");
+        const Text name = TextOfArgument(m_name);
         const ListChange change{Texts(m_remove), Texts(m_prepend), Texts(m_append)};
-        return m_edit.Run(output, [&](const EditedFile& file) {
-            return ChangeList(file, TextFromUtf8(m_name), change, FactsOfPages);
-        });
+        return m_edit.Run(
+            output, [&](const EditedFile& file) { return ChangeList(file, name, change, FactsOfPages); });
     }
 
   private:

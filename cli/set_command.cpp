@@ -35,8 +35,8 @@ class SetCommand final : public Command
             const std::size_t equals = assignment.find('=');
             if (equals == 0 || equals == std::string::npos)
                 throw Usage("'" + assignment + "' is not of the form NAME=VALUE");
-            const NewValue wanted{TextFromUtf8(assignment.substr(0, equals)),
-                                  TextFromUtf8(assignment.substr(equals + 1))};
+            const NewValue wanted{TextOfArgument(assignment.substr(0, equals)),
+                                  TextOfArgument(assignment.substr(equals + 1))};
             const auto same = std::ranges::find(values, wanted.name, &NewValue::name);
             if (same == values.end())
                 values.push_back(wanted);

@@ -24,8 +24,9 @@ class UnsetCommand final : public Command
     {
         std::vector<Text> names;
         for (const std::string& name : m_names) {
-            if (std::ranges::find(names, TextFromUtf8(name)) == names.end())
-                names.push_back(TextFromUtf8(name));
+            const Text text = TextOfArgument(name);
+            if (std::ranges::find(names, text) == names.end())
+                names.push_back(text);
         }
         return m_edit.Run(output,
                           [&](const EditedFile& file) { return UnsetVariables(file, names, FactsOfPages); });
