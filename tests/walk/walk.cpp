@@ -31,7 +31,10 @@ bool IsNamed(HWND window, const wchar_t* caption)
 
 void Walk::WarmUp()
 {
-    ASSERT_TRUE(Open());
+    Begin();
+    ComeToRest();
+    if (HasFailure() || AwaitDialog() == nullptr)
+        return;
     for (int row = static_cast<int>(Send(List(), LVM_GETITEMCOUNT)) - 1; row >= 0; --row) {
         SelectListViewRow(List(), row);
         UpdateWindow(Page());
