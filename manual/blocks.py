@@ -46,7 +46,7 @@ class Blocks:
         return self._makers[name](argument, body)
 
     def _markdown(self, text):
-        return writing._link_variables(markdown.markdown(text, output_format="html"), self.variables())
+        return writing.link_variables(markdown.markdown(text, output_format="html"), self.variables())
 
     def _pages(self, _argument, _body):
         self._reference.check_intros()
@@ -144,7 +144,7 @@ class Blocks:
         if not found:
             raise Mistake(f"{path} has no section '{title}'")
         html = markdown.markdown(found[1], extensions=["tables"], output_format="html")
-        return Block(writing._dress_tables(html))
+        return Block(f'<div class="document">\n{writing.dress_tables(html)}\n</div>')
 
     def _picture(self, argument, _body):
         name, _, words = argument.partition(" ")

@@ -136,15 +136,13 @@ def _list_text(setting):
 
 def _default(setting, added):
     if not setting["written"]:
-        return "The page only shows this setting. Save neither adds nor changes it."
+        return "Save neither adds nor changes this variable."
     if added is None:
         return "Save adds nothing to a file without this setting."
     value = added.split(" ", 2)[2].strip('"')
     meaning = next((choice["meaning"] for choice in setting["values"] or [] if choice["value"] == value), None)
-    shown = meaning or (f"<code>{escape(value)}</code>" if value else "empty")
-    if meaning:
-        shown = escape(meaning)
-    return (f'{shown[0].upper() + shown[1:]}. To a file without this setting Save adds '
+    shown = escape(meaning.capitalize() if setting["kind"] == "flag" else meaning) if meaning else _value(value)
+    return (f'{shown}. To a file without this setting Save adds '
             f"<code>{escape(added.strip())}</code>")
 
 

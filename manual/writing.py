@@ -58,7 +58,8 @@ def _contents(tokens, extra):
     return entries
 
 
-def _link_variables(text, known):
+def link_variables(text, known):
+    """Makes links of the variables in code; fails if there is no such setting."""
     def link(match):
         if match[1] not in known:
             raise Mistake(f"there is no variable {match[1]}")
@@ -66,7 +67,8 @@ def _link_variables(text, known):
     return VARIABLE.sub(link, text)
 
 
-def _dress_tables(text):
+def dress_tables(text):
+    """Lets the tables of converted Markdown scroll by themselves."""
     text = text.replace("<table>", '<div class="wide" tabindex="0" role="group" aria-label="Table">\n<table>')
     return text.replace("</table>", "</table>\n</div>").replace("<th>", '<th scope="col">')
 
@@ -86,7 +88,7 @@ def convert(source, blocks, replacements):
     text = COMPUTED.sub(keep, FENCED.sub(keep, fill_in(source, replacements)))
     converter = markdown.Markdown(extensions=["tables", "attr_list", "def_list", "toc"],
                                   extension_configs={"toc": {"baselevel": 2}}, output_format="html")
-    body = _dress_tables(_link_variables(converter.convert(text), blocks.variables()))
+    body = dress_tables(link_variables(converter.convert(text), blocks.variables()))
     for number, block in enumerate(computed):
         body = body.replace(f"<p>COMPUTED{number}BLOCK</p>", block)
     if "BLOCK</p>" in body or len(converter.toc_tokens) != 1:
