@@ -11,20 +11,10 @@ uuid_of() {
     printf '%s-%s-5%s-A%s-%s' "${hash:0:8}" "${hash:8:4}" "${hash:13:3}" "${hash:17:3}" "${hash:20:12}"
 }
 
-# xml_id PREFIX PATH: the identifier of a path in the installer's tables.
-xml_id() {
-    local uuid
-    uuid=$(uuid_of "$2")
-    printf '%s%s' "$1" "${uuid//-/}"
-}
-
 xml_text() {
-    sed -e 's/&/\&amp;/g' -e 's/</\&lt;/g' -e 's/"/\&quot;/g' <<<"$1"
-}
-
-# The folder that a path lies in, as the tables name it.
-xml_parent() {
-    if [ "${1%/*}" = "$1" ]; then printf 'INSTALLDIR'; else xml_id dir "${1%/*}"; fi
+    local text=${1//&/&amp;}
+    text=${text//</&lt;}
+    printf '%s' "${text//\"/&quot;}"
 }
 
 # The manual's entry in the Start menu.
@@ -37,27 +27,30 @@ manual_shortcut() {
 END
 }
 
-# msi_files FOLDER: one component for each file below it, always with the same
-# identifiers, which wixl-heat would make up. A repair restores single files.
+# msi_files FOLDER: one component for each file below it, so that a repair restores
+# single files. The identifiers are always the same for a path; wixl-heat would make
+# them up.
 msi_files() {
-    local path id components=""
+    local path parent uuid components=""
+    local -A folder_ids=([.]=INSTALLDIR)
     printf '<?xml version="1.0" encoding="utf-8"?>\n<Wix xmlns="http://schemas.microsoft.com/wix/2006/wi">\n<Fragment>\n'
     while read -r path; do
+        parent=${folder_ids[$(dirname "$path")]}
+        uuid=$(uuid_of "folder/$path")
+        folder_ids[$path]="dir${uuid//-/}"
         printf '<DirectoryRef Id="%s"><Directory Id="%s" Name="%s"/></DirectoryRef>\n' \
-            "$(xml_parent "$path")" "$(xml_id dir "$path")" "$(xml_text "${path##*/}")"
+            "$parent" "${folder_ids[$path]}" "$(xml_text "${path##*/}")"
     done < <(find "$1" -mindepth 1 -type d -printf '%P\n' | sort)
     while read -r path; do
-        id=$(xml_id cmp "$path")
-        printf '<DirectoryRef Id="%s"><Component Id="%s" Guid="%s" Win64="yes">' \
-            "$(xml_parent "$path")" "$id" "$(uuid_of "component/$path")"
-        printf '<File Id="%s" KeyPath="yes" Name="%s" Source="%s"/></Component></DirectoryRef>\n' \
-            "$(xml_id fil "$path")" "$(xml_text "${path##*/}")" "$(xml_text "files/$path")"
-        components+="<ComponentRef Id=\"$id\"/>"$'\n'
+        parent=${folder_ids[$(dirname "$path")]}
+        uuid=$(uuid_of "component/$path")
+        printf '<DirectoryRef Id="%s"><Component Id="cmp%s" Guid="%s" Win64="yes">' "$parent" "${uuid//-/}" "$uuid"
+        printf '<File Id="fil%s" KeyPath="yes" Name="%s" Source="%s"/></Component></DirectoryRef>\n' \
+            "${uuid//-/}" "$(xml_text "${path##*/}")" "$(xml_text "files/$path")"
+        components+="<ComponentRef Id=\"cmp${uuid//-/}\"/>"$'\n'
     done < <(find "$1" -type f -printf '%P\n' | sort)
-    if [ -f "$1/manual/index.html" ]; then
-        components+='<ComponentRef Id="StartMenuManual"/>'$'\n'
-        manual_shortcut
-    fi
+    components+='<ComponentRef Id="StartMenuManual"/>'$'\n'
+    manual_shortcut
     printf '</Fragment>\n<Fragment><ComponentGroup Id="Files">\n%s</ComponentGroup></Fragment>\n</Wix>\n' "$components"
 }
 
