@@ -254,10 +254,7 @@ void CConfigSettingDlg::OnInsert()
 
 bool CConfigSettingDlg::ConfirmDeletion(UINT rowCount)
 {
-    ov::Text question = AfxLoadString(IDS_ASK_DELETE_ITEMS);
-    constexpr ov::TextView number = u"%d";
-    if (const size_t place = question.find(number); place != ov::Text::npos)
-        question.replace(place, number.size(), ov::FormatInteger(static_cast<int>(rowCount)));
+    const ov::Text question = ov::FillNumber(AfxLoadString(IDS_ASK_DELETE_ITEMS), static_cast<int>(rowCount));
     return AfxShowMessageBox(m_hWnd, question, AfxLoadString(IDS_APP_CAPTION),
                              MB_YESNO | MB_ICONQUESTION | MB_SETFOREGROUND | MB_TOPMOST) == IDYES;
 }

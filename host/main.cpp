@@ -97,14 +97,8 @@ std::wstring Message(UINT id, const std::wstring& first, const std::wstring& sec
 {
     const wchar_t* resource = nullptr;
     const int length = LoadStringW(GetModuleHandleW(nullptr), id, reinterpret_cast<wchar_t*>(&resource), 0);
-    std::wstring text;
-    for (int index = 0; index < length; ++index) {
-        if (resource[index] != L'%' || index + 1 == length)
-            text += resource[index];
-        else
-            text += resource[++index] == L'1' ? first : second;
-    }
-    return text;
+    const ov::Text pattern = FromWide({resource, static_cast<size_t>(length)});
+    return Wide(ov::FillPlaces(pattern, {FromWide(first), FromWide(second)}));
 }
 
 int ShowDialog(const CCmdLineInfo& info)

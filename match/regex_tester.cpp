@@ -139,9 +139,5 @@ ov::Text RegexTester::Evaluate() const
                                                   static_cast<ov::WildcardType>(m_type), anyCase);
     if (status == ov::kMatchDone)
         return AfxLoadString(match != 0 ? IDS_REGEX_MATCH : IDS_REGEX_NO_MATCH);
-    ov::Text failure = AfxLoadString(IDS_REGEX_SYNTAX_ERROR);
-    constexpr ov::TextView number = u"%d";
-    if (const size_t place = failure.find(number); place != ov::Text::npos)
-        failure.replace(place, number.size(), ov::FormatInteger(static_cast<int>(status)));
-    return failure;
+    return ov::FillNumber(AfxLoadString(IDS_REGEX_SYNTAX_ERROR), static_cast<int>(status));
 }

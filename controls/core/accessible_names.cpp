@@ -10,14 +10,6 @@ bool SaysNothing(TextView caption)
     return caption.empty() || caption == u"...";
 }
 
-Text WithInput(Text given, TextView input)
-{
-    constexpr TextView place = u"%1";
-    if (const std::size_t found = given.find(place); found != Text::npos)
-        given.replace(found, place.size(), input);
-    return given;
-}
-
 } // namespace
 
 Text SpokenCaption(TextView caption)
@@ -41,7 +33,7 @@ std::vector<Text> NamesToGive(std::span<const ControlToName> controls)
     Text input; // The name of the next input, or of the last one if there is none.
     bool labelled = false;
     for (const ControlToName& control : controls) {
-        Text name = WithInput(control.given, input);
+        Text name = FillPlaces(control.given, {input});
         bool labels = false;
         switch (control.role) {
         case ControlRole::Label:

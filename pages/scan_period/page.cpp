@@ -14,11 +14,7 @@ constexpr int pickers[] = {IDC_SCAN_PERIOD_DATE_1, IDC_SCAN_PERIOD_DATE_2};
 
 ov::Text MessageOf(const ov::ImpossibleDate& error)
 {
-    ov::Text text = AfxLoadString(IDS_SCAN_PERIOD_IMPOSSIBLE_DATE);
-    // The value is inserted last, because it may contain "%2".
-    text.replace(text.find(u"%1"), 2, error.Variable());
-    text.replace(text.find(u"%2"), 2, error.Value());
-    return text;
+    return ov::FillPlaces(AfxLoadString(IDS_SCAN_PERIOD_IMPOSSIBLE_DATE), {error.Variable(), error.Value()});
 }
 
 } // namespace

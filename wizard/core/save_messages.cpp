@@ -1,31 +1,11 @@
 #include "wizard/core/save_messages.h"
 
-#include <initializer_list>
-
 #include "resources/ids.h"
 
 namespace ov
 {
 namespace
 {
-
-/// Replaces %1 and %2 by the values.
-Text Compose(const Text& pattern, std::initializer_list<TextView> values)
-{
-    Text composed;
-    for (std::size_t at = 0; at < pattern.size(); ++at) {
-        const std::size_t value = pattern[at] == u'%' && at + 1 < pattern.size()
-                                      ? static_cast<std::size_t>(pattern[at + 1]) - u'1'
-                                      : values.size();
-        if (value < values.size()) {
-            composed += values.begin()[value];
-            ++at;
-        } else {
-            composed += pattern[at];
-        }
-    }
-    return composed;
-}
 
 unsigned ReasonId(SaveOutcome outcome)
 {
@@ -52,11 +32,12 @@ unsigned ReasonId(SaveOutcome outcome)
 Text Reason(const SaveResult& result, const StringLoader& load)
 {
     if (result.outcome == SaveOutcome::CharacterRefused) {
-        return Compose(load(result.inHeader ? IDS_SAVE_CHARACTER_IN_HEADER : IDS_SAVE_CHARACTER_IN_VARIABLE),
-                       {result.variable, result.character});
+        return FillPlaces(
+            load(result.inHeader ? IDS_SAVE_CHARACTER_IN_HEADER : IDS_SAVE_CHARACTER_IN_VARIABLE),
+            {result.variable, result.character});
     }
     const Text systemText = result.systemText.empty() ? load(IDS_SAVE_OUT_OF_MEMORY) : result.systemText;
-    return Compose(load(ReasonId(result.outcome)), {systemText});
+    return FillPlaces(load(ReasonId(result.outcome)), {systemText});
 }
 
 Text OldContentText(const SaveResult& result, const StringLoader& load)
@@ -67,7 +48,7 @@ Text OldContentText(const SaveResult& result, const StringLoader& load)
     case OldContent::Stands:
         return load(IDS_SAVE_OLD_STANDS);
     case OldContent::UnderBackupName:
-        return Compose(load(IDS_SAVE_OLD_UNDER_BACKUP_NAME), {result.backupPath});
+        return FillPlaces(load(IDS_SAVE_OLD_UNDER_BACKUP_NAME), {result.backupPath});
     case OldContent::Lost:
         break;
     }
@@ -104,14 +85,14 @@ Text SaveFailureText(const SaveResult& result, const StringLoader& load)
 
 Text KeptFileText(const SaveResult& result, const StringLoader& load)
 {
-    return result.keptPath.empty() ? Text() : Compose(load(IDS_SAVE_KEPT_FILE), {result.keptPath});
+    return result.keptPath.empty() ? Text() : FillPlaces(load(IDS_SAVE_KEPT_FILE), {result.keptPath});
 }
 
 Text ReplaceQuestionText(ReplaceReason reason, TextView path, TextView keptPath, const StringLoader& load)
 {
     const unsigned id =
         reason == ReplaceReason::NotRead ? IDS_ASK_REPLACE_UNREAD_FILE : IDS_ASK_REPLACE_CHANGED_FILE;
-    return Compose(load(id), {path, keptPath});
+    return FillPlaces(load(id), {path, keptPath});
 }
 
 Text NoBackupText(TextView systemText, const StringLoader& load)
