@@ -249,12 +249,10 @@ void CWnd::CenterWindow()
         ::GetWindowRect(over, target);
     CRect own;
     GetWindowRect(own);
-    int x = (target.left + target.right - own.Width()) / 2;
-    int y = (target.top + target.bottom - own.Height()) / 2;
-    // The caption must stay reachable: left and top take precedence over right and bottom.
-    x = std::max(std::min(x, static_cast<int>(work.right) - own.Width()), static_cast<int>(work.left));
-    y = std::max(std::min(y, static_cast<int>(work.bottom) - own.Height()), static_cast<int>(work.top));
-    SetWindowPos(nullptr, x, y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    const CPoint centred((target.left + target.right - own.Width()) / 2,
+                         (target.top + target.bottom - own.Height()) / 2);
+    const CRect place = CRect(centred, CSize(own.Width(), own.Height())).MovedInto(work);
+    SetWindowPos(nullptr, place.left, place.top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 void CWnd::SendMessageToDescendants(HWND window, UINT message, WPARAM wParam, LPARAM lParam)

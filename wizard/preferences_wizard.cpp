@@ -163,12 +163,10 @@ void CPreferencesWizard::FitIntoWorkArea()
     const CRect work = WorkArea();
     CRect window;
     GetWindowRect(&window);
-    const int width = std::min(window.Width(), work.Width());
-    const int height = std::min(window.Height(), work.Height());
-    const int x = std::clamp<int>(window.left, work.left, work.right - width);
-    const int y = std::clamp<int>(window.top, work.top, work.bottom - height);
-    if (CRect(CPoint(x, y), CSize(width, height)) != window)
-        MoveWindow(x, y, width, height);
+    const CSize size(std::min(window.Width(), work.Width()), std::min(window.Height(), work.Height()));
+    const CRect fitting = CRect(window.TopLeft(), size).MovedInto(work);
+    if (fitting != window)
+        MoveWindow(fitting);
 }
 
 CRect CPreferencesWizard::PlaceholderRect(int id) const
