@@ -8,9 +8,9 @@
 #include "bench/folder.h"
 #include "bench/measure.h"
 #include "config/core/config_reader.h"
+#include "config/core/file_blocks.h"
 #include "config/core/save.h"
 #include "config/core/setting_store.h"
-#include "config/core/text_lines.h"
 
 #include <algorithm>
 #include <cstdio>

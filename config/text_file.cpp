@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "config/core/config_reader.h"
-#include "config/core/text_lines.h"
+#include "config/core/file_lines.h"
 #include "framework/afxwin.h"
 
 CTextFileEx::CTextFileEx(ov::Text extension) : m_extension(std::move(extension)) {}

@@ -24,6 +24,8 @@ class CTextFileEx
     /// with the full path if they confirmed.
     virtual bool BrowseForFile(bool save, ov::Text& path);
 
+    // ReadLines and WriteLines are part of the design's contract and used by tests only.
+
     /// Replaces `lines` by the file's lines; asks for a file if the path is
     /// empty. False if the user cancelled or, after a message, if the file
     /// could not be read; `lines` is unchanged then.

@@ -1,6 +1,7 @@
 #include "config/core/config_reader.h"
 
 #include "config/core/config_line.h"
+#include "config/core/file_blocks.h"
 #include "config/core/text_lines.h"
 
 #include <algorithm>

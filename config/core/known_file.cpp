@@ -1,6 +1,6 @@
 #include "config/core/known_file.h"
 
-#include "config/core/text_lines.h"
+#include "config/core/file_blocks.h"
 
 #include <string_view>
 

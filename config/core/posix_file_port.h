@@ -6,7 +6,8 @@ namespace ov
 {
 
 /// The file port for POSIX. Paths are UTF-8 on disk. An advisory lock prevents a second
-/// writer.
+/// writer. It is in this folder because the native build, which consists of the portable
+/// layers, needs one port for ovprefs and the tests. The Windows build leaves it out.
 class PosixFilePort final : public FilePort
 {
   public:

@@ -1,7 +1,7 @@
 #include "config/core/save.h"
 
 #include "config/core/config_writer.h"
-#include "config/core/text_lines.h"
+#include "config/core/file_blocks.h"
 
 #include <algorithm>
 #include <optional>

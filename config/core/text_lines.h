@@ -1,13 +1,7 @@
 #pragma once
 
-#include "base/text.h"
-#include "config/core/file_port.h"
-
-#include <functional>
-#include <span>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace ov
 {
@@ -64,18 +58,7 @@ class LineSplitter
     std::string m_rest; ///< The beginning of a line whose end has not arrived yet.
 };
 
-/// Reads a whole file and passes its bytes on in blocks.
-FileResult ReadBlocks(FilePort& files, const Text& path, const std::function<void(std::string_view)>& block);
-
-/// Replaces `lines` by the file's lines, decoded in the locale of the process. If the file cannot be
-/// opened or read, `lines` is unchanged and the result contains the reason.
-FileResult ReadLines(FilePort& files, const Text& path, std::vector<Text>& lines);
-
 /// Appends bytes with every LF replaced by CR LF, as on disk.
 void AppendWithLineEnds(std::string_view bytes, std::string& out);
-
-/// Creates or empties the file and writes each text followed by a line end, in the locale of the
-/// process. If the locale cannot represent a text, the call fails before the file is changed.
-FileResult WriteLines(FilePort& files, const Text& path, std::span<const Text> lines);
 
 } // namespace ov
