@@ -1,5 +1,6 @@
 #include "match/core/tokens.h"
 
+#include "match/core/buffer_text.h"
 #include "tests/core/no_memory.h"
 
 #include <algorithm>

@@ -3,6 +3,7 @@
 // stops; the qualifier; the text to find; its replacement; then the source. A line "~" means no
 // set or no qualifier.
 
+#include "match/core/buffer_text.h"
 #include "match/core/tokens.h"
 #include "tests/fuzz/fuzz_input.h"
 
