@@ -1,12 +1,9 @@
 #include "app/preferences_app.h"
 
 #include "config/system_info.h"
-#include "controls/application.h"
 #include "controls/core/dialog_units.h"
 #include "pages/page_factory.h"
 #include "resources/ids.h"
-#include "wizard/application_texts.h"
-#include "wizard/page_factory.h"
 #include "wizard/preferences_wizard.h"
 
 CPreferencesApp theApp;
@@ -71,7 +68,7 @@ BOOL CPreferencesApp::InitInstance()
 {
     INITCOMMONCONTROLSEX controls{sizeof controls,
                                   ICC_WIN95_CLASSES | ICC_STANDARD_CLASSES | ICC_DATE_CLASSES};
-    if (!::InitCommonControlsEx(&controls) || !CWinApp::InitInstance())
+    if (!::InitCommonControlsEx(&controls) || !CDialogApp::InitInstance())
         return FALSE;
     AfxEnableControlContainer();
     SetRegistryKey(L"Orthoval Preferences");
@@ -82,7 +79,7 @@ int CPreferencesApp::ExitInstance()
 {
     if (theToolTip.GetSafeHwnd() != nullptr)
         theToolTip.DestroyWindow();
-    return CWinApp::ExitInstance();
+    return CDialogApp::ExitInstance();
 }
 
 int CPreferencesApp::DoMessageBox(const ov::Text& text, UINT type)
@@ -142,7 +139,7 @@ unsigned int CPreferencesApp::ShowPreferences(CWnd* parent)
     if (dialogIcon == nullptr)
         dialogIcon = LoadIcon(IDI_TOOLTIP);
     const ShowingScope showing(m_showing); // outlives the dialog
-    CPreferencesWizard dialog(parent);
+    CPreferencesWizard dialog(parent, DialogSetup());
     const MainWindowScope mainWindow(&dialog);
     const ToolTipScope toolTip(&dialog);
     if (!dialog.CreatePages())
@@ -157,37 +154,18 @@ const ov::Text& CPreferencesApp::GetUserName()
     return theCommandLine.m_userName;
 }
 
-CFont* GetSharedDialogFont(UINT resolution)
-{
-    return theApp.GetDialogFont(resolution);
-}
-
-CToolTipControl* GetToolTipControl()
+CToolTipControl* CPreferencesApp::GetToolTip()
 {
     return theToolTip.GetSafeHwnd() != nullptr ? &theToolTip : nullptr;
 }
 
-HICON GetApplicationIcon()
+HICON CPreferencesApp::GetToolTipIcon()
 {
     return dialogIcon;
 }
 
-const ov::Text& GetDefaultConfigPath()
+WizardSetup CPreferencesApp::DialogSetup()
 {
-    return theCommandLine.m_defaultPath;
-}
-
-const ov::Text& GetCurrentConfigPath()
-{
-    return theCommandLine.m_currentPath;
-}
-
-const ov::Text& GetConfigUserName()
-{
-    return theApp.GetUserName();
-}
-
-std::unique_ptr<CWizardPage> CreateCataloguePage(const ov::PageInfo& info, CPreferencesWizard* owner)
-{
-    return MakePage(info, owner);
+    return {theCommandLine.m_defaultPath, theCommandLine.m_currentPath, [this] { return GetUserName(); },
+            &MakePage};
 }

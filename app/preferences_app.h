@@ -3,12 +3,13 @@
 #include <map>
 
 #include "app/cmd_line_info.h"
+#include "controls/dialog_app.h"
 #include "controls/tool_tip_control.h"
-#include "framework/afxwin.h"
+#include "wizard/wizard_setup.h"
 
 /// The application object of the process: it holds what outlives a dialog (the
 /// three texts, the icon, the fonts) and owns the tooltip window.
-class CPreferencesApp : public CWinApp
+class CPreferencesApp : public CDialogApp
 {
   public:
     BOOL InitInstance() override;
@@ -19,7 +20,9 @@ class CPreferencesApp : public CWinApp
     /// request copies the main window's font, or uses Tahoma 14 if it has none; other
     /// resolutions use the same typeface and point size. Null without a main
     /// window.
-    CFont* GetDialogFont(UINT resolution);
+    CFont* GetDialogFont(UINT resolution) override;
+    CToolTipControl* GetToolTip() override;
+    HICON GetToolTipIcon() override;
 
     /// Shows the dialog modally. Returns 0 if it was shown, 1 if it could not be
     /// initialised or is already open.
@@ -29,6 +32,9 @@ class CPreferencesApp : public CWinApp
     /// running. While the dialog is being created or destroyed there is nothing
     /// to bring to the front, but the result is true.
     bool ActivateOpenDialog();
+
+    /// What a new dialog gets: the present texts, and the pages.
+    WizardSetup DialogSetup();
 
     /// The name for the saved file's header: the given one, otherwise the logged-on
     /// user's name, which is queried once.

@@ -1,7 +1,7 @@
 #include "controls/abstract_font_dlg.h"
 
-#include "controls/application.h"
 #include "controls/core/dialog_units.h"
+#include "controls/dialog_app.h"
 #include "framework/window_resolution.h"
 
 IMPLEMENT_DYNAMIC(CAbstractFontDlg, CDialog)

@@ -4,9 +4,9 @@
 #include <initializer_list>
 #include <utility>
 
-#include "controls/application.h"
 #include "controls/core/dialog_units.h"
 #include "controls/core/layout.h"
+#include "controls/dialog_app.h"
 #include "controls/tool_tip_control.h"
 #include "resources/ids.h"
 

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "controls/application.h"
 #include "controls/core/tooltip_markup.h"
+#include "controls/dialog_app.h"
 #include "resources/ids.h"
 
 IMPLEMENT_DYNAMIC(CToolTipControl, CWnd)

@@ -5,7 +5,7 @@
 #include <commctrl.h>
 #include <stdexcept>
 
-#include "controls/application.h"
+#include "controls/dialog_app.h"
 #include "controls/dropped_list.h"
 #include "controls/tool_tip_control.h"
 #include "pages/core/page_layout.h"

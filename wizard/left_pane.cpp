@@ -1,7 +1,7 @@
 #include "wizard/left_pane.h"
 
-#include "controls/application.h"
 #include "controls/core/layout.h"
+#include "controls/dialog_app.h"
 #include "controls/tool_tip_control.h"
 #include "pages/core/page_catalogue.h"
 #include "resources/ids.h"
@@ -106,7 +106,8 @@ void CLeftPane::OnItemChanged(NMHDR* header, LRESULT* result)
     const auto* change = reinterpret_cast<const NMLISTVIEW*>(header);
     if ((change->uChanged & LVIF_STATE) == 0 || (change->uNewState & LVIS_SELECTED) == 0)
         return;
+    CPreferencesWizard* const wizard = GetParentWizard();
     const int row = m_list.GetNextItem(-1, LVNI_SELECTED);
-    if (row >= 0)
-        Owner()->SelectPage(static_cast<UINT>(m_list.GetItemData(row)));
+    if (row >= 0 && wizard != nullptr)
+        wizard->SelectPage(static_cast<UINT>(m_list.GetItemData(row)));
 }

@@ -6,10 +6,9 @@
 
 #include "config/core/setting_comment.h"
 #include "config/system_info.h"
-#include "controls/application.h"
+#include "controls/dialog_app.h"
 #include "controls/tool_tip_control.h"
 #include "resources/ids.h"
-#include "wizard/application_texts.h"
 #include "wizard/core/save_messages.h"
 #include "wizard/preferences_wizard.h"
 
@@ -22,9 +21,14 @@ constexpr UINT questionStyle = MB_YESNO | MB_DEFBUTTON2 | MB_ICONWARNING | MB_SE
 class WindowsSurroundings final : public ov::SaveSurroundings
 {
   public:
+    explicit WindowsSurroundings(const std::function<ov::Text()>& userName) : m_userName(userName) {}
+
     std::tm LocalTime() override { return GetLocalTimeNow(); }
-    ov::Text UserName() override { return GetConfigUserName(); }
+    ov::Text UserName() override { return m_userName(); }
     ov::Text ComputerName() override { return GetMachineName(); }
+
+  private:
+    const std::function<ov::Text()>& m_userName;
 };
 
 /// The question and the notice of a save of `path`, as message boxes.
@@ -115,7 +119,7 @@ bool CPreferencesWizard::SaveConfigFile()
 
 bool CPreferencesWizard::WriteConfigFile()
 {
-    WindowsSurroundings surroundings;
+    WindowsSurroundings surroundings(m_setup.userName);
     MessageBoxPrompts prompts(m_currentPath,
                               [this](const ov::Text& text, UINT type) { return ShowMessage(text, type); });
     const ov::SaveResult result = m_configFile->SaveSettings(m_store, m_currentPath, surroundings, prompts);

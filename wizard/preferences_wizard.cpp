@@ -1,17 +1,16 @@
 #include "wizard/preferences_wizard.h"
 
 #include <algorithm>
+#include <utility>
 
-#include "controls/application.h"
 #include "controls/core/layout.h"
+#include "controls/dialog_app.h"
 #include "controls/tool_tip_control.h"
 #include "framework/window_resolution.h"
 #include "pages/core/page_catalogue.h"
 #include "resources/ids.h"
-#include "wizard/application_texts.h"
 #include "wizard/core/wizard_state.h"
 #include "wizard/messages.h"
-#include "wizard/page_factory.h"
 
 namespace
 {
@@ -33,8 +32,9 @@ BEGIN_MESSAGE_MAP(CPreferencesWizard, CResizableDlg)
     ON_MESSAGE(WM_PAGE_MODIFIED, &CPreferencesWizard::OnPageModified)
 END_MESSAGE_MAP()
 
-CPreferencesWizard::CPreferencesWizard(CWnd* parent)
-    : CResizableDlg(IDD_PREFERENCES, parent, true, ov::DesignWidth, ov::DesignHeight)
+CPreferencesWizard::CPreferencesWizard(CWnd* parent, WizardSetup setup)
+    : CResizableDlg(IDD_PREFERENCES, parent, true, ov::DesignWidth, ov::DesignHeight),
+      m_setup(std::move(setup))
 {
     CPreferencesWizard::InitControlLayout();
 }
@@ -88,7 +88,7 @@ void CPreferencesWizard::RegisterTooltips()
 bool CPreferencesWizard::CreatePages()
 {
     for (const ov::PageInfo* info : ov::PageCatalogue())
-        m_pages.push_back(CreateCataloguePage(*info, this));
+        m_pages.push_back(m_setup.makePage(*info, this));
     return true;
 }
 
@@ -118,13 +118,13 @@ BOOL CPreferencesWizard::OnInitDialog()
     SelectPage(static_cast<UINT>(ov::PaneRows().front()->pageId));
     m_store.SetModified(false);
 
-    m_defaultPath = GetDefaultConfigPath();
+    m_defaultPath = m_setup.defaultPath;
     const bool haveDefaults = !ov::Trim(m_defaultPath).empty();
     if (haveDefaults) {
         ReadConfigFile(1);
         LoadAllPages(1);
     }
-    m_currentPath = GetCurrentConfigPath();
+    m_currentPath = m_setup.currentPath;
     const bool haveCurrent = !ov::Trim(m_currentPath).empty();
     if (haveCurrent) {
         m_configPathEdit.SetWindowText(m_currentPath);

@@ -9,6 +9,7 @@
 #include "controls/resource_icon.h"
 #include "wizard/left_pane.h"
 #include "wizard/wizard_page.h"
+#include "wizard/wizard_setup.h"
 
 /// The preferences dialog. It owns the settings, the pages, the category pane and
 /// the configuration file, and controls when they are read, shown and written.
@@ -17,7 +18,7 @@ class CPreferencesWizard : public CResizableDlg
     DECLARE_DYNAMIC(CPreferencesWizard)
 
   public:
-    explicit CPreferencesWizard(CWnd* parent = nullptr);
+    CPreferencesWizard(CWnd* parent, WizardSetup setup);
     ~CPreferencesWizard() override;
 
     BOOL PreTranslateMessage(MSG* message) override;
@@ -29,7 +30,8 @@ class CPreferencesWizard : public CResizableDlg
     HWND FocusAfterLosing(HWND lost) const override;
     virtual bool CreateLeftPane();
 
-    /// Constructs the pages in catalogue order, without windows.
+    /// Constructs the pages in catalogue order, without windows. Always true: the design
+    /// has a result, and its callers check it.
     virtual bool CreatePages();
 
     /// Shows the page with that id. Does nothing if there is none or it is already shown.
@@ -101,6 +103,7 @@ class CPreferencesWizard : public CResizableDlg
     CEdit m_configPathEdit;
     CButton m_saveButton;
     CButton m_loadDefaultsButton;
+    const WizardSetup m_setup;
     std::vector<std::unique_ptr<CWizardPage>> m_pages;
     ov::SettingStore m_store;
     ov::Text m_currentPath;
@@ -112,5 +115,7 @@ class CPreferencesWizard : public CResizableDlg
     ResourceIcon m_icon;
     std::unique_ptr<CTextFileEx> m_configFile;
     CEdit m_focusVariableEdit;
-    ov::Text m_savedHeader; ///< the header that the last save wrote above the variables
+    /// The header that the last save wrote above the variables. It is part of the design;
+    /// nothing reads it.
+    ov::Text m_savedHeader;
 };

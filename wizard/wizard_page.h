@@ -31,6 +31,8 @@ class CWizardPage : public CResizableDlg
     void BeginOpening() { m_isOpening = true; }
     virtual void EndOpening() { m_isOpening = false; }
 
+    // OnPostShow and OnTabKey are hooks of the design. No page overrides them.
+
     /// Called after the page was shown.
     virtual void OnPostShow() {}
 
@@ -57,7 +59,8 @@ class CWizardPage : public CResizableDlg
 
     virtual UINT GetTemplateId() const { return m_templateId; }
 
-    /// The dialog that contains the page's window; null while there is no window.
+    /// The dialog that contains the page's window, and the only way from a page to it. Null
+    /// while there is no window.
     virtual CPreferencesWizard* GetParentWizard() const;
 
     /// Lets the user choose a folder; sets `text` to its path.
@@ -93,6 +96,9 @@ class CWizardPage : public CResizableDlg
     void LayoutPass() override;
 
     bool IsOpening() const { return m_isOpening; }
+
+    /// The dialog that the page was constructed for. It is part of the design and not used:
+    /// pages find their dialog by GetParentWizard.
     CPreferencesWizard* Owner() const { return m_owner; }
     int TakePendingSelector();
     void OnSettingChanged();

@@ -1,11 +1,10 @@
 #include <stdexcept>
 
 #include "app/host_size.h"
-#include "controls/application.h"
+#include "controls/dialog_app.h"
 #include "include/ovPreferences.h"
 #include "resources/ids.h"
 #include "tests/app/program.h"
-#include "wizard/application_texts.h"
 
 namespace
 {
@@ -26,7 +25,11 @@ LOGFONTW DescriptionOf(CFont& font)
 class FreshApplication
 {
   public:
-    ~FreshApplication() { theApp.m_pMainWnd = nullptr; }
+    ~FreshApplication()
+    {
+        theApp.m_pMainWnd = nullptr;
+        AfxGetStaticModuleState()->application = &theApp;
+    }
     CPreferencesApp& operator*() { return m_app; }
     CPreferencesApp* operator->() { return &m_app; }
 
@@ -56,12 +59,12 @@ TEST_F(ProgramTest, NullTextsLeaveTheStoredOnes)
         doors.AnswerDialog(IDCANCEL);
     EXPECT_EQ(ovPreferences_showDialogEx(nullptr, L"d.cfg", L"c.cfg", L"Jane"), 0u);
     EXPECT_EQ(ovPreferences_showDialogEx(nullptr, nullptr, nullptr, nullptr), 0u);
-    EXPECT_EQ(GetDefaultConfigPath(), u"d.cfg");
-    EXPECT_EQ(GetCurrentConfigPath(), u"c.cfg");
-    EXPECT_EQ(GetConfigUserName(), u"Jane");
+    EXPECT_EQ(theCommandLine.m_defaultPath, u"d.cfg");
+    EXPECT_EQ(theCommandLine.m_currentPath, u"c.cfg");
+    EXPECT_EQ(theApp.GetUserName(), u"Jane");
     EXPECT_EQ(ovPreferences_showDialogEx(nullptr, nullptr, L"", nullptr), 0u);
-    EXPECT_EQ(GetDefaultConfigPath(), u"d.cfg");
-    EXPECT_EQ(GetCurrentConfigPath(), u"");
+    EXPECT_EQ(theCommandLine.m_defaultPath, u"d.cfg");
+    EXPECT_EQ(theCommandLine.m_currentPath, u"");
 }
 
 TEST_F(ProgramTest, ADialogThatCannotBeMadeGivesOne)
@@ -78,7 +81,7 @@ TEST_F(ProgramTest, AnEmptyUserNameIsAskedForOnceAndKept)
     DWORD length = 256;
     ASSERT_TRUE(::GetUserNameW(name, &length));
     theCommandLine.m_userName = u" \t";
-    EXPECT_EQ(GetConfigUserName(), FromWide(name));
+    EXPECT_EQ(theApp.GetUserName(), FromWide(name));
     EXPECT_EQ(theCommandLine.m_userName, FromWide(name));
 }
 

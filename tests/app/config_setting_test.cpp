@@ -1,6 +1,6 @@
 // The list editor with its real template and texts.
-#include "controls/application.h"
 #include "controls/config_setting_dlg.h"
+#include "controls/dialog_app.h"
 #include "pages/conforming/ids.h"
 #include "resources/ids.h"
 #include "tests/app/program.h"

@@ -79,7 +79,7 @@ void ProgramTest::MakeDialog(const std::wstring& defaultPath, const std::wstring
     theCommandLine.m_defaultPath = FromWide(defaultPath);
     theCommandLine.m_currentPath = FromWide(currentPath);
     theCommandLine.m_userName = u"Tester";
-    dialog = std::make_unique<CPreferencesWizard>();
+    dialog = std::make_unique<CPreferencesWizard>(nullptr, theApp.DialogSetup());
     theApp.m_pMainWnd = dialog.get();
     theToolTip.Create(dialog.get(), ToolTipBalloon, 8, nullptr);
 }

@@ -3,17 +3,15 @@
 CFont* sharedFont = nullptr;
 HICON applicationIcon = nullptr;
 
-CFont* GetSharedDialogFont(UINT)
+namespace
 {
-    return sharedFont;
-}
+class ControlsApplication : public CDialogApp
+{
+  public:
+    CFont* GetDialogFont(UINT) override { return sharedFont; }
+    CToolTipControl* GetToolTip() override { return nullptr; }
+    HICON GetToolTipIcon() override { return applicationIcon; }
+};
 
-CToolTipControl* GetToolTipControl()
-{
-    return nullptr;
-}
-
-HICON GetApplicationIcon()
-{
-    return applicationIcon;
-}
+ControlsApplication application;
+} // namespace

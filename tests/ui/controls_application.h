@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/application.h"
+#include "controls/dialog_app.h"
 
 // This program takes the role of the application for the controls that it tests, with
 // only those parts that a test provides.

@@ -1,0 +1,26 @@
+#include "controls/dialog_app.h"
+
+IMPLEMENT_DYNAMIC(CDialogApp, CWinApp)
+
+CDialogApp* GetDialogApp()
+{
+    return DYNAMIC_DOWNCAST(CDialogApp, AfxGetApp());
+}
+
+CFont* GetSharedDialogFont(UINT resolution)
+{
+    CDialogApp* const app = GetDialogApp();
+    return app != nullptr ? app->GetDialogFont(resolution) : nullptr;
+}
+
+CToolTipControl* GetToolTipControl()
+{
+    CDialogApp* const app = GetDialogApp();
+    return app != nullptr ? app->GetToolTip() : nullptr;
+}
+
+HICON GetApplicationIcon()
+{
+    CDialogApp* const app = GetDialogApp();
+    return app != nullptr ? app->GetToolTipIcon() : nullptr;
+}
