@@ -1,13 +1,11 @@
 #include "controls/resizable_dlg.h"
 
 #include <algorithm>
-#include <cwchar>
 #include <optional>
 
-#include "controls/core/accessible_names.h"
+#include "controls/control_names.h"
 #include "controls/core/dialog_units.h"
 #include "framework/dialog_template.h"
-#include "resources/ids.h"
 
 namespace
 {
@@ -67,41 +65,6 @@ class DialogControls : public ov::LayoutControls
     bool m_visible;
 };
 
-// The longest possible class name with its terminator; captions are shorter.
-using ShortText = wchar_t[257];
-
-ov::ControlRole RoleOfButton(HWND button)
-{
-    switch (::GetWindowLongPtrW(button, GWL_STYLE) & BS_TYPEMASK) {
-    case BS_GROUPBOX:
-        return ov::ControlRole::Frame;
-    case BS_AUTOCHECKBOX:
-        return ov::ControlRole::Box;
-    case BS_AUTORADIOBUTTON:
-        return ov::ControlRole::Radio;
-    default:
-        return ov::ControlRole::Button;
-    }
-}
-
-// Nothing for windows that are not controls: a page, the size grip.
-std::optional<ov::ControlRole> RoleOf(HWND window)
-{
-    ShortText name;
-    ::GetClassNameW(window, name, static_cast<int>(std::size(name)));
-    const auto is = [&](const wchar_t* windowClass) { return ::_wcsicmp(name, windowClass) == 0; };
-    if (is(WC_BUTTONW))
-        return RoleOfButton(window);
-    if (is(WC_STATICW))
-        return ov::ControlRole::Label;
-    if (is(UPDOWN_CLASSW))
-        return ov::ControlRole::UpDown;
-    if (is(WC_EDITW) || is(WC_COMBOBOXW) || is(WC_LISTVIEWW) || is(DATETIMEPICK_CLASSW) ||
-        is(TRACKBAR_CLASSW))
-        return ov::ControlRole::Input;
-    return std::nullopt;
-}
-
 /// Detaches an up-down control from its edit until Attach is called. Each time it is
 /// attached, it makes the edit narrower.
 class DetachedUpDown
@@ -124,13 +87,6 @@ class DetachedUpDown
     HWND m_upDown;
     HWND m_buddy;
 };
-
-ov::Text CaptionOf(HWND window)
-{
-    ShortText caption;
-    const int length = ::GetWindowTextW(window, caption, static_cast<int>(std::size(caption)));
-    return FromWide({caption, static_cast<size_t>(length)});
-}
 
 } // namespace
 
@@ -158,7 +114,8 @@ BOOL CResizableDlg::OnInitDialog()
     DialogControls controls(*this);
     ov::CaptureControls(m_controlLayout, controls, client.Width(), client.Height());
     m_isCaptured = true;
-    NameControls();
+    NameControls(
+        FirstChildren(), [this](int controlId) { return AccessibleNameId(controlId); }, Names());
     OnTemplateLayout();
     if (const UINT resolution = OpeningResolution(); resolution != Resolution())
         OpenAt(resolution);
@@ -226,33 +183,6 @@ void CResizableDlg::PlaceControls(const std::vector<RECT>& rectsInUnits) const
 UINT CResizableDlg::AccessibleNameId(int) const
 {
     return 0;
-}
-
-void CResizableDlg::NameControls()
-{
-    std::vector<HWND> windows;
-    std::vector<ov::ControlToName> controls;
-    for (const HWND window : FirstChildren()) {
-        const std::optional<ov::ControlRole> role = RoleOf(window);
-        if (!role)
-            continue;
-        ov::ControlToName control{*role, {}, {}};
-        // The text of an input is its value, not its name.
-        if (*role != ov::ControlRole::Input)
-            control.caption = CaptionOf(window);
-        UINT given = AccessibleNameId(::GetDlgCtrlID(window));
-        if (given == 0 && *role == ov::ControlRole::Button)
-            given = IDS_NAME_BROWSE;
-        if (given != 0)
-            control.given = AfxLoadString(given);
-        windows.push_back(window);
-        controls.push_back(std::move(control));
-    }
-    const std::vector<ov::Text> names = ov::NamesToGive(controls);
-    for (size_t i = 0; i < names.size(); ++i) {
-        if (!names[i].empty())
-            Names().Set(windows[i], names[i]);
-    }
 }
 
 CWindowNames& CResizableDlg::Names()

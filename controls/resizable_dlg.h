@@ -74,7 +74,6 @@ class CResizableDlg : public CAbstractFontDlg
   private:
     void OpenAt(UINT resolution);
     void PlaceControls(const std::vector<RECT>& rectsInUnits) const;
-    void NameControls();
     CWindowNames& Names();
 
     bool m_sizeGrip;
