@@ -8,7 +8,7 @@
 
 CPreferencesApp theApp;
 CCmdLineInfo theCommandLine;
-CToolTipControl theToolTip;
+CToolTipControl theTooltip;
 
 namespace
 {
@@ -46,21 +46,21 @@ class MainWindowScope
 };
 
 /// The tooltip window exists exactly as long as the dialog.
-class ToolTipScope
+class TooltipScope
 {
   public:
-    explicit ToolTipScope(CWnd* owner)
+    explicit TooltipScope(CWnd* owner)
     {
-        if (theToolTip.GetSafeHwnd() == nullptr)
-            theToolTip.Create(owner, ToolTipBalloon, toolTipSecondStyle, nullptr);
+        if (theTooltip.GetSafeHwnd() == nullptr)
+            theTooltip.Create(owner, TooltipBalloon, toolTipSecondStyle, nullptr);
     }
-    ~ToolTipScope()
+    ~TooltipScope()
     {
-        if (theToolTip.GetSafeHwnd() != nullptr)
-            theToolTip.DestroyWindow();
+        if (theTooltip.GetSafeHwnd() != nullptr)
+            theTooltip.DestroyWindow();
     }
-    ToolTipScope(const ToolTipScope&) = delete;
-    ToolTipScope& operator=(const ToolTipScope&) = delete;
+    TooltipScope(const TooltipScope&) = delete;
+    TooltipScope& operator=(const TooltipScope&) = delete;
 };
 } // namespace
 
@@ -77,8 +77,8 @@ BOOL CPreferencesApp::InitInstance()
 
 int CPreferencesApp::ExitInstance()
 {
-    if (theToolTip.GetSafeHwnd() != nullptr)
-        theToolTip.DestroyWindow();
+    if (theTooltip.GetSafeHwnd() != nullptr)
+        theTooltip.DestroyWindow();
     return CDialogApp::ExitInstance();
 }
 
@@ -141,7 +141,7 @@ unsigned int CPreferencesApp::ShowPreferences(CWnd* parent)
     const ShowingScope showing(m_showing); // outlives the dialog
     CPreferencesWizard dialog(parent, DialogSetup());
     const MainWindowScope mainWindow(&dialog);
-    const ToolTipScope toolTip(&dialog);
+    const TooltipScope toolTip(&dialog);
     if (!dialog.CreatePages())
         return 1;
     return dialog.DoModal() == -1 ? 1 : 0;
@@ -154,12 +154,12 @@ const ov::Text& CPreferencesApp::GetUserName()
     return theCommandLine.m_userName;
 }
 
-CToolTipControl* CPreferencesApp::GetToolTip()
+CToolTipControl* CPreferencesApp::GetTooltip()
 {
-    return theToolTip.GetSafeHwnd() != nullptr ? &theToolTip : nullptr;
+    return theTooltip.GetSafeHwnd() != nullptr ? &theTooltip : nullptr;
 }
 
-HICON CPreferencesApp::GetToolTipIcon()
+HICON CPreferencesApp::GetTooltipIcon()
 {
     return dialogIcon;
 }

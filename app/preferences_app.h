@@ -21,8 +21,8 @@ class CPreferencesApp : public CDialogApp
     /// resolutions use the same typeface and point size. Null without a main
     /// window.
     CFont* GetDialogFont(UINT resolution) override;
-    CToolTipControl* GetToolTip() override;
-    HICON GetToolTipIcon() override;
+    CToolTipControl* GetTooltip() override;
+    HICON GetTooltipIcon() override;
 
     /// Shows the dialog modally. Returns 0 if it was shown, 1 if it could not be
     /// initialised or is already open.
@@ -51,4 +51,4 @@ class CPreferencesApp : public CDialogApp
 
 extern CPreferencesApp theApp;
 extern CCmdLineInfo theCommandLine;
-extern CToolTipControl theToolTip;
+extern CToolTipControl theTooltip;

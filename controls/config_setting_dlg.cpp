@@ -113,7 +113,7 @@ BOOL CConfigSettingDlg::OnInitDialog()
 
 void CConfigSettingDlg::RegisterTooltips()
 {
-    CToolTipControl* tips = GetToolTipControl();
+    CToolTipControl* tips = GetTooltipControl();
     if (tips == nullptr)
         return;
     tips->AddTool(&m_list, IDS_HELP_CONFIG_SETTING_LIST);
@@ -166,7 +166,7 @@ void CConfigSettingDlg::ShowMoveIcon(CButton& button, ResourceIcon& shown, UINT 
 // The tooltip window outlives this dialog, so the dialog removes its controls from it.
 void CConfigSettingDlg::OnDestroy()
 {
-    if (CToolTipControl* tips = GetToolTipControl()) {
+    if (CToolTipControl* tips = GetTooltipControl()) {
         for (const HWND child : AfxChildWindows(m_hWnd))
             tips->DelTool(CWnd::FromHandle(child));
     }

@@ -13,14 +13,14 @@ CFont* GetSharedDialogFont(UINT resolution)
     return app != nullptr ? app->GetDialogFont(resolution) : nullptr;
 }
 
-CToolTipControl* GetToolTipControl()
+CToolTipControl* GetTooltipControl()
 {
     CDialogApp* const app = GetDialogApp();
-    return app != nullptr ? app->GetToolTip() : nullptr;
+    return app != nullptr ? app->GetTooltip() : nullptr;
 }
 
 HICON GetApplicationIcon()
 {
     CDialogApp* const app = GetDialogApp();
-    return app != nullptr ? app->GetToolTipIcon() : nullptr;
+    return app != nullptr ? app->GetTooltipIcon() : nullptr;
 }

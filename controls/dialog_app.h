@@ -17,11 +17,11 @@ class CDialogApp : public CWinApp
 
     /// The tooltip window and registry of help texts of the process; null while the
     /// window does not exist.
-    virtual CToolTipControl* GetToolTip() = 0;
+    virtual CToolTipControl* GetTooltip() = 0;
 
     /// The icon that the tooltip window shows; null until it is loaded. The caller must
     /// not destroy it.
-    virtual HICON GetToolTipIcon() = 0;
+    virtual HICON GetTooltipIcon() = 0;
 };
 
 /// The application object of the module; null if it is not a CDialogApp.
@@ -29,5 +29,5 @@ CDialogApp* GetDialogApp();
 
 // The same of the application object of the module; null without one.
 CFont* GetSharedDialogFont(UINT resolution);
-CToolTipControl* GetToolTipControl();
+CToolTipControl* GetTooltipControl();
 HICON GetApplicationIcon();

@@ -58,7 +58,7 @@ ov::Size SizeOfIcon(HICON icon)
     return {bitmap.bmWidth, bitmap.bmHeight / images};
 }
 
-ToolTipIcon OwnIcon(HICON icon)
+TooltipIcon OwnIcon(HICON icon)
 {
     return {icon, [](HICON handle) {
                 if (handle != nullptr)
@@ -75,11 +75,11 @@ COLORREF ColourOf(ov::TooltipSection section)
 {
     switch (section) {
     case ov::TooltipSection::Heading:
-        return ToolTipHeadingColour;
+        return TooltipHeadingColour;
     case ov::TooltipSection::Description:
-        return ToolTipDescriptionColour;
+        return TooltipDescriptionColour;
     default:
-        return ToolTipVariableColour;
+        return TooltipVariableColour;
     }
 }
 
@@ -91,7 +91,7 @@ CPoint CursorPosition()
 }
 } // namespace
 
-BOOL CToolTipControl::Create(CWnd* owner, UINT style, UINT secondStyle, CToolTipTextProvider* provider)
+BOOL CToolTipControl::Create(CWnd* owner, UINT style, UINT secondStyle, CTooltipTextProvider* provider)
 {
     m_style = style;
     m_secondStyle = secondStyle;
@@ -108,7 +108,7 @@ void CToolTipControl::RegisterControl(const CWnd* control, ov::Text text, HICON 
 void CToolTipControl::AddTool(const CWnd* control, UINT textId)
 {
     // Hundreds of controls have this icon; all share one handle.
-    ToolTipIcon icon = m_toolIcon.lock();
+    TooltipIcon icon = m_toolIcon.lock();
     if (!icon) {
         icon = OwnIcon(static_cast<HICON>(
             ::LoadImageW(AfxGetResourceHandle(), MAKEINTRESOURCEW(IDI_TOOLTIP), IMAGE_ICON, 0, 0, 0)));
@@ -122,7 +122,7 @@ void CToolTipControl::DelTool(const CWnd* control)
     m_entries.erase(AfxSafeHwnd(control));
 }
 
-void CToolTipControl::SetEntry(const CWnd* control, ov::Text text, ToolTipIcon icon)
+void CToolTipControl::SetEntry(const CWnd* control, ov::Text text, TooltipIcon icon)
 {
     if (AfxSafeHwnd(control) == nullptr)
         return;
@@ -144,7 +144,7 @@ ov::Text CToolTipControl::TextOf(const CWnd* control) const
     if (found == m_entries.end())
         return {};
     if (found->second.text.empty() && m_provider != nullptr)
-        return m_provider->GetToolTipText(found->first);
+        return m_provider->GetTooltipText(found->first);
     return found->second.text;
 }
 
@@ -210,7 +210,7 @@ std::vector<ov::TooltipPart> CToolTipControl::Measure(CDC* context)
 bool CToolTipControl::MakeRegion(CRgn& region) const
 {
     const CRect body = ToRect(m_outline.body);
-    if ((m_style & (ToolTipBalloon | ToolTipRoundedRectangle)) == 0)
+    if ((m_style & (TooltipBalloon | TooltipRoundedRectangle)) == 0)
         return region.CreateRectRgnIndirect(body);
     if (!region.CreateRoundRectRgn(body.left, body.top, body.right, body.bottom, ov::TooltipCorner.width,
                                    ov::TooltipCorner.height))
@@ -240,7 +240,7 @@ void CToolTipControl::ShowAt(CPoint anchor)
     m_anchor = anchor;
     const ov::Point point{anchor.x, anchor.y};
     m_side = ov::ChooseTooltipSide(body, point);
-    m_outline = ov::OutlineTooltip(body, m_side, (m_style & ToolTipBalloon) != 0);
+    m_outline = ov::OutlineTooltip(body, m_side, (m_style & TooltipBalloon) != 0);
     CRgn region;
     if (MakeRegion(region) && SetWindowRgn(region, FALSE) != 0)
         region.Detach();
@@ -270,17 +270,17 @@ void CToolTipControl::Draw(CDC* context)
     CRgn region;
     if (!MakeRegion(region))
         return;
-    CBrush fill(ToolTipFillColour);
+    CBrush fill(TooltipFillColour);
     context->FillRgn(&region, &fill);
-    if ((m_style & (ToolTipBalloon | ToolTipRoundedRectangle)) != 0) {
-        CBrush dark(ToolTipDarkFrameColour);
-        CBrush light(ToolTipLightFrameColour);
+    if ((m_style & (TooltipBalloon | TooltipRoundedRectangle)) != 0) {
+        CBrush dark(TooltipDarkFrameColour);
+        CBrush light(TooltipLightFrameColour);
         context->FrameRgn(&region, &dark, 2, 1);
         context->FrameRgn(&region, &light, 1, 1);
     } else {
         CRect body = ToRect(m_outline.body);
         context->DrawEdge(body, EDGE_ETCHED, BF_RECT);
-        context->Draw3dRect(body, ToolTipLightFrameColour, ToolTipDarkFrameColour);
+        context->Draw3dRect(body, TooltipLightFrameColour, TooltipDarkFrameColour);
     }
 
     const HICON icon = GetApplicationIcon();

@@ -9,32 +9,32 @@
 #include "framework/afxwin.h"
 
 // Shapes of the tooltip window.
-constexpr UINT ToolTipBalloon = 1;
-constexpr UINT ToolTipRoundedRectangle = 2;
-constexpr UINT ToolTipRectangle = 4;
+constexpr UINT TooltipBalloon = 1;
+constexpr UINT TooltipRoundedRectangle = 2;
+constexpr UINT TooltipRectangle = 4;
 
-constexpr COLORREF ToolTipHeadingColour = RGB(108, 5, 0);
-constexpr COLORREF ToolTipDescriptionColour = RGB(39, 54, 35);
-constexpr COLORREF ToolTipVariableColour = RGB(1, 52, 209); ///< also for sub-headings
-constexpr COLORREF ToolTipLightFrameColour = RGB(171, 164, 156);
-constexpr COLORREF ToolTipDarkFrameColour = RGB(30, 46, 8);
-constexpr COLORREF ToolTipFillColour = RGB(255, 254, 232);
+constexpr COLORREF TooltipHeadingColour = RGB(108, 5, 0);
+constexpr COLORREF TooltipDescriptionColour = RGB(39, 54, 35);
+constexpr COLORREF TooltipVariableColour = RGB(1, 52, 209); ///< also for sub-headings
+constexpr COLORREF TooltipLightFrameColour = RGB(171, 164, 156);
+constexpr COLORREF TooltipDarkFrameColour = RGB(30, 46, 8);
+constexpr COLORREF TooltipFillColour = RGB(255, 254, 232);
 
 /// Supplies the help text of a control that was registered with an empty text.
-class CToolTipTextProvider
+class CTooltipTextProvider
 {
   public:
-    virtual ~CToolTipTextProvider() = default;
-    virtual ov::Text GetToolTipText(HWND control) = 0;
+    virtual ~CTooltipTextProvider() = default;
+    virtual ov::Text GetTooltipText(HWND control) = 0;
 };
 
 /// A shared icon; destroyed with its last owner.
-using ToolTipIcon = std::shared_ptr<std::remove_pointer_t<HICON>>;
+using TooltipIcon = std::shared_ptr<std::remove_pointer_t<HICON>>;
 
 /// The registry's data of one control.
 struct ToolTipEntry {
     CRect controlRect;
-    ToolTipIcon icon;
+    TooltipIcon icon;
     ov::Text text; ///< in the markup of controls/core/tooltip_markup.h
 };
 
@@ -50,7 +50,7 @@ class CToolTipControl : public CWnd
     /// Creates the window, hidden and owned by `owner`'s window if there is one.
     /// `style` is one of the shapes; `secondStyle` is stored but not used. `provider`
     /// may be null and must outlive the window.
-    BOOL Create(CWnd* owner, UINT style, UINT secondStyle, CToolTipTextProvider* provider);
+    BOOL Create(CWnd* owner, UINT style, UINT secondStyle, CTooltipTextProvider* provider);
 
     /// Registers the text, or replaces the registered one. Ignores a control
     /// without a window. The entry takes ownership of a given icon.
@@ -75,7 +75,7 @@ class CToolTipControl : public CWnd
     /// The icon of the control's entry; null if it has none. The entry owns it.
     HICON GetToolIcon(const CWnd* control) const;
 
-    UINT GetToolTipStyle() const { return m_style; }
+    UINT GetTooltipStyle() const { return m_style; }
 
     /// Shows the current text in a window that points at `anchor`, in screen
     /// coordinates, without activating it. Shows nothing if the text has no sections.
@@ -107,7 +107,7 @@ class CToolTipControl : public CWnd
     ov::TooltipOutline m_outline;
 
   private:
-    void SetEntry(const CWnd* control, ov::Text text, ToolTipIcon icon);
+    void SetEntry(const CWnd* control, ov::Text text, TooltipIcon icon);
     ov::Text TextOf(const CWnd* control) const;
     void CreateFonts();
     CFont& FontOf(ov::TooltipSection section);
@@ -116,9 +116,9 @@ class CToolTipControl : public CWnd
     bool MakeRegion(CRgn& region) const;
 
     std::map<HWND, ToolTipEntry> m_entries;
-    std::weak_ptr<ToolTipIcon::element_type> m_toolIcon; ///< the icon that all of AddTool's entries share
-    CToolTipTextProvider* m_provider = nullptr;
-    UINT m_style = ToolTipBalloon;
+    std::weak_ptr<TooltipIcon::element_type> m_toolIcon; ///< the icon that all of AddTool's entries share
+    CTooltipTextProvider* m_provider = nullptr;
+    UINT m_style = TooltipBalloon;
     UINT m_secondStyle = 0;
     CFont m_headingFont;
     CFont m_variableFont;

@@ -241,7 +241,7 @@ bool CSettingsPage::CreateOrShow(CWnd* parent, const CRect& rectangle)
 
 void CSettingsPage::RegisterTooltips()
 {
-    CToolTipControl* tips = GetToolTipControl();
+    CToolTipControl* tips = GetTooltipControl();
     if (tips == nullptr)
         return;
     for (const ov::SettingRow& row : m_rows.settings) {

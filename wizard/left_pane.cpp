@@ -44,7 +44,7 @@ UINT CLeftPane::AccessibleNameId(int) const
 
 void CLeftPane::RegisterTooltips()
 {
-    if (CToolTipControl* tips = GetToolTipControl())
+    if (CToolTipControl* tips = GetTooltipControl())
         tips->AddTool(&m_list, IDS_HELP_LEFT_PANE_LIST);
 }
 

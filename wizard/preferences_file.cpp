@@ -138,6 +138,6 @@ ov::Text CPreferencesWizard::MakeSettingComment(const CWnd* control) const
 {
     if (control == nullptr)
         return {};
-    const CToolTipControl* tips = GetToolTipControl();
+    const CToolTipControl* tips = GetTooltipControl();
     return ov::MakeCommentBlock(tips != nullptr ? tips->GetDescription(control) : ov::Text());
 }

@@ -76,7 +76,7 @@ void CPreferencesWizard::InitControlLayout()
 
 void CPreferencesWizard::RegisterTooltips()
 {
-    CToolTipControl* tips = GetToolTipControl();
+    CToolTipControl* tips = GetTooltipControl();
     if (tips == nullptr)
         return;
     tips->AddTool(&m_configPathEdit, IDS_HELP_PREFERENCES_CONFIG_FILE);
@@ -297,7 +297,7 @@ void CPreferencesWizard::UpdateFocusItems()
     CWnd* control = CWnd::FromHandle(focus);
     if (control == nullptr || !control->IsWindowVisible() || focus == m_focusVariableEdit.GetSafeHwnd())
         return;
-    if (const CToolTipControl* tips = GetToolTipControl()) {
+    if (const CToolTipControl* tips = GetTooltipControl()) {
         m_focusDescriptionEdit.SetWindowText(tips->GetDescription(control));
         m_focusVariableEdit.SetWindowText(tips->GetVariableName(control));
     }

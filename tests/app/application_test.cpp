@@ -72,7 +72,7 @@ TEST_F(ProgramTest, ADialogThatCannotBeMadeGivesOne)
     doors.AnswerDialog(-1);
     EXPECT_EQ(ovPreferences_showDialog(), 1u);
     EXPECT_EQ(theApp.m_pMainWnd, nullptr);
-    EXPECT_EQ(theToolTip.GetSafeHwnd(), nullptr);
+    EXPECT_EQ(theTooltip.GetSafeHwnd(), nullptr);
 }
 
 TEST_F(ProgramTest, AnEmptyUserNameIsAskedForOnceAndKept)
@@ -110,13 +110,13 @@ TEST_F(ProgramTest, HelpTextsAreRegisteredWithTheirIconAndNeverShown)
     HICON icon = nullptr;
     for (const int id : {IDC_PREFERENCES_CONFIG_FILE, IDC_PREFERENCES_BROWSE, IDC_PREFERENCES_SAVE, IDCANCEL,
                          IDC_LEFT_PANE_LIST}) {
-        icon = theToolTip.GetToolIcon(CWnd::FromHandle(Control(id)));
+        icon = theTooltip.GetToolIcon(CWnd::FromHandle(Control(id)));
         ICONINFO info{};
         ASSERT_TRUE(::GetIconInfo(icon, &info)) << id;
         ::DeleteObject(info.hbmMask);
         ::DeleteObject(info.hbmColor);
     }
-    EXPECT_GT(theToolTip.GetToolCount(), 5u) << "the pages' controls";
+    EXPECT_GT(theTooltip.GetToolCount(), 5u) << "the pages' controls";
     // Focus and cursor visit controls that have a help text.
     CRect save;
     ::GetWindowRect(Control(IDC_PREFERENCES_SAVE), save);
@@ -127,10 +127,10 @@ TEST_F(ProgramTest, HelpTextsAreRegisteredWithTheirIconAndNeverShown)
         if (!CWnd::WalkPreTranslateTree(dialog->m_hWnd, &message))
             ::DispatchMessageW(&message);
     }
-    EXPECT_FALSE(theToolTip.IsWindowVisible());
+    EXPECT_FALSE(theTooltip.IsWindowVisible());
     for (const UINT_PTR timer : {100, 101})
-        EXPECT_FALSE(::KillTimer(theToolTip, timer)) << timer;
-    theToolTip.DestroyWindow();
+        EXPECT_FALSE(::KillTimer(theTooltip, timer)) << timer;
+    theTooltip.DestroyWindow();
     ICONINFO info{};
     EXPECT_FALSE(::GetIconInfo(icon, &info));
 }

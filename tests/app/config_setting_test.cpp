@@ -429,7 +429,7 @@ TEST_F(ConfigSetting, TheSmallestSizeIsThatOfEveryDialog)
 TEST_F(ConfigSetting, HelpTextsAreRegistered)
 {
     OpenEditor(u"a", 1);
-    const CToolTipControl* const tips = GetToolTipControl();
+    const CToolTipControl* const tips = GetTooltipControl();
     const auto description = [&](int id) { return tips->GetDescription(editor->GetDlgItem(id)); };
     EXPECT_EQ(description(IDC_CONFIG_SETTING_LIST), u"This list contains all values of the setting.");
     EXPECT_EQ(description(IDC_CONFIG_SETTING_VALUE), u"Define a value for the setting.");

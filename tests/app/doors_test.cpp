@@ -262,12 +262,12 @@ TEST_F(Doors, ASecondCallWhileTheDialogIsOpenLeavesItAlone)
 {
     const std::wstring path = MakeFile(L"office.cfg", simpleFile);
     Open(L"", path);
-    const HWND toolTip = theToolTip.GetSafeHwnd();
+    const HWND toolTip = theTooltip.GetSafeHwnd();
     EXPECT_EQ(ovPreferences_showDialogEx(nullptr, L"other.cfg", L"other.cfg", L"Other"), 1u);
     EXPECT_EQ(ovPreferences_showDialog(), 1u);
     EXPECT_EQ(theCommandLine.m_currentPath, FromWide(path));
     EXPECT_EQ(theCommandLine.m_userName, u"Tester");
-    EXPECT_EQ(theToolTip.GetSafeHwnd(), toolTip);
+    EXPECT_EQ(theTooltip.GetSafeHwnd(), toolTip);
     EXPECT_TRUE(::IsWindow(toolTip));
     EXPECT_EQ(theApp.m_pMainWnd, dialog.get());
 }

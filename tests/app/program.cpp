@@ -57,8 +57,8 @@ ProgramTest::~ProgramTest()
         dialog->DestroyWindow();
     dialog.reset();
     theApp.m_pMainWnd = nullptr;
-    if (theToolTip.GetSafeHwnd() != nullptr)
-        theToolTip.DestroyWindow();
+    if (theTooltip.GetSafeHwnd() != nullptr)
+        theTooltip.DestroyWindow();
 }
 
 void ProgramTest::Open(const std::wstring& defaultPath, const std::wstring& currentPath)
@@ -81,7 +81,7 @@ void ProgramTest::MakeDialog(const std::wstring& defaultPath, const std::wstring
     theCommandLine.m_userName = u"Tester";
     dialog = std::make_unique<CPreferencesWizard>(nullptr, theApp.DialogSetup());
     theApp.m_pMainWnd = dialog.get();
-    theToolTip.Create(dialog.get(), ToolTipBalloon, 8, nullptr);
+    theTooltip.Create(dialog.get(), TooltipBalloon, 8, nullptr);
 }
 
 void ProgramTest::ShowDialog()

@@ -9,8 +9,8 @@ class ControlsApplication : public CDialogApp
 {
   public:
     CFont* GetDialogFont(UINT) override { return sharedFont; }
-    CToolTipControl* GetToolTip() override { return nullptr; }
-    HICON GetToolTipIcon() override { return applicationIcon; }
+    CToolTipControl* GetTooltip() override { return nullptr; }
+    HICON GetTooltipIcon() override { return applicationIcon; }
 };
 
 ControlsApplication application;

@@ -307,13 +307,13 @@ TEST(AbstractFontDialog, WithoutASharedFontTheTemplatesFontStays)
     EXPECT_EQ(::SendDlgItemMessageW(dialog.m_hWnd, 1006, WM_GETFONT, 0, 0), own);
 }
 
-class ToolTip : public ::testing::Test
+class Tooltip : public ::testing::Test
 {
   protected:
     void SetUp() override
     {
         ASSERT_TRUE(dialog.Open());
-        ASSERT_TRUE(tip.Create(&dialog, ToolTipBalloon, 8, nullptr));
+        ASSERT_TRUE(tip.Create(&dialog, TooltipBalloon, 8, nullptr));
     }
     void TearDown() override
     {
@@ -327,25 +327,25 @@ class ToolTip : public ::testing::Test
     CToolTipControl tip;
 };
 
-TEST_F(ToolTip, WindowIsAHiddenOwnedToolWindow)
+TEST_F(Tooltip, WindowIsAHiddenOwnedToolWindow)
 {
     EXPECT_FALSE(tip.IsWindowVisible());
     EXPECT_NE(tip.GetStyle() & WS_POPUP, 0u);
     EXPECT_NE(tip.GetExStyle() & WS_EX_TOOLWINDOW, 0u);
     EXPECT_EQ(::GetWindow(tip.m_hWnd, GW_OWNER), dialog.m_hWnd);
-    EXPECT_EQ(tip.GetToolTipStyle(), 1u);
+    EXPECT_EQ(tip.GetTooltipStyle(), 1u);
 }
 
-TEST_F(ToolTip, WindowNeedsNoOwnersWindow)
+TEST_F(Tooltip, WindowNeedsNoOwnersWindow)
 {
     CToolTipControl other;
     LayoutDialog notOpened;
-    ASSERT_TRUE(other.Create(&notOpened, ToolTipBalloon, 8, nullptr));
+    ASSERT_TRUE(other.Create(&notOpened, TooltipBalloon, 8, nullptr));
     EXPECT_FALSE(other.IsWindowVisible());
     other.DestroyWindow();
 }
 
-TEST_F(ToolTip, LookupsReadTheRegisteredText)
+TEST_F(Tooltip, LookupsReadTheRegisteredText)
 {
     tip.AddTool(Control(1258), 7001);
     tip.AddTool(Control(1006), 7002);
@@ -356,7 +356,7 @@ TEST_F(ToolTip, LookupsReadTheRegisteredText)
     EXPECT_FALSE(tip.IsWindowVisible());
 }
 
-TEST_F(ToolTip, RegisteringTwiceKeepsOneEntryWithTheSecondText)
+TEST_F(Tooltip, RegisteringTwiceKeepsOneEntryWithTheSecondText)
 {
     tip.RegisterControl(Control(1258), u"<T>FIRST<D>one");
     tip.RegisterControl(Control(1258), u"<T>SECOND<D>two");
@@ -365,7 +365,7 @@ TEST_F(ToolTip, RegisteringTwiceKeepsOneEntryWithTheSecondText)
     EXPECT_EQ(tip.GetDescription(Control(1258)), u"two");
 }
 
-TEST_F(ToolTip, ControlWithoutAWindowIsIgnored)
+TEST_F(Tooltip, ControlWithoutAWindowIsIgnored)
 {
     const CWnd nothing;
     tip.RegisterControl(&nothing, u"<D>text");
@@ -375,7 +375,7 @@ TEST_F(ToolTip, ControlWithoutAWindowIsIgnored)
     EXPECT_EQ(tip.GetDescription(nullptr), u"");
 }
 
-TEST_F(ToolTip, EntriesShareTheToolTipsIcon)
+TEST_F(Tooltip, EntriesShareTheTooltipsIcon)
 {
     tip.AddTool(Control(1258), 7001);
     tip.AddTool(Control(1006), 7002);
@@ -390,14 +390,14 @@ TEST_F(ToolTip, EntriesShareTheToolTipsIcon)
     EXPECT_FALSE(::GetIconInfo(icon, &info)) << "it goes with the entries";
 }
 
-TEST_F(ToolTip, UnknownControlHasEmptyTexts)
+TEST_F(Tooltip, UnknownControlHasEmptyTexts)
 {
     tip.RegisterControl(Control(1258), u"<T>NAME<D>text");
     EXPECT_EQ(tip.GetVariableName(Control(1006)), u"");
     EXPECT_EQ(tip.GetDescription(Control(1006)), u"");
 }
 
-TEST_F(ToolTip, EntriesAndTheirIconsGoWithTheWindow)
+TEST_F(Tooltip, EntriesAndTheirIconsGoWithTheWindow)
 {
     const HICON icon = ::CopyIcon(::LoadIconW(nullptr, IDI_APPLICATION));
     ASSERT_NE(icon, nullptr);
@@ -413,12 +413,12 @@ TEST_F(ToolTip, EntriesAndTheirIconsGoWithTheWindow)
     EXPECT_FALSE(::GetIconInfo(icon, &info));
 }
 
-TEST(ToolTipProvider, IsAskedWhenTheRegisteredTextIsEmpty)
+TEST(TooltipProvider, IsAskedWhenTheRegisteredTextIsEmpty)
 {
-    class Provider : public CToolTipTextProvider
+    class Provider : public CTooltipTextProvider
     {
       public:
-        ov::Text GetToolTipText(HWND control) override
+        ov::Text GetTooltipText(HWND control) override
         {
             asked = control;
             return u"<T>PROVIDED";
@@ -429,7 +429,7 @@ TEST(ToolTipProvider, IsAskedWhenTheRegisteredTextIsEmpty)
     ASSERT_TRUE(dialog.Open());
     Provider provider;
     CToolTipControl tip;
-    ASSERT_TRUE(tip.Create(&dialog, ToolTipBalloon, 8, &provider));
+    ASSERT_TRUE(tip.Create(&dialog, TooltipBalloon, 8, &provider));
     const CWnd* control = dialog.GetDlgItem(1258);
     tip.RegisterControl(control, u"<T>OWN");
     EXPECT_EQ(tip.GetVariableName(control), u"OWN");

@@ -35,7 +35,7 @@ constexpr CPoint bottomLeft(5, 600);
 constexpr CPoint bottomRight(600, 600);
 
 /// Gives access to the functions for showing tooltips.
-class ShownToolTip : public CToolTipControl
+class ShownTooltip : public CToolTipControl
 {
   public:
     using CToolTipControl::Draw;
@@ -61,7 +61,7 @@ class ShownToolTip : public CToolTipControl
 class Picture
 {
   public:
-    explicit Picture(ShownToolTip& tip)
+    explicit Picture(ShownTooltip& tip)
         : m_width(tip.WindowRect().Width()), m_height(tip.WindowRect().Height())
     {
         const HDC screen = ::GetDC(nullptr);
@@ -139,13 +139,13 @@ int HeightOfText(int fontHeight, int weight, bool underline)
     return metrics.tmHeight;
 }
 
-class ToolTipDisplay : public ::testing::Test
+class TooltipDisplay : public ::testing::Test
 {
   protected:
     void SetUp() override
     {
         ASSERT_TRUE(parent.CreateEx(0, L"STATIC", L"", WS_POPUP, CRect(0, 0, 10, 10), nullptr, 0));
-        Make(ToolTipBalloon);
+        Make(TooltipBalloon);
     }
     void TearDown() override
     {
@@ -163,10 +163,10 @@ class ToolTipDisplay : public ::testing::Test
     }
 
     CWnd parent;
-    ShownToolTip tip;
+    ShownTooltip tip;
 };
 
-TEST_F(ToolTipDisplay, WindowStandsAtTheAnchorWithoutBeingActivated)
+TEST_F(TooltipDisplay, WindowStandsAtTheAnchorWithoutBeingActivated)
 {
     const HWND active = ::GetActiveWindow();
     tip.ShowAt(bottomRight);
@@ -182,7 +182,7 @@ TEST_F(ToolTipDisplay, WindowStandsAtTheAnchorWithoutBeingActivated)
     EXPECT_EQ(tip.m_anchor, CPoint());
 }
 
-TEST_F(ToolTipDisplay, NearTheLeftOrTopEdgeTheBodyOpensAwayFromIt)
+TEST_F(TooltipDisplay, NearTheLeftOrTopEdgeTheBodyOpensAwayFromIt)
 {
     tip.ShowAt(bottomRight);
     const int width = tip.m_outline.body.Width();
@@ -197,7 +197,7 @@ TEST_F(ToolTipDisplay, NearTheLeftOrTopEdgeTheBodyOpensAwayFromIt)
     EXPECT_EQ(tip.WindowRect().TopLeft(), CPoint(25, height));
 }
 
-TEST_F(ToolTipDisplay, TailPointsAtTheAnchorInEveryPlacement)
+TEST_F(TooltipDisplay, TailPointsAtTheAnchorInEveryPlacement)
 {
     for (const CPoint anchor : {topLeft, topRight, bottomLeft, bottomRight}) {
         SCOPED_TRACE(testing::Message() << anchor.x << ", " << anchor.y);
@@ -237,26 +237,26 @@ TEST_F(ToolTipDisplay, TailPointsAtTheAnchorInEveryPlacement)
     }
 }
 
-TEST_F(ToolTipDisplay, FrameIsLightOutsideAndDarkBesideIt)
+TEST_F(TooltipDisplay, FrameIsLightOutsideAndDarkBesideIt)
 {
-    for (const UINT style : {ToolTipBalloon, ToolTipRoundedRectangle}) {
+    for (const UINT style : {TooltipBalloon, TooltipRoundedRectangle}) {
         Make(style);
         tip.ShowAt(bottomRight);
         const Picture picture(tip);
         const int middle = tip.m_outline.body.Height() / 2;
-        EXPECT_EQ(picture.At(0, middle), ToolTipLightFrameColour);
-        EXPECT_EQ(picture.At(1, middle), ToolTipDarkFrameColour);
-        EXPECT_EQ(picture.At(2, middle), ToolTipFillColour);
+        EXPECT_EQ(picture.At(0, middle), TooltipLightFrameColour);
+        EXPECT_EQ(picture.At(1, middle), TooltipDarkFrameColour);
+        EXPECT_EQ(picture.At(2, middle), TooltipFillColour);
         const int column = tip.m_outline.body.Width() / 2;
-        EXPECT_EQ(picture.At(column, 0), ToolTipLightFrameColour);
-        EXPECT_EQ(picture.At(column, 1), ToolTipFillColour);
+        EXPECT_EQ(picture.At(column, 0), TooltipLightFrameColour);
+        EXPECT_EQ(picture.At(column, 1), TooltipFillColour);
         EXPECT_EQ(picture.At(0, 0), background) << "corners are round";
     }
 }
 
-TEST_F(ToolTipDisplay, RoundedRectangleHasNoTail)
+TEST_F(TooltipDisplay, RoundedRectangleHasNoTail)
 {
-    Make(ToolTipRoundedRectangle);
+    Make(TooltipRoundedRectangle);
     for (const CPoint anchor : {topLeft, topRight, bottomLeft, bottomRight}) {
         tip.ShowAt(anchor);
         const CRect rect = tip.WindowRect();
@@ -266,29 +266,29 @@ TEST_F(ToolTipDisplay, RoundedRectangleHasNoTail)
     }
 }
 
-TEST_F(ToolTipDisplay, RectangleHasAnEdgeInTwoColours)
+TEST_F(TooltipDisplay, RectangleHasAnEdgeInTwoColours)
 {
-    Make(ToolTipRectangle);
+    Make(TooltipRectangle);
     tip.ShowAt(bottomRight);
     const Picture picture(tip);
     const int right = picture.Width() - 1;
     const int bottom = picture.Height() - 1;
-    EXPECT_EQ(picture.At(0, 0), ToolTipLightFrameColour);
-    EXPECT_EQ(picture.At(0, bottom - 1), ToolTipLightFrameColour);
-    EXPECT_EQ(picture.At(right - 1, 0), ToolTipLightFrameColour);
-    EXPECT_EQ(picture.At(right, 0), ToolTipDarkFrameColour);
-    EXPECT_EQ(picture.At(0, bottom), ToolTipDarkFrameColour);
-    EXPECT_EQ(picture.At(right, bottom), ToolTipDarkFrameColour);
+    EXPECT_EQ(picture.At(0, 0), TooltipLightFrameColour);
+    EXPECT_EQ(picture.At(0, bottom - 1), TooltipLightFrameColour);
+    EXPECT_EQ(picture.At(right - 1, 0), TooltipLightFrameColour);
+    EXPECT_EQ(picture.At(right, 0), TooltipDarkFrameColour);
+    EXPECT_EQ(picture.At(0, bottom), TooltipDarkFrameColour);
+    EXPECT_EQ(picture.At(right, bottom), TooltipDarkFrameColour);
     // Inside it is the edge in the system's colours.
     EXPECT_EQ(picture.At(1, 5), ::GetSysColor(COLOR_3DHILIGHT));
     EXPECT_EQ(picture.At(right - 1, 5), ::GetSysColor(COLOR_3DSHADOW));
-    EXPECT_EQ(picture.At(2, 5), ToolTipFillColour);
+    EXPECT_EQ(picture.At(2, 5), TooltipFillColour);
 }
 
-TEST_F(ToolTipDisplay, SectionsStandBelowEachOtherInTheirColours)
+TEST_F(TooltipDisplay, SectionsStandBelowEachOtherInTheirColours)
 {
-    constexpr std::array<COLORREF, 3> colours{ToolTipHeadingColour, ToolTipVariableColour,
-                                              ToolTipDescriptionColour};
+    constexpr std::array<COLORREF, 3> colours{TooltipHeadingColour, TooltipVariableColour,
+                                              TooltipDescriptionColour};
     for (const CPoint anchor : {topLeft, bottomRight}) {
         tip.ShowAt(anchor);
         const Picture picture(tip);
@@ -307,28 +307,28 @@ TEST_F(ToolTipDisplay, SectionsStandBelowEachOtherInTheirColours)
             }
             // Three background pixels separate it from the next part.
             const CRect gap(12, band.bottom, picture.Width() - 12, band.bottom + 3);
-            EXPECT_EQ(picture.Count(ToolTipFillColour, gap), gap.Width() * gap.Height()) << section;
+            EXPECT_EQ(picture.Count(TooltipFillColour, gap), gap.Width() * gap.Height()) << section;
             top = gap.bottom;
         }
         EXPECT_EQ(tip.m_outline.body.Height(), heading + variable + 2 * description + 3 * 3 + 2 * 10);
     }
 }
 
-TEST_F(ToolTipDisplay, SubHeadingsLookLikeTheVariable)
+TEST_F(TooltipDisplay, SubHeadingsLookLikeTheVariable)
 {
     tip.m_currentText = u"<S>EEEE<D>LLLL";
     tip.ShowAt(bottomRight);
     const Picture picture(tip);
     const int line = HeightOfText(14, FW_NORMAL, true);
     const CRect first(12, 10, picture.Width() - 12, 10 + line);
-    EXPECT_GT(picture.Count(ToolTipVariableColour, first), 5);
+    EXPECT_GT(picture.Count(TooltipVariableColour, first), 5);
     CRect second = first;
     second.OffsetRect(0, line + 3);
-    EXPECT_GT(picture.Count(ToolTipDescriptionColour, second), 5);
+    EXPECT_GT(picture.Count(TooltipDescriptionColour, second), 5);
     EXPECT_EQ(tip.m_outline.body.Height(), 2 * (line + 3) + 2 * 14 + 2 * 10);
 }
 
-TEST_F(ToolTipDisplay, VariableAloneIsUnderlined)
+TEST_F(TooltipDisplay, VariableAloneIsUnderlined)
 {
     const auto longestRun = [&](const ov::Text& text, COLORREF colour) {
         tip.m_currentText = text;
@@ -344,15 +344,15 @@ TEST_F(ToolTipDisplay, VariableAloneIsUnderlined)
         }
         return std::pair(longest, picture.Width() - 24);
     };
-    const auto [variable, variableWidth] = longestRun(u"<T>iiiiiiii", ToolTipVariableColour);
+    const auto [variable, variableWidth] = longestRun(u"<T>iiiiiiii", TooltipVariableColour);
     EXPECT_EQ(variable, variableWidth);
-    const auto [heading, headingWidth] = longestRun(u"<H>iiiiiiii", ToolTipHeadingColour);
+    const auto [heading, headingWidth] = longestRun(u"<H>iiiiiiii", TooltipHeadingColour);
     EXPECT_LT(heading, headingWidth / 2);
-    const auto [description, descriptionWidth] = longestRun(u"<D>iiiiiiii", ToolTipDescriptionColour);
+    const auto [description, descriptionWidth] = longestRun(u"<D>iiiiiiii", TooltipDescriptionColour);
     EXPECT_LT(description, descriptionWidth / 2);
 }
 
-TEST_F(ToolTipDisplay, LinesBreakWhereTheTextBreaksThemOnly)
+TEST_F(TooltipDisplay, LinesBreakWhereTheTextBreaksThemOnly)
 {
     tip.m_currentText = u"<D>" + ov::Text(300, u'x') + u" " + ov::Text(300, u'x');
     tip.ShowAt(bottomRight);
@@ -363,7 +363,7 @@ TEST_F(ToolTipDisplay, LinesBreakWhereTheTextBreaksThemOnly)
     EXPECT_EQ(tip.m_outline.body.Height() - oneLine, 2 * HeightOfText(14, FW_NORMAL, false));
 }
 
-TEST_F(ToolTipDisplay, AmpersandsAndTabsAreText)
+TEST_F(TooltipDisplay, AmpersandsAndTabsAreText)
 {
     const auto width = [&](const ov::Text& text) {
         tip.m_currentText = text;
@@ -374,7 +374,7 @@ TEST_F(ToolTipDisplay, AmpersandsAndTabsAreText)
     EXPECT_GT(width(u"<D>\tx"), width(u"<D>    x"));
 }
 
-TEST_F(ToolTipDisplay, FontFollowsTheParents)
+TEST_F(TooltipDisplay, FontFollowsTheParents)
 {
     LOGFONTW description{};
     description.lfHeight = -30;
@@ -386,13 +386,13 @@ TEST_F(ToolTipDisplay, FontFollowsTheParents)
     EXPECT_EQ(tip.m_outline.body.Height(), HeightOfText(30, FW_BOLD, false) + 30 / 3 + 2 * 10);
     // The next window uses the font of its own parent.
     parent.SendMessage(WM_SETFONT, 0, FALSE);
-    Make(ToolTipBalloon);
+    Make(TooltipBalloon);
     tip.m_currentText = u"<H>Heading";
     tip.ShowAt(bottomRight);
     EXPECT_EQ(tip.m_outline.body.Height(), HeightOfText(14, FW_BOLD, false) + 3 + 2 * 10);
 }
 
-TEST_F(ToolTipDisplay, ApplicationsIconStandsBesideTheText)
+TEST_F(TooltipDisplay, ApplicationsIconStandsBesideTheText)
 {
     tip.m_currentText = u"<H>HHHH";
     tip.ShowAt(bottomRight);
@@ -412,13 +412,13 @@ TEST_F(ToolTipDisplay, ApplicationsIconStandsBesideTheText)
         EXPECT_NE(picture.At(10 + iconWidth, 12 + down), iconColour);
         EXPECT_NE(picture.At(12, 9 + down), iconColour);
         const CRect text(12 + iconWidth + 2, 10 + down, picture.Width() - 12, 30 + down);
-        EXPECT_GT(picture.Count(ToolTipHeadingColour, text), 5);
+        EXPECT_GT(picture.Count(TooltipHeadingColour, text), 5);
     }
     applicationIcon = nullptr;
     ::DestroyIcon(icon);
 }
 
-TEST_F(ToolTipDisplay, TextWithoutSectionsShowsNothing)
+TEST_F(TooltipDisplay, TextWithoutSectionsShowsNothing)
 {
     tip.m_currentText = u"no tag";
     tip.m_pending = true;
@@ -427,29 +427,29 @@ TEST_F(ToolTipDisplay, TextWithoutSectionsShowsNothing)
     EXPECT_FALSE(tip.m_pending);
 }
 
-TEST_F(ToolTipDisplay, NothingArmsTheShow)
+TEST_F(TooltipDisplay, NothingArmsTheShow)
 {
     tip.AddTool(&parent, 7001);
     EXPECT_FALSE(tip.m_pending);
     EXPECT_EQ(tip.m_showDelay, 1000u);
-    EXPECT_FALSE(tip.KillTimer(ShownToolTip::showTimer));
-    EXPECT_FALSE(tip.KillTimer(ShownToolTip::watchTimer));
+    EXPECT_FALSE(tip.KillTimer(ShownTooltip::showTimer));
+    EXPECT_FALSE(tip.KillTimer(ShownTooltip::watchTimer));
     EXPECT_FALSE(tip.IsWindowVisible());
 }
 
 /// The cursor is in the middle of the control, and a show is waiting for its delay.
-class ToolTipTimers : public ToolTipDisplay
+class TooltipTimers : public TooltipDisplay
 {
   protected:
     static constexpr CPoint cursor{400, 300};
 
     void SetUp() override
     {
-        ToolTipDisplay::SetUp();
+        TooltipDisplay::SetUp();
         ASSERT_TRUE(::SetCursorPos(cursor.x, cursor.y));
         tip.m_controlRect = control;
         tip.m_pending = true;
-        ASSERT_NE(tip.SetTimer(ShownToolTip::showTimer, 1000 * 1000), 0u);
+        ASSERT_NE(tip.SetTimer(ShownTooltip::showTimer, 1000 * 1000), 0u);
     }
     void Fire(UINT_PTR timer) { tip.SendMessage(WM_TIMER, timer); }
     bool IsRunning(UINT_PTR timer) { return tip.KillTimer(timer) != FALSE; }
@@ -457,47 +457,47 @@ class ToolTipTimers : public ToolTipDisplay
     CRect control{380, 290, 420, 310};
 };
 
-TEST_F(ToolTipTimers, DelayEndsInAShowAtTheCursor)
+TEST_F(TooltipTimers, DelayEndsInAShowAtTheCursor)
 {
-    Fire(ShownToolTip::showTimer);
+    Fire(ShownTooltip::showTimer);
     EXPECT_TRUE(tip.IsWindowVisible());
     EXPECT_EQ(tip.m_anchor, cursor);
     EXPECT_FALSE(tip.m_pending);
-    EXPECT_FALSE(IsRunning(ShownToolTip::showTimer));
-    EXPECT_TRUE(IsRunning(ShownToolTip::watchTimer));
+    EXPECT_FALSE(IsRunning(ShownTooltip::showTimer));
+    EXPECT_TRUE(IsRunning(ShownTooltip::watchTimer));
 }
 
-TEST_F(ToolTipTimers, DelayShowsNothingWhenNoneIsPending)
+TEST_F(TooltipTimers, DelayShowsNothingWhenNoneIsPending)
 {
     tip.m_pending = false;
-    Fire(ShownToolTip::showTimer);
+    Fire(ShownTooltip::showTimer);
     EXPECT_FALSE(tip.IsWindowVisible());
-    EXPECT_TRUE(IsRunning(ShownToolTip::showTimer));
-    EXPECT_FALSE(IsRunning(ShownToolTip::watchTimer));
+    EXPECT_TRUE(IsRunning(ShownTooltip::showTimer));
+    EXPECT_FALSE(IsRunning(ShownTooltip::watchTimer));
 }
 
-TEST_F(ToolTipTimers, DelayShowsNothingWhenTheCursorIsElsewhere)
+TEST_F(TooltipTimers, DelayShowsNothingWhenTheCursorIsElsewhere)
 {
     tip.m_controlRect.OffsetRect(100, 0);
-    Fire(ShownToolTip::showTimer);
+    Fire(ShownTooltip::showTimer);
     EXPECT_FALSE(tip.IsWindowVisible());
     EXPECT_TRUE(tip.m_pending);
 }
 
-TEST_F(ToolTipTimers, WindowStaysWhileTheCursorIsInsideAndGoesWhenItLeaves)
+TEST_F(TooltipTimers, WindowStaysWhileTheCursorIsInsideAndGoesWhenItLeaves)
 {
-    Fire(ShownToolTip::showTimer);
-    Fire(ShownToolTip::watchTimer);
+    Fire(ShownTooltip::showTimer);
+    Fire(ShownTooltip::watchTimer);
     EXPECT_TRUE(tip.IsWindowVisible());
     ASSERT_TRUE(::SetCursorPos(control.right + 1, cursor.y));
-    Fire(ShownToolTip::watchTimer);
+    Fire(ShownTooltip::watchTimer);
     EXPECT_FALSE(tip.IsWindowVisible());
-    EXPECT_FALSE(IsRunning(ShownToolTip::watchTimer));
+    EXPECT_FALSE(IsRunning(ShownTooltip::watchTimer));
     EXPECT_EQ(tip.m_controlRect, CRect());
     EXPECT_EQ(tip.m_anchor, CPoint());
 }
 
-TEST_F(ToolTipTimers, OtherTimersDoNothing)
+TEST_F(TooltipTimers, OtherTimersDoNothing)
 {
     Fire(102);
     EXPECT_FALSE(tip.IsWindowVisible());
@@ -505,10 +505,10 @@ TEST_F(ToolTipTimers, OtherTimersDoNothing)
 }
 
 // Uses the real timers with a short delay, and their messages as they arrive.
-TEST_F(ToolTipTimers, RunByThemselves)
+TEST_F(TooltipTimers, RunByThemselves)
 {
     tip.m_showDelay = 10;
-    ASSERT_NE(tip.SetTimer(ShownToolTip::showTimer, tip.m_showDelay), 0u);
+    ASSERT_NE(tip.SetTimer(ShownTooltip::showTimer, tip.m_showDelay), 0u);
     MSG message{};
     while (!tip.IsWindowVisible() && ::GetMessageW(&message, nullptr, 0, 0) > 0)
         ::DispatchMessageW(&message);
@@ -519,7 +519,7 @@ TEST_F(ToolTipTimers, RunByThemselves)
     EXPECT_EQ(tip.m_controlRect, CRect());
 }
 
-TEST_F(ToolTipTimers, AThousandShowsLeaveNothingBehind)
+TEST_F(TooltipTimers, AThousandShowsLeaveNothingBehind)
 {
     constexpr int warmUp = 20;
     constexpr int rounds = 1000;
@@ -545,17 +545,17 @@ TEST_F(ToolTipTimers, AThousandShowsLeaveNothingBehind)
     ::DestroyIcon(icon);
 }
 
-TEST_F(ToolTipTimers, DestroyingTheShownWindowEndsItAll)
+TEST_F(TooltipTimers, DestroyingTheShownWindowEndsItAll)
 {
-    Fire(ShownToolTip::showTimer);
+    Fire(ShownTooltip::showTimer);
     const uidriver::Resources shown = uidriver::MeasureResources();
     tip.DestroyWindow();
     const uidriver::Resources gone = uidriver::MeasureResources();
     EXPECT_LE(gone.gdiObjects + 3, shown.gdiObjects) << "the three fonts go with it";
-    ASSERT_TRUE(tip.Create(&parent, ToolTipBalloon, 8, nullptr));
+    ASSERT_TRUE(tip.Create(&parent, TooltipBalloon, 8, nullptr));
     EXPECT_FALSE(tip.m_pending);
     EXPECT_TRUE(tip.m_currentText.empty());
-    EXPECT_FALSE(IsRunning(ShownToolTip::watchTimer));
+    EXPECT_FALSE(IsRunning(ShownTooltip::watchTimer));
 }
 
 } // namespace
