@@ -24,18 +24,22 @@ int FirstOfGroup(HWND button)
     return button != nullptr ? ::GetDlgCtrlID(button) : 0;
 }
 
-CRect RectOn(HWND page, HWND control)
+ov::Rect RectOn(HWND page, HWND control)
 {
-    CRect rect;
+    RECT rect;
     ::GetWindowRect(control, &rect);
     ::MapWindowPoints(nullptr, page, reinterpret_cast<POINT*>(&rect), 2);
-    return rect;
+    return {rect.left, rect.top, rect.right, rect.bottom};
 }
 
-bool IsFrame(HWND control)
+ov::WidthKind WidthKindOf(HWND control)
 {
-    return AfxIsOfClass(control, WC_BUTTONW) &&
-           (::GetWindowLongPtrW(control, GWL_STYLE) & BS_TYPEMASK) == BS_GROUPBOX;
+    if (AfxIsOfClass(control, WC_STATICW))
+        return ov::WidthKind::Caption;
+    if (!AfxIsOfClass(control, WC_BUTTONW))
+        return ov::WidthKind::Content;
+    const bool isFrame = (::GetWindowLongPtrW(control, GWL_STYLE) & BS_TYPEMASK) == BS_GROUPBOX;
+    return isFrame ? ov::WidthKind::Frame : ov::WidthKind::Caption;
 }
 
 /// True if a control of that kind reports a change with that notification.
@@ -121,7 +125,12 @@ void CSettingsPage::OnTemplateLayout()
 {
     for (const ov::EntriesRow& row : m_rows.entries)
         FitDroppedWidth(FindControl(row.controlId));
-    m_narrowestWidth = NarrowestWidth();
+    // The margin inside a frame, and a width that still shows one word in an edit.
+    CRect units(7, 0, 50, 0);
+    MapDialogRect(units);
+    m_narrowestWidth = ov::NarrowestPageWidth(
+        PlacedControls(),
+        {.templateWidth = TemplateSize().cx, .frameMargin = units.left, .shortestContent = units.right});
     CWizardPage::OnTemplateLayout();
 }
 
@@ -133,62 +142,19 @@ CRect CSettingsPage::GetClientRectangle() const
     return client;
 }
 
-/// True if the control follows the page's right edge.
-bool CSettingsPage::Follows(HWND control) const
+std::vector<ov::PlacedControl> CSettingsPage::PlacedControls() const
 {
-    return std::ranges::any_of(m_layout, [id = ::GetDlgCtrlID(control)](const ov::LayoutRow& row) {
-        return row.controlId == id &&
-               (row.layoutFlags & (ov::LayoutStretchWidth | ov::LayoutAnchorRight)) != 0;
-    });
-}
-
-/// The minimum width of a stretched control.
-int CSettingsPage::NarrowestWidth(HWND control, const CRect& units) const
-{
-    const CRect rect = RectOn(m_hWnd, control);
-    if (IsFrame(control)) {
-        int width = 0;
-        for (const HWND member : FirstChildren()) {
-            const CRect inner = RectOn(m_hWnd, member);
-            if (member != control && rect.PtInRect(inner.TopLeft()) && !Follows(member))
-                width = std::max<int>(width, inner.right + units.left - rect.left);
-        }
-        return width;
-    }
-    // The captions of labels and boxes have line breaks for the template's width.
-    const bool hasCaption = AfxIsOfClass(control, WC_STATICW) || AfxIsOfClass(control, WC_BUTTONW);
-    return hasCaption ? rect.Width() : std::min<int>(rect.Width(), units.right);
-}
-
-/// The width of the page at which the first stretched control reaches its minimum
-/// width. Controls that do not follow the edge must be completely visible, too.
-int CSettingsPage::NarrowestWidth() const
-{
-    // The margin inside a frame, and a width that still shows one word in an edit.
-    CRect units(7, 0, 50, 0);
-    MapDialogRect(units);
-    const int width = TemplateSize().cx;
-    int spare = width;
-    int fixed = 0;
+    std::vector<ov::PlacedControl> controls;
     for (const ov::LayoutRow& row : m_layout) {
-        const HWND control = FindControl(row.controlId);
-        if (control == nullptr)
-            continue;
-        const CRect rect = RectOn(m_hWnd, control);
-        if ((row.layoutFlags & ov::LayoutStretchWidth) != 0)
-            spare = std::min(spare, rect.Width() - NarrowestWidth(control, units));
-        else if (!Follows(control))
-            fixed = std::max<int>(fixed, rect.right);
+        if (const HWND control = FindControl(row.controlId))
+            controls.push_back({RectOn(m_hWnd, control), row.layoutFlags, WidthKindOf(control)});
     }
-    return std::max(width - std::max(spare, 0), fixed);
+    return controls;
 }
 
 CSize CSettingsPage::NeededSize() const
 {
-    int bottom = 0;
-    for (const HWND control : FirstChildren())
-        bottom = std::max<int>(bottom, RectOn(m_hWnd, control).bottom);
-    return {m_narrowestWidth, bottom};
+    return {m_narrowestWidth, ov::ContentHeight(PlacedControls())};
 }
 
 void CSettingsPage::FillLists()

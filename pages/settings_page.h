@@ -1,6 +1,7 @@
 #pragma once
 
 #include "pages/core/page_catalogue.h"
+#include "pages/core/page_geometry.h"
 #include "pages/core/page_values.h"
 #include "pages/core/setting_row.h"
 #include "wizard/wizard_page.h"
@@ -71,9 +72,9 @@ class CSettingsPage : public CWizardPage
     void FillLists();
     void SetUpSpins();
     void LiftTextLimits();
-    bool Follows(HWND control) const;
-    int NarrowestWidth(HWND control, const CRect& units) const;
-    int NarrowestWidth() const;
+    /// The controls where they are now, which is where the template places them only
+    /// before the first layout.
+    std::vector<ov::PlacedControl> PlacedControls() const;
     bool ReportsChange(int id, int code) const;
     bool IsDependedOn(int id) const;
     int GroupOf(int id) const;
