@@ -52,11 +52,8 @@ class CToolTipControl : public CWnd
     /// may be null and must outlive the window.
     BOOL Create(CWnd* owner, UINT style, UINT secondStyle, CTooltipTextProvider* provider);
 
-    /// Registers the text, or replaces the registered one. Ignores a control
-    /// without a window. The entry takes ownership of a given icon.
-    void RegisterControl(const CWnd* control, ov::Text text, HICON icon = nullptr);
-
-    /// RegisterControl with a text from the string table and the tooltips' icon.
+    /// Registers a text of the string table and the tooltips' icon for the control, or
+    /// replaces what is registered. Ignores a control without a window.
     void AddTool(const CWnd* control, UINT textId);
 
     /// Removes the control, for windows that are destroyed before the tooltip window.
@@ -68,6 +65,11 @@ class CToolTipControl : public CWnd
 
     /// The control's description; empty in the same cases.
     ov::Text GetDescription(const CWnd* control) const;
+
+    // The rest of the interface is part of the design's contract and used by tests only.
+
+    /// AddTool with any text. The entry takes ownership of a given icon.
+    void RegisterControl(const CWnd* control, ov::Text text, HICON icon = nullptr);
 
     /// Number of registered controls.
     size_t GetToolCount() const { return m_entries.size(); }
@@ -96,8 +98,8 @@ class CToolTipControl : public CWnd
     static constexpr UINT_PTR showTimer = 100;
     static constexpr UINT_PTR watchTimer = 101;
 
-    // The state of a show. The caller fills in the text and the control's
-    // rectangle, sets pending and starts the show timer.
+    // The state of a show, which nothing in the program starts. The caller fills in the
+    // text and the control's rectangle, sets pending and starts the show timer.
     ov::Text m_currentText;  ///< in the markup
     CRect m_controlRect;     ///< in screen coordinates; the window remains while the cursor is inside
     bool m_pending = false;  ///< a show is waiting for its delay
