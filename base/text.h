@@ -1,6 +1,5 @@
 #pragma once
 
-#include <initializer_list>
 #include <string>
 #include <string_view>
 
@@ -40,13 +39,6 @@ int ToInteger(TextView text);
 
 /// The integer in decimal, with a leading "-" if negative.
 Text FormatInteger(int value);
-
-/// Replaces "%1" in the pattern by the first value, "%2" by the second and so on. A placeholder
-/// without a value remains. Placeholders inside the values are not replaced.
-Text FillPlaces(TextView pattern, std::initializer_list<TextView> values);
-
-/// Replaces the first "%d" in the pattern by the number.
-Text FillNumber(TextView pattern, int number);
 
 /// Converts text to UTF-8. An unpaired surrogate becomes U+FFFD.
 std::string Utf8FromText(TextView text);

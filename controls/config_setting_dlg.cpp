@@ -4,6 +4,7 @@
 #include <initializer_list>
 #include <utility>
 
+#include "base/placeholders.h"
 #include "controls/core/dialog_units.h"
 #include "controls/core/layout.h"
 #include "controls/dialog_app.h"

@@ -2,8 +2,6 @@
 
 #include "framework/windows_api.h"
 
-#include <algorithm>
-
 /// A size in pixels.
 class CSize : public SIZE
 {
@@ -51,14 +49,6 @@ class CRect : public RECT
     constexpr BOOL PtInRect(POINT point) const
     {
         return point.x >= left && point.x < right && point.y >= top && point.y < bottom;
-    }
-    /// The rectangle moved as little as necessary to lie in the area. If it is larger
-    /// than the area, its left and top edges are inside.
-    constexpr CRect MovedInto(const CRect& area) const
-    {
-        const LONG x = std::max(std::min(left, area.right - Width()), area.left);
-        const LONG y = std::max(std::min(top, area.bottom - Height()), area.top);
-        return {CPoint(x, y), CSize(Width(), Height())};
     }
     constexpr void OffsetRect(int dx, int dy) { *this = CRect(left + dx, top + dy, right + dx, bottom + dy); }
     constexpr bool operator==(const CRect& other) const

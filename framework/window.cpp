@@ -2,8 +2,8 @@
 
 #include "framework/focus.h"
 #include "framework/thread_state.h"
+#include "framework/work_area.h"
 
-#include <algorithm>
 #include <iterator>
 #include <utility>
 
@@ -251,7 +251,7 @@ void CWnd::CenterWindow()
     GetWindowRect(own);
     const CPoint centred((target.left + target.right - own.Width()) / 2,
                          (target.top + target.bottom - own.Height()) / 2);
-    const CRect place = CRect(centred, CSize(own.Width(), own.Height())).MovedInto(work);
+    const CRect place = AfxMovedInto(CRect(centred, CSize(own.Width(), own.Height())), work);
     SetWindowPos(nullptr, place.left, place.top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 

@@ -1,6 +1,7 @@
 // ovPreferencesHost opens the Preferences dialog from a command line. It is a
 // console program, so that scripts wait for it and see its output and exit code.
 #include "app/cmd_line_info.h"
+#include "base/placeholders.h"
 #include "framework/wide.h"
 #include "host/host_output.h"
 #include "include/ovPreferences.h"

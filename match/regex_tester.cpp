@@ -3,6 +3,7 @@
 #include <initializer_list>
 #include <utility>
 
+#include "base/placeholders.h"
 #include "controls/core/layout.h"
 #include "controls/dropped_list.h"
 #include "match/core/pattern_match.h"

@@ -7,6 +7,7 @@
 #include "controls/dialog_app.h"
 #include "controls/tool_tip_control.h"
 #include "framework/window_resolution.h"
+#include "framework/work_area.h"
 #include "pages/core/page_catalogue.h"
 #include "resources/ids.h"
 #include "wizard/core/wizard_state.h"
@@ -164,7 +165,7 @@ void CPreferencesWizard::FitIntoWorkArea()
     CRect window;
     GetWindowRect(&window);
     const CSize size(std::min(window.Width(), work.Width()), std::min(window.Height(), work.Height()));
-    const CRect fitting = CRect(window.TopLeft(), size).MovedInto(work);
+    const CRect fitting = AfxMovedInto(CRect(window.TopLeft(), size), work);
     if (fitting != window)
         MoveWindow(fitting);
 }

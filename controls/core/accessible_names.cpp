@@ -1,5 +1,7 @@
 #include "controls/core/accessible_names.h"
 
+#include "base/placeholders.h"
+
 namespace ov
 {
 namespace

@@ -9,8 +9,7 @@
 namespace ov
 {
 
-/// How a control follows its dialog's size. Flags can be combined. The program uses Keep,
-/// Anchor and Stretch. Scale is part of the design and used by tests only.
+/// How a control follows its dialog's size. Flags can be combined.
 inline constexpr std::uint32_t LayoutKeepLeft = 0x001;      ///< fixed horizontal position and width
 inline constexpr std::uint32_t LayoutKeepTop = 0x002;       ///< fixed top edge
 inline constexpr std::uint32_t LayoutAnchorRight = 0x004;   ///< follows the right edge, width kept
@@ -27,7 +26,7 @@ inline constexpr std::uint32_t LayoutScaleWidthFromRight = 0x400; ///< scaled wi
 struct CDlgControlInfo {
     Rect initialRect;            ///< its rectangle when captured
     std::uint16_t controlId = 0; ///< dialog control id
-    std::uint16_t reserved = 0;  ///< part of the design; not used
+    std::uint16_t reserved = 0;  ///< stored but not used
     std::uint32_t layoutFlags = 0;
     std::int32_t left = 0;         ///< initial left edge
     std::int32_t rightMargin = 0;  ///< client width minus initial right edge

@@ -2,6 +2,7 @@
 
 #include <commctrl.h>
 
+#include "base/placeholders.h"
 #include "pages/core/page_rows.h"
 #include "pages/scan_period/ids.h"
 #include "pages/scan_period/rows.h"

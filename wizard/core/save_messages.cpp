@@ -1,5 +1,6 @@
 #include "wizard/core/save_messages.h"
 
+#include "base/placeholders.h"
 #include "resources/ids.h"
 
 namespace ov
