@@ -70,6 +70,7 @@ BOOL CPreferencesApp::InitInstance()
                                   ICC_WIN95_CLASSES | ICC_STANDARD_CLASSES | ICC_DATE_CLASSES};
     if (!::InitCommonControlsEx(&controls) || !CDialogApp::InitInstance())
         return FALSE;
+    // Part of the design; nothing in the program depends on either.
     AfxEnableControlContainer();
     SetRegistryKey(L"Orthoval Preferences");
     return TRUE;
