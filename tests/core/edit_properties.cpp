@@ -4,6 +4,7 @@
 #include "config/core/setting_comment.h"
 #include "config/core/setting_store.h"
 #include "document/core/document.h"
+#include "tests/core/line_model.h"
 
 #include <algorithm>
 #include <iterator>
@@ -16,116 +17,6 @@ namespace ov::test
 {
 namespace
 {
-
-// A line as the slow model takes it apart.
-struct ModelLine {
-    LineKind kind = LineKind::Blank;
-    std::string text;
-    std::string end;
-    std::string trimmed;
-    std::string name;
-    char operation = '\0';
-    bool conditional = false;
-};
-
-using ModelLines = std::vector<ModelLine>;
-
-std::string Trimmed(const std::string& text)
-{
-    const char* const white = " \t\n\v\f\r";
-    const std::size_t first = text.find_first_not_of(white);
-    return first == std::string::npos ? "" : text.substr(first, text.find_last_not_of(white) - first + 1);
-}
-
-void TakeApart(ModelLine& line)
-{
-    line.trimmed = Trimmed(line.text);
-    if (line.trimmed.empty())
-        return;
-    if (line.trimmed[0] == '#' || line.trimmed[0] == '%') {
-        line.kind = line.trimmed[0] == '#' ? LineKind::Comment : LineKind::Directive;
-        return;
-    }
-    const std::size_t nameEnd = std::min(line.trimmed.find_first_of(" \t"), line.trimmed.size());
-    const std::size_t start = std::min(line.trimmed.find_first_not_of(" \t", nameEnd), line.trimmed.size());
-    const std::size_t end = std::min(line.trimmed.find_first_of(" \t", start), line.trimmed.size());
-    const std::string token = line.trimmed.substr(start, end - start);
-    line.name = line.trimmed.substr(0, nameEnd);
-    line.kind = LineKind::Ignored;
-    for (const char operation : {'=', '>', '<', '+', ':'}) {
-        if (token.find(operation) == std::string::npos)
-            continue;
-        line.operation = operation;
-        line.kind = LineKind::Assignment;
-        return;
-    }
-}
-
-bool BeginsWithWord(const std::string& directive, const std::string& word)
-{
-    std::string text = Trimmed(directive.substr(1)).substr(0, word.size());
-    for (char& c : text)
-        c = c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-    return text == word;
-}
-
-struct ModelFile {
-    ModelLines lines;
-    bool endsInCondition = false;
-
-    explicit ModelFile(std::string_view bytes)
-    {
-        while (!bytes.empty()) {
-            ModelLine line;
-            line.text = bytes.substr(0, bytes.find('\n') + 1);
-            if (line.text.empty())
-                line.text = bytes;
-            bytes.remove_prefix(line.text.size());
-            Add(std::move(line));
-        }
-        endsInCondition = m_depth > 0;
-    }
-
-    bool Has(const std::string& name) const
-    {
-        return std::ranges::any_of(lines, [&](const ModelLine& line) { return Assigns(line, name); });
-    }
-    bool HasOperation(const std::string& name, char operation) const
-    {
-        return std::ranges::any_of(
-            lines, [&](const ModelLine& line) { return Assigns(line, name) && line.operation == operation; });
-    }
-    bool IsConditional(const std::string& name) const
-    {
-        return std::ranges::any_of(
-            lines, [&](const ModelLine& line) { return Assigns(line, name) && line.conditional; });
-    }
-
-    static bool Assigns(const ModelLine& line, const std::string& name)
-    {
-        return line.kind == LineKind::Assignment && line.name == name;
-    }
-
-  private:
-    void Add(ModelLine line)
-    {
-        for (const std::string end : {"\r\n", "\n"}) {
-            if (line.end.empty() && line.text.ends_with(end)) {
-                line.end = end;
-                line.text.resize(line.text.size() - end.size());
-            }
-        }
-        TakeApart(line);
-        if (line.kind == LineKind::Directive && BeginsWithWord(line.trimmed, "if"))
-            ++m_depth;
-        else if (line.kind == LineKind::Directive && BeginsWithWord(line.trimmed, "endif") && m_depth > 0)
-            --m_depth;
-        line.conditional = m_depth > 0;
-        lines.push_back(std::move(line));
-    }
-
-    int m_depth = 0;
-};
 
 using Values = std::map<Text, Text>;
 
@@ -228,7 +119,7 @@ class EditCheck
     bool MustStay() const
     {
         return m_before.IsConditional(m_name) ||
-               (m_isNew && m_before.endsInCondition && m_edit.kind != AnyEdit::Kind::Unset);
+               (m_isNew && m_before.EndsInCondition() && m_edit.kind != AnyEdit::Kind::Unset);
     }
 
     static bool IsOrdinaryText(TextView text)
@@ -266,13 +157,13 @@ class EditCheck
             EndsInLineEnd(m_file.bytes) != EndsInLineEnd(m_result.bytes))
             return "The final line end has come or gone";
         std::set<std::string> ends{""};
-        for (const ModelLine& line : m_before.lines)
+        for (const ModelLine& line : m_before.Lines())
             ends.insert(line.end);
         // A CR at the end of the file, with LF behind it, would be taken for a part of the line end.
         if (ends.size() == 1 || m_file.bytes.ends_with('\r'))
             ends.insert("\r\n");
         const bool known = std::ranges::all_of(
-            m_after.lines, [&](const ModelLine& line) { return ends.contains(line.end); });
+            m_after.Lines(), [&](const ModelLine& line) { return ends.contains(line.end); });
         return known ? "" : "There is a line end that the file did not have";
     }
 
@@ -280,11 +171,11 @@ class EditCheck
     // goes with the variable is left out.
     ModelLines OtherLinesBefore(bool keepBlankBelowHeader) const
     {
-        const ModelLines& lines = m_before.lines;
+        const ModelLines& lines = m_before.Lines();
         std::vector<bool> goes(lines.size());
         const std::vector<std::string> block = BlockOf(m_edit.name);
         for (std::size_t i = 0; i < lines.size(); ++i) {
-            if (!ModelFile::Assigns(lines[i], m_name))
+            if (!lines[i].Assigns(m_name))
                 continue;
             goes[i] = true;
             if (m_after.Has(m_name) || !HasBlockAbove(i, block))
@@ -306,21 +197,21 @@ class EditCheck
             return false;
         return std::equal(
             block.begin(), block.end(),
-            m_before.lines.begin() + static_cast<std::ptrdiff_t>(line - block.size()),
+            m_before.Lines().begin() + static_cast<std::ptrdiff_t>(line - block.size()),
             [](const std::string& text, const ModelLine& each) { return each.trimmed == text; });
     }
 
     // The index of the blank line that ends the header; the number of lines without one.
     std::size_t HeaderLineCount() const
     {
-        for (std::size_t i = 0; i < m_before.lines.size(); ++i) {
-            const LineKind kind = m_before.lines[i].kind;
+        for (std::size_t i = 0; i < m_before.Lines().size(); ++i) {
+            const LineKind kind = m_before.Lines()[i].kind;
             if (kind == LineKind::Blank && i > 0)
                 return i;
             if (kind != LineKind::Comment && kind != LineKind::Directive)
                 break;
         }
-        return m_before.lines.size();
+        return m_before.Lines().size();
     }
 
     static bool SameLines(const ModelLines& first, const ModelLines& second)
@@ -333,13 +224,13 @@ class EditCheck
     std::string FaultOfOtherLines() const
     {
         ModelLines others;
-        for (const ModelLine& line : m_after.lines) {
-            if (!ModelFile::Assigns(line, m_name))
+        for (const ModelLine& line : m_after.Lines()) {
+            if (!line.Assigns(m_name))
                 others.push_back(line);
         }
         if (m_isNew && m_after.Has(m_name)) {
             const std::vector<std::string> block = BlockOf(m_edit.name);
-            const std::size_t kept = m_before.lines.size();
+            const std::size_t kept = m_before.Lines().size();
             const bool under =
                 others.size() == kept + block.size() &&
                 std::equal(
@@ -356,8 +247,8 @@ class EditCheck
 
     std::string FaultOfOwnLines() const
     {
-        const auto count = std::ranges::count_if(
-            m_after.lines, [&](const ModelLine& line) { return ModelFile::Assigns(line, m_name); });
+        const auto count = std::ranges::count_if(m_after.Lines(),
+                                                 [&](const ModelLine& line) { return line.Assigns(m_name); });
         if (m_edit.kind == AnyEdit::Kind::Unset)
             return count == 0 ? "" : "A line of the variable is left";
         if (m_edit.kind == AnyEdit::Kind::List) {
@@ -486,7 +377,7 @@ std::string FaultOfDocument(const std::string& bytes)
 {
     const Document document(bytes);
     const ModelFile model(bytes);
-    if (document.Bytes() != bytes || document.LineCount() != model.lines.size())
+    if (document.Bytes() != bytes || document.LineCount() != model.Lines().size())
         return "The document has other bytes or lines";
     const char* next = document.Bytes().data();
     for (std::size_t i = 0; i < document.LineCount(); ++i) {
@@ -494,7 +385,7 @@ std::string FaultOfDocument(const std::string& bytes)
         if (line.text.data() != next || line.end.data() != next + line.text.size())
             return "A byte belongs to no line or to two";
         next = line.end.data() + line.end.size();
-        const ModelLine& expected = model.lines[i];
+        const ModelLine& expected = model.Lines()[i];
         const ConfigLine parts = document.Parts(i);
         if (line.text != expected.text || line.end != expected.end || parts.kind != expected.kind ||
             parts.name != expected.name || parts.operation != expected.operation)

@@ -1,4 +1,4 @@
-// Merging of files and lists: against slow models, and case by case where lines matter.
+// Merging of files: against a slow model, and case by case where lines matter.
 
 #include "inspect/core/merge.h"
 
@@ -7,14 +7,13 @@
 #include "config/core/config_writer.h"
 #include "document/core/line_diff.h"
 #include "inspect/core/difference.h"
-#include "inspect/core/list_merge.h"
+#include "tests/core/slow_merge.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <ctime>
 #include <map>
-#include <optional>
 #include <random>
 #include <set>
 #include <string>
@@ -24,6 +23,11 @@ namespace ov
 {
 namespace
 {
+
+using Variables = test::MergedVariables;
+using Variable = test::MergedVariable;
+using test::EntriesOfLetters;
+using test::SlowMerge;
 
 // Nothing is known of variables but that L_... are lists.
 VariableFacts FactsOfName(TextView name)
@@ -47,194 +51,6 @@ std::string Outcome(const std::string& base, const std::string& ours, const std:
         result.bytes += "conflict in " + Utf8FromText(name) + "\n";
     return result.otherLines ? result.bytes + "conflict in other lines\n" : result.bytes;
 }
-
-ListEntries Entries(const std::string& letters)
-{
-    ListEntries entries;
-    for (const char c : letters)
-        entries.emplace_back(1, static_cast<char16_t>(c));
-    return entries;
-}
-
-// The letters of the merged list; "conflict" without one.
-std::string Lists(const std::string& base, const std::string& ours, const std::string& theirs)
-{
-    const auto merged = MergeEntries(Entries(base), Entries(ours), Entries(theirs), {});
-    if (!merged)
-        return "conflict";
-    std::string letters = Utf8FromText(JoinEntries(*merged, {}));
-    std::erase(letters, ';');
-    return letters;
-}
-
-// Two lists of letters that differ from each other in every letter, merged in the slow way: entry after
-// entry is looked for and moved.
-std::optional<std::string> SlowLists(const std::string& base, const std::string& ours,
-                                     const std::string& theirs)
-{
-    const auto common = [&](const std::string& list) {
-        std::string letters;
-        for (const char c : list) {
-            if (base.find(c) != base.npos && ours.find(c) != ours.npos && theirs.find(c) != theirs.npos)
-                letters += c;
-        }
-        return letters;
-    };
-    const bool theyMoved = common(theirs) != common(base) && common(theirs) != common(ours);
-    if (theyMoved && common(ours) != common(base))
-        return std::nullopt;
-    const std::string& kept = theyMoved ? theirs : ours;
-    const std::string& other = theyMoved ? ours : theirs;
-    std::string result = kept;
-    for (const char c : base) {
-        if (other.find(c) == other.npos)
-            std::erase(result, c);
-    }
-    std::size_t place = 0;
-    for (const char c : other) {
-        const std::size_t found = result.find(c);
-        if (found != result.npos)
-            place = found + 1;
-        else if (base.find(c) == base.npos)
-            result.insert(place++, 1, c);
-    }
-    return result;
-}
-
-TEST(MergeEntries, TakesWhatEitherSideAddedOrRemoved)
-{
-    EXPECT_EQ(Lists("abc", "abc", "abc"), "abc");
-    EXPECT_EQ(Lists("abc", "ac", "abcd"), "acd");
-    EXPECT_EQ(Lists("abc", "abxc", "aybc"), "aybxc");
-    EXPECT_EQ(Lists("abc", "", "abcd"), "d");
-    EXPECT_EQ(Lists("", "ab", "bc"), "abc");
-    EXPECT_EQ(Lists("aa", "aaa", "a"), "aa");
-}
-
-TEST(MergeEntries, TakesTheOrderOfTheSideThatChangedIt)
-{
-    EXPECT_EQ(Lists("abc", "cab", "abcd"), "cdab");
-    EXPECT_EQ(Lists("abc", "abcd", "cab"), "cdab");
-    EXPECT_EQ(Lists("abc", "cab", "cab"), "cab");
-    EXPECT_EQ(Lists("abc", "cab", "bca"), "conflict");
-}
-
-TEST(MergeEntries, AnEntryKeepsItsBlanksAndQualifiers)
-{
-    const auto merged = MergeEntries({u"a"}, {u" a ", u"b"}, {u"\"a\"", u"c"}, {});
-    ASSERT_TRUE(merged);
-    EXPECT_EQ(*merged, (ListEntries{u" a ", u"c", u"b"}));
-}
-
-TEST(MergeEntries, IsAsTheSlowModelSays)
-{
-    std::mt19937 random(20'261'122);
-    const auto list = [&random](std::string letters) {
-        std::shuffle(letters.begin(), letters.end(), random);
-        letters.resize(random() % (letters.size() + 1));
-        if (random() % 3 != 0)
-            std::sort(letters.begin(), letters.end());
-        return letters;
-    };
-    int conflicts = 0;
-    for (int round = 0; round < 2000; ++round) {
-        const std::string base = list("abcdef");
-        const std::string ours = list("abcdefgh");
-        const std::string theirs = list("abcdefhi");
-        const std::string expected = SlowLists(base, ours, theirs).value_or("conflict");
-        ASSERT_EQ(Lists(base, ours, theirs), expected) << base << " " << ours << " " << theirs;
-        conflicts += expected == "conflict" ? 1 : 0;
-    }
-    EXPECT_GT(conflicts, 15);
-}
-
-// A variable as a file has it.
-struct Variable {
-    Text value;
-    Text comment; // Its lines, each with "\n".
-    bool inherits = false;
-
-    bool operator==(const Variable&) const = default;
-    bool SameValue(const Variable& other) const { return value == other.value && inherits == other.inherits; }
-};
-
-using Variables = std::map<Text, Variable>;
-
-// What a merge must come to, variable by variable.
-struct SlowMerge {
-    Variables variables; // Without those in conflict.
-    std::set<Text> conflicts;
-
-    SlowMerge(const Variables& base, const Variables& ours, const Variables& theirs)
-    {
-        std::set<Text> names;
-        for (const Variables* side : {&base, &ours, &theirs}) {
-            for (const auto& [name, variable] : *side)
-                names.insert(name);
-        }
-        for (const Text& name : names)
-            Merge(name, Find(base, name), Find(ours, name), Find(theirs, name));
-    }
-
-  private:
-    static std::optional<Variable> Find(const Variables& variables, const Text& name)
-    {
-        const auto found = variables.find(name);
-        return found == variables.end() ? std::nullopt : std::optional(found->second);
-    }
-
-    void Merge(const Text& name, const std::optional<Variable>& base, const std::optional<Variable>& ours,
-               const std::optional<Variable>& theirs)
-    {
-        if (!ours || !theirs) {
-            const std::optional<Variable>& only = ours ? ours : theirs;
-            if (only && base && only != base)
-                conflicts.insert(name);
-            else if (only && !base)
-                variables[name] = *only;
-            return;
-        }
-        const Variable before = base.value_or(Variable{});
-        const bool theyComment = theirs->comment != before.comment && theirs->comment != ours->comment;
-        const bool weComment = ours->comment != before.comment && theirs->comment != ours->comment;
-        Variable merged = *ours;
-        if (theyComment)
-            merged.comment = theirs->comment;
-        const bool theySet = !(base && theirs->SameValue(*base)) && !theirs->SameValue(*ours);
-        const bool weSet = !(base && ours->SameValue(*base)) && !theirs->SameValue(*ours);
-        if (theySet) {
-            merged.value = theirs->value;
-            merged.inherits = theirs->inherits;
-        }
-        if ((theyComment && weComment) ||
-            (theySet && weSet && !MergeList(merged, name, base, *ours, *theirs)))
-            conflicts.insert(name);
-        else
-            variables[name] = merged;
-    }
-
-    // Each entry of a list is one letter.
-    static std::string Letters(const Variable& variable)
-    {
-        std::string letters = Utf8FromText(variable.value);
-        std::erase(letters, ';');
-        return letters;
-    }
-
-    static bool MergeList(Variable& merged, const Text& name, const std::optional<Variable>& base,
-                          const Variable& ours, const Variable& theirs)
-    {
-        const Variable before = base.value_or(Variable{});
-        if (!name.starts_with(u"L_") || ours.inherits != theirs.inherits)
-            return false;
-        const auto list = SlowLists(Letters(before), Letters(ours), Letters(theirs));
-        if (!list)
-            return false;
-        merged.value = JoinEntries(Entries(*list), {});
-        merged.inherits = ours.inherits;
-        return true;
-    }
-};
 
 // Files of few variables, each changed from another one here and there.
 class RandomFiles
@@ -307,7 +123,7 @@ class RandomFiles
         letters.resize(inherits ? 1 + m_random() % 4 : m_random() % 5);
         if (Chance(80))
             std::sort(letters.begin(), letters.end());
-        return JoinEntries(Entries(letters), {});
+        return JoinEntries(EntriesOfLetters(letters), {});
     }
 
     Variable New(TextView name)
@@ -398,13 +214,6 @@ std::map<Text, Text> ValuesOf(const Variables& variables, const std::set<Text>& 
     return values;
 }
 
-void PrintTo(const Variables& variables, std::ostream* stream)
-{
-    for (const auto& [name, variable] : variables)
-        *stream << Utf8FromText(name) << (variable.inherits ? " > " : " = ") << Utf8FromText(variable.value)
-                << " " << Utf8FromText(variable.comment) << "; ";
-}
-
 TEST(MergeFiles, AreAsTheSlowModelSays)
 {
     RandomFiles random(20'261'122);
@@ -419,17 +228,17 @@ TEST(MergeFiles, AreAsTheSlowModelSays)
         SCOPED_TRACE(baseFile + "~~~~\n" + ourFile + "~~~~\n" + theirFile);
         const SlowMerge expected(base, ours, theirs);
         const MergeResult result = Merge(baseFile, ourFile, theirFile);
-        ASSERT_EQ(std::set<Text>(result.conflicts.begin(), result.conflicts.end()), expected.conflicts)
+        ASSERT_EQ(std::set<Text>(result.conflicts.begin(), result.conflicts.end()), expected.Conflicts())
             << result.bytes;
         ASSERT_FALSE(result.otherLines) << result.bytes;
-        clean += expected.conflicts.empty() ? 1 : 0;
+        clean += expected.Conflicts().empty() ? 1 : 0;
         for (const bool side : {true, false}) {
             Variables merged = Read(Resolved(result.bytes, side));
-            ASSERT_EQ(ValuesOf(merged, expected.conflicts),
-                      ValuesOf(side ? ours : theirs, expected.conflicts))
+            ASSERT_EQ(ValuesOf(merged, expected.Conflicts()),
+                      ValuesOf(side ? ours : theirs, expected.Conflicts()))
                 << result.bytes;
-            EraseAll(merged, expected.conflicts);
-            ASSERT_EQ(merged, expected.variables) << result.bytes;
+            EraseAll(merged, expected.Conflicts());
+            ASSERT_EQ(merged, expected.Variables()) << result.bytes;
         }
     }
     EXPECT_GT(clean, 100);
