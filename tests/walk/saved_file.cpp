@@ -113,7 +113,11 @@ std::string FaultOfSecondSave(const std::string& once, const std::optional<std::
     before.VisitInOrder(ov::kCurrentTable, [&](const ov::SettingRecord& record) {
         const ov::Text name(record.name);
         // 0, of a list without a selection, is read as one of its entries.
-        if (name != u"_ORTHOVAL_REPORT_AUTOGETMODELS" || record.value != ov::Text(u"0"))
+        const bool isModels = name == u"_ORTHOVAL_REPORT_AUTOGETMODELS" && record.value == ov::Text(u"0");
+        // Without a fixed period, the older variable defines one again.
+        const bool isPeriod = name == u"_ORTHOVAL_SCANPERIOD_SETTINGS" &&
+                              before.HasSetting(u"_ORTHOVAL_SCANPERIOD_VALUE", ov::kCurrentTable);
+        if (!isModels && !isPeriod)
             faults += FaultOfVariable(name, ov::Text(record.value), after);
         return true;
     });

@@ -6,6 +6,7 @@
 
 #include <commctrl.h>
 
+#include <algorithm>
 #include <set>
 #include <string_view>
 
@@ -71,6 +72,17 @@ ShownValues ValuesOf(HWND dialog)
         }
     }
     return values;
+}
+
+void ForgetPageOf(int control, ShownValues& values)
+{
+    const std::string end = "/" + std::to_string(control);
+    const auto found =
+        std::ranges::find_if(values, [&](const auto& value) { return value.first.ends_with(end); });
+    if (found == values.end())
+        return;
+    const std::string page = PageOf(found->first);
+    std::erase_if(values, [&](const auto& value) { return PageOf(value.first) == page; });
 }
 
 bool ComesBack(const std::wstring& text)

@@ -15,6 +15,9 @@ using ShownValues = std::map<std::string, std::wstring>;
 /// Of all pages, also of the hidden ones.
 ShownValues ValuesOf(HWND dialog);
 
+/// Removes all values of the page that has the control.
+void ForgetPageOf(int control, ShownValues& values);
+
 /// Empty when the later values are the earlier ones; otherwise a line for each control that
 /// differs. A text that no file brings back is not compared, nor is its page's look.
 std::string DifferenceAfterSave(const ShownValues& earlier, const ShownValues& later);
