@@ -6,10 +6,13 @@
 #include "config/core/config_reader.h"
 #include "inspect/core/inspection.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <ctime>
 #include <exception>
+#include <limits>
 #include <optional>
+#include <utility>
 
 namespace
 {
@@ -67,30 +70,41 @@ void MeasureManyFiles(Table& table, Targets& targets)
     targets.AtMost("checking 1000 files of 200 variables, CPU time", seconds, 1.5, " s");
 }
 
+// The processor time of a work, in milliseconds.
+template <class Work>
+double ProcessMilliseconds(Work work)
+{
+    const double before = ProcessSeconds();
+    work();
+    return (ProcessSeconds() - before) * 1000;
+}
+
+// By processor time: what takes seconds is interrupted on a busy machine, and one of the two more often.
 void MeasureOneFile(Table& table, Targets& targets, const std::string& name, const std::string& bytes)
 {
-    Race race;
-    std::optional<ov::SettingStore> store;
-    const auto read = race.Add(
-        [&] {
-            store.emplace();
-            ov::ReadConfig(*store, ov::kCurrentTable, bytes, ov::DetectCharset(bytes));
-        },
-        [&] { store.reset(); });
+    double bestRead = std::numeric_limits<double>::max();
+    double bestCheck = bestRead;
+    std::size_t count = 0;
     ov::Inspector inspector(Settings());
-    std::optional<ov::InspectedFile> file;
-    std::vector<ov::Finding> findings;
-    const auto check = race.Add(
-        [&] {
-            file.emplace(bytes, ov::DetectCharset(bytes));
-            findings = inspector.Inspect(*file);
-        },
-        [&] { file.reset(); });
-    race.Run(kTurns);
-    const double ratio = race.Best(check) / race.Best(read);
-    table.AddRow({name, Decimal(race.Best(read), 1), Decimal(race.Best(check), 1), Decimal(ratio, 1),
-                  std::to_string(findings.size())});
-    targets.AtMost("checking " + name + " beside reading it", ratio, 4, " times");
+    for (int turn = 0; turn < kTurns; ++turn) {
+        ov::SettingStore store;
+        bestRead = std::min(bestRead, ProcessMilliseconds([&] {
+                                ov::ReadConfig(store, ov::kCurrentTable, bytes, ov::DetectCharset(bytes));
+                            }));
+        // The command line gives the bytes away as well.
+        std::string copy = bytes;
+        std::optional<ov::InspectedFile> file;
+        std::vector<ov::Finding> findings;
+        bestCheck = std::min(bestCheck, ProcessMilliseconds([&] {
+                                 file.emplace(std::move(copy), ov::DetectCharset(bytes));
+                                 findings = inspector.Inspect(*file);
+                             }));
+        count = findings.size();
+    }
+    const double ratio = bestCheck / bestRead;
+    table.AddRow(
+        {name, Decimal(bestRead, 1), Decimal(bestCheck, 1), Decimal(ratio, 1), std::to_string(count)});
+    targets.AtMost("checking " + name + " beside reading it, CPU time", ratio, 4, " times");
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include "base/utf8.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace ov
 {
@@ -34,6 +35,16 @@ bool HasWord(TextView text)
         text.remove_prefix(c.length);
     }
     return false;
+}
+
+/// The same for a line as it is in the file. Most comments have a letter of ASCII, which is the same in
+/// every encoding, so that they need not be decoded.
+bool HasWord(const InspectedFile& file, std::string_view line)
+{
+    const auto isPlain = [](char c) {
+        return static_cast<unsigned char>(c) < 0x80 && IsWordCharacter(static_cast<unsigned char>(c));
+    };
+    return std::ranges::any_of(line, isPlain) || HasWord(file.Decode(line));
 }
 
 /// The comment lines since the last variable, as the reader collects them.
@@ -71,7 +82,7 @@ void FindLostComments(Inspection& inspection)
             inHeader = false;
             break;
         case LineKind::Comment:
-            block.Add(i, HasWord(file.Decode(line.parts.text)));
+            block.Add(i, block.IsWorthKeeping() || HasWord(file, line.parts.text));
             break;
         case LineKind::Directive:
             break;
@@ -123,25 +134,25 @@ void InspectOperator(Inspection& inspection, std::size_t number, const Line& lin
         finding->variable = name;
 }
 
+/// Adds a finding about the variable of a line.
+void AddAboutVariable(Inspection& inspection, RuleId rule, std::size_t number, const Variable& variable,
+                      MessagePart part)
+{
+    const Text name = inspection.File().Decode(variable.name);
+    Finding* finding = inspection.Add(rule, number, {std::move(part), {"variable", Quotable(name)}});
+    if (finding != nullptr)
+        finding->variable = name;
+}
+
 void InspectOrder(Inspection& inspection, std::size_t number, const Line& line)
 {
-    const InspectedFile& file = inspection.File();
-    const Variable& variable = file.Variables()[line.variable];
-    const Text name = file.Decode(variable.name);
-    if (number == variable.firstLine && line.parts.operation != '=') {
-        Finding* finding = inspection.Add(
-            RuleId::InheritedList, number,
-            {{"operator", std::string(1, line.parts.operation)}, {"variable", Quotable(name)}});
-        if (finding != nullptr)
-            finding->variable = name;
-    }
-    if (variable.lastSet != InspectedFile::kNone && number < variable.lastSet) {
-        Finding* finding =
-            inspection.Add(RuleId::AssignedAgain, number,
-                           {{"line", std::to_string(variable.lastSet + 1)}, {"variable", Quotable(name)}});
-        if (finding != nullptr)
-            finding->variable = name;
-    }
+    const Variable& variable = inspection.File().Variables()[line.variable];
+    if (number == variable.firstLine && line.parts.operation != '=')
+        AddAboutVariable(inspection, RuleId::InheritedList, number, variable,
+                         {"operator", std::string(1, line.parts.operation)});
+    if (variable.lastSet != InspectedFile::kNone && number < variable.lastSet)
+        AddAboutVariable(inspection, RuleId::AssignedAgain, number, variable,
+                         {"line", std::to_string(variable.lastSet + 1)});
 }
 
 void InspectLine(Inspection& inspection, std::size_t number, const Line& line)

@@ -6,6 +6,8 @@
 #include "pages/core/string_table.h"
 
 #include <algorithm>
+#include <bit>
+#include <cstdint>
 #include <cstdlib>
 #include <unordered_map>
 
@@ -32,15 +34,30 @@ std::vector<SettingPlace> CollectSettings()
     return settings;
 }
 
-const std::vector<Text>& KnownVariables()
+/// A bit for each character that occurs in the text; some characters share one.
+std::uint64_t LettersOf(TextView text)
 {
-    static const std::vector<Text> known = [] {
-        std::vector<Text> names;
+    std::uint64_t letters = 0;
+    for (const char16_t c : text)
+        letters |= std::uint64_t{1} << (c & 63U);
+    return letters;
+}
+
+struct KnownVariable {
+    TextView name;
+    std::uint64_t letters;
+};
+
+const std::vector<KnownVariable>& KnownVariables()
+{
+    static const std::vector<KnownVariable> known = [] {
+        std::vector<KnownVariable> variables;
+        const auto add = [&](TextView name) { variables.push_back({name, LettersOf(name)}); };
         for (const SettingPlace& place : AllSettings())
-            names.emplace_back(place.row->variable);
+            add(place.row->variable);
         for (const PageRows* page : AllPageRows())
-            names.insert(names.end(), page->olderVariables.begin(), page->olderVariables.end());
-        return names;
+            std::ranges::for_each(page->olderVariables, add);
+        return variables;
     }();
     return known;
 }
@@ -199,11 +216,15 @@ std::optional<Text> SimilarVariable(TextView variable)
         return std::nullopt;
     std::size_t smallest = kLargestDifference;
     std::optional<Text> nearest;
-    for (const Text& known : KnownVariables()) {
-        const std::size_t difference = Difference(folded, known, smallest);
+    const std::uint64_t letters = LettersOf(folded);
+    for (const KnownVariable& known : KnownVariables()) {
+        // A letter that is changed makes one appear and another one disappear.
+        if (static_cast<std::size_t>(std::popcount(letters ^ known.letters)) > 2 * smallest)
+            continue;
+        const std::size_t difference = Difference(folded, known.name, smallest);
         if (difference < smallest || (difference == smallest && !nearest)) {
             smallest = difference;
-            nearest = known;
+            nearest = Text(known.name);
         }
     }
     return nearest;
