@@ -221,6 +221,11 @@ EditResult EditSession::Finish()
 // Refuses the edit unless the named variables read back as wanted and all others as before.
 void EditSession::Check()
 {
+    // So many NULs that the file would be taken for UTF-16.
+    if (const char* const reason = WhyNotPlainText(m_result.bytes); reason != nullptr && !m_wanted.empty()) {
+        Refuse(EditRefusal::NotPlainText, m_wanted.front().first, TextFromUtf8(reason));
+        return;
+    }
     const Charset charset = m_file.CharsetOf(m_result.bytes);
     SettingStore after;
     ReadConfig(after, kCurrentTable, m_result.bytes, charset);

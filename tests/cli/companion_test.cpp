@@ -8,6 +8,7 @@
 #include <sstream>
 #include <stdexcept>
 #include <string>
+#include <system_error>
 
 namespace
 {
@@ -15,6 +16,8 @@ namespace
 namespace fs = std::filesystem;
 
 constexpr DWORD kMostMilliseconds = 60'000;
+// A process that has ended may hold its streams for an instant.
+constexpr DWORD kShared = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
 fs::path ProgramPath()
 {
@@ -53,16 +56,20 @@ class Companion : public testing::Test
     {
         fs::create_directory(m_folder);
     }
-    ~Companion() override { fs::remove_all(m_folder); }
+    ~Companion() override
+    {
+        std::error_code ignored;
+        fs::remove_all(m_folder, ignored);
+    }
 
     // Runs the program in the folder with the standard streams in files. Returns its exit code.
     DWORD Run(const std::wstring& arguments)
     {
         SECURITY_ATTRIBUTES inherited = {sizeof inherited, nullptr, TRUE};
-        const Handle output(::CreateFileW((m_folder / L"output").c_str(), GENERIC_WRITE, FILE_SHARE_READ,
-                                          &inherited, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
-        const Handle errors(::CreateFileW((m_folder / L"errors").c_str(), GENERIC_WRITE, FILE_SHARE_READ,
-                                          &inherited, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
+        const Handle output(::CreateFileW((m_folder / L"output").c_str(), GENERIC_WRITE, kShared, &inherited,
+                                          CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
+        const Handle errors(::CreateFileW((m_folder / L"errors").c_str(), GENERIC_WRITE, kShared, &inherited,
+                                          CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
         STARTUPINFOW startup = {};
         startup.cb = sizeof startup;
         startup.dwFlags = STARTF_USESTDHANDLES;
