@@ -348,7 +348,7 @@ class EditCheck
 VariableFacts KnownFacts(TextView name)
 {
     VariableFacts facts;
-    if (!name.starts_with(u"K_"))
+    if (name != u"K_FLAG" && name != u"K_PATH" && name != u"K_TEXT" && name != u"K_COMMAS")
         return facts;
     facts.comment = MakeCommentBlock(u"This is " + Text(name) + u".");
     facts.kind = SettingKindText;
