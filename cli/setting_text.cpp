@@ -124,7 +124,7 @@ std::string SettingAsText(const SettingDescription& setting)
 {
     std::string text = Utf8FromText(setting.variable) + "\n  Page: " + Utf8FromText(setting.page) + "\n";
     for (const auto& [name, fact] : SettingFacts(setting))
-        text += "  " + name + ": " + fact + "\n";
+        text.append("  ").append(name).append(": ").append(fact).append("\n");
     for (const HelpBlock& block : HelpBlocks(setting)) {
         text += "\n";
         for (const std::string& line : block.lines)

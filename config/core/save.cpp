@@ -384,10 +384,9 @@ struct Target {
 // The target of a link is written; the link itself is not replaced by a file.
 Target TargetOf(const Text& path, FilePort& files)
 {
-    Text link = files.LinkTarget(path);
-    Target target{link.empty() ? path : std::move(link), FileKind::Absent};
-    target.kind = files.Kind(target.file);
-    return target;
+    const Text link = files.LinkTarget(path);
+    const Text& file = link.empty() ? path : link;
+    return {file, files.Kind(file)};
 }
 
 // The result if the target cannot be written; otherwise the start of the result for any other refusal.

@@ -45,12 +45,11 @@ std::vector<Match> LongestAscending(const std::vector<Match>& matches)
         else
             *place = i;
     }
-    std::vector<Match> run(ends.size());
-    std::size_t at = ends.empty() ? kNone : ends.back();
-    for (auto match = run.rbegin(); match != run.rend(); ++match) {
-        *match = matches[at];
-        at = previous[at];
-    }
+    std::vector<Match> run;
+    run.reserve(ends.size());
+    for (std::size_t at = ends.empty() ? kNone : ends.back(); at != kNone; at = previous[at])
+        run.push_back(matches[at]);
+    std::ranges::reverse(run);
     return run;
 }
 

@@ -43,6 +43,7 @@ void SetOne(EditSession& session, const NewValue& wanted)
         session.Refuse(EditRefusal::ValueNotKept, name, value);
     } else if (lines.empty()) {
         std::vector<std::pair<char, Text>> written;
+        written.reserve(texts.size());
         for (const Text& text : texts)
             written.emplace_back(written.empty() ? '=' : '>', text);
         session.AppendNew(name, facts, written);

@@ -61,6 +61,7 @@ void InspectedFile::FindHeader()
     }
     // A header directly followed by the first variable was written by Save nevertheless.
     std::vector<Text> texts;
+    texts.reserve(comments.size());
     for (const std::size_t comment : comments)
         texts.push_back(Decode(m_document.Line(comment).text));
     m_savedHeader = ReadSavedHeader(std::span(texts).first(std::min(texts.size(), kSavedHeaderLines)));

@@ -212,17 +212,19 @@ class Merger
             RemoveLines(ours);
             return true;
         }
-        const Text prefix = ours.name + u' ';
+        const Text first = ours.name + u" = ";
+        const Text before = ours.name + u" < ";
+        const Text after = ours.name + u" > ";
         std::vector<Text> lines;
         const Text value = JoinEntries(entries, facts.list);
         if (ours.inherits) {
-            for (auto entry = front.rbegin(); entry != front.rend(); ++entry)
-                lines.push_back(prefix + u"< " + *entry);
+            std::transform(front.rbegin(), front.rend(), std::back_inserter(lines),
+                           [&](const Text& entry) { return before + entry; });
             for (const Text& entry : back)
-                lines.push_back(prefix + u"> " + entry);
+                lines.push_back(Text(after).append(entry));
         } else {
             for (const Text& text : WrittenValues(value, facts.kind.value_or(ClassifyValue(value))))
-                lines.push_back(prefix + (lines.empty() ? u"= " : u"> ") + text);
+                lines.push_back(Text(lines.empty() ? first : after).append(text));
         }
         std::vector<std::string> bytes;
         std::transform(lines.begin(), lines.end(), std::back_inserter(bytes),
