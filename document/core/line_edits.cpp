@@ -16,7 +16,8 @@ class LineJoiner
     {
         m_bytes.append(m_neededEnd);
         m_bytes.append(text).append(end);
-        m_end = end;
+        // An empty line is nothing but its end: without it the line would be gone.
+        m_end = text.empty() ? std::string_view() : end;
         m_neededEnd = end.empty() ? endWhenNeeded : std::string_view();
         // A CR at the end of the text would be taken for a part of the line end.
         if (m_neededEnd == "\n" && text.ends_with('\r'))
@@ -35,7 +36,7 @@ class LineJoiner
 
   private:
     std::string m_bytes;
-    std::string_view m_end;       // The line end of the last line.
+    std::string_view m_end;       // The line end of the last line, unless it is an empty line.
     std::string_view m_neededEnd; // The line end that the last line needs if another line follows.
 };
 

@@ -38,7 +38,8 @@ class LineEdits
     void Append(std::string text);
 
     /// The bytes of the changed file. Every unchanged line keeps its bytes. Unless all lines were removed,
-    /// the file ends with a line end if and only if it did before. An empty file gets one.
+    /// or an empty line is now the last, the file ends with a line end if and only if it did before. An
+    /// empty file gets one.
     std::string Apply() const;
 
   private:

@@ -151,9 +151,18 @@ class EditCheck
 
     static bool EndsInLineEnd(std::string_view bytes) { return bytes.empty() || bytes.back() == '\n'; }
 
+    // An empty line is nothing but its end, which it therefore cannot lack.
+    static bool EndsInEmptyLine(std::string_view bytes)
+    {
+        if (!bytes.ends_with('\n'))
+            return false;
+        bytes.remove_suffix(bytes.ends_with("\r\n") ? 2 : 1);
+        return EndsInLineEnd(bytes);
+    }
+
     std::string FaultOfEnds() const
     {
-        if (!m_file.bytes.empty() && !m_result.bytes.empty() &&
+        if (!m_file.bytes.empty() && !m_result.bytes.empty() && !EndsInEmptyLine(m_result.bytes) &&
             EndsInLineEnd(m_file.bytes) != EndsInLineEnd(m_result.bytes))
             return "The final line end has come or gone";
         std::set<std::string> ends{""};
@@ -315,9 +324,17 @@ class EditCheck
                                    [&](const Text& entry) { return added.contains(plain(entry)); });
     }
 
+    // Quotes of an added entry may pair with those of its neighbours: the list then has other entries
+    // than those that were added, and adding them again adds more.
+    bool AddsQuote() const
+    {
+        return std::ranges::any_of(m_edit.change.prepend, HasQuote) ||
+               std::ranges::any_of(m_edit.change.append, HasQuote);
+    }
+
     std::string FaultOfSecondTime() const
     {
-        if (MovesEntry())
+        if (MovesEntry() || AddsQuote())
             return "";
         const EditResult again = Apply({m_result.bytes, m_file.charset}, m_edit);
         return again.refused.empty() && again.bytes == m_result.bytes ? ""
