@@ -44,7 +44,7 @@ class SavePrompts
     /// Asks whether the file may be replaced; its present content is then kept under `keptPath`.
     virtual bool MayReplace(ReplaceReason reason, const Text& keptPath) = 0;
 
-    /// Tells the user that there will be no backup, with the system's message for the reason (at most 255
+    /// Warns the user that there will be no backup, with the system's message for the reason (at most 255
     /// characters; may be empty). Returns when the user has seen it.
     virtual void TellNoBackup(const Text& systemText) = 0;
 };

@@ -1,4 +1,6 @@
 // Runs ovprefs.exe as a command prompt does, in a folder whose name needs quotes.
+#include "tests/kit/handle.h"
+
 #include <windows.h>
 
 #include <gtest/gtest.h>
@@ -38,14 +40,6 @@ std::string Get(const fs::path& path)
     bytes << file.rdbuf();
     return bytes.str();
 }
-
-struct Handle {
-    explicit Handle(HANDLE handle) : value(handle) {}
-    ~Handle() { ::CloseHandle(value); }
-    Handle(const Handle&) = delete;
-    Handle& operator=(const Handle&) = delete;
-    HANDLE value;
-};
 
 class Companion : public testing::Test
 {

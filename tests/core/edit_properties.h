@@ -21,7 +21,7 @@ struct AnyEdit {
 /// The edit's outcome, with KnownFacts.
 EditResult Apply(const EditedFile& file, const AnyEdit& edit);
 
-/// Stands in for the pages: K_FLAG, K_PATH, K_TEXT and K_COMMAS, a list with commas, are settings with
+/// Replaces the pages' facts: K_FLAG, K_PATH, K_TEXT and K_COMMAS, a list with commas, are settings with
 /// a comment. Nothing is known of other variables.
 VariableFacts KnownFacts(TextView name);
 

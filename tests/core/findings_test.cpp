@@ -1,6 +1,7 @@
 // Every rule fires where it has to, and does not fire on similar but correct files.
 #include "inspect/core/save_preview.h"
 #include "tests/core/findings_support.h"
+#include "tests/data/saved_header.h"
 
 #include <gtest/gtest.h>
 
@@ -14,17 +15,7 @@ using ov::RuleId;
 using Places = std::vector<std::string>;
 
 const std::string savedHeader =
-    "#\n"
-    "# Orthoval Administration Configuration File.\n"
-    "#\n"
-    "# NOTE: This is a standard MicroStation configuration file read in at the\n"
-    "#       application level. Variables can be copied from here into the User\n"
-    "#       or Project configuration file to override them at various workspace\n"
-    "#       levels. See the Orthoval Administrator's Guide for more\n"
-    "#       information. Note also that commenting out a variable by preceding\n"
-    "#       it with a '#' symbol will require a restart of MicroStation to\n"
-    "#       purge it from memory.\n"
-    "#\n"
+    std::string(ov::test::kSavedHeaderBegin) +
     "# This file was last saved on Monday 1 June 2026, 08:00:00 by user A. Lee on machine 'PC 1'\n"
     "#\n";
 

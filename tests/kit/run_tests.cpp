@@ -1,5 +1,6 @@
 // ovRunTests, the main program of the test kit: runs the test programs in its own folder. Prints one
 // line per suite and, as the last line, "N passed, N failed".
+#include "tests/kit/handle.h"
 #include "tests/kit/suite_log.h"
 
 #include <windows.h>
@@ -47,14 +48,6 @@ struct Options {
     std::wstring logs = L"logs"; ///< The folder of the logs, beside the programs.
     std::wstring passedOn;
     std::vector<const Suite*> suites;
-};
-
-struct Handle {
-    explicit Handle(HANDLE handle) : value(handle) {}
-    ~Handle() { ::CloseHandle(value); }
-    Handle(const Handle&) = delete;
-    Handle& operator=(const Handle&) = delete;
-    HANDLE value;
 };
 
 fs::path OwnFolder()

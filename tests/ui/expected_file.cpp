@@ -1,6 +1,7 @@
 #include "tests/ui/expected_file.h"
 
 #include "resources/ids.h"
+#include "tests/data/saved_header.h"
 #include "tests/ui/built_pages.h"
 
 #include <windows.h>
@@ -21,19 +22,6 @@ constexpr HelpText helpTexts[] = {
 #include "resources/strings.inc"
 };
 #undef OV_STRING
-
-constexpr const char* headerBegin =
-    "#\n"
-    "# Orthoval Administration Configuration File.\n"
-    "#\n"
-    "# NOTE: This is a standard MicroStation configuration file read in at the\n"
-    "#       application level. Variables can be copied from here into the User\n"
-    "#       or Project configuration file to override them at various workspace\n"
-    "#       levels. See the Orthoval Administrator's Guide for more\n"
-    "#       information. Note also that commenting out a variable by preceding\n"
-    "#       it with a '#' symbol will require a restart of MicroStation to\n"
-    "#       purge it from memory.\n"
-    "#\n";
 
 std::string ComputerName()
 {
@@ -165,7 +153,7 @@ void ExpectedFile::AddMissingSettings()
 
 std::string ExpectedFile::Bytes(const std::string& user) const
 {
-    std::string text = headerBegin;
+    std::string text = ov::test::kSavedHeaderBegin;
     text +=
         "# This file was last saved on %DATE% by user " + user + " on machine '" + ComputerName() + "'\n#\n";
     for (const auto& [variable, element] : m_elements)
