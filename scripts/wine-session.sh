@@ -5,6 +5,7 @@
 
 session_display_pids=()
 session_work=""
+session_failure=""
 session_own_display=false
 
 session_fail() {
@@ -28,25 +29,62 @@ has_display() {
 }
 
 # Starts a separate virtual display with a window manager; end_session ends both.
-# The server chooses a free display number. A subshell has its own session:
-# ending it does not affect the display of the outer one.
+# A subshell has its own session: ending it does not affect the display of the outer one.
 start_display() {
     session_display_pids=()
     session_work=$(mktemp -d)
     session_own_display=true
     unset XAUTHORITY WAYLAND_DISPLAY
-    Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp \
+    local _
+    for _ in 1 2 3; do
+        if start_display_server && start_window_manager; then
+            return
+        fi
+        end_display
+    done
+    session_fail "$session_failure"
+}
+
+# The server chooses a free display number. By default it resets when its last client
+# leaves, and refuses whoever connects meanwhile: has_window_manager leaving would
+# make the window manager fail.
+start_display_server() {
+    Xvfb -displayfd 3 -noreset -screen 0 1280x1024x24 -nolisten tcp \
         3>"$session_work/display" >"$session_work/xvfb.log" 2>&1 &
-    session_display_pids+=($!)
-    await 20 test -s "$session_work/display" ||
-        session_fail "the virtual display did not start: $(tail -n 1 "$session_work/xvfb.log")" || return
-    DISPLAY=":$(<"$session_work/display")"
-    export DISPLAY
-    # Without a window manager each top-level window takes seconds to close.
+    session_display_pids=($!)
+    session_failure="the virtual display did not start"
+    if await 20 ended_or "$!" test -s "$session_work/display"; then
+        DISPLAY=":$(<"$session_work/display")"
+        export DISPLAY
+        await 20 ended_or "${session_display_pids[0]}" has_display
+        has_display && kill -0 "${session_display_pids[0]}" 2>/dev/null && return
+    fi
+    session_failure+=": $(tail -n 1 "$session_work/xvfb.log")"
+    return 1
+}
+
+# Without a window manager each top-level window takes seconds to close.
+start_window_manager() {
     openbox --sm-disable >"$session_work/openbox.log" 2>&1 &
     session_display_pids+=($!)
-    await 20 has_window_manager ||
-        session_fail "the window manager did not start: $(tail -n 1 "$session_work/openbox.log")"
+    await 20 ended_or "$!" has_window_manager
+    has_window_manager && return
+    session_failure="the window manager did not start: $(tail -n 1 "$session_work/openbox.log")"
+    return 1
+}
+
+# ended_or PID COMMAND...: true if the process has ended or the command succeeds.
+ended_or() {
+    ! kill -0 "$1" 2>/dev/null || "${@:2}"
+}
+
+end_display() {
+    local pid
+    for pid in "${session_display_pids[@]}"; do
+        kill "$pid" 2>/dev/null || true
+        wait "$pid" 2>/dev/null || true
+    done
+    session_display_pids=()
 }
 
 has_window_manager() {
@@ -103,15 +141,10 @@ windows_path() {
 # Ends everything that this session has started, including its Wine processes if
 # they are on the session's own display.
 end_session() {
-    local pid
     if [ "$session_own_display" = true ] && [ -n "${WINEPREFIX:-}" ]; then
         wineserver -k 2>/dev/null || true
     fi
-    for pid in "${session_display_pids[@]}"; do
-        kill "$pid" 2>/dev/null || true
-        wait "$pid" 2>/dev/null || true
-    done
-    session_display_pids=()
+    end_display
     [ -z "$session_work" ] || rm -rf "$session_work"
     session_work=""
 }
