@@ -48,7 +48,7 @@ bool CTextFileEx::WriteLines(ov::Text path, std::span<const ov::Text> lines)
     return result.ok;
 }
 
-bool CTextFileEx::ReadSettings(ov::SettingStore& store, int table, const ov::Text& path)
+bool CTextFileEx::ReadSettings(ov::SettingStore& store, ov::TableSelector table, const ov::Text& path)
 {
     m_lastError.clear();
     const ov::ReadResult result =

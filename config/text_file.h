@@ -36,10 +36,10 @@ class CTextFileEx
     /// failure.
     bool WriteLines(ov::Text path, std::span<const ov::Text> lines);
 
-    /// Reads the file into a table of the store (0 = current, 1 = defaults).
+    /// Reads the file into a table of the store.
     /// False, with the store unchanged, if the path is empty or is not a file, or
     /// after a message if the file could not be read.
-    bool ReadSettings(ov::SettingStore& store, int table, const ov::Text& path);
+    bool ReadSettings(ov::SettingStore& store, ov::TableSelector table, const ov::Text& path);
 
     /// Writes the current table, with a temporary backup. Asks before replacing a
     /// file whose content is not what was last read into the current table or

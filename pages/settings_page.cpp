@@ -116,7 +116,7 @@ BOOL CSettingsPage::OnInitDialog()
     SetUpSpins();
     LiftTextLimits();
     CWizardPage::OnInitDialog();
-    LoadSettings(TakePendingSelector());
+    LoadSettings(TakePendingTable());
     RegisterTooltips();
     return TRUE;
 }
@@ -291,7 +291,7 @@ void CSettingsPage::Exchange(CDataExchange* exchange, ov::ControlKind control, i
     }
 }
 
-bool CSettingsPage::LoadSettings(int selector)
+bool CSettingsPage::LoadSettings(ov::TableSelector table)
 {
     CPreferencesWizard* wizard = GetParentWizard();
     if (wizard == nullptr)
@@ -302,7 +302,7 @@ bool CSettingsPage::LoadSettings(int selector)
     ::GetLocalTime(&now);
     using namespace std::chrono;
     m_values.SetToday({year(now.wYear), month(now.wMonth), day(now.wDay)});
-    m_values.Load(wizard->Store(), selector);
+    m_values.Load(wizard->Store(), table);
     UpdateData(FALSE);
     RefreshControls();
     if (m_rows.loadMarksModified) {

@@ -22,7 +22,7 @@ class CSettingsPage : public CWizardPage
 
     BOOL OnInitDialog() override;
     bool CreateOrShow(CWnd* parent, const CRect& rectangle) override;
-    bool LoadSettings(int selector) override;
+    bool LoadSettings(ov::TableSelector table) override;
     bool SaveSettings(CPreferencesWizard* wizard) override;
     virtual void RegisterTooltips();
 

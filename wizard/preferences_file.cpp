@@ -63,18 +63,19 @@ CTextFileEx& CPreferencesWizard::ConfigFile()
     return *m_configFile;
 }
 
-bool CPreferencesWizard::ReadConfigFile(int selector)
+bool CPreferencesWizard::ReadConfigFile(ov::TableSelector table)
 {
-    return ConfigFile().ReadSettings(m_store, selector, selector == 0 ? m_currentPath : m_defaultPath);
+    const ov::Text& path = table == ov::kCurrentTable ? m_currentPath : m_defaultPath;
+    return ConfigFile().ReadSettings(m_store, table, path);
 }
 
 bool CPreferencesWizard::OpenConfigFile(bool fromDisk)
 {
     ConfigFile();
-    if (fromDisk ? !ReadConfigFile(0) : !SaveConfigFile())
+    if (fromDisk ? !ReadConfigFile(ov::kCurrentTable) : !SaveConfigFile())
         return false;
     if (fromDisk)
-        LoadAllPages(0);
+        LoadAllPages(ov::kCurrentTable);
     m_store.SetModified(false);
     UpdateButtons();
     return true;

@@ -122,8 +122,8 @@ BOOL CPreferencesWizard::OnInitDialog()
     m_defaultPath = m_setup.defaultPath;
     const bool haveDefaults = !ov::Trim(m_defaultPath).empty();
     if (haveDefaults) {
-        ReadConfigFile(1);
-        LoadAllPages(1);
+        ReadConfigFile(ov::kDefaultTable);
+        LoadAllPages(ov::kDefaultTable);
     }
     m_currentPath = m_setup.currentPath;
     const bool haveCurrent = !ov::Trim(m_currentPath).empty();
@@ -306,22 +306,23 @@ void CPreferencesWizard::UpdateFocusItems()
 
 void CPreferencesWizard::UpdateButtons()
 {
-    const ov::ButtonStates states = ov::StatesOfButtons(m_store.IsModified(), m_store.Count(1));
+    const ov::ButtonStates states =
+        ov::StatesOfButtons(m_store.IsModified(), m_store.Count(ov::kDefaultTable));
     if (m_saveButton.GetSafeHwnd() != nullptr)
         m_saveButton.EnableWindow(states.save);
     if (m_loadDefaultsButton.GetSafeHwnd() != nullptr)
         m_loadDefaultsButton.EnableWindow(states.loadDefaults);
 }
 
-void CPreferencesWizard::LoadAllPages(int selector)
+void CPreferencesWizard::LoadAllPages(ov::TableSelector table)
 {
     for (const auto& page : m_pages) {
         if (page->GetSafeHwnd() != nullptr)
-            page->LoadSettings(selector);
+            page->LoadSettings(table);
         else
-            page->SetPendingSelector(selector);
+            page->SetPendingTable(table);
     }
-    m_store.SetModified(selector != 0);
+    m_store.SetModified(table != ov::kCurrentTable);
     UpdateButtons();
 }
 
@@ -334,7 +335,7 @@ LRESULT CPreferencesWizard::OnPageModified(WPARAM, LPARAM modified)
 
 void CPreferencesWizard::OnLoadDefaults()
 {
-    LoadAllPages(1);
+    LoadAllPages(ov::kDefaultTable);
 }
 
 void CPreferencesWizard::OnSave()

@@ -37,9 +37,8 @@ class CPreferencesWizard : public CResizableDlg
     /// Shows the page with that id. Does nothing if there is none or it is already shown.
     void SelectPage(UINT pageId);
 
-    /// Every page loads its values from the table that the selector names
-    /// (0 = current, 1 = defaults). Defaults mark the dialog as modified.
-    void LoadAllPages(int selector);
+    /// Every page loads its values from the table. The defaults mark the dialog as modified.
+    void LoadAllPages(ov::TableSelector table);
 
     /// Every page writes its values into the store, then the file is written. False
     /// on the first failure.
@@ -83,7 +82,7 @@ class CPreferencesWizard : public CResizableDlg
     DECLARE_MESSAGE_MAP()
 
   private:
-    bool ReadConfigFile(int selector);
+    bool ReadConfigFile(ov::TableSelector table);
     /// Writes the current table to the current path, with a temporary backup.
     /// Asks before it replaces a file whose content the dialog does not know. On
     /// failure shows the reason or, if the file cannot be created, only moves the

@@ -127,7 +127,7 @@ void CWizardPage::SetModified(bool modified)
         wizard->SendMessage(WM_PAGE_MODIFIED, reinterpret_cast<WPARAM>(m_hWnd), modified ? 1 : 0);
 }
 
-bool CWizardPage::LoadSettings(int)
+bool CWizardPage::LoadSettings(ov::TableSelector)
 {
     return false;
 }
@@ -150,9 +150,9 @@ void CWizardPage::LayoutPass()
     CResizableDlg::LayoutPass();
 }
 
-int CWizardPage::TakePendingSelector()
+ov::TableSelector CWizardPage::TakePendingTable()
 {
-    return std::exchange(m_pendingSelector, 0);
+    return std::exchange(m_pendingTable, ov::kCurrentTable);
 }
 
 void CWizardPage::OnSettingChanged()

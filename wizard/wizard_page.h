@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/text.h"
+#include "config/core/setting_store.h"
 #include "controls/resizable_dlg.h"
 #include "wizard/page_scroller.h"
 
@@ -47,8 +48,8 @@ class CWizardPage : public CResizableDlg
     /// Notifies the dialog that the page was modified (or no longer is).
     virtual void SetModified(bool modified);
 
-    /// Loads the page's values from the store; selector 0 = current table, 1 = defaults table.
-    virtual bool LoadSettings(int selector);
+    /// Loads the page's values from a table of the store. False for a page without settings.
+    virtual bool LoadSettings(ov::TableSelector table);
 
     /// Writes the page's values into the store's current table. If `wizard` is null,
     /// the page's parent is used.
@@ -76,7 +77,7 @@ class CWizardPage : public CResizableDlg
                        char16_t fieldSeparator, size_t fieldCount);
 
     /// Sets the table that the page loads when its window is created.
-    void SetPendingSelector(int selector) { m_pendingSelector = selector; }
+    void SetPendingTable(ov::TableSelector table) { m_pendingTable = table; }
 
   protected:
     /// Fits the scroll bars to the content, whose size grows with the dialog units.
@@ -100,7 +101,7 @@ class CWizardPage : public CResizableDlg
     /// The dialog that the page was constructed for. It is part of the design and not used:
     /// pages find their dialog by GetParentWizard.
     CPreferencesWizard* Owner() const { return m_owner; }
-    int TakePendingSelector();
+    ov::TableSelector TakePendingTable();
     void OnSettingChanged();
 
     /// A page does not close by itself. A request to close it, such as Escape in a multi-line edit, is
@@ -121,7 +122,7 @@ class CWizardPage : public CResizableDlg
 
   private:
     bool m_isOpening = false;
-    int m_pendingSelector = 0;
+    ov::TableSelector m_pendingTable = ov::kCurrentTable;
     UINT m_templateId;
     UINT m_pageId;
     CPreferencesWizard* m_owner;

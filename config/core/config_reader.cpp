@@ -35,7 +35,7 @@ SettingKind ClassifyJoined(CompactView first, SettingKind kind, CompactView seco
 class ConfigReader
 {
   public:
-    ConfigReader(SettingStore& store, int table, Charset charset)
+    ConfigReader(SettingStore& store, TableSelector table, Charset charset)
         : m_store(store), m_table(table), m_decoder(charset)
     {
     }
@@ -213,14 +213,14 @@ SettingKind ClassifyValue(CompactView value)
     return point ? SettingKindReal : SettingKindInteger;
 }
 
-void ReadConfig(SettingStore& store, int table, std::string_view bytes, Charset charset)
+void ReadConfig(SettingStore& store, TableSelector table, std::string_view bytes, Charset charset)
 {
     ConfigReader reader(store, table, charset);
     reader.Feed(bytes);
     reader.Finish();
 }
 
-ReadResult ReadConfigFile(SettingStore& store, int table, const Text& path, FilePort& files,
+ReadResult ReadConfigFile(SettingStore& store, TableSelector table, const Text& path, FilePort& files,
                           std::optional<KnownFile>* known)
 {
     if (path.empty())

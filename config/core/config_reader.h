@@ -18,7 +18,8 @@ SettingKind ClassifyValue(CompactView value);
 
 /// Reads the bytes of a configuration file into a table of the store, replacing the table. Empty input
 /// leaves the table unchanged.
-void ReadConfig(SettingStore& store, int table, std::string_view bytes, Charset charset = Charset::OfProcess);
+void ReadConfig(SettingStore& store, TableSelector table, std::string_view bytes,
+                Charset charset = Charset::OfProcess);
 
 /// How reading a configuration file ended.
 enum class ReadOutcome {
@@ -37,7 +38,7 @@ struct ReadResult {
 /// something other than a file give NothingToRead. The store changes only if the whole file was read.
 /// `known`, if given, then receives the path and the bytes that were read; otherwise it is unchanged
 /// as well.
-ReadResult ReadConfigFile(SettingStore& store, int table, const Text& path, FilePort& files,
+ReadResult ReadConfigFile(SettingStore& store, TableSelector table, const Text& path, FilePort& files,
                           std::optional<KnownFile>* known = nullptr);
 
 } // namespace ov

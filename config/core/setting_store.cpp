@@ -5,24 +5,25 @@
 namespace ov
 {
 
-Text SettingStore::GetSettingValue(TextView name, int table) const
+Text SettingStore::GetSettingValue(TextView name, TableSelector table) const
 {
     const auto record = FindSetting(name, table);
     return record ? Text(record->value) : Text();
 }
 
-bool SettingStore::GetSettingFlag(TextView name, int table) const
+bool SettingStore::GetSettingFlag(TextView name, TableSelector table) const
 {
     const auto record = FindSetting(name, table);
     return record && record->value == u"1";
 }
 
-bool SettingStore::HasSetting(TextView name, int table) const
+bool SettingStore::HasSetting(TextView name, TableSelector table) const
 {
     return Table(table).Find(name) != SettingTable::kNone;
 }
 
-void SettingStore::SetSetting(TextView name, TextView value, std::int32_t kind, TextView comment, int table)
+void SettingStore::SetSetting(TextView name, TextView value, std::int32_t kind, TextView comment,
+                              TableSelector table)
 {
     SettingTable& records = Table(table);
     const SettingTable::Index index = records.Find(name);
@@ -35,7 +36,7 @@ void SettingStore::SetSetting(TextView name, TextView value, std::int32_t kind, 
         records.SetValue(index, value, kind);
 }
 
-std::optional<SettingRecord> SettingStore::FindSetting(CompactView name, int table) const
+std::optional<SettingRecord> SettingStore::FindSetting(CompactView name, TableSelector table) const
 {
     const SettingTable& records = Table(table);
     const SettingTable::Index index = records.Find(name);
@@ -44,7 +45,7 @@ std::optional<SettingRecord> SettingStore::FindSetting(CompactView name, int tab
     return records.At(index);
 }
 
-void SettingStore::Replace(int table, SettingTable&& records)
+void SettingStore::Replace(TableSelector table, SettingTable&& records)
 {
     SettingTable& target = Table(table);
     target = std::move(records);
@@ -52,7 +53,8 @@ void SettingStore::Replace(int table, SettingTable&& records)
         m_modified = target.Count() > 0;
 }
 
-void SettingStore::VisitInOrder(int table, const std::function<bool(const SettingRecord&)>& visit) const
+void SettingStore::VisitInOrder(TableSelector table,
+                                const std::function<bool(const SettingRecord&)>& visit) const
 {
     Table(table).VisitInOrder(visit);
 }

@@ -54,7 +54,7 @@ void ShownPage::Refresh()
         ShowValues();
 }
 
-void ShownPage::Load(const SettingStore& store, int table)
+void ShownPage::Load(const SettingStore& store, TableSelector table)
 {
     // The Scan Period page begins with this, because its controls provide what the stored text
     // does not contain. For all other pages it has no effect.

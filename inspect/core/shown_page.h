@@ -23,7 +23,7 @@ class ShownPage
 
     /// Loads the settings from one of the store's tables. For an impossible date,
     /// which the dialog reports, the values are those that the dialog then shows.
-    void Load(const SettingStore& store, int table);
+    void Load(const SettingStore& store, TableSelector table);
 
     /// Writes the settings into the current table, as Save does for a page that has
     /// a window.

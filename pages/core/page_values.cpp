@@ -12,7 +12,7 @@ namespace ov
 {
 namespace
 {
-void LoadNumber(const SettingStore& store, int table, const SettingRow& row, int& number)
+void LoadNumber(const SettingStore& store, TableSelector table, const SettingRow& row, int& number)
 {
     const Text stored = store.GetSettingValue(row.variable, table);
     switch (row.encoding) {
@@ -160,7 +160,7 @@ bool PageValues::Holds(const DependencyRow& dependency) const
                                [this](const Condition& condition) { return Holds(condition); });
 }
 
-void PageValues::Load(const SettingStore& store, int table)
+void PageValues::Load(const SettingStore& store, TableSelector table)
 {
     for (std::size_t i = 0; i < m_values.size(); ++i) {
         const SettingRow& row = m_rows.settings[i];

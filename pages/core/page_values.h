@@ -71,7 +71,7 @@ class PageValues
     /// afterLoad hook for the companions. Initial values are not restored: an absent
     /// flag is off, an absent text is empty. Only a number keeps its value
     /// if the stored text is empty.
-    void Load(const SettingStore& store, int table);
+    void Load(const SettingStore& store, TableSelector table);
 
     /// Calls the page's beforeSave hook, which computes settings from companions,
     /// and writes the settings into the current table, new ones with their comment.

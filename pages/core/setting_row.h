@@ -330,7 +330,7 @@ struct PageRows {
     bool loadMarksModified = false;
 
     /// Called after the settings were loaded from a table: computes the companions.
-    void (*afterLoad)(PageValues& values, const SettingStore& store, int table) = nullptr;
+    void (*afterLoad)(PageValues& values, const SettingStore& store, TableSelector table) = nullptr;
 
     /// Called when a control that dependencies name has changed, after a load, and
     /// whenever the page is shown; the dependencies are applied afterwards. Returns

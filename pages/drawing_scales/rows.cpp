@@ -62,7 +62,7 @@ constexpr BrowseRow browses[] = {
 
 // Files allow other scales in two ways: by brackets around the list, and by the
 // number. Without a number the check box for the built-in scales keeps its state.
-void ShowScaleSource(PageValues& values, const SettingStore&, int)
+void ShowScaleSource(PageValues& values, const SettingStore&, TableSelector)
 {
     int& builtIn = values.CompanionNumberOf(IDC_DRAWING_SCALES_USE_BUILT_IN);
     ScaleSource source = {builtIn != 0, TakeScaleBrackets(values.TextOf(u"_ORTHOVAL_DRAWINGSCALE_VALUES"))};

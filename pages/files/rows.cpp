@@ -61,7 +61,7 @@ constexpr BrowseRow browses[] = {
 
 // Files of earlier versions have one variable for all Excel drivers. Saving writes
 // the newer one and leaves the older line unchanged.
-void TakeOlderDataSource(PageValues& values, const SettingStore& store, int table)
+void TakeOlderDataSource(PageValues& values, const SettingStore& store, TableSelector table)
 {
     Text& path = values.TextOf(jetDataSource);
     if (path.empty())

@@ -109,7 +109,7 @@ constexpr SpinRow spins[] = {
     {IDC_REPORTING_NEST_LEVEL_SPIN, IDC_REPORTING_NEST_LEVEL, -1, 99},
 };
 
-void WorkOutChoices(PageValues& values, const SettingStore&, int)
+void WorkOutChoices(PageValues& values, const SettingStore&, TableSelector)
 {
     const LockableChoice choice = ReadLockableChoice(values.TextOf(modelsVariable), promptTheUser);
     const bool isInList = choice.index < static_cast<int>(std::size(models));

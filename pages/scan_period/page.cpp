@@ -39,7 +39,7 @@ BOOL CPageScanPeriod::OnInitDialog()
     return CSettingsPage::OnInitDialog();
 }
 
-bool CPageScanPeriod::LoadSettings(int selector)
+bool CPageScanPeriod::LoadSettings(ov::TableSelector table)
 {
     if (GetParentWizard() == nullptr)
         return true;
@@ -47,7 +47,7 @@ bool CPageScanPeriod::LoadSettings(int selector)
     UpdateData(TRUE);
     UpdateScanPeriodControls();
     try {
-        CSettingsPage::LoadSettings(selector);
+        CSettingsPage::LoadSettings(table);
     } catch (const ov::ImpossibleDate& error) {
         UpdateData(FALSE);
         UpdateScanPeriodControls();

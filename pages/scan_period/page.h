@@ -13,7 +13,7 @@ class CPageScanPeriod : public CSettingsPage
     BOOL OnInitDialog() override;
 
     /// Shows a message about an impossible date, and loads the rest.
-    bool LoadSettings(int selector) override;
+    bool LoadSettings(ov::TableSelector table) override;
 
     /// Shows, hides, enables and disables the controls of the fixed period from
     /// the members. Without a fixed period there is no second date.

@@ -185,7 +185,7 @@ void Show(PageValues& values, const ScanPeriod& period)
 }
 
 // Lists for which neither text has a value do not change.
-void TakePeriod(PageValues& values, const SettingStore& store, int table)
+void TakePeriod(PageValues& values, const SettingStore& store, TableSelector table)
 {
     const Text& stored = values.TextOf(kScanPeriodVariable);
     const Text older = store.GetSettingValue(kOlderVariable, table);

@@ -101,7 +101,7 @@ constexpr BrowseRow browses[] = {
 // The check boxes are not stored: a non-empty text checks its box. The texts are
 // saved whether their box is checked or not, so a text that was switched off but
 // not emptied is back the next time.
-void CheckBoxesOfTexts(PageValues& values, const SettingStore&, int)
+void CheckBoxesOfTexts(PageValues& values, const SettingStore&, TableSelector)
 {
     for (const CompanionRow& box : companions)
         values.CompanionNumberOf(box.controlId) = values.TextOf(box.variable).empty() ? 0 : 1;

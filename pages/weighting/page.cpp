@@ -19,9 +19,9 @@ BOOL CPageWeighting::OnInitDialog()
     return CSettingsPage::OnInitDialog();
 }
 
-bool CPageWeighting::LoadSettings(int selector)
+bool CPageWeighting::LoadSettings(ov::TableSelector table)
 {
-    const bool loaded = CSettingsPage::LoadSettings(selector);
+    const bool loaded = CSettingsPage::LoadSettings(table);
     if (GetParentWizard() == nullptr)
         return loaded;
     // A track bar is limited to its range; the edit shows the text even if it is outside.

@@ -12,7 +12,7 @@ class CPageWeighting : public CSettingsPage
     explicit CPageWeighting(CPreferencesWizard* owner);
 
     BOOL OnInitDialog() override;
-    bool LoadSettings(int selector) override;
+    bool LoadSettings(ov::TableSelector table) override;
 
   protected:
     void OnHScroll(UINT code, UINT position, CWnd* sender);

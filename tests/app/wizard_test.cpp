@@ -89,7 +89,7 @@ TEST_F(Wizard, OpeningNotFromDiskWritesTheFile)
 {
     const std::wstring path = MakeFile(L"office.cfg", simpleFile);
     Open(L"", path);
-    dialog->Store().SetSetting(u"_ORTHOVAL_CHECK_CELLS", u"0", 4, u"", 0);
+    dialog->Store().SetSetting(u"_ORTHOVAL_CHECK_CELLS", u"0", ov::SettingKindFlag, u"", ov::kCurrentTable);
     dialog->SendMessage(WM_PAGE_MODIFIED, 0, 1);
     EXPECT_TRUE(dialog->OpenConfigFile(false));
     EXPECT_NE(uidriver::ReadBytes(path).value_or("").find("_ORTHOVAL_CHECK_CELLS = 0\r\n"),
@@ -132,7 +132,7 @@ TEST_F(Wizard, APageWithoutAWindowLoadsTheDefaultsWhenItGetsOne)
     CWizardPage& page = Page();
     EXPECT_EQ(::SendMessageW(Control(IDC_CONFORMING_CHECK_CELLS), BM_GETCHECK, 0, 0), BST_UNCHECKED);
     page.DestroyWindow();
-    dialog->LoadAllPages(1);
+    dialog->LoadAllPages(ov::kDefaultTable);
     ASSERT_TRUE(page.CreateOrShow(dialog.get(), CRect(0, 0, 300, 300)));
     EXPECT_EQ(::SendMessageW(Control(IDC_CONFORMING_CHECK_CELLS), BM_GETCHECK, 0, 0), BST_CHECKED);
 }

@@ -17,12 +17,12 @@ class ConfigReader : public testing::Test
   protected:
     void ReadCurrent(std::string_view bytes) { ReadConfig(m_store, kCurrentTable, bytes); }
     void ReadDefault(std::string_view bytes) { ReadConfig(m_store, kDefaultTable, bytes); }
-    Text Value(TextView name, int table = kCurrentTable) const
+    Text Value(TextView name, TableSelector table = kCurrentTable) const
     {
         return m_store.GetSettingValue(name, table);
     }
     Text Comment(TextView name) const { return Text(m_store.FindSetting(name, kCurrentTable)->comment); }
-    std::int32_t Kind(TextView name, int table = kCurrentTable) const
+    std::int32_t Kind(TextView name, TableSelector table = kCurrentTable) const
     {
         return m_store.FindSetting(name, table)->kind;
     }

@@ -20,11 +20,11 @@ constexpr char16_t kSource[] = u"_ORTHOVAL_DRAWINGSCALE_USE_DEFAULT";
 class DrawingScalesPage : public testing::Test
 {
   protected:
-    void Put(ov::TextView variable, ov::TextView value, int table = kCurrentTable)
+    void Put(ov::TextView variable, ov::TextView value, ov::TableSelector table = kCurrentTable)
     {
         m_store.SetSetting(variable, value, ov::SettingKindText, u"", table);
     }
-    void Load(int table = kCurrentTable) { m_values.Load(m_store, table); }
+    void Load(ov::TableSelector table = kCurrentTable) { m_values.Load(m_store, table); }
     void Save(bool hasWindow = true) { m_values.Save(m_store, hasWindow); }
     Text Saved(ov::TextView variable) { return m_store.GetSettingValue(variable, kCurrentTable); }
     bool BuiltIn() { return m_values.CompanionNumberOf(IDC_DRAWING_SCALES_USE_BUILT_IN) != 0; }

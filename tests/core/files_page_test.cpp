@@ -16,12 +16,13 @@ using ov::Text;
 constexpr const char16_t* jet = u"_ORTHOVAL_REPORT_TEMPLATE_JET_DSN_XLS";
 constexpr const char16_t* older = u"_ORTHOVAL_REPORT_TEMPLATE_DSN_XLS";
 
-void Put(SettingStore& store, ov::TextView variable, ov::TextView value, int table = kCurrentTable)
+void Put(SettingStore& store, ov::TextView variable, ov::TextView value,
+         ov::TableSelector table = kCurrentTable)
 {
     store.SetSetting(variable, value, ov::SettingKindPath, u"", table);
 }
 
-Text JetAfterLoading(const SettingStore& store, int table = kCurrentTable)
+Text JetAfterLoading(const SettingStore& store, ov::TableSelector table = kCurrentTable)
 {
     PageValues values(ov::kFilesRows);
     values.Load(store, table);

@@ -77,7 +77,7 @@ std::string Escaped(const Text& text)
     return escaped;
 }
 
-std::string TableText(const SettingStore& store, int table)
+std::string TableText(const SettingStore& store, TableSelector table)
 {
     std::string text;
     store.VisitInOrder(table, [&text](const SettingRecord& record) {

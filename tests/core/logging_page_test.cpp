@@ -11,7 +11,7 @@ using ov::PageValues;
 using ov::SettingStore;
 using ov::Text;
 
-void Put(SettingStore& store, ov::TextView name, ov::TextView value, int table = kCurrentTable)
+void Put(SettingStore& store, ov::TextView name, ov::TextView value, ov::TableSelector table = kCurrentTable)
 {
     store.SetSetting(name, value, ov::SettingKindText, u"", table);
 }

@@ -42,7 +42,7 @@ constexpr PageRows pageWithHooks = {
     .settings = settings,
     .companions = companions,
     .afterLoad =
-        [](PageValues& values, const SettingStore& store, int table) {
+        [](PageValues& values, const SettingStore& store, ov::TableSelector table) {
             values.CompanionNumberOf(Choice) = static_cast<int>(values.TextOf(u"HIDDEN").size());
             if (store.HasSetting(u"OLDER", table))
                 values.TextOf(u"ZERO") = store.GetSettingValue(u"OLDER", table);
@@ -53,7 +53,7 @@ constexpr PageRows pageWithHooks = {
         },
 };
 
-void Put(SettingStore& store, ov::TextView name, ov::TextView value, int table = kCurrentTable)
+void Put(SettingStore& store, ov::TextView name, ov::TextView value, ov::TableSelector table = kCurrentTable)
 {
     store.SetSetting(name, value, ov::SettingKindText, u"", table);
 }

@@ -21,7 +21,7 @@ using ov::Text;
 constexpr bool withWindow = true;
 constexpr bool withoutWindow = false;
 
-void Put(SettingStore& store, ov::TextView name, ov::TextView value, int table = kCurrentTable)
+void Put(SettingStore& store, ov::TextView name, ov::TextView value, ov::TableSelector table = kCurrentTable)
 {
     store.SetSetting(name, value, ov::SettingKindText, u"", table);
 }

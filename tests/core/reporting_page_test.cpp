@@ -24,7 +24,8 @@ constexpr char16_t folder[] = u"_ORTHOVAL_REPORT_OUTPUT_DEFAULT_NAME";
 class ReportingPage : public testing::Test
 {
   protected:
-    void Load(const char16_t* variable = nullptr, const char16_t* stored = u"", int table = kCurrentTable)
+    void Load(const char16_t* variable = nullptr, const char16_t* stored = u"",
+              ov::TableSelector table = kCurrentTable)
     {
         if (variable != nullptr)
             m_store.SetSetting(variable, stored, ov::SettingKindText, u"", table);

@@ -59,11 +59,11 @@ class Zone
 class ScanPeriodPage : public testing::Test
 {
   protected:
-    void Put(ov::TextView variable, ov::TextView value, int table = kCurrentTable)
+    void Put(ov::TextView variable, ov::TextView value, ov::TableSelector table = kCurrentTable)
     {
         store.SetSetting(variable, value, ov::SettingKindText, u"", table);
     }
-    void Load(int table = kCurrentTable)
+    void Load(ov::TableSelector table = kCurrentTable)
     {
         values.Load(store, table);
         ov::kScanPeriodRows.refresh(values);

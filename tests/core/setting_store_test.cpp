@@ -9,7 +9,7 @@ namespace ov
 namespace
 {
 
-std::vector<Text> NamesInOrder(const SettingStore& store, int table)
+std::vector<Text> NamesInOrder(const SettingStore& store, TableSelector table)
 {
     std::vector<Text> names;
     store.VisitInOrder(table, [&names](const SettingRecord& record) {
@@ -131,9 +131,9 @@ TEST(SettingStore, NamesDifferingOnlyInCaseAreTwoRecords)
 TEST(SettingStore, AnySelectorButZeroIsTheDefaultTable)
 {
     SettingStore store;
-    store.SetSetting(u"A", u"1", SettingKindText, u"", -5);
+    store.SetSetting(u"A", u"1", SettingKindText, u"", TableSelector{-5});
     EXPECT_TRUE(store.HasSetting(u"A", kDefaultTable));
-    EXPECT_TRUE(store.HasSetting(u"A", 17));
+    EXPECT_TRUE(store.HasSetting(u"A", TableSelector{17}));
     EXPECT_FALSE(store.HasSetting(u"A", kCurrentTable));
 }
 

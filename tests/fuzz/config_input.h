@@ -41,7 +41,7 @@ inline void UseLocale(unsigned which)
 }
 
 /// The content of a table of the store.
-inline LiteralTable TableOf(const SettingStore& store, int selector)
+inline LiteralTable TableOf(const SettingStore& store, TableSelector selector)
 {
     LiteralTable table;
     store.VisitInOrder(selector, [&table](const SettingRecord& record) {

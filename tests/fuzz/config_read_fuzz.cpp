@@ -13,7 +13,7 @@ namespace
 {
 
 // Properties of every table that was read, whatever the file contains.
-void RequireSound(const SettingStore& store, int selector, const LiteralTable& table)
+void RequireSound(const SettingStore& store, TableSelector selector, const LiteralTable& table)
 {
     OV_REQUIRE(store.Count(selector) == table.size());
     for (const auto& [name, record] : table) {
@@ -40,7 +40,7 @@ void RequireSound(const SettingStore& store, int selector, const LiteralTable& t
 
 void RequireSame(const SettingStore& store, LiteralStore& literal)
 {
-    for (const int selector : {kCurrentTable, kDefaultTable}) {
+    for (const TableSelector selector : {kCurrentTable, kDefaultTable}) {
         const LiteralTable table = TableOf(store, selector);
         RequireSound(store, selector, table);
         OV_REQUIRE(table == literal.Table(selector));
@@ -51,7 +51,8 @@ void RequireSame(const SettingStore& store, LiteralStore& literal)
 void Run(FuzzInput input)
 {
     Options options(input.Line());
-    const int selectors[] = {static_cast<int>(options.Number(1)), static_cast<int>(options.Number(1))};
+    const TableSelector selectors[] = {static_cast<TableSelector>(options.Number(1)),
+                                       static_cast<TableSelector>(options.Number(1))};
     test::MemoryFilePort files;
     files.blockSize = options.Number(1000) + 1;
     UseLocale(options.Number(1));

@@ -65,14 +65,14 @@ Text LiteralUnquote(const Text& value)
     return plain;
 }
 
-void LiteralStore::Read(int selector, std::string_view bytes)
+void LiteralStore::Read(TableSelector selector, std::string_view bytes)
 {
     const std::vector<Text> lines = LinesOf(bytes);
     if (lines.empty())
         return;
     LiteralTable& table = Table(selector);
     table.clear();
-    if (selector == 0)
+    if (selector == kCurrentTable)
         modified = false;
     Text comment;
     bool headerSkip = true;
@@ -121,7 +121,7 @@ void LiteralStore::Read(int selector, std::string_view bytes)
         const auto there = table.find(name);
         if (there != table.end())
             record.comment = there->second.comment;
-        if (selector == 0 && (there == table.end() || there->second.value != value))
+        if (selector == kCurrentTable && (there == table.end() || there->second.value != value))
             modified = true;
         table[name] = record;
         comment.clear();

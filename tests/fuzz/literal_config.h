@@ -28,10 +28,10 @@ struct LiteralStore {
     LiteralTable defaults;
     bool modified = false;
 
-    LiteralTable& Table(int selector) { return selector == 0 ? current : defaults; }
+    LiteralTable& Table(TableSelector selector) { return selector == kCurrentTable ? current : defaults; }
 
     /// Reads a file into the table; a file without lines does not change it.
-    void Read(int selector, std::string_view bytes);
+    void Read(TableSelector selector, std::string_view bytes);
 
     /// The bytes that a save of the current table writes.
     std::string Write(const Text& header) const;

@@ -42,7 +42,7 @@ std::chrono::year_month_day Today()
 }
 
 /// Whether the dialog reports a date of the scan period when its page loads the table.
-bool ReportsDate(const ov::SettingStore& store, int table)
+bool ReportsDate(const ov::SettingStore& store, ov::TableSelector table)
 {
     ov::PageValues page(ov::kScanPeriodRows);
     try {
