@@ -5,6 +5,7 @@
 #include "config/core/config_reader.h"
 #include "config/core/file_lines.h"
 #include "framework/afxwin.h"
+#include "resources/ids.h"
 
 CTextFileEx::CTextFileEx(ov::Text extension) : m_extension(std::move(extension)) {}
 
@@ -12,9 +13,10 @@ CTextFileEx::~CTextFileEx() = default;
 
 bool CTextFileEx::BrowseForFile(bool save, ov::Text& path)
 {
+    const ov::Text filter = AfxLoadString(IDS_CONFIG_FILE_FILTER);
     CFileDialog chooser(!save, Wide(m_extension), nullptr,
-                        OFN_EXPLORER | OFN_ENABLESIZING | OFN_HIDEREADONLY | OFN_FILEMUSTEXIST,
-                        L"Config File (*.cfg)|*.cfg||", nullptr);
+                        OFN_EXPLORER | OFN_ENABLESIZING | OFN_HIDEREADONLY | OFN_FILEMUSTEXIST, Wide(filter),
+                        nullptr);
     if (chooser.DoModal() != IDOK)
         return false;
     path = chooser.GetPathName();

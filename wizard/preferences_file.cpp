@@ -83,8 +83,9 @@ bool CPreferencesWizard::OpenConfigFile(bool fromDisk)
 
 void CPreferencesWizard::OnBrowseConfigFile()
 {
+    const ov::Text filter = AfxLoadString(IDS_CONFIG_FILE_FILTER);
     CFileDialog chooser(TRUE, nullptr, nullptr, OFN_HIDEREADONLY | OFN_EXPLORER | OFN_ENABLESIZING,
-                        L"Config File (*.cfg)|*.cfg||", this);
+                        Wide(filter), this);
     const ov::Text title = AfxLoadString(IDS_OPEN_CONFIG_FILE);
     chooser.m_ofn.lpstrTitle = Wide(title);
     if (chooser.DoModal() != IDOK || chooser.GetPathName().empty())

@@ -181,7 +181,7 @@ class ConfigReader
     }
 
     SettingStore& m_store;
-    const int m_table;
+    const TableSelector m_table;
     const LocaleDecoder m_decoder;
     LineSplitter m_splitter;
     SettingTable m_records;
