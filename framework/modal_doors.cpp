@@ -128,10 +128,16 @@ int AfxShowMessageBox(HWND owner, const ov::Text& text, const ov::Text& caption,
         if (const std::optional<int> answer = modalHook->OnMessageBox(owner, text, caption, type))
             return *answer;
     }
+    if (owner != nullptr)
+        return ::MessageBoxW(owner, Wide(text), Wide(caption), type);
     // Without an owner to disable, the system would leave all windows of the thread enabled.
-    if (owner == nullptr)
-        type |= MB_TASKMODAL;
-    return ::MessageBoxW(owner, Wide(text), Wide(caption), type);
+    // While such a box closes, they are all still disabled and none of them can become the
+    // active one; whether the keyboard comes back would depend on the window manager.
+    const HWND active = ::GetActiveWindow();
+    const int answer = ::MessageBoxW(nullptr, Wide(text), Wide(caption), type | MB_TASKMODAL);
+    if (::IsWindowEnabled(active))
+        ::SetActiveWindow(active);
+    return answer;
 }
 
 int CWinApp::DoMessageBox(const ov::Text& text, UINT type)

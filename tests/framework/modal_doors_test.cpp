@@ -151,39 +151,57 @@ TEST(ModalDoors, SubDialogIsAnsweredOrOpens)
     EXPECT_EQ((std::vector<CDialog*>{&dialog, &dialog}), hook.m_dialogs);
 }
 
+namespace
+{
+constexpr UINT pressNo = WM_APP + 1;
+
+/// Lets the message box open with a message pending that its loop will retrieve.
+class CPressingHook : public CModalHook
+{
+  public:
+    explicit CPressingHook(HWND presser) : m_presser(presser), m_previous(AfxSetModalHook(this)) {}
+    ~CPressingHook() override { AfxSetModalHook(m_previous); }
+    int m_asked = 0;
+    std::optional<int> OnMessageBox(HWND, const ov::Text&, const ov::Text&, UINT) override
+    {
+        ++m_asked;
+        ::PostMessageW(m_presser, pressNo, 0, 0);
+        return std::nullopt;
+    }
+
+  private:
+    HWND m_presser;
+    CModalHook* m_previous;
+};
+
+/// Presses "No" in the message box that is open.
+class CPressingWindow : public CHostWindow
+{
+  protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message == pressNo)
+            ::PostMessageW(::GetActiveWindow(), WM_COMMAND, IDNO, 0);
+        return CHostWindow::WindowProc(message, wParam, lParam);
+    }
+};
+} // namespace
+
 TEST(ModalDoors, WithoutAnAnswerTheRealBoxOpens)
 {
-    constexpr UINT pressNo = WM_APP + 1;
-    /// Lets the message box open with a message pending that its loop will retrieve.
-    class CPressingHook : public CModalHook
-    {
-      public:
-        CPressingHook() : m_previous(AfxSetModalHook(this)) {}
-        ~CPressingHook() override { AfxSetModalHook(m_previous); }
-        int m_asked = 0;
-        std::optional<int> OnMessageBox(HWND owner, const ov::Text&, const ov::Text&, UINT) override
-        {
-            ++m_asked;
-            ::PostMessageW(owner, pressNo, 0, 0);
-            return std::nullopt;
-        }
-
-      private:
-        CModalHook* m_previous;
-    };
-    /// Presses a button of the message box that is open over it.
-    class CAnsweringOwner : public CHostWindow
-    {
-      protected:
-        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
-        {
-            if (message == pressNo)
-                ::PostMessageW(::GetLastActivePopup(m_hWnd), WM_COMMAND, IDNO, 0);
-            return CHostWindow::WindowProc(message, wParam, lParam);
-        }
-    };
-    CPressingHook hook;
-    CAnsweringOwner owner;
+    CPressingWindow owner;
+    CPressingHook hook(owner);
     EXPECT_EQ(IDNO, AfxShowMessageBox(owner, u"Really?", u"Question", MB_YESNO));
     EXPECT_EQ(1, hook.m_asked);
+}
+
+TEST(ModalDoors, AfterABoxWithoutAnOwnerTheSameWindowIsActive)
+{
+    CPressingWindow window;
+    ::ShowWindow(window, SW_SHOW);
+    ::SetActiveWindow(window);
+    ASSERT_EQ(window.m_hWnd, ::GetActiveWindow());
+    const CPressingHook hook(window);
+    EXPECT_EQ(IDNO, AfxShowMessageBox(nullptr, u"Really?", u"Question", MB_YESNO));
+    EXPECT_EQ(window.m_hWnd, ::GetActiveWindow());
 }
