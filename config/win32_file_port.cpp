@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "config/final_path.h"
 #include "framework/afxwin.h"
 
 namespace
@@ -16,14 +17,9 @@ constexpr std::size_t systemTextCapacity = 256;
 // The system's error code for an exhausted disk quota; the headers lack it.
 constexpr DWORD diskQuotaExceeded = 1295;
 
-ov::FileResult Failed(DWORD error)
-{
-    return {false, SystemErrorText(error)};
-}
-
 ov::FileResult Result(BOOL succeeded)
 {
-    return succeeded ? ov::FileResult{} : Failed(::GetLastError());
+    return succeeded ? ov::FileResult{} : Win32Failure(::GetLastError());
 }
 
 HANDLE Handle(ov::FileHandle file)
@@ -34,19 +30,6 @@ HANDLE Handle(ov::FileHandle file)
 DWORD PieceOf(std::size_t size)
 {
     return static_cast<DWORD>(std::min<std::size_t>(size, std::numeric_limits<DWORD>::max()));
-}
-
-/// A full path without the prefix that the system adds, because other programs and
-/// users do not know it.
-ov::Text WithoutPrefix(ov::Text path)
-{
-    constexpr ov::TextView network = u"\\\\?\\UNC\\";
-    constexpr ov::TextView local = u"\\\\?\\";
-    if (path.starts_with(network))
-        path.replace(0, network.size(), u"\\\\");
-    else if (path.starts_with(local))
-        path.erase(0, local.size());
-    return path;
 }
 
 /// True for the path of a device or a pipe: NUL, COM1, \\.\pipe\name. It is not
@@ -85,6 +68,11 @@ ov::Text SystemErrorText(unsigned long error)
     return words.empty() ? u"Error " + FromWide(std::to_wstring(error)) + u"." : ov::Text(words);
 }
 
+ov::FileResult Win32Failure(unsigned long error)
+{
+    return {false, SystemErrorText(error)};
+}
+
 ov::FileKind CWin32FilePort::Kind(const ov::Text& path)
 {
     if (IsDevice(path))
@@ -113,17 +101,7 @@ ov::Text CWin32FilePort::LinkTarget(const ov::Text& path)
     const DWORD attributes = ::GetFileAttributesW(Wide(path));
     if (attributes == INVALID_FILE_ATTRIBUTES || (attributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0)
         return {};
-    const HANDLE file = ::CreateFileW(Wide(path), 0, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
-                                      nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
-    if (file == INVALID_HANDLE_VALUE)
-        return {};
-    std::wstring target(::GetFinalPathNameByHandleW(file, nullptr, 0, VOLUME_NAME_DOS), L'\0');
-    const DWORD length =
-        ::GetFinalPathNameByHandleW(file, target.data(), static_cast<DWORD>(target.size()), VOLUME_NAME_DOS);
-    ::CloseHandle(file);
-    if (length == 0 || length >= target.size())
-        return {};
-    return WithoutPrefix(FromWide(std::wstring_view(target).substr(0, length)));
+    return FinalPathOf(path);
 }
 
 bool CWin32FilePort::IsSameFile(const ov::Text& first, const ov::Text& second)
@@ -141,7 +119,7 @@ ov::FileResult CWin32FilePort::OpenForReading(const ov::Text& path, ov::FileHand
         ::CreateFileW(Wide(path), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
                       nullptr, OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr);
     if (opened == INVALID_HANDLE_VALUE)
-        return Failed(::GetLastError());
+        return Win32Failure(::GetLastError());
     file = reinterpret_cast<ov::FileHandle>(opened);
     return {};
 }
@@ -162,7 +140,7 @@ ov::FileResult CWin32FilePort::Create(const ov::Text& path, ov::CreateMode mode,
     const HANDLE created = ::CreateFileW(Wide(path), GENERIC_WRITE, FILE_SHARE_READ, nullptr, disposition,
                                          FILE_ATTRIBUTE_NORMAL, nullptr);
     if (created == INVALID_HANDLE_VALUE)
-        return Failed(::GetLastError());
+        return Win32Failure(::GetLastError());
     file = reinterpret_cast<ov::FileHandle>(created);
     return {};
 }
@@ -181,7 +159,7 @@ ov::FileResult CWin32FilePort::Reserve(ov::FileHandle file, std::size_t size)
     case ERROR_HANDLE_DISK_FULL:
     case diskQuotaExceeded:
     case ERROR_FILE_TOO_LARGE:
-        return Failed(error);
+        return Win32Failure(error);
     default:
         return {};
     }
@@ -190,13 +168,13 @@ ov::FileResult CWin32FilePort::Reserve(ov::FileHandle file, std::size_t size)
 ov::FileResult CWin32FilePort::Write(ov::FileHandle file, std::string_view bytes)
 {
     if (!::SetFilePointerEx(Handle(file), LARGE_INTEGER{}, nullptr, FILE_BEGIN))
-        return Failed(::GetLastError());
+        return Win32Failure(::GetLastError());
     while (!bytes.empty()) {
         DWORD written = 0;
         if (!::WriteFile(Handle(file), bytes.data(), PieceOf(bytes.size()), &written, nullptr))
-            return Failed(::GetLastError());
+            return Win32Failure(::GetLastError());
         if (written == 0)
-            return Failed(ERROR_WRITE_FAULT);
+            return Win32Failure(ERROR_WRITE_FAULT);
         bytes.remove_prefix(written);
     }
     return Result(::SetEndOfFile(Handle(file)));
@@ -230,5 +208,5 @@ ov::FileResult CWin32FilePort::Remove(const ov::Text& path)
     const DWORD error = ::GetLastError();
     if (isReadOnlyFile)
         ::SetFileAttributesW(Wide(path), attributes);
-    return Failed(error);
+    return Win32Failure(error);
 }

@@ -6,6 +6,9 @@
 /// none.
 ov::Text SystemErrorText(unsigned long error);
 
+/// The result of an operation that failed with an error code of the system.
+ov::FileResult Win32Failure(unsigned long error);
+
 /// The file port for Windows.
 class CWin32FilePort final : public ov::FilePort
 {

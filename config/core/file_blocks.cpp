@@ -30,4 +30,10 @@ FileResult ReadBlocks(FilePort& files, const Text& path, const std::function<voi
     return result;
 }
 
+FileResult ReadWhole(FilePort& files, const Text& path, std::string& content)
+{
+    content.clear();
+    return ReadBlocks(files, path, [&content](std::string_view block) { content += block; });
+}
+
 } // namespace ov

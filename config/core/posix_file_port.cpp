@@ -15,14 +15,9 @@ namespace ov
 namespace
 {
 
-FileResult Failure(int error)
-{
-    return {false, TextFromUtf8(std::system_category().message(error))};
-}
-
 FileResult ResultOf(int returned)
 {
-    return returned == 0 ? FileResult{} : Failure(errno);
+    return returned == 0 ? FileResult{} : PosixFailure(errno);
 }
 
 int DescriptorOf(FileHandle file)
@@ -65,6 +60,11 @@ bool IsLink(const std::filesystem::path& name)
 }
 
 } // namespace
+
+FileResult PosixFailure(int error)
+{
+    return {false, TextFromUtf8(std::system_category().message(error))};
+}
 
 FileKind PosixFilePort::Kind(const Text& path)
 {
@@ -114,7 +114,7 @@ FileResult PosixFilePort::OpenForReading(const Text& path, FileHandle& file)
 {
     const int descriptor = OpenExisting(Utf8FromText(path).c_str(), O_RDONLY);
     if (descriptor < 0)
-        return Failure(errno);
+        return PosixFailure(errno);
     file = descriptor;
     return {};
 }
@@ -126,7 +126,7 @@ FileResult PosixFilePort::Read(FileHandle file, std::span<char> buffer, std::siz
         got = read(DescriptorOf(file), buffer.data(), buffer.size());
     } while (got < 0 && errno == EINTR);
     if (got < 0)
-        return Failure(errno);
+        return PosixFailure(errno);
     count = static_cast<std::size_t>(got);
     return {};
 }
@@ -137,13 +137,13 @@ FileResult PosixFilePort::Create(const Text& path, CreateMode mode, FileHandle& 
     bool created = false;
     const int descriptor = OpenForWriting(name.c_str(), mode, created);
     if (descriptor < 0)
-        return Failure(errno);
+        return PosixFailure(errno);
     if (flock(descriptor, LOCK_EX | LOCK_NB) != 0) {
         const int error = errno;
         if (created)
             unlink(name.c_str());
         close(descriptor);
-        return Failure(error);
+        return PosixFailure(error);
     }
     file = descriptor;
     return {};
@@ -153,7 +153,7 @@ FileResult PosixFilePort::Reserve(FileHandle file, std::size_t size)
 {
     if (size == 0 || fallocate(DescriptorOf(file), FALLOC_FL_KEEP_SIZE, 0, static_cast<off_t>(size)) == 0)
         return {};
-    return errno == ENOSPC || errno == EDQUOT || errno == EFBIG ? Failure(errno) : FileResult{};
+    return errno == ENOSPC || errno == EDQUOT || errno == EFBIG ? PosixFailure(errno) : FileResult{};
 }
 
 FileResult PosixFilePort::Write(FileHandle file, std::string_view bytes)
@@ -165,7 +165,7 @@ FileResult PosixFilePort::Write(FileHandle file, std::string_view bytes)
         if (written < 0 && errno == EINTR)
             continue;
         if (written <= 0)
-            return Failure(written < 0 ? errno : EIO);
+            return PosixFailure(written < 0 ? errno : EIO);
         position += written;
     }
     return ResultOf(ftruncate(DescriptorOf(file), position));
@@ -188,15 +188,15 @@ FileResult PosixFilePort::Rename(const Text& from, const Text& to)
     if (renameat2(AT_FDCWD, oldName.c_str(), AT_FDCWD, newName.c_str(), RENAME_NOREPLACE) == 0)
         return {};
     if (errno != EINVAL && errno != ENOSYS)
-        return Failure(errno);
+        return PosixFailure(errno);
     // A file system without rename-without-replace may at least support link, which never replaces.
     if (link(oldName.c_str(), newName.c_str()) != 0)
-        return Failure(errno);
+        return PosixFailure(errno);
     if (unlink(oldName.c_str()) == 0)
         return {};
     const int error = errno;
     unlink(newName.c_str());
-    return Failure(error);
+    return PosixFailure(error);
 }
 
 FileResult PosixFilePort::Remove(const Text& path)

@@ -5,6 +5,9 @@
 namespace ov
 {
 
+/// The result of an operation that failed with an error code of the system.
+FileResult PosixFailure(int error);
+
 /// The file port for POSIX. Paths are UTF-8 on disk. An advisory lock prevents a second
 /// writer. It is in this folder because the native build, which consists of the portable
 /// layers, needs one port for ovprefs and the tests. The Windows build leaves it out.
