@@ -124,7 +124,7 @@ bool CPreferencesWizard::WriteConfigFile()
     WindowsSurroundings surroundings(m_setup.userName);
     MessageBoxPrompts prompts(m_currentPath,
                               [this](const ov::Text& text, UINT type) { return ShowMessage(text, type); });
-    const ov::SaveResult result = m_configFile->SaveSettings(m_store, m_currentPath, surroundings, prompts);
+    const ov::SaveResult result = ConfigFile().SaveSettings(m_store, m_currentPath, surroundings, prompts);
     m_savedHeader = result.header;
     ov::Text message = ov::SaveFailureText(result, &AfxLoadString);
     if (result.Saved())

@@ -44,6 +44,12 @@ class CPreferencesWizard : public CResizableDlg
     /// on the first failure.
     bool SaveAllPages();
 
+    /// Writes the current table to the current path, with a temporary backup.
+    /// Asks before it replaces a file whose content the dialog does not know. On
+    /// failure shows the reason or, if the file cannot be created, only moves the
+    /// focus to its name.
+    bool WriteConfigFile();
+
     /// Calls WriteConfigFile. Also false if there is no file object yet, that is, if
     /// nothing has been read or saved.
     bool SaveConfigFile();
@@ -83,11 +89,6 @@ class CPreferencesWizard : public CResizableDlg
 
   private:
     bool ReadConfigFile(ov::TableSelector table);
-    /// Writes the current table to the current path, with a temporary backup.
-    /// Asks before it replaces a file whose content the dialog does not know. On
-    /// failure shows the reason or, if the file cannot be created, only moves the
-    /// focus to its name.
-    bool WriteConfigFile();
     CTextFileEx& ConfigFile();
     /// Ends the pages' opening and shows the current one.
     void ShowFirstPage();

@@ -4,6 +4,8 @@
 #include "pages/conforming/ids.h"
 #include "pages/core/page_catalogue.h"
 #include "pages/core/string_table.h"
+#include "pages/scan_period/ids.h"
+#include "pages/scan_period/page.h"
 #include "resources/ids.h"
 #include "tests/app/program.h"
 #include "tests/pages/expected_pages.h"
@@ -14,6 +16,7 @@
 namespace
 {
 constexpr int conformingPage = 6;
+constexpr int scanPeriodPage = 20;
 constexpr char simpleFile[] = "#\n\n_ORTHOVAL_CHECK_CELLS = 1\n";
 
 /// Counts the pages of a dialog that become visible.
@@ -95,6 +98,47 @@ TEST_F(Wizard, OpeningNotFromDiskWritesTheFile)
     EXPECT_NE(uidriver::ReadBytes(path).value_or("").find("_ORTHOVAL_CHECK_CELLS = 0\r\n"),
               std::string::npos);
     EXPECT_FALSE(IsEnabled(IDC_PREFERENCES_SAVE));
+}
+
+TEST_F(Wizard, WritesTheCurrentTableOnRequest)
+{
+    const std::wstring path = MakeFile(L"office.cfg", simpleFile);
+    Open(L"", path);
+    dialog->Store().SetSetting(u"_ORTHOVAL_CHECK_CELLS", u"0", ov::SettingKindFlag, u"", ov::kCurrentTable);
+    EXPECT_TRUE(dialog->WriteConfigFile());
+    EXPECT_NE(uidriver::ReadBytes(path).value_or("").find("_ORTHOVAL_CHECK_CELLS = 0\r\n"),
+              std::string::npos);
+    EXPECT_EQ(folder.Names(), std::vector<std::wstring>{L"office.cfg"});
+}
+
+TEST_F(Wizard, WritingNeedsNoEarlierReadingButSavingDoes)
+{
+    Open(L"", L"");
+    EXPECT_FALSE(dialog->SaveConfigFile());
+    EXPECT_TRUE(doors.messages.empty());
+    doors.AnswerMessage(IDOK);
+    EXPECT_FALSE(dialog->WriteConfigFile());
+    EXPECT_EQ(doors.messages.size(), 1u);
+}
+
+TEST_F(Wizard, TheScanPeriodUpdatesItsControlsOnRequest)
+{
+    Open(L"", MakeFile(L"office.cfg", "#\n\n_ORTHOVAL_SCANPERIOD_SETTINGS = "
+                                      "1, 1, 0, 1, 8, 2007, 1, 0, 0, 0, 6, 5, 2016, 0\n"));
+    dialog->SelectPage(scanPeriodPage);
+    auto& page = dynamic_cast<CPageScanPeriod&>(Page());
+    const auto isShown = [&](int id) { return ::IsWindowVisible(Control(id)) != FALSE; };
+    EXPECT_TRUE(isShown(IDC_SCAN_PERIOD_OR_SELECTOR));
+    EXPECT_TRUE(isShown(IDC_SCAN_PERIOD_DATE_2));
+    // These messages notify nobody.
+    ::SendMessageW(Control(IDC_SCAN_PERIOD_OPERATOR), CB_SETCURSEL, 1, 0);
+    ::SendMessageW(Control(IDC_SCAN_PERIOD_MODE_2), CB_SETCURSEL, 1, 0);
+    page.UpdateData(TRUE);
+    EXPECT_TRUE(isShown(IDC_SCAN_PERIOD_OR_SELECTOR));
+    page.UpdateScanPeriodControls();
+    EXPECT_FALSE(isShown(IDC_SCAN_PERIOD_OR_SELECTOR));
+    EXPECT_FALSE(isShown(IDC_SCAN_PERIOD_DATE_2));
+    EXPECT_TRUE(isShown(IDC_SCAN_PERIOD_MODE_2));
 }
 
 TEST_F(Wizard, EachNewlySelectedRowSwitchesPagesOnce)
