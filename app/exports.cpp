@@ -1,8 +1,7 @@
+#include "app/preferences_app.h"
 #include "include/ovPreferences.h"
 
 #include <optional>
-
-#include "app/preferences_app.h"
 
 namespace
 {

@@ -1,11 +1,11 @@
 #pragma once
 
-#include <map>
-
 #include "app/cmd_line_info.h"
 #include "controls/dialog_app.h"
 #include "controls/tool_tip_control.h"
 #include "wizard/wizard_setup.h"
+
+#include <map>
 
 /// The application object of the process: it holds what outlives a dialog (the
 /// three texts, the icon, the fonts) and owns the tooltip window.

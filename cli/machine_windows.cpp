@@ -1,5 +1,4 @@
 #include "cli/machine.h"
-
 #include "config/system_info.h"
 #include "framework/wide.h"
 

@@ -1,5 +1,4 @@
 #include "cli/run.h"
-
 #include "framework/wide.h"
 
 #include <string>

@@ -1,5 +1,4 @@
 #include "cli/platform.h"
-
 #include "config/core/posix_file_port.h"
 
 #include <array>

@@ -1,10 +1,9 @@
 #include "cli/platform.h"
-
 #include "config/win32_file_port.h"
 #include "framework/wide.h"
 
-#include <array>
 #include <windows.h>
+#include <array>
 
 namespace ov::cli
 {

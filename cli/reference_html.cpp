@@ -1,5 +1,4 @@
 #include "cli/reference_output.h"
-
 #include "cli/setting_text.h"
 
 #include <string_view>

@@ -1,6 +1,5 @@
-#include "cli/reference_output.h"
-
 #include "cli/finding_output.h"
+#include "cli/reference_output.h"
 #include "cli/setting_text.h"
 
 #include <nlohmann/json.hpp>

@@ -1,6 +1,5 @@
-#include "cli/reference_output.h"
-
 #include "cli/markdown.h"
+#include "cli/reference_output.h"
 #include "cli/rule_text.h"
 #include "cli/setting_text.h"
 

@@ -1,9 +1,9 @@
 #include "config/final_path.h"
 
+#include "framework/afxwin.h"
+
 #include <string>
 #include <string_view>
-
-#include "framework/afxwin.h"
 
 namespace
 {

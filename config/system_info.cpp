@@ -1,8 +1,8 @@
 #include "config/system_info.h"
 
-#include <vector>
-
 #include "framework/afxwin.h"
+
+#include <vector>
 
 namespace
 {

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <ctime>
-
 #include "base/text.h"
+
+#include <ctime>
 
 /// The logged-on user's name; empty if the system does not provide it.
 ov::Text GetLogonUserName();

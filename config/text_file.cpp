@@ -1,11 +1,11 @@
 #include "config/text_file.h"
 
-#include <utility>
-
 #include "config/core/config_reader.h"
 #include "config/core/file_lines.h"
 #include "framework/afxwin.h"
 #include "resources/ids.h"
+
+#include <utility>
 
 CTextFileEx::CTextFileEx(ov::Text extension) : m_extension(std::move(extension)) {}
 

@@ -1,13 +1,13 @@
 #pragma once
 
-#include <optional>
-#include <span>
-#include <vector>
-
 #include "base/text.h"
 #include "config/core/save.h"
 #include "config/core/setting_store.h"
 #include "config/win32_file_port.h"
+
+#include <optional>
+#include <span>
+#include <vector>
 
 /// The configuration file on disk, for the dialog: asks for a path if none is
 /// given, and shows why a file could not be opened.

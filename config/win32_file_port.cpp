@@ -1,13 +1,13 @@
 #include "config/win32_file_port.h"
 
+#include "config/final_path.h"
+#include "framework/afxwin.h"
+
 #include <algorithm>
 #include <limits>
 #include <memory>
 #include <string>
 #include <string_view>
-
-#include "config/final_path.h"
-#include "framework/afxwin.h"
 
 namespace
 {

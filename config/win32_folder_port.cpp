@@ -1,10 +1,10 @@
 #include "config/win32_folder_port.h"
 
-#include <string>
-
 #include "config/final_path.h"
 #include "config/win32_file_port.h"
 #include "framework/afxwin.h"
+
+#include <string>
 
 namespace
 {

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <vector>
-
 #include "controls/core/geometry.h"
 #include "framework/afxwin.h"
+
+#include <vector>
 
 /// A dialog whose controls all use the application's shared dialog font, at the
 /// dialog's resolution.

@@ -1,15 +1,15 @@
 #include "controls/config_setting_dlg.h"
 
-#include <algorithm>
-#include <initializer_list>
-#include <utility>
-
 #include "base/placeholders.h"
 #include "controls/core/dialog_units.h"
 #include "controls/core/layout.h"
 #include "controls/dialog_app.h"
 #include "controls/tool_tip_control.h"
 #include "resources/ids.h"
+
+#include <algorithm>
+#include <initializer_list>
+#include <utility>
 
 namespace
 {

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <optional>
-
 #include "base/text.h"
 #include "controls/core/list_text.h"
 #include "controls/pref_list_ctrl.h"
 #include "controls/resizable_dlg.h"
 #include "controls/resource_icon.h"
+
+#include <optional>
 
 /// The list editor, the dialog "Multi-Entry Values": edits the text of a variable
 /// that holds several values, one entry per row. ov::ListRows implements what the

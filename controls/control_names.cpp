@@ -1,12 +1,12 @@
 #include "controls/control_names.h"
 
+#include "controls/core/accessible_names.h"
+#include "resources/ids.h"
+
 #include <cwchar>
 #include <optional>
 #include <utility>
 #include <vector>
-
-#include "controls/core/accessible_names.h"
-#include "resources/ids.h"
 
 namespace
 {

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <functional>
-#include <span>
-
 #include "framework/afxwin.h"
 #include "framework/window_names.h"
+
+#include <functional>
+#include <span>
 
 /// Gives accessible names to those of the dialog's controls that need one (see
 /// controls/core/accessible_names.h). `windows` are its children in Z order;

@@ -1,9 +1,9 @@
 #include "controls/dropped_list.h"
 
+#include "framework/window_resolution.h"
+
 #include <algorithm>
 #include <string>
-
-#include "framework/window_resolution.h"
 
 void FitDroppedWidth(HWND comboBox)
 {

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <vector>
-
 #include "framework/afxwin.h"
+
+#include <vector>
 
 /// Makes an open drop-down list at least as wide as its longest entry.
 void FitDroppedWidth(HWND comboBox);

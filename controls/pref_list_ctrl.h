@@ -1,11 +1,11 @@
 #pragma once
 
+#include "base/text.h"
+#include "framework/afxwin.h"
+
 #include <cstddef>
 #include <span>
 #include <vector>
-
-#include "base/text.h"
-#include "framework/afxwin.h"
 
 /// A list in report view: columns captioned from the string table, and rows of text.
 class CPrefListCtrl : public CListCtrl

@@ -1,11 +1,11 @@
 #include "controls/resizable_dlg.h"
 
-#include <algorithm>
-#include <optional>
-
 #include "controls/control_names.h"
 #include "controls/core/dialog_units.h"
 #include "framework/dialog_template.h"
+
+#include <algorithm>
+#include <optional>
 
 namespace
 {

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <cstdint>
-#include <vector>
-
 #include "controls/abstract_font_dlg.h"
 #include "controls/core/layout.h"
 #include "controls/grippie.h"
 #include "framework/window_names.h"
+
+#include <cstdint>
+#include <vector>
 
 /// A dialog whose listed controls follow its size, optionally with a size grip.
 /// Controls without a meaningful caption get an accessible name. Each layout starts

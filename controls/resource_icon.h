@@ -1,9 +1,9 @@
 #pragma once
 
+#include "framework/windows_api.h"
+
 #include <memory>
 #include <type_traits>
-
-#include "framework/windows_api.h"
 
 struct IconDestroyer {
     void operator()(HICON icon) const { ::DestroyIcon(icon); }

@@ -1,11 +1,11 @@
 #include "controls/tool_tip_control.h"
 
-#include <algorithm>
-#include <utility>
-
 #include "controls/core/tooltip_markup.h"
 #include "controls/dialog_app.h"
 #include "resources/ids.h"
+
+#include <algorithm>
+#include <utility>
 
 IMPLEMENT_DYNAMIC(CToolTipControl, CWnd)
 

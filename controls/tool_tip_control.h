@@ -1,12 +1,12 @@
 #pragma once
 
-#include <map>
-#include <memory>
-#include <vector>
-
 #include "base/text.h"
 #include "controls/core/tooltip_layout.h"
 #include "framework/afxwin.h"
+
+#include <map>
+#include <memory>
+#include <vector>
 
 // Shapes of the tooltip window.
 constexpr UINT TooltipBalloon = 1;

@@ -3,10 +3,9 @@
 #include "framework/com_apartment.h"
 #include "framework/modal_doors.h"
 
+#include <memory>
 #include <objbase.h>
 #include <shlobj.h>
-
-#include <memory>
 
 namespace
 {

@@ -4,9 +4,7 @@
 
 // Defines the identifiers of the next header.
 #include <initguid.h>
-
 #include <oleacc.h>
-
 #include <utility>
 
 namespace

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <algorithm>
-
 #include "framework/geometry.h"
+
+#include <algorithm>
 
 /// The rectangle moved as little as necessary to lie in the area. If it is larger than
 /// the area, its left and top edges are inside.

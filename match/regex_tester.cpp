@@ -1,13 +1,13 @@
 #include "match/regex_tester.h"
 
-#include <initializer_list>
-#include <utility>
-
 #include "base/placeholders.h"
 #include "controls/core/layout.h"
 #include "controls/dropped_list.h"
 #include "match/core/pattern_match.h"
 #include "resources/ids.h"
+
+#include <initializer_list>
+#include <utility>
 
 namespace
 {

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <cstdint>
-
 #include "base/text.h"
 #include "controls/resizable_dlg.h"
+
+#include <cstdint>
 
 /// The pattern tester, the dialog "Regular Expression Tester": tries a pattern on a
 /// test string under a wildcard type, ignoring case. It has no OK or Cancel button.

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <memory>
-
 #include "pages/core/page_catalogue.h"
+
+#include <memory>
 
 class CPreferencesWizard;
 class CWizardPage;

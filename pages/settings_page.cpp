@@ -1,16 +1,16 @@
 #include "pages/settings_page.h"
 
-#include <algorithm>
-#include <chrono>
-#include <commctrl.h>
-#include <stdexcept>
-
 #include "controls/dialog_app.h"
 #include "controls/dropped_list.h"
 #include "controls/tool_tip_control.h"
 #include "pages/core/page_layout.h"
 #include "resources/ids.h"
 #include "wizard/preferences_wizard.h"
+
+#include <algorithm>
+#include <chrono>
+#include <commctrl.h>
+#include <stdexcept>
 
 namespace
 {

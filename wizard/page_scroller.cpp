@@ -1,8 +1,8 @@
 #include "wizard/page_scroller.h"
 
-#include <algorithm>
-
 #include "framework/window_resolution.h"
+
+#include <algorithm>
 
 CPageScroller::CPageScroller(CWnd& page, CSize displaySize) : m_page(page)
 {

@@ -1,9 +1,6 @@
 // The parts of the dialog that handle the configuration file: reading it into
 // the store, writing it, and reporting failures to the user.
 
-#include <functional>
-#include <utility>
-
 #include "config/core/setting_comment.h"
 #include "config/system_info.h"
 #include "controls/dialog_app.h"
@@ -11,6 +8,9 @@
 #include "resources/ids.h"
 #include "wizard/core/save_messages.h"
 #include "wizard/preferences_wizard.h"
+
+#include <functional>
+#include <utility>
 
 namespace
 {

@@ -1,8 +1,5 @@
 #include "wizard/preferences_wizard.h"
 
-#include <algorithm>
-#include <utility>
-
 #include "controls/core/layout.h"
 #include "controls/dialog_app.h"
 #include "controls/tool_tip_control.h"
@@ -12,6 +9,9 @@
 #include "resources/ids.h"
 #include "wizard/core/wizard_state.h"
 #include "wizard/messages.h"
+
+#include <algorithm>
+#include <utility>
 
 namespace
 {

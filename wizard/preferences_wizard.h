@@ -1,8 +1,5 @@
 #pragma once
 
-#include <memory>
-#include <vector>
-
 #include "config/core/setting_store.h"
 #include "config/text_file.h"
 #include "controls/resizable_dlg.h"
@@ -10,6 +7,9 @@
 #include "wizard/left_pane.h"
 #include "wizard/wizard_page.h"
 #include "wizard/wizard_setup.h"
+
+#include <memory>
+#include <vector>
 
 /// The preferences dialog. It owns the settings, the pages, the category pane and
 /// the configuration file, and controls when they are read, shown and written.

@@ -1,8 +1,5 @@
 #include "wizard/wizard_page.h"
 
-#include <algorithm>
-#include <utility>
-
 #include "controls/config_setting_dlg.h"
 #include "controls/core/dialog_units.h"
 #include "controls/core/layout.h"
@@ -13,6 +10,9 @@
 #include "wizard/messages.h"
 #include "wizard/preferences_wizard.h"
 #include "wizard/prefs_mem_dc.h"
+
+#include <algorithm>
+#include <utility>
 
 namespace
 {

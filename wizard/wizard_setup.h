@@ -1,10 +1,10 @@
 #pragma once
 
-#include <functional>
-#include <memory>
-
 #include "base/text.h"
 #include "pages/core/page_info.h"
+
+#include <functional>
+#include <memory>
 
 class CPreferencesWizard;
 class CWizardPage;

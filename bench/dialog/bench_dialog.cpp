@@ -14,9 +14,9 @@
 #include "tests/support/window_search.h"
 
 #include <windows.h>
-
 #include <algorithm>
 #include <chrono>
+#include <commctrl.h>
 #include <cstdio>
 #include <cstdlib>
 #include <functional>
@@ -25,8 +25,6 @@
 #include <stdexcept>
 #include <utility>
 #include <vector>
-
-#include <commctrl.h>
 
 namespace
 {

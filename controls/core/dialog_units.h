@@ -1,8 +1,8 @@
 #pragma once
 
-#include <cstdint>
-
 #include "controls/core/geometry.h"
+
+#include <cstdint>
 
 // Dialog templates and fonts at any resolution. A resolution is in pixels per
 // inch. Values are rounded as the system does when it creates a dialog.

@@ -1,8 +1,8 @@
 #include "controls/core/layout.h"
 
-#include <algorithm>
-
 #include "controls/core/dialog_units.h"
+
+#include <algorithm>
 
 namespace ov
 {

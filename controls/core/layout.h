@@ -1,10 +1,10 @@
 #pragma once
 
+#include "controls/core/geometry.h"
+
 #include <cstdint>
 #include <optional>
 #include <vector>
-
-#include "controls/core/geometry.h"
 
 namespace ov
 {

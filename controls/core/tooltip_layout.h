@@ -1,12 +1,12 @@
 #pragma once
 
-#include <array>
-#include <optional>
-#include <vector>
-
 #include "base/text.h"
 #include "controls/core/geometry.h"
 #include "controls/core/tooltip_markup.h"
+
+#include <array>
+#include <optional>
+#include <vector>
 
 namespace ov
 {

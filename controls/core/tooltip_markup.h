@@ -1,9 +1,9 @@
 #pragma once
 
+#include "base/text.h"
+
 #include <array>
 #include <cstddef>
-
-#include "base/text.h"
 
 namespace ov
 {

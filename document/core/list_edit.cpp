@@ -1,9 +1,8 @@
-#include "document/core/variable_edit.h"
-
 #include "config/core/config_reader.h"
 #include "config/core/config_writer.h"
 #include "document/core/edit_session.h"
 #include "document/core/list_entries.h"
+#include "document/core/variable_edit.h"
 
 #include <algorithm>
 #include <iterator>

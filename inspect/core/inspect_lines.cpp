@@ -1,8 +1,7 @@
 // The rules about lines and their sequence.
 
-#include "inspect/core/inspection.h"
-
 #include "base/utf8.h"
+#include "inspect/core/inspection.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,8 +1,7 @@
 // The rules about changes that Save makes to the file.
 
-#include "inspect/core/inspection.h"
-
 #include "config/core/config_reader.h"
+#include "inspect/core/inspection.h"
 #include "inspect/core/saved_header.h"
 
 #include <algorithm>

@@ -1,8 +1,7 @@
 // The rules about the values of single settings.
 
-#include "inspect/core/inspection.h"
-
 #include "controls/core/list_text.h"
+#include "inspect/core/inspection.h"
 #include "inspect/core/setting_index.h"
 #include "match/core/pattern_check.h"
 #include "pages/core/encoding.h"

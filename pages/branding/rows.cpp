@@ -1,6 +1,5 @@
-#include "pages/core/page_rows.h"
-
 #include "pages/branding/ids.h"
+#include "pages/core/page_rows.h"
 
 namespace ov
 {

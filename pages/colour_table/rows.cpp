@@ -1,6 +1,5 @@
-#include "pages/core/page_rows.h"
-
 #include "pages/colour_table/ids.h"
+#include "pages/core/page_rows.h"
 
 namespace ov
 {

@@ -1,13 +1,11 @@
 #include "pages/core/page_template.h"
 
 #include "controls/core/accessible_names.h"
+#include "pages/core/page_dialog.h"
 
 #include <algorithm>
 #include <initializer_list>
-
 #include <winresrc.h>
-
-#include "pages/core/page_dialog.h"
 
 namespace ov
 {

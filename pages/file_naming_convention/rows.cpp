@@ -1,5 +1,4 @@
 #include "pages/core/page_rows.h"
-
 #include "pages/file_naming_convention/ids.h"
 
 namespace ov

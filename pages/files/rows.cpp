@@ -1,5 +1,4 @@
 #include "pages/core/page_rows.h"
-
 #include "pages/core/page_values.h"
 #include "pages/files/ids.h"
 

@@ -1,5 +1,4 @@
 #include "pages/core/page_rows.h"
-
 #include "pages/languages/ids.h"
 
 namespace ov

@@ -1,5 +1,4 @@
 #include "pages/core/page_rows.h"
-
 #include "pages/logging/ids.h"
 
 namespace ov

@@ -1,5 +1,4 @@
 #include "pages/core/page_rows.h"
-
 #include "pages/misc/ids.h"
 
 namespace ov

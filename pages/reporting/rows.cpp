@@ -1,6 +1,5 @@
-#include "pages/core/page_rows.h"
-
 #include "pages/core/encoding.h"
+#include "pages/core/page_rows.h"
 #include "pages/core/page_values.h"
 #include "pages/reporting/ids.h"
 

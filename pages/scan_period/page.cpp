@@ -1,13 +1,13 @@
 #include "pages/scan_period/page.h"
 
-#include <commctrl.h>
-
 #include "base/placeholders.h"
 #include "pages/core/page_rows.h"
 #include "pages/scan_period/ids.h"
 #include "pages/scan_period/rows.h"
 #include "resources/ids.h"
 #include "wizard/preferences_wizard.h"
+
+#include <commctrl.h>
 
 namespace
 {

@@ -1,5 +1,4 @@
 #include "pages/core/page_rows.h"
-
 #include "pages/watermark_integrity/ids.h"
 #include "resources/ids.h"
 

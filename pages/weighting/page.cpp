@@ -1,8 +1,8 @@
 #include "pages/weighting/page.h"
 
-#include <commctrl.h>
-
 #include "pages/core/page_rows.h"
+
+#include <commctrl.h>
 
 IMPLEMENT_DYNAMIC(CPageWeighting, CSettingsPage)
 

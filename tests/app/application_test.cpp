@@ -1,10 +1,10 @@
-#include <stdexcept>
-
 #include "app/host_size.h"
 #include "controls/dialog_app.h"
 #include "include/ovPreferences.h"
 #include "resources/ids.h"
 #include "tests/app/program.h"
+
+#include <stdexcept>
 
 namespace
 {

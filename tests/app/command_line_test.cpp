@@ -1,6 +1,6 @@
-#include <gtest/gtest.h>
-
 #include "app/cmd_line_info.h"
+
+#include <gtest/gtest.h>
 
 TEST(CommandLine, KeywordSetsItsText)
 {

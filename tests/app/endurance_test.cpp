@@ -1,12 +1,12 @@
 // Opens and closes the dialogs over the preferences dialog many times.
-#include <algorithm>
-#include <cstdlib>
-
 #include "controls/config_setting_dlg.h"
 #include "match/regex_tester.h"
 #include "resources/ids.h"
 #include "tests/app/program.h"
 #include "tests/support/process.h"
+
+#include <algorithm>
+#include <cstdlib>
 
 namespace
 {

@@ -1,13 +1,13 @@
 // What the dialog does to the windows of its pages while it opens.
-#include <algorithm>
-#include <map>
-
 #include "pages/files/ids.h"
 #include "pages/logging/ids.h"
 #include "pages/urls/ids.h"
 #include "resources/ids.h"
 #include "tests/app/program.h"
 #include "tests/support/window_search.h"
+
+#include <algorithm>
+#include <map>
 
 namespace
 {

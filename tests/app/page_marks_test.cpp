@@ -1,9 +1,8 @@
 // What the pages report to the dialog while they load: some report every load as a
 // change, the others report nothing.
-#include "tests/app/program.h"
-
 #include "pages/core/page_catalogue.h"
 #include "resources/ids.h"
+#include "tests/app/program.h"
 #include "wizard/messages.h"
 
 #include <set>

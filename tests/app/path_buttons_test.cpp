@@ -1,8 +1,7 @@
 // The "..." buttons for a file or a folder, on every page that has one: each fills
 // its own field and variable, and does not change typed text.
-#include "tests/app/program.h"
-
 #include "resources/ids.h"
+#include "tests/app/program.h"
 
 #include <ostream>
 #include <utility>

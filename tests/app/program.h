@@ -1,17 +1,17 @@
 #pragma once
 
+#include "app/preferences_app.h"
+#include "tests/support/test_files.h"
+#include "wizard/preferences_wizard.h"
+
+#include <gtest/gtest.h>
+
 #include <deque>
 #include <functional>
 #include <memory>
 #include <optional>
 #include <string>
 #include <vector>
-
-#include <gtest/gtest.h>
-
-#include "app/preferences_app.h"
-#include "tests/support/test_files.h"
-#include "wizard/preferences_wizard.h"
 
 /// A message box that the program opened.
 struct SeenMessage {

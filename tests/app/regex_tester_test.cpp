@@ -1,15 +1,14 @@
 // The pattern tester with its real template and texts.
 #include "match/regex_tester.h"
-
-#include <algorithm>
-#include <deque>
-#include <functional>
-
 #include "resources/ids.h"
 #include "tests/app/program.h"
 #include "tests/support/control_state.h"
 #include "tests/support/process.h"
 #include "tests/support/window_search.h"
+
+#include <algorithm>
+#include <deque>
+#include <functional>
 
 namespace
 {

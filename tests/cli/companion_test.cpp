@@ -1,10 +1,9 @@
 // Runs ovprefs.exe as a command prompt does, in a folder whose name needs quotes.
 #include "tests/kit/handle.h"
 
-#include <windows.h>
-
 #include <gtest/gtest.h>
 
+#include <windows.h>
 #include <filesystem>
 #include <fstream>
 #include <sstream>

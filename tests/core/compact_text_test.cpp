@@ -1,7 +1,8 @@
 #include "config/core/compact_text.h"
 
-#include <algorithm>
 #include <gtest/gtest.h>
+
+#include <algorithm>
 #include <string>
 #include <vector>
 

@@ -1,10 +1,10 @@
 #include "config/core/config_reader.h"
-
 #include "config/core/config_writer.h"
 #include "tests/core/memory_file_port.h"
 #include "tests/core/scoped_locale.h"
 
 #include <gtest/gtest.h>
+
 #include <string>
 
 namespace ov

@@ -1,11 +1,11 @@
-#include "config/core/config_writer.h"
-
 #include "base/locale_text.h"
 #include "config/core/config_reader.h"
+#include "config/core/config_writer.h"
 #include "config/core/setting_comment.h"
 #include "tests/core/scoped_locale.h"
 
 #include <gtest/gtest.h>
+
 #include <string>
 
 namespace ov

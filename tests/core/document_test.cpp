@@ -1,5 +1,4 @@
 #include "document/core/document.h"
-
 #include "document/core/line_edits.h"
 #include "document/core/variable_lines.h"
 

@@ -16,11 +16,12 @@
 #include "tests/core/scoped_locale.h"
 #include "tests/data/test_data.h"
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <cctype>
 #include <filesystem>
 #include <fstream>
-#include <gtest/gtest.h>
 #include <optional>
 #include <sstream>
 #include <string>

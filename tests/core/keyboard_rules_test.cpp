@@ -1,6 +1,6 @@
-#include <gtest/gtest.h>
-
 #include "wizard/core/wizard_state.h"
+
+#include <gtest/gtest.h>
 
 namespace
 {

@@ -1,6 +1,5 @@
-#include "config/core/known_file.h"
-
 #include "config/core/config_reader.h"
+#include "config/core/known_file.h"
 #include "tests/core/memory_file_port.h"
 
 #include <gtest/gtest.h>

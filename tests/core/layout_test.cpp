@@ -1,9 +1,9 @@
 #include "controls/core/layout.h"
 
+#include <gtest/gtest.h>
+
 #include <map>
 #include <string>
-
-#include <gtest/gtest.h>
 
 namespace
 {

@@ -1,5 +1,4 @@
 #include "inspect/core/list_merge.h"
-
 #include "tests/core/slow_merge.h"
 
 #include <gtest/gtest.h>

@@ -1,5 +1,4 @@
 #include "base/locale_text.h"
-
 #include "tests/core/scoped_locale.h"
 
 #include <gtest/gtest.h>

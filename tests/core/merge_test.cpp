@@ -1,12 +1,11 @@
 // Merging of files: against a slow model, and case by case where lines matter.
 
-#include "inspect/core/merge.h"
-
 #include "config/core/config_line.h"
 #include "config/core/config_reader.h"
 #include "config/core/config_writer.h"
 #include "document/core/line_diff.h"
 #include "inspect/core/difference.h"
+#include "inspect/core/merge.h"
 #include "tests/core/slow_merge.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,5 @@
 // The Miscellaneous page: wildcard types and automatic login.
 #include "pages/core/page_rows.h"
-
 #include "pages/core/page_values.h"
 #include "pages/core/string_table.h"
 

@@ -1,5 +1,4 @@
 #include "pages/core/page_catalogue.h"
-
 #include "pages/core/page_rows.h"
 #include "pages/core/string_table.h"
 #include "tests/pages/expected_pages.h"

@@ -1,6 +1,5 @@
-#include "pages/core/page_geometry.h"
-
 #include "controls/core/layout.h"
+#include "pages/core/page_geometry.h"
 
 #include <gtest/gtest.h>
 

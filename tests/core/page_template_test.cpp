@@ -1,7 +1,6 @@
 // The dialog templates of the pages, as portable code reads them.
-#include "pages/core/page_template.h"
-
 #include "pages/core/page_catalogue.h"
+#include "pages/core/page_template.h"
 #include "tests/pages/expected_controls.h"
 
 #include <gtest/gtest.h>

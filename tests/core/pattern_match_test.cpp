@@ -1,9 +1,9 @@
 #include "match/core/pattern_match.h"
-
 #include "tests/core/literal_match.h"
 #include "tests/core/no_memory.h"
 
 #include <gtest/gtest.h>
+
 #include <limits>
 #include <string>
 #include <vector>

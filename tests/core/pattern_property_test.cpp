@@ -1,11 +1,11 @@
 #include "match/core/pattern_match.h"
-
 #include "tests/core/literal_match.h"
+
+#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <array>
 #include <cstdlib>
-#include <gtest/gtest.h>
 #include <random>
 #include <string>
 

@@ -1,8 +1,8 @@
 #define PCRE2_CODE_UNIT_WIDTH 8
-#include <pcre2.h>
-
 #include <gtest/gtest.h>
+
 #include <memory>
+#include <pcre2.h>
 #include <string>
 
 namespace ov

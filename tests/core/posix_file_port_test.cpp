@@ -1,16 +1,16 @@
-#include "config/core/posix_file_port.h"
-
 #include "config/core/config_reader.h"
+#include "config/core/posix_file_port.h"
 #include "config/core/save.h"
 #include "tests/core/scoped_locale.h"
 #include "tests/core/test_prompts.h"
 #include "tests/core/test_surroundings.h"
 
+#include <gtest/gtest.h>
+
 #include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <gtest/gtest.h>
 #include <sstream>
 #include <stdexcept>
 #include <sys/resource.h>

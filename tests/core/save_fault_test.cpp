@@ -2,9 +2,8 @@
 // pairs, in every situation that a save can find. After every single operation a complete copy of the
 // file, old or new, must exist under the file's name or the backup's name.
 
-#include "config/core/save.h"
-
 #include "config/core/config_writer.h"
+#include "config/core/save.h"
 #include "tests/core/memory_file_port.h"
 #include "tests/core/scoped_locale.h"
 #include "tests/core/test_prompts.h"
@@ -12,6 +11,7 @@
 #include "tests/save/step_file_port.h"
 
 #include <gtest/gtest.h>
+
 #include <new>
 #include <optional>
 #include <ostream>

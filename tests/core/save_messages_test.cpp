@@ -1,8 +1,7 @@
+#include "pages/core/string_table.h"
 #include "wizard/core/save_messages.h"
 
 #include <gtest/gtest.h>
-
-#include "pages/core/string_table.h"
 
 namespace
 {

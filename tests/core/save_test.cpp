@@ -1,7 +1,6 @@
-#include "config/core/save.h"
-
 #include "config/core/config_reader.h"
 #include "config/core/config_writer.h"
+#include "config/core/save.h"
 #include "tests/core/forwarding_port.h"
 #include "tests/core/memory_file_port.h"
 #include "tests/core/scoped_locale.h"
@@ -10,6 +9,7 @@
 #include "tests/save/step_file_port.h"
 
 #include <gtest/gtest.h>
+
 #include <stdexcept>
 #include <vector>
 

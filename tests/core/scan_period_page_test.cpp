@@ -1,11 +1,10 @@
 // The Scan Period page: one variable edited by ten controls, and impossible
 // dates.
 #include "pages/core/page_rows.h"
-#include "pages/scan_period/rows.h"
-
 #include "pages/core/page_values.h"
 #include "pages/core/string_table.h"
 #include "pages/scan_period/ids.h"
+#include "pages/scan_period/rows.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,8 @@
 #include "config/core/setting_store.h"
 
-#include <algorithm>
 #include <gtest/gtest.h>
+
+#include <algorithm>
 #include <vector>
 
 namespace ov

@@ -1,7 +1,8 @@
 #include "config/core/setting_table.h"
 
-#include <algorithm>
 #include <gtest/gtest.h>
+
+#include <algorithm>
 #include <random>
 #include <string>
 #include <vector>

@@ -1,7 +1,8 @@
 #include "match/core/tokens.h"
 
-#include <array>
 #include <gtest/gtest.h>
+
+#include <array>
 #include <vector>
 
 namespace ov

@@ -1,6 +1,5 @@
-#include "config/core/text_lines.h"
-
 #include "config/core/file_lines.h"
+#include "config/core/text_lines.h"
 #include "tests/core/memory_file_port.h"
 #include "tests/core/scoped_locale.h"
 

@@ -1,6 +1,7 @@
 #include "base/text.h"
 
 #include <gtest/gtest.h>
+
 #include <limits>
 
 namespace ov

@@ -1,11 +1,11 @@
-#include "match/core/tokens.h"
-
 #include "match/core/buffer_text.h"
+#include "match/core/tokens.h"
 #include "tests/core/no_memory.h"
+
+#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <array>
-#include <gtest/gtest.h>
 #include <new>
 #include <vector>
 

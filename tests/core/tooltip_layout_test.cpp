@@ -1,8 +1,8 @@
 #include "controls/core/tooltip_layout.h"
 
-#include <ostream>
-
 #include <gtest/gtest.h>
+
+#include <ostream>
 
 namespace ov
 {

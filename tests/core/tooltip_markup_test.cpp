@@ -1,8 +1,8 @@
 #include "controls/core/tooltip_markup.h"
 
-#include <vector>
-
 #include <gtest/gtest.h>
+
+#include <vector>
 
 namespace
 {

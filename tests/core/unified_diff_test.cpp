@@ -1,6 +1,5 @@
-#include "document/core/unified_diff.h"
-
 #include "document/core/line_diff.h"
+#include "document/core/unified_diff.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,4 @@
 #include "document/core/variable_edit.h"
-
 #include "tests/core/edit_properties.h"
 
 #include <gtest/gtest.h>

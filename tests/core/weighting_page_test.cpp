@@ -1,7 +1,6 @@
 // The Score Weighting page: texts that are edited by track bars.
-#include "pages/core/page_rows.h"
-
 #include "controls/core/tooltip_markup.h"
+#include "pages/core/page_rows.h"
 #include "pages/core/page_values.h"
 #include "pages/core/string_table.h"
 

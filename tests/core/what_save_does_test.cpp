@@ -6,9 +6,10 @@
 #include "tests/core/scoped_locale.h"
 #include "tests/data/test_data.h"
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <fstream>
-#include <gtest/gtest.h>
 #include <iterator>
 #include <regex>
 #include <set>

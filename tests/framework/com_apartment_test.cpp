@@ -1,11 +1,10 @@
 #include "framework/com_apartment.h"
-
 #include "framework/windows_api.h"
 
 #include <gtest/gtest.h>
-#include <objbase.h>
 
 #include <functional>
+#include <objbase.h>
 #include <optional>
 #include <thread>
 

@@ -1,10 +1,10 @@
 // What a dialog needs for a new resolution: metrics and its template.
-#include <gtest/gtest.h>
-
 #include "framework/afxwin.h"
 #include "framework/dialog_template.h"
 #include "framework/window_resolution.h"
 #include "tests/framework/ids.h"
+
+#include <gtest/gtest.h>
 
 namespace
 {

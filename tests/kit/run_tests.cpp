@@ -4,7 +4,6 @@
 #include "tests/kit/suite_log.h"
 
 #include <windows.h>
-
 #include <chrono>
 #include <cstdio>
 #include <cwchar>

@@ -5,9 +5,10 @@
 #include "tests/core/test_prompts.h"
 #include "tests/save/new_content.h"
 
+#include <gtest/gtest.h>
+
 #include <filesystem>
 #include <fstream>
-#include <gtest/gtest.h>
 #include <optional>
 #include <set>
 #include <sstream>

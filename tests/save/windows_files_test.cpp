@@ -13,6 +13,7 @@
 #include "wizard/core/save_messages.h"
 
 #include <gtest/gtest.h>
+
 #include <iostream>
 #include <shellapi.h>
 

@@ -3,9 +3,8 @@
 #include "tests/support/control_state.h"
 #include "tests/support/window_search.h"
 
-#include <commctrl.h>
-
 #include <algorithm>
+#include <commctrl.h>
 
 namespace uidriver
 {

@@ -6,7 +6,6 @@
 #include "tests/support/await.h"
 
 #include <windows.h>
-
 #include <string>
 
 namespace uidriver

@@ -3,7 +3,6 @@
 #include "tests/support/await.h"
 
 #include <commctrl.h>
-
 #include <string_view>
 
 namespace uidriver

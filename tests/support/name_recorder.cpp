@@ -2,7 +2,6 @@
 
 // Defines the identifiers of the next header.
 #include <initguid.h>
-
 #include <oleacc.h>
 
 // Interfaces have no virtual destructors; nothing is deleted through one.

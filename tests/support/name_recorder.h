@@ -2,7 +2,6 @@
 #pragma once
 
 #include <windows.h>
-
 #include <map>
 #include <memory>
 #include <string>

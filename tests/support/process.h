@@ -4,7 +4,6 @@
 #include "tests/support/await.h"
 
 #include <windows.h>
-
 #include <string>
 #include <vector>
 

@@ -1,7 +1,6 @@
 #include "tests/support/test_files.h"
 
 #include <windows.h>
-
 #include <algorithm>
 
 namespace uidriver

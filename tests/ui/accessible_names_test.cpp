@@ -13,7 +13,6 @@
 #include "tests/ui/value_editor.h"
 
 #include <commctrl.h>
-
 #include <set>
 
 using namespace uidriver;

@@ -1,10 +1,9 @@
 // Colour Table in the dialog.
+#include "pages/colour_table/ids.h"
+#include "resources/ids.h"
 #include "tests/ui/dialog_session.h"
 #include "tests/ui/expected_file.h"
 #include "tests/ui/value_editor.h"
-
-#include "pages/colour_table/ids.h"
-#include "resources/ids.h"
 
 using namespace uidriver;
 

@@ -1,14 +1,14 @@
 // The dialog base classes, the tooltip registry and the list control, with real windows.
-#include <map>
-#include <optional>
-#include <ostream>
-
-#include <gtest/gtest.h>
-
 #include "controls/pref_list_ctrl.h"
 #include "controls/resizable_dlg.h"
 #include "controls/tool_tip_control.h"
 #include "tests/ui/controls_application.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <optional>
+#include <ostream>
 
 static void PrintTo(const CRect& rect, std::ostream* out)
 {

@@ -1,8 +1,7 @@
 // Drawing Scales in the dialog.
+#include "resources/ids.h"
 #include "tests/ui/page_session.h"
 #include "tests/ui/value_editor.h"
-
-#include "resources/ids.h"
 
 using namespace uidriver;
 

@@ -9,9 +9,8 @@
 #include "tests/ui/dialog_session.h"
 #include "tests/ui/expected_file.h"
 
-#include <commctrl.h>
-
 #include <algorithm>
+#include <commctrl.h>
 #include <cstdlib>
 #include <ctime>
 

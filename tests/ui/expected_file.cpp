@@ -5,7 +5,6 @@
 #include "tests/ui/built_pages.h"
 
 #include <windows.h>
-
 #include <regex>
 #include <sstream>
 

@@ -5,9 +5,8 @@
 #include "tests/ui/expected_file.h"
 #include "tests/ui/value_editor.h"
 
-#include <objbase.h>
-
 #include <algorithm>
+#include <objbase.h>
 
 // Interfaces have no virtual destructors; nothing is deleted through one.
 #pragma GCC diagnostic ignored "-Wnon-virtual-dtor"

@@ -1,7 +1,6 @@
 // The Feature Tables page in the dialog.
-#include "tests/ui/page_session.h"
-
 #include "pages/feature_tables/ids.h"
+#include "tests/ui/page_session.h"
 
 using namespace uidriver;
 

@@ -1,7 +1,6 @@
 // The File Paths page in the dialog.
-#include "tests/ui/page_doors.h"
-
 #include "pages/files/ids.h"
+#include "tests/ui/page_doors.h"
 
 using namespace uidriver;
 

@@ -6,10 +6,10 @@
 #include "tests/ui/dialog_template.h"
 #include "tests/ui/library.h"
 
-#include <commctrl.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <commctrl.h>
 #include <optional>
 #include <string>
 #include <vector>

@@ -1,12 +1,11 @@
 // The focus fields describe the control with the focus.
-#include "tests/ui/dialog_session.h"
-#include "tests/ui/expected_file.h"
-#include "tests/ui/value_editor.h"
-
 #include "pages/branding/ids.h"
 #include "pages/conforming/ids.h"
 #include "pages/reporting/ids.h"
 #include "resources/ids.h"
+#include "tests/ui/dialog_session.h"
+#include "tests/ui/expected_file.h"
+#include "tests/ui/value_editor.h"
 
 using namespace uidriver;
 

@@ -5,7 +5,6 @@
 #include "tests/ui/host_thread.h"
 
 #include <windows.h>
-
 #include <atomic>
 
 /// Records that the host's thread removes the keyboard focus from every window. A

@@ -1,8 +1,7 @@
 // The Languages page in the dialog.
+#include "pages/languages/ids.h"
 #include "tests/ui/dialog_session.h"
 #include "tests/ui/expected_file.h"
-
-#include "pages/languages/ids.h"
 
 using namespace uidriver;
 

@@ -10,9 +10,8 @@
 #include "tests/ui/dialog_template.h"
 #include "tests/ui/library.h"
 
-#include <commctrl.h>
-
 #include <algorithm>
+#include <commctrl.h>
 #include <utility>
 
 using namespace uidriver;

@@ -1,10 +1,10 @@
 // The page scroller and the memory device context, with real windows.
-#include <ostream>
+#include "wizard/page_scroller.h"
+#include "wizard/prefs_mem_dc.h"
 
 #include <gtest/gtest.h>
 
-#include "wizard/page_scroller.h"
-#include "wizard/prefs_mem_dc.h"
+#include <ostream>
 
 static void PrintTo(const CPoint& point, std::ostream* out)
 {

@@ -7,7 +7,6 @@
 #include "tests/ui/focus_removal.h"
 
 #include <commctrl.h>
-
 #include <functional>
 #include <string>
 #include <vector>

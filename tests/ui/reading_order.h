@@ -2,7 +2,6 @@
 #pragma once
 
 #include <windows.h>
-
 #include <vector>
 
 /// The visible and enabled tab stops, row by row from the top and from left to right

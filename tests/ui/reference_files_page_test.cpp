@@ -1,10 +1,9 @@
 // Reference Files in the dialog: the scale factor, and the controls that depend on
 // the texts for border sheets and for the plot border.
-#include "tests/ui/page_session.h"
-#include "tests/ui/value_editor.h"
-
 #include "pages/reference_files/ids.h"
 #include "resources/ids.h"
+#include "tests/ui/page_session.h"
+#include "tests/ui/value_editor.h"
 
 using namespace uidriver;
 

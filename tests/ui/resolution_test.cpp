@@ -7,7 +7,6 @@
 #include "tests/ui/dialog_session.h"
 
 #include <commctrl.h>
-
 #include <optional>
 #include <sstream>
 

@@ -1,19 +1,17 @@
 // The Scan Period page in the dialog: which controls are visible, what is saved, and
 // the message about an impossible date.
-#include "tests/ui/dialog_session.h"
-#include "tests/ui/expected_file.h"
-
-#include <commctrl.h>
-
-#include <cmath>
-#include <cstdlib>
-#include <set>
-#include <tuple>
-
 #include "pages/conforming/ids.h"
 #include "pages/scan_period/ids.h"
 #include "pages/users/ids.h"
 #include "resources/ids.h"
+#include "tests/ui/dialog_session.h"
+#include "tests/ui/expected_file.h"
+
+#include <cmath>
+#include <commctrl.h>
+#include <cstdlib>
+#include <set>
+#include <tuple>
 
 using namespace uidriver;
 

@@ -1,8 +1,7 @@
 // The Signature Cells page in the dialog.
-#include "tests/ui/page_doors.h"
-
 #include "pages/signature_cell/ids.h"
 #include "resources/ids.h"
+#include "tests/ui/page_doors.h"
 
 using namespace uidriver;
 

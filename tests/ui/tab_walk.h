@@ -2,7 +2,6 @@
 #pragma once
 
 #include <windows.h>
-
 #include <functional>
 
 /// Walks from `start` once around the window in both directions. Tab must stop at

@@ -1,8 +1,7 @@
 // The Title Blocks page in the dialog.
-#include "tests/ui/page_doors.h"
-
 #include "pages/title_block/ids.h"
 #include "resources/ids.h"
+#include "tests/ui/page_doors.h"
 
 #include <set>
 

@@ -1,16 +1,16 @@
 // The tooltip's window, which the program never shows: these tests start a show and
 // check what it draws.
+#include "controls/tool_tip_control.h"
+#include "tests/support/process.h"
+#include "tests/ui/controls_application.h"
+
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <array>
 #include <ostream>
 #include <utility>
 #include <vector>
-
-#include <gtest/gtest.h>
-
-#include "controls/tool_tip_control.h"
-#include "tests/support/process.h"
-#include "tests/ui/controls_application.h"
 
 static void PrintTo(const CRect& rect, std::ostream* out)
 {

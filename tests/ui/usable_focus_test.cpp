@@ -1,11 +1,10 @@
 // The keyboard focus never stays on a hidden or disabled control: from there the next letter would search
 // for a mnemonic endlessly.
-#include "tests/ui/dialog_session.h"
-#include "tests/ui/value_editor.h"
-
 #include "pages/branding/ids.h"
 #include "pages/scan_period/ids.h"
 #include "resources/ids.h"
+#include "tests/ui/dialog_session.h"
+#include "tests/ui/value_editor.h"
 
 using namespace uidriver;
 

@@ -1,9 +1,8 @@
 // The Users page in the dialog.
-#include "tests/ui/dialog_session.h"
-#include "tests/ui/expected_file.h"
-
 #include "pages/users/ids.h"
 #include "resources/ids.h"
+#include "tests/ui/dialog_session.h"
+#include "tests/ui/expected_file.h"
 
 using namespace uidriver;
 

@@ -1,7 +1,6 @@
 // The Version page in the dialog.
-#include "tests/ui/page_doors.h"
-
 #include "pages/version/ids.h"
+#include "tests/ui/page_doors.h"
 
 using namespace uidriver;
 

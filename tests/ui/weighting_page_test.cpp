@@ -1,10 +1,9 @@
 // The Score Weighting page in the dialog.
+#include "pages/weighting/ids.h"
 #include "tests/ui/dialog_session.h"
 #include "tests/ui/expected_file.h"
 
 #include <commctrl.h>
-
-#include "pages/weighting/ids.h"
 
 using namespace uidriver;
 

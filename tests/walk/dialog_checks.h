@@ -2,7 +2,6 @@
 #pragma once
 
 #include <windows.h>
-
 #include <functional>
 #include <string>
 #include <vector>

@@ -4,7 +4,6 @@
 #include "tests/walk/chance.h"
 
 #include <windows.h>
-
 #include <optional>
 #include <string>
 #include <vector>

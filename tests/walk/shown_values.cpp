@@ -4,9 +4,8 @@
 #include "tests/support/window_search.h"
 #include "tests/walk/dialog_checks.h"
 
-#include <commctrl.h>
-
 #include <algorithm>
+#include <commctrl.h>
 #include <set>
 #include <string_view>
 

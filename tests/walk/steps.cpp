@@ -3,9 +3,8 @@
 #include "tests/walk/dialog_checks.h"
 #include "tests/walk/walk.h"
 
-#include <commctrl.h>
-
 #include <algorithm>
+#include <commctrl.h>
 
 using namespace uidriver;
 

@@ -4,10 +4,9 @@
 #include "tests/walk/dialog_checks.h"
 #include "tests/walk/walk.h"
 
+#include <algorithm>
 #include <commctrl.h>
 #include <dlgs.h>
-
-#include <algorithm>
 #include <functional>
 
 using namespace uidriver;

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <functional>
-
 #include "base/text.h"
 #include "config/core/save.h"
+
+#include <functional>
 
 namespace ov
 {

@@ -7,10 +7,8 @@
 #include "include/ovPreferences.h"
 
 #include <windows.h>
-
-#include <shellapi.h>
-
 #include <locale.h>
+#include <shellapi.h>
 
 namespace
 {
