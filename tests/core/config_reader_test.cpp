@@ -1,5 +1,6 @@
 #include "config/core/config_reader.h"
 #include "config/core/config_writer.h"
+#include "tests/core/code_page_locale.h"
 #include "tests/core/memory_file_port.h"
 #include "tests/core/scoped_locale.h"
 
@@ -479,11 +480,11 @@ TEST_F(ConfigReader, InvalidBytesOfAUtf8LocaleAreKeptOneByOne)
     EXPECT_EQ(Value(u"B"), Text({0xDCC3, 0xDCA9, u' '}));
 }
 
-#else
+#endif
 
 TEST_F(ConfigReader, HalfACharacterTakesNoMarkWithIt)
 {
-    const test::ScopedLocale locale(".932");
+    const test::ScopedLocale locale(test::CodePageLocale(932).c_str());
     ASSERT_TRUE(locale.IsSet());
     ReadCurrent("\n# \x93\xFA\x93\nA = \x93\xFA \x93\nB = \"\x93\"\n");
     EXPECT_EQ(Value(u"A").substr(0, 2), u"\u65E5 ");
@@ -492,8 +493,6 @@ TEST_F(ConfigReader, HalfACharacterTakesNoMarkWithIt)
     EXPECT_EQ(Comment(u"A").substr(0, 4), u"\n# \u65E5");
     EXPECT_EQ(Comment(u"A").back(), u'\n');
 }
-
-#endif
 
 TEST_F(ConfigReader, EmptyPathAndMissingFileAreNotReadWithoutAWord)
 {
