@@ -52,7 +52,7 @@ class TooltipScope
     explicit TooltipScope(CWnd* owner)
     {
         if (theTooltip.GetSafeHwnd() == nullptr)
-            theTooltip.Create(owner, TooltipBalloon, toolTipSecondStyle, nullptr);
+            theTooltip.Create(owner, kTooltipBalloon, toolTipSecondStyle, nullptr);
     }
     ~TooltipScope()
     {

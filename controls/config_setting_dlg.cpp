@@ -40,7 +40,7 @@ END_MESSAGE_MAP()
 
 CConfigSettingDlg::CConfigSettingDlg(CWnd* parent, ov::Text listText, UINT browsing, char16_t separator,
                                      char16_t qualifier, char16_t fieldSeparator, size_t fieldCount)
-    : CResizableDlg(IDD_CONFIG_SETTING, parent, true, ov::DesignWidth, ov::DesignHeight),
+    : CResizableDlg(IDD_CONFIG_SETTING, parent, true, ov::kDesignWidth, ov::kDesignHeight),
       m_listText(std::move(listText)), m_fieldCount(std::max<size_t>(fieldCount, 1)),
       m_browsing(browsing != 0), m_rows({separator, qualifier, fieldSeparator, m_fieldCount})
 {

@@ -75,11 +75,11 @@ COLORREF ColourOf(ov::TooltipSection section)
 {
     switch (section) {
     case ov::TooltipSection::Heading:
-        return TooltipHeadingColour;
+        return kTooltipHeadingColour;
     case ov::TooltipSection::Description:
-        return TooltipDescriptionColour;
+        return kTooltipDescriptionColour;
     default:
-        return TooltipVariableColour;
+        return kTooltipVariableColour;
     }
 }
 
@@ -210,10 +210,10 @@ std::vector<ov::TooltipPart> CToolTipControl::Measure(CDC* context)
 bool CToolTipControl::MakeRegion(CRgn& region) const
 {
     const CRect body = ToRect(m_outline.body);
-    if ((m_style & (TooltipBalloon | TooltipRoundedRectangle)) == 0)
+    if ((m_style & (kTooltipBalloon | kTooltipRoundedRectangle)) == 0)
         return region.CreateRectRgnIndirect(body);
-    if (!region.CreateRoundRectRgn(body.left, body.top, body.right, body.bottom, ov::TooltipCorner.width,
-                                   ov::TooltipCorner.height))
+    if (!region.CreateRoundRectRgn(body.left, body.top, body.right, body.bottom, ov::kTooltipCorner.width,
+                                   ov::kTooltipCorner.height))
         return false;
     if (!m_outline.tail)
         return true;
@@ -240,7 +240,7 @@ void CToolTipControl::ShowAt(CPoint anchor)
     m_anchor = anchor;
     const ov::Point point{anchor.x, anchor.y};
     m_side = ov::ChooseTooltipSide(body, point);
-    m_outline = ov::OutlineTooltip(body, m_side, (m_style & TooltipBalloon) != 0);
+    m_outline = ov::OutlineTooltip(body, m_side, (m_style & kTooltipBalloon) != 0);
     CRgn region;
     if (MakeRegion(region) && SetWindowRgn(region, FALSE) != 0)
         region.Detach();
@@ -270,17 +270,17 @@ void CToolTipControl::Draw(CDC* context)
     CRgn region;
     if (!MakeRegion(region))
         return;
-    CBrush fill(TooltipFillColour);
+    CBrush fill(kTooltipFillColour);
     context->FillRgn(&region, &fill);
-    if ((m_style & (TooltipBalloon | TooltipRoundedRectangle)) != 0) {
-        CBrush dark(TooltipDarkFrameColour);
-        CBrush light(TooltipLightFrameColour);
+    if ((m_style & (kTooltipBalloon | kTooltipRoundedRectangle)) != 0) {
+        CBrush dark(kTooltipDarkFrameColour);
+        CBrush light(kTooltipLightFrameColour);
         context->FrameRgn(&region, &dark, 2, 1);
         context->FrameRgn(&region, &light, 1, 1);
     } else {
         CRect body = ToRect(m_outline.body);
         context->DrawEdge(body, EDGE_ETCHED, BF_RECT);
-        context->Draw3dRect(body, TooltipLightFrameColour, TooltipDarkFrameColour);
+        context->Draw3dRect(body, kTooltipLightFrameColour, kTooltipDarkFrameColour);
     }
 
     const HICON icon = GetApplicationIcon();

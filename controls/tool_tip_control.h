@@ -9,16 +9,16 @@
 #include <vector>
 
 // Shapes of the tooltip window.
-constexpr UINT TooltipBalloon = 1;
-constexpr UINT TooltipRoundedRectangle = 2;
-constexpr UINT TooltipRectangle = 4;
+constexpr UINT kTooltipBalloon = 1;
+constexpr UINT kTooltipRoundedRectangle = 2;
+constexpr UINT kTooltipRectangle = 4;
 
-constexpr COLORREF TooltipHeadingColour = RGB(108, 5, 0);
-constexpr COLORREF TooltipDescriptionColour = RGB(39, 54, 35);
-constexpr COLORREF TooltipVariableColour = RGB(1, 52, 209); ///< also for sub-headings
-constexpr COLORREF TooltipLightFrameColour = RGB(171, 164, 156);
-constexpr COLORREF TooltipDarkFrameColour = RGB(30, 46, 8);
-constexpr COLORREF TooltipFillColour = RGB(255, 254, 232);
+constexpr COLORREF kTooltipHeadingColour = RGB(108, 5, 0);
+constexpr COLORREF kTooltipDescriptionColour = RGB(39, 54, 35);
+constexpr COLORREF kTooltipVariableColour = RGB(1, 52, 209); ///< also for sub-headings
+constexpr COLORREF kTooltipLightFrameColour = RGB(171, 164, 156);
+constexpr COLORREF kTooltipDarkFrameColour = RGB(30, 46, 8);
+constexpr COLORREF kTooltipFillColour = RGB(255, 254, 232);
 
 /// Supplies the help text of a control that was registered with an empty text.
 class CTooltipTextProvider
@@ -120,7 +120,7 @@ class CToolTipControl : public CWnd
     std::map<HWND, ToolTipEntry> m_entries;
     std::weak_ptr<TooltipIcon::element_type> m_toolIcon; ///< the icon that all of AddTool's entries share
     CTooltipTextProvider* m_provider = nullptr;
-    UINT m_style = TooltipBalloon;
+    UINT m_style = kTooltipBalloon;
     UINT m_secondStyle = 0;
     CFont m_headingFont;
     CFont m_variableFont;

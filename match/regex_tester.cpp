@@ -28,7 +28,7 @@ END_MESSAGE_MAP()
 
 RegexTester::RegexTester(CWnd* parent, std::int32_t initialType, ov::Text initialTemplate,
                          ov::Text initialTestString)
-    : CResizableDlg(IDD_REGEX_TESTER, parent, true, ov::DesignWidth, ov::DesignHeight),
+    : CResizableDlg(IDD_REGEX_TESTER, parent, true, ov::kDesignWidth, ov::kDesignHeight),
       m_template(std::move(initialTemplate)), m_testString(std::move(initialTestString)), m_type(initialType)
 {
     RegexTester::InitControlLayout();

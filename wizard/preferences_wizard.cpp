@@ -34,7 +34,7 @@ BEGIN_MESSAGE_MAP(CPreferencesWizard, CResizableDlg)
 END_MESSAGE_MAP()
 
 CPreferencesWizard::CPreferencesWizard(CWnd* parent, WizardSetup setup)
-    : CResizableDlg(IDD_PREFERENCES, parent, true, ov::DesignWidth, ov::DesignHeight),
+    : CResizableDlg(IDD_PREFERENCES, parent, true, ov::kDesignWidth, ov::kDesignHeight),
       m_setup(std::move(setup))
 {
     CPreferencesWizard::InitControlLayout();

@@ -45,8 +45,9 @@ BEGIN_MESSAGE_MAP(CWizardPage, CResizableDlg)
 END_MESSAGE_MAP()
 
 CWizardPage::CWizardPage(CPreferencesWizard* owner, UINT pageId, CSize scrollSize, UINT templateId)
-    : CResizableDlg(templateId, nullptr, false, ov::DesignWidth, ov::DesignHeight), m_templateId(templateId),
-      m_pageId(pageId), m_owner(owner), m_contentSize(scrollSize), m_scroller(*this, scrollSize)
+    : CResizableDlg(templateId, nullptr, false, ov::kDesignWidth, ov::kDesignHeight),
+      m_templateId(templateId), m_pageId(pageId), m_owner(owner), m_contentSize(scrollSize),
+      m_scroller(*this, scrollSize)
 {
 }
 
@@ -56,7 +57,7 @@ void CWizardPage::OnTemplateLayout()
 {
     CResizableDlg::OnTemplateLayout();
     const ov::Size content = ov::SizeInUnits({m_contentSize.cx, m_contentSize.cy}, Units());
-    const CSize needed = Units() != ov::UsualUnits ? NeededSize() : CSize();
+    const CSize needed = Units() != ov::kUsualUnits ? NeededSize() : CSize();
     m_scroller.SetDisplaySize(CSize(content.width, content.height), needed);
 }
 

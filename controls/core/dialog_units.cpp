@@ -32,7 +32,7 @@ std::int32_t Grown(std::int32_t length, std::int32_t unit, std::int32_t usualUni
 
 std::int32_t PixelsAt(std::int32_t length, std::int32_t resolution)
 {
-    return Scale(length, resolution, UsualResolution);
+    return Scale(length, resolution, kUsualResolution);
 }
 
 Rect EdgesInPixels(const Rect& edges, const Size& units)
@@ -52,8 +52,8 @@ Rect ControlInPixels(const Rect& control, const Size& units)
 
 Size SizeInUnits(const Size& size, const Size& units)
 {
-    return {Grown(size.width, units.width, UsualUnits.width),
-            Grown(size.height, units.height, UsualUnits.height)};
+    return {Grown(size.width, units.width, kUsualUnits.width),
+            Grown(size.height, units.height, kUsualUnits.height)};
 }
 
 std::int32_t FontHeightAt(std::int32_t height, std::int32_t resolution, std::int32_t newResolution)

@@ -11,12 +11,12 @@ namespace ov
 {
 
 /// The usual resolution. Sizes in pixels in the source code refer to it.
-inline constexpr std::int32_t UsualResolution = 96;
+inline constexpr std::int32_t kUsualResolution = 96;
 
 /// The size in pixels of four horizontal and eight vertical dialog units, which
 /// depends on the dialog's font. This is the value for the program's dialogs at
 /// the usual resolution.
-inline constexpr Size UsualUnits{6, 13};
+inline constexpr Size kUsualUnits{6, 13};
 
 /// Converts a length in pixels at the usual resolution to pixels at another one.
 std::int32_t PixelsAt(std::int32_t length, std::int32_t resolution);

@@ -103,7 +103,7 @@ std::int32_t ColumnWidth(std::int32_t listWidth, std::int32_t columns)
 
 Rect GripRect(std::int32_t clientWidth, std::int32_t clientHeight)
 {
-    return {clientWidth - GripSize, clientHeight - GripSize, clientWidth, clientHeight};
+    return {clientWidth - kGripSize, clientHeight - kGripSize, clientWidth, clientHeight};
 }
 
 std::optional<Size> MinimumTrackSize(std::uint32_t designWidth, std::uint32_t designHeight, const Size& units,

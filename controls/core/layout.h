@@ -9,7 +9,8 @@
 namespace ov
 {
 
-/// How a control follows its dialog's size. Flags can be combined.
+/// How a control follows its dialog's size. Flags can be combined. The design defines all of them; the
+/// program's own dialogs use none of the proportional ones (Scale...).
 inline constexpr std::uint32_t LayoutKeepLeft = 0x001;      ///< fixed horizontal position and width
 inline constexpr std::uint32_t LayoutKeepTop = 0x002;       ///< fixed top edge
 inline constexpr std::uint32_t LayoutAnchorRight = 0x004;   ///< follows the right edge, width kept
@@ -26,7 +27,7 @@ inline constexpr std::uint32_t LayoutScaleWidthFromRight = 0x400; ///< scaled wi
 struct CDlgControlInfo {
     Rect initialRect;            ///< its rectangle when captured
     std::uint16_t controlId = 0; ///< dialog control id
-    std::uint16_t reserved = 0;  ///< stored but not used
+    std::uint16_t reserved = 0;  ///< part of the design's record; nothing uses it
     std::uint32_t layoutFlags = 0;
     std::int32_t left = 0;         ///< initial left edge
     std::int32_t rightMargin = 0;  ///< client width minus initial right edge
@@ -49,7 +50,7 @@ Rect PlaceControl(const CDlgControlInfo& info, std::uint32_t designWidth, std::u
 std::int32_t ColumnWidth(std::int32_t listWidth, std::int32_t columns);
 
 /// Side of the square size grip, in pixels.
-inline constexpr std::int32_t GripSize = 11;
+inline constexpr std::int32_t kGripSize = 11;
 
 /// The size grip's rectangle in the bottom-right corner of the client area.
 Rect GripRect(std::int32_t clientWidth, std::int32_t clientHeight);
@@ -62,8 +63,8 @@ std::optional<Size> MinimumTrackSize(std::uint32_t designWidth, std::uint32_t de
 
 /// The design size of every dialog of the program, in pixels at the usual
 /// resolution.
-inline constexpr std::uint32_t DesignWidth = 580;
-inline constexpr std::uint32_t DesignHeight = 400;
+inline constexpr std::uint32_t kDesignWidth = 580;
+inline constexpr std::uint32_t kDesignHeight = 400;
 
 /// The operations on a dialog's controls that the layout needs.
 class LayoutControls

@@ -52,7 +52,7 @@ struct TooltipSide {
 TooltipSide ChooseTooltipSide(Size body, Point anchor);
 
 /// The corner ellipse of a rounded body, in pixels.
-inline constexpr Size TooltipCorner{12, 10};
+inline constexpr Size kTooltipCorner{12, 10};
 
 /// The outline in window coordinates.
 struct TooltipOutline {

@@ -81,7 +81,7 @@ void ProgramTest::MakeDialog(const std::wstring& defaultPath, const std::wstring
     theCommandLine.m_userName = u"Tester";
     dialog = std::make_unique<CPreferencesWizard>(nullptr, theApp.DialogSetup());
     theApp.m_pMainWnd = dialog.get();
-    theTooltip.Create(dialog.get(), TooltipBalloon, 8, nullptr);
+    theTooltip.Create(dialog.get(), kTooltipBalloon, 8, nullptr);
 }
 
 void ProgramTest::ShowDialog()

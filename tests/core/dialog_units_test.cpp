@@ -44,7 +44,7 @@ TEST(DialogUnits, AControlsSizeDoesNotDependOnItsPlace)
 
 TEST(DialogUnits, SizesInPixelsAreThoseOfTheUsualUnits)
 {
-    EXPECT_EQ(SizeInUnits({290, 750}, UsualUnits), (Size{290, 750}));
+    EXPECT_EQ(SizeInUnits({290, 750}, kUsualUnits), (Size{290, 750}));
 }
 
 TEST(DialogUnits, SizesGrowWithTheUnitsAndAreRoundedUp)

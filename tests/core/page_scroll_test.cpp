@@ -222,9 +222,9 @@ TEST(PageScrollWheel, PartsOfANotchDoNotCount)
 
 TEST(PageScrollWheel, PageSettingScrollsOnePageWhateverTheMovement)
 {
-    EXPECT_EQ(StepsOfWheel(-1200, WheelScrollsPage), (WheelSteps{ScrollRequest::PageForward, 1}));
-    EXPECT_EQ(StepsOfWheel(120, WheelScrollsPage), (WheelSteps{ScrollRequest::PageBack, 1}));
-    EXPECT_EQ(StepsOfWheel(0, WheelScrollsPage), (WheelSteps{ScrollRequest::PageForward, 1}));
+    EXPECT_EQ(StepsOfWheel(-1200, kWheelScrollsPage), (WheelSteps{ScrollRequest::PageForward, 1}));
+    EXPECT_EQ(StepsOfWheel(120, kWheelScrollsPage), (WheelSteps{ScrollRequest::PageBack, 1}));
+    EXPECT_EQ(StepsOfWheel(0, kWheelScrollsPage), (WheelSteps{ScrollRequest::PageForward, 1}));
 }
 
 TEST(PageScrollResize, ScrolledAxisReturnsToItsOrigin)

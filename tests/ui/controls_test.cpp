@@ -313,7 +313,7 @@ class Tooltip : public ::testing::Test
     void SetUp() override
     {
         ASSERT_TRUE(dialog.Open());
-        ASSERT_TRUE(tip.Create(&dialog, TooltipBalloon, 8, nullptr));
+        ASSERT_TRUE(tip.Create(&dialog, kTooltipBalloon, 8, nullptr));
     }
     void TearDown() override
     {
@@ -340,7 +340,7 @@ TEST_F(Tooltip, WindowNeedsNoOwnersWindow)
 {
     CToolTipControl other;
     LayoutDialog notOpened;
-    ASSERT_TRUE(other.Create(&notOpened, TooltipBalloon, 8, nullptr));
+    ASSERT_TRUE(other.Create(&notOpened, kTooltipBalloon, 8, nullptr));
     EXPECT_FALSE(other.IsWindowVisible());
     other.DestroyWindow();
 }
@@ -429,7 +429,7 @@ TEST(TooltipProvider, IsAskedWhenTheRegisteredTextIsEmpty)
     ASSERT_TRUE(dialog.Open());
     Provider provider;
     CToolTipControl tip;
-    ASSERT_TRUE(tip.Create(&dialog, TooltipBalloon, 8, &provider));
+    ASSERT_TRUE(tip.Create(&dialog, kTooltipBalloon, 8, &provider));
     const CWnd* control = dialog.GetDlgItem(1258);
     tip.RegisterControl(control, u"<T>OWN");
     EXPECT_EQ(tip.GetVariableName(control), u"OWN");

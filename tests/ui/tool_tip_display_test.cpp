@@ -145,7 +145,7 @@ class TooltipDisplay : public ::testing::Test
     void SetUp() override
     {
         ASSERT_TRUE(parent.CreateEx(0, L"STATIC", L"", WS_POPUP, CRect(0, 0, 10, 10), nullptr, 0));
-        Make(TooltipBalloon);
+        Make(kTooltipBalloon);
     }
     void TearDown() override
     {
@@ -239,24 +239,24 @@ TEST_F(TooltipDisplay, TailPointsAtTheAnchorInEveryPlacement)
 
 TEST_F(TooltipDisplay, FrameIsLightOutsideAndDarkBesideIt)
 {
-    for (const UINT style : {TooltipBalloon, TooltipRoundedRectangle}) {
+    for (const UINT style : {kTooltipBalloon, kTooltipRoundedRectangle}) {
         Make(style);
         tip.ShowAt(bottomRight);
         const Picture picture(tip);
         const int middle = tip.m_outline.body.Height() / 2;
-        EXPECT_EQ(picture.At(0, middle), TooltipLightFrameColour);
-        EXPECT_EQ(picture.At(1, middle), TooltipDarkFrameColour);
-        EXPECT_EQ(picture.At(2, middle), TooltipFillColour);
+        EXPECT_EQ(picture.At(0, middle), kTooltipLightFrameColour);
+        EXPECT_EQ(picture.At(1, middle), kTooltipDarkFrameColour);
+        EXPECT_EQ(picture.At(2, middle), kTooltipFillColour);
         const int column = tip.m_outline.body.Width() / 2;
-        EXPECT_EQ(picture.At(column, 0), TooltipLightFrameColour);
-        EXPECT_EQ(picture.At(column, 1), TooltipFillColour);
+        EXPECT_EQ(picture.At(column, 0), kTooltipLightFrameColour);
+        EXPECT_EQ(picture.At(column, 1), kTooltipFillColour);
         EXPECT_EQ(picture.At(0, 0), background) << "corners are round";
     }
 }
 
 TEST_F(TooltipDisplay, RoundedRectangleHasNoTail)
 {
-    Make(TooltipRoundedRectangle);
+    Make(kTooltipRoundedRectangle);
     for (const CPoint anchor : {topLeft, topRight, bottomLeft, bottomRight}) {
         tip.ShowAt(anchor);
         const CRect rect = tip.WindowRect();
@@ -268,27 +268,27 @@ TEST_F(TooltipDisplay, RoundedRectangleHasNoTail)
 
 TEST_F(TooltipDisplay, RectangleHasAnEdgeInTwoColours)
 {
-    Make(TooltipRectangle);
+    Make(kTooltipRectangle);
     tip.ShowAt(bottomRight);
     const Picture picture(tip);
     const int right = picture.Width() - 1;
     const int bottom = picture.Height() - 1;
-    EXPECT_EQ(picture.At(0, 0), TooltipLightFrameColour);
-    EXPECT_EQ(picture.At(0, bottom - 1), TooltipLightFrameColour);
-    EXPECT_EQ(picture.At(right - 1, 0), TooltipLightFrameColour);
-    EXPECT_EQ(picture.At(right, 0), TooltipDarkFrameColour);
-    EXPECT_EQ(picture.At(0, bottom), TooltipDarkFrameColour);
-    EXPECT_EQ(picture.At(right, bottom), TooltipDarkFrameColour);
+    EXPECT_EQ(picture.At(0, 0), kTooltipLightFrameColour);
+    EXPECT_EQ(picture.At(0, bottom - 1), kTooltipLightFrameColour);
+    EXPECT_EQ(picture.At(right - 1, 0), kTooltipLightFrameColour);
+    EXPECT_EQ(picture.At(right, 0), kTooltipDarkFrameColour);
+    EXPECT_EQ(picture.At(0, bottom), kTooltipDarkFrameColour);
+    EXPECT_EQ(picture.At(right, bottom), kTooltipDarkFrameColour);
     // Inside it is the edge in the system's colours.
     EXPECT_EQ(picture.At(1, 5), ::GetSysColor(COLOR_3DHILIGHT));
     EXPECT_EQ(picture.At(right - 1, 5), ::GetSysColor(COLOR_3DSHADOW));
-    EXPECT_EQ(picture.At(2, 5), TooltipFillColour);
+    EXPECT_EQ(picture.At(2, 5), kTooltipFillColour);
 }
 
 TEST_F(TooltipDisplay, SectionsStandBelowEachOtherInTheirColours)
 {
-    constexpr std::array<COLORREF, 3> colours{TooltipHeadingColour, TooltipVariableColour,
-                                              TooltipDescriptionColour};
+    constexpr std::array<COLORREF, 3> colours{kTooltipHeadingColour, kTooltipVariableColour,
+                                              kTooltipDescriptionColour};
     for (const CPoint anchor : {topLeft, bottomRight}) {
         tip.ShowAt(anchor);
         const Picture picture(tip);
@@ -307,7 +307,7 @@ TEST_F(TooltipDisplay, SectionsStandBelowEachOtherInTheirColours)
             }
             // Three background pixels separate it from the next part.
             const CRect gap(12, band.bottom, picture.Width() - 12, band.bottom + 3);
-            EXPECT_EQ(picture.Count(TooltipFillColour, gap), gap.Width() * gap.Height()) << section;
+            EXPECT_EQ(picture.Count(kTooltipFillColour, gap), gap.Width() * gap.Height()) << section;
             top = gap.bottom;
         }
         EXPECT_EQ(tip.m_outline.body.Height(), heading + variable + 2 * description + 3 * 3 + 2 * 10);
@@ -321,10 +321,10 @@ TEST_F(TooltipDisplay, SubHeadingsLookLikeTheVariable)
     const Picture picture(tip);
     const int line = HeightOfText(14, FW_NORMAL, true);
     const CRect first(12, 10, picture.Width() - 12, 10 + line);
-    EXPECT_GT(picture.Count(TooltipVariableColour, first), 5);
+    EXPECT_GT(picture.Count(kTooltipVariableColour, first), 5);
     CRect second = first;
     second.OffsetRect(0, line + 3);
-    EXPECT_GT(picture.Count(TooltipDescriptionColour, second), 5);
+    EXPECT_GT(picture.Count(kTooltipDescriptionColour, second), 5);
     EXPECT_EQ(tip.m_outline.body.Height(), 2 * (line + 3) + 2 * 14 + 2 * 10);
 }
 
@@ -344,11 +344,11 @@ TEST_F(TooltipDisplay, VariableAloneIsUnderlined)
         }
         return std::pair(longest, picture.Width() - 24);
     };
-    const auto [variable, variableWidth] = longestRun(u"<T>iiiiiiii", TooltipVariableColour);
+    const auto [variable, variableWidth] = longestRun(u"<T>iiiiiiii", kTooltipVariableColour);
     EXPECT_EQ(variable, variableWidth);
-    const auto [heading, headingWidth] = longestRun(u"<H>iiiiiiii", TooltipHeadingColour);
+    const auto [heading, headingWidth] = longestRun(u"<H>iiiiiiii", kTooltipHeadingColour);
     EXPECT_LT(heading, headingWidth / 2);
-    const auto [description, descriptionWidth] = longestRun(u"<D>iiiiiiii", TooltipDescriptionColour);
+    const auto [description, descriptionWidth] = longestRun(u"<D>iiiiiiii", kTooltipDescriptionColour);
     EXPECT_LT(description, descriptionWidth / 2);
 }
 
@@ -386,7 +386,7 @@ TEST_F(TooltipDisplay, FontFollowsTheParents)
     EXPECT_EQ(tip.m_outline.body.Height(), HeightOfText(30, FW_BOLD, false) + 30 / 3 + 2 * 10);
     // The next window uses the font of its own parent.
     parent.SendMessage(WM_SETFONT, 0, FALSE);
-    Make(TooltipBalloon);
+    Make(kTooltipBalloon);
     tip.m_currentText = u"<H>Heading";
     tip.ShowAt(bottomRight);
     EXPECT_EQ(tip.m_outline.body.Height(), HeightOfText(14, FW_BOLD, false) + 3 + 2 * 10);
@@ -412,7 +412,7 @@ TEST_F(TooltipDisplay, ApplicationsIconStandsBesideTheText)
         EXPECT_NE(picture.At(10 + iconWidth, 12 + down), iconColour);
         EXPECT_NE(picture.At(12, 9 + down), iconColour);
         const CRect text(12 + iconWidth + 2, 10 + down, picture.Width() - 12, 30 + down);
-        EXPECT_GT(picture.Count(TooltipHeadingColour, text), 5);
+        EXPECT_GT(picture.Count(kTooltipHeadingColour, text), 5);
     }
     applicationIcon = nullptr;
     ::DestroyIcon(icon);
@@ -552,7 +552,7 @@ TEST_F(TooltipTimers, DestroyingTheShownWindowEndsItAll)
     tip.DestroyWindow();
     const uidriver::Resources gone = uidriver::MeasureResources();
     EXPECT_LE(gone.gdiObjects + 3, shown.gdiObjects) << "the three fonts go with it";
-    ASSERT_TRUE(tip.Create(&parent, TooltipBalloon, 8, nullptr));
+    ASSERT_TRUE(tip.Create(&parent, kTooltipBalloon, 8, nullptr));
     EXPECT_FALSE(tip.m_pending);
     EXPECT_TRUE(tip.m_currentText.empty());
     EXPECT_FALSE(IsRunning(ShownTooltip::watchTimer));

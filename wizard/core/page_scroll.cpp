@@ -19,9 +19,9 @@ std::int32_t RequestedStep(const ScrollAxis& axis, ScrollRequest request, std::i
 {
     switch (request) {
     case ScrollRequest::LineBack:
-        return -ScrollLineStep;
+        return -kScrollLineStep;
     case ScrollRequest::LineForward:
-        return ScrollLineStep;
+        return kScrollLineStep;
     case ScrollRequest::PageBack:
         return -axis.pageSize;
     case ScrollRequest::PageForward:
@@ -94,7 +94,7 @@ std::int32_t ResetAxis(ScrollAxis& axis)
 WheelSteps StepsOfWheel(std::int32_t delta, std::uint32_t linesPerNotch)
 {
     const bool forward = delta <= 0;
-    if (linesPerNotch == WheelScrollsPage)
+    if (linesPerNotch == kWheelScrollsPage)
         return {forward ? ScrollRequest::PageForward : ScrollRequest::PageBack, 1};
     const auto notches = static_cast<std::uint64_t>(std::abs(std::int64_t{delta}) / kWheelNotch);
     const std::uint64_t lines = notches * linesPerNotch;

@@ -6,10 +6,10 @@ namespace ov
 {
 
 /// The pixels of one line step.
-inline constexpr std::int32_t ScrollLineStep = 60;
+inline constexpr std::int32_t kScrollLineStep = 60;
 
 /// With this wheel setting one notch scrolls a whole page.
-inline constexpr std::uint32_t WheelScrollsPage = 0xFFFFFFFF;
+inline constexpr std::uint32_t kWheelScrollsPage = 0xFFFFFFFF;
 
 /// One direction of a scrolled page, in pixels.
 struct ScrollAxis {
