@@ -1,11 +1,14 @@
 #include "host/host_output.h"
 
+#include "framework/wide.h"
+#include "host/host_texts.h"
+#include "resources/ids.h"
+
 #include <windows.h>
+#include <string>
 
 namespace
 {
-
-constexpr const wchar_t* Caption = L"Orthoval Preferences";
 
 // Writes UTF-8 to files and pipes, and UTF-16 characters to a console.
 bool WriteTo(DWORD stream, const std::wstring& text)
@@ -25,10 +28,10 @@ bool WriteTo(DWORD stream, const std::wstring& text)
     return WriteFile(output, bytes.data(), static_cast<DWORD>(size), &written, nullptr) != 0;
 }
 
-void Show(DWORD stream, UINT icon, const std::wstring& text)
+void Show(DWORD stream, UINT icon, const ov::Text& text)
 {
-    if (!WriteTo(stream, text))
-        MessageBoxW(nullptr, text.c_str(), Caption, MB_OK | icon | MB_SETFOREGROUND);
+    if (!WriteTo(stream, Wide(text)))
+        MessageBoxW(nullptr, Wide(text), Wide(HostText(IDS_HOST_CAPTION)), MB_OK | icon | MB_SETFOREGROUND);
 }
 
 } // namespace
@@ -41,12 +44,12 @@ void DropOwnConsole()
         FreeConsole();
 }
 
-void ShowText(const std::wstring& text)
+void ShowText(const ov::Text& text)
 {
     Show(STD_OUTPUT_HANDLE, MB_ICONINFORMATION, text);
 }
 
-void ShowError(const std::wstring& text)
+void ShowError(const ov::Text& text)
 {
     Show(STD_ERROR_HANDLE, MB_ICONWARNING, text);
 }

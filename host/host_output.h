@@ -2,7 +2,7 @@
 /// otherwise into a message box.
 #pragma once
 
-#include <string>
+#include "base/text.h"
 
 /// Detaches from a console that Windows opened for this process alone, as it does
 /// when the launcher is started from a folder or a shortcut: the user asked for the
@@ -10,7 +10,7 @@
 void DropOwnConsole();
 
 /// Shows text that the user asked for (stdout, or an information box).
-void ShowText(const std::wstring& text);
+void ShowText(const ov::Text& text);
 
 /// Shows an error (stderr, or a message box with the warning icon).
-void ShowError(const std::wstring& text);
+void ShowError(const ov::Text& text);

@@ -1,129 +1,69 @@
 // ovPreferencesHost opens the Preferences dialog from a command line. It is a
 // console program, so that scripts wait for it and see its output and exit code.
 #include "app/cmd_line_info.h"
-#include "base/placeholders.h"
 #include "framework/wide.h"
+#include "host/administrator.h"
 #include "host/host_output.h"
-#include "include/ovPreferences.h"
+#include "host/host_texts.h"
+#include "host/library.h"
+#include "launch/core/exit_code.h"
+#include "launch/core/launch_call.h"
 #include "resources/ids.h"
 #include "version/version.h"
 
 #include <clocale>
-#include <cwchar>
+#include <vector>
 
 namespace
 {
 
-// Exit code of the launcher itself; all others are results of the library.
-constexpr int ExitNotStarted = 2;
-
-constexpr const wchar_t* Usage =
-    L"usage: ovPreferencesHost [DEFAULT:path] [CURRENT:path] [USER:name]\n"
-    L"       ovPreferencesHost defaults-path [current-path [user-name]]\n"
-    L"\n"
-    L"Opens the Orthoval Preferences dialog on a configuration file.\n"
-    L"\n"
-    L"  DEFAULT:path  the configuration file with the default values\n"
-    L"  CURRENT:path  the configuration file to be edited\n"
-    L"  USER:name     the name for the saved file's header; else the Windows user\n"
-    L"  --help        show this text\n"
-    L"  --version     show the version\n"
-    L"\n"
-    L"A single path is both the defaults and the file to be edited.\n"
-    L"Exit code: 0 the dialog was shown, 1 it could not be set up,\n"
-    L"2 wrong option, or ovPreferences.dll is missing or not the right one.";
-
-// The path of the library in this program's folder; no other folder is searched.
-std::wstring LibraryPath()
-{
-    std::wstring path(MAX_PATH, L'\0');
-    for (;;) {
-        const DWORD length = GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
-        if (length < path.size()) {
-            path.resize(length);
-            break;
-        }
-        path.resize(path.size() * 2);
-    }
-    path.resize(path.find_last_of(L"\\/") + 1);
-    return path + OV_PREFERENCES_LIBRARY;
-}
-
-std::wstring SystemText(DWORD error)
-{
-    wchar_t text[512] = {};
-    FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr, error, 0, text,
-                   static_cast<DWORD>(std::size(text)), nullptr);
-    std::wstring result = text;
-    result.erase(result.find_last_not_of(L" \r\n") + 1);
-    return result;
-}
-
-// A leading "-" or "/" makes a parameter a switch.
-bool IsSwitch(const wchar_t* text)
-{
-    return *text == L'-' || *text == L'/';
-}
-
 // True if CCmdLineInfo knows the switch: passed together with its value, it changes
 // one of the texts.
-bool IsKnownSwitch(const wchar_t* text)
+bool IsKnownSwitch(const ov::Text& text)
 {
-    if (std::wcsncmp(text, L"--", 2) == 0)
+    if (text.starts_with(u"--"))
         return false;
     const ov::Text before(1, u'\0'); // a value that no parameter can have
     CCmdLineInfo info;
     info.m_defaultPath = info.m_currentPath = info.m_userName = before;
-    info.ParseParam(text + 1, TRUE, FALSE);
+    info.ParseParam(Wide(text) + 1, TRUE, FALSE);
     return info.m_defaultPath != before || info.m_currentPath != before || info.m_userName != before;
 }
 
-// Passes the parameters on; switches lose their first character.
-void Parse(CCmdLineInfo& info, int count, wchar_t** texts)
+// Passes the parameters of the call on; switches lose their first character.
+void Parse(CCmdLineInfo& info, const std::vector<ov::Text>& parameters, const ov::LaunchCall& call)
 {
-    for (int index = 1; index < count; ++index) {
-        const wchar_t* text = texts[index];
-        const bool isFlag = IsSwitch(text);
-        info.ParseParam(isFlag ? text + 1 : text, isFlag, index + 1 == count);
+    for (const std::size_t index : call.rest) {
+        const ov::Text& text = parameters[index];
+        const bool isFlag = ov::IsSwitch(text);
+        info.ParseParam(Wide(text) + (isFlag ? 1 : 0), isFlag, index == call.rest.back());
     }
 }
 
-const wchar_t* NullIfEmpty(const ov::Text& text)
+// Shows the text that the first of these options requests. False if there is none.
+bool ShowInformation(const std::vector<ov::Text>& parameters)
 {
-    return text.empty() ? nullptr : Wide(text);
+    for (const ov::Text& text : parameters) {
+        if (text == u"--help" || text == u"/?") {
+            ShowText(HostText(IDS_HOST_USAGE));
+            return true;
+        }
+        if (text == u"--version") {
+            ShowText(u"ovPreferencesHost " + ov::TextFromUtf8(ov::VersionWithRevision()));
+            return true;
+        }
+        if (ov::IsSwitch(text) && !ov::IsLaunchOption(text) && !IsKnownSwitch(text))
+            return false;
+    }
+    return false;
 }
 
-// A string resource of the program with "%1" and "%2" replaced.
-std::wstring Message(UINT id, const std::wstring& first, const std::wstring& second)
+int RefuseOption(const ov::Text& option)
 {
-    const wchar_t* resource = nullptr;
-    const int length = LoadStringW(GetModuleHandleW(nullptr), id, reinterpret_cast<wchar_t*>(&resource), 0);
-    const ov::Text pattern = FromWide({resource, static_cast<size_t>(length)});
-    return Wide(ov::FillPlaces(pattern, {FromWide(first), FromWide(second)}));
-}
-
-int ShowDialog(const CCmdLineInfo& info)
-{
-    const std::wstring path = LibraryPath();
-    HMODULE library = LoadLibraryExW(path.c_str(), nullptr, LOAD_WITH_ALTERED_SEARCH_PATH);
-    if (!library) {
-        const DWORD error = GetLastError();
-        const bool isMissing = error == ERROR_MOD_NOT_FOUND || error == ERROR_FILE_NOT_FOUND;
-        ShowError(Message(isMissing ? IDS_HOST_LIBRARY_MISSING : IDS_HOST_LIBRARY_DAMAGED, path,
-                          SystemText(error)));
-        return ExitNotStarted;
-    }
-    const auto showDialog = reinterpret_cast<ovPreferences_showDialogEx_t>(
-        reinterpret_cast<void*>(GetProcAddress(library, OV_PREFERENCES_SHOW_DIALOG_EX_NAME)));
-    if (!showDialog) {
-        ShowError(Message(IDS_HOST_EXPORT_MISSING, path, L"" OV_PREFERENCES_SHOW_DIALOG_EX_NAME));
-        FreeLibrary(library);
-        return ExitNotStarted;
-    }
-    const unsigned result = showDialog(nullptr, NullIfEmpty(info.m_defaultPath),
-                                       NullIfEmpty(info.m_currentPath), NullIfEmpty(info.m_userName));
-    FreeLibrary(library);
-    return static_cast<int>(result);
+    const unsigned id =
+        ov::IsLaunchOption(option) ? IDS_HOST_OPTION_FOR_ADMINISTRATORS : IDS_HOST_UNKNOWN_OPTION;
+    ShowError(HostText(id, {option}) + u"\n\n" + HostText(IDS_HOST_USAGE));
+    return ov::kExitNotStarted;
 }
 
 } // namespace
@@ -131,28 +71,24 @@ int ShowDialog(const CCmdLineInfo& info)
 int wmain(int count, wchar_t** texts)
 {
     DropOwnConsole();
-    for (int index = 1; index < count; ++index) {
-        const wchar_t* text = texts[index];
-        if (std::wcscmp(text, L"--help") == 0 || std::wcscmp(text, L"/?") == 0) {
-            ShowText(Usage);
-            return 0;
-        }
-        if (std::wcscmp(text, L"--version") == 0) {
-            const ov::Text version = ov::TextFromUtf8(ov::VersionWithRevision());
-            ShowText(std::wstring(L"ovPreferencesHost ") + Wide(version));
-            return 0;
-        }
-        if (IsSwitch(text) && !IsKnownSwitch(text)) {
-            ShowError(std::wstring(L"Unknown option: ") + text + L"\n\n" + Usage);
-            return ExitNotStarted;
-        }
-    }
+    std::vector<ov::Text> parameters;
+    for (int index = 1; index < count; ++index)
+        parameters.push_back(FromWide(texts[index]));
+    if (ShowInformation(parameters))
+        return 0;
+    const ov::LaunchCall call = ov::ReadLaunchCall(parameters, &IsKnownSwitch);
+    if (call.wrong)
+        return RefuseOption(parameters[*call.wrong]);
     // The library converts the file's bytes with the C locale of the process, which the
     // host has to set. The host is this program. In the default locale "C" each byte
     // would become the character with the same number, whatever the code page of the
     // system is.
     std::setlocale(LC_CTYPE, "");
     CCmdLineInfo info;
-    Parse(info, count, texts);
-    return ShowDialog(info);
+    Parse(info, parameters, call);
+    if (!call.isAdministrators)
+        return ShowDialog(info.m_defaultPath, info.m_currentPath, info.m_userName);
+    if (call.noQuestions)
+        return ShowDialog(call.givesDefaults ? info.m_defaultPath : call.path, call.path, info.m_userName);
+    return OpenForAdministrator(call, info.m_defaultPath, info.m_userName);
 }

@@ -56,7 +56,7 @@ context_menu_is_added() {
     # shellcheck disable=SC2016
     diff <(printf '%s\n' '@="Edit with Orthoval Preferences"' \
         '"Icon"="C:\\Program Files\\Orthoval Preferences\\bin\\ovPreferencesHost.exe"' \
-        '@="\"C:\\Program Files\\Orthoval Preferences\\bin\\ovPreferencesHost.exe\" \"CURRENT:%1\""') \
+        '@="\"C:\\Program Files\\Orthoval Preferences\\bin\\ovPreferencesHost.exe\" \"%1\""') \
         <(grep '^[@"]' "$folder/menu") && ! registry 'HKLM\Software\Classes\.cfg'
 }
 
