@@ -266,6 +266,21 @@ TEST_F(DataExchange, RefusedValueMakesItFalse)
     EXPECT_TRUE(m_dialog.UpdateData());
 }
 
+TEST_F(DataExchange, RefusedValueOfAHiddenControlLeavesTheFocusWhereItIs)
+{
+    m_dialog.ShowWindow(SW_SHOW);
+    const HWND check = ::GetDlgItem(m_dialog, IDC_FIELDS_CHECK);
+    ::SetFocus(check);
+    ASSERT_EQ(check, ::GetFocus());
+    m_dialog.m_edit.ShowWindow(SW_HIDE);
+    m_dialog.m_during = [](CDataExchange* exchange) {
+        exchange->PrepareEditCtrl(IDC_FIELDS_EDIT);
+        exchange->Fail();
+    };
+    EXPECT_FALSE(m_dialog.UpdateData());
+    EXPECT_EQ(check, ::GetFocus());
+}
+
 TEST_F(DataExchange, MissingControlIsAnError)
 {
     CDataExchange exchange(&m_dialog, TRUE);
