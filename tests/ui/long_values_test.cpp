@@ -26,6 +26,22 @@ class LongValuesTest : public DialogSession
         path.resize(length);
         return path;
     }
+
+    /// The processor time of this process in milliseconds. Unlike a clock, it does not
+    /// depend on what else the machine does.
+    static ULONGLONG ProcessorTime()
+    {
+        constexpr ULONGLONG unitsPerMillisecond = 10000;
+        FILETIME creation = {};
+        FILETIME exit = {};
+        FILETIME kernel = {};
+        FILETIME user = {};
+        EXPECT_TRUE(GetProcessTimes(GetCurrentProcess(), &creation, &exit, &kernel, &user));
+        const auto units = [](FILETIME time) {
+            return ULONGLONG{time.dwHighDateTime} << 32 | time.dwLowDateTime;
+        };
+        return (units(kernel) + units(user)) / unitsPerMillisecond;
+    }
 };
 
 TEST_F(LongValuesTest, FiveThousandEntriesOpenWithinASecond)
@@ -38,11 +54,11 @@ TEST_F(LongValuesTest, FiveThousandEntriesOpenWithinASecond)
     ASSERT_TRUE(Open());
     ASSERT_TRUE(ShowPage(L"Conforming"));
     ASSERT_EQ(Wide(value), PageText(IDC_CONFORMING_IGNORED_LEVELS));
-    const ULONGLONG begin = GetTickCount64();
+    const ULONGLONG begin = ProcessorTime();
     HWND editor = OpenValueEditor(PageControl(IDC_CONFORMING_IGNORED_LEVELS_BROWSE));
     ASSERT_TRUE(editor);
     EXPECT_TRUE(Settle(editor));
-    EXPECT_LT(GetTickCount64() - begin, 1000u);
+    EXPECT_LT(ProcessorTime() - begin, 1000u);
     EXPECT_EQ(entries, Send(GetDlgItem(editor, IDC_CONFIG_SETTING_LIST), LVM_GETITEMCOUNT));
     CloseValueEditor(editor, IDOK);
     EXPECT_EQ(Wide(value), PageText(IDC_CONFORMING_IGNORED_LEVELS));
