@@ -97,30 +97,45 @@ class CopyWriter
 
     CopyResult Finish(FileHandle file)
     {
-        CopyResult result = Fill(file);
-        if (result.outcome != CopyOutcome::Made)
+        try {
+            CopyResult result = Complete(file);
+            if (result.outcome != CopyOutcome::Made)
+                m_ports.files.Remove(m_part);
+            return result;
+        } catch (...) {
             m_ports.files.Remove(m_part);
-        return result;
+            throw;
+        }
     }
 
-    CopyResult Fill(FileHandle file)
+    CopyResult Complete(FileHandle file)
     {
-        FileResult step = m_ports.files.Write(file, m_content);
-        if (step)
-            step = m_ports.files.Flush(file);
-        FileResult closing = m_ports.files.Close(file);
-        if (step)
-            step = std::move(closing);
-        if (!step)
-            return {CopyOutcome::WriteFailed, {}, std::move(step.systemText)};
+        if (FileResult filling = Fill(file); !filling)
+            return {CopyOutcome::WriteFailed, {}, std::move(filling.systemText)};
         if (CompareContent(m_ports.files, m_part, m_content) != ContentMatch::Same)
             return {CopyOutcome::NotVerified, {}, {}};
         // A rename may report a failure although it was done, for example over a network.
-        step = m_ports.files.Rename(m_part, m_path);
-        if (!step && (m_ports.files.Kind(m_part) != FileKind::Absent ||
-                      CompareContent(m_ports.files, m_path, m_content) != ContentMatch::Same))
-            return {CopyOutcome::WriteFailed, {}, std::move(step.systemText)};
+        FileResult renaming = m_ports.files.Rename(m_part, m_path);
+        if (!renaming && (m_ports.files.Kind(m_part) != FileKind::Absent ||
+                          CompareContent(m_ports.files, m_path, m_content) != ContentMatch::Same))
+            return {CopyOutcome::WriteFailed, {}, std::move(renaming.systemText)};
         return {CopyOutcome::Made, m_path, {}};
+    }
+
+    // Writes, flushes and closes; the file is closed in every case.
+    FileResult Fill(FileHandle file)
+    {
+        FileResult writing;
+        try {
+            writing = m_ports.files.Write(file, m_content);
+            if (writing)
+                writing = m_ports.files.Flush(file);
+        } catch (...) {
+            m_ports.files.Close(file);
+            throw;
+        }
+        FileResult closing = m_ports.files.Close(file);
+        return writing ? std::move(closing) : std::move(writing);
     }
 
     const CopyNames& m_names;

@@ -7,6 +7,7 @@
 #include "launch/core/path_parts.h"
 
 #include <algorithm>
+#include <chrono>
 #include <string>
 #include <vector>
 
@@ -34,26 +35,42 @@ FileJudgement Unfinished(UnfinishedSign sign, std::size_t lacking = 0)
     return {Completeness::Unfinished, sign, lacking};
 }
 
-// A variable of a file, with the values of its lines in order.
-struct VariableLine {
+// A variable of a file.
+struct WrittenVariable {
     Text name;
-    bool isList = false;
+    bool isList = false; // It has several lines.
 };
 
 // The variables in the order of their first lines.
-std::vector<VariableLine> VariablesOf(const InspectedFile& file)
+std::vector<WrittenVariable> VariablesOf(const InspectedFile& file)
 {
-    std::vector<VariableLine> variables;
+    std::vector<WrittenVariable> variables;
     for (const InspectedFile::Variable& variable : file.Variables())
         variables.push_back({file.Decode(variable.name), variable.firstLine != variable.lastLine});
     return variables;
 }
 
+// True if the lines of each variable follow each other.
+bool IsInOrder(const InspectedFile& file)
+{
+    std::size_t latest = 0;
+    for (const InspectedFile::Line& line : file.Lines()) {
+        if (line.variable == InspectedFile::kNone)
+            continue;
+        if (line.variable < latest)
+            return false;
+        latest = line.variable;
+    }
+    return true;
+}
+
 // The variables that a save of the backup writes. The values in the interrupted save may differ, but only
 // lists that became empty are left out.
-std::vector<VariableLine> VariablesOfSave(std::string_view backup, Charset charset)
+std::vector<WrittenVariable> VariablesOfSave(std::string_view backup, Charset charset)
 {
-    const SavePreview preview = PreviewSave(InspectedFile(std::string(backup), charset), {});
+    InspectionSettings settings;
+    settings.today = std::chrono::year(2000) / 1 / 1; // The names do not depend on it.
+    const SavePreview preview = PreviewSave(InspectedFile(std::string(backup), charset), settings);
     if (!preview.result)
         return {};
     return VariablesOf(InspectedFile(preview.bytes, preview.charset));
@@ -61,11 +78,11 @@ std::vector<VariableLine> VariablesOfSave(std::string_view backup, Charset chars
 
 FileJudgement JudgeVariables(const InspectedFile& file, std::string_view backup)
 {
-    const std::vector<VariableLine> written = VariablesOf(file);
-    if (!std::ranges::is_sorted(written, {}, &VariableLine::name))
+    const std::vector<WrittenVariable> written = VariablesOf(file);
+    if (!IsInOrder(file) || !std::ranges::is_sorted(written, {}, &WrittenVariable::name))
         return {};
-    const std::vector<VariableLine> expected = VariablesOfSave(backup, file.Encoding());
-    const auto isLacking = [&](const VariableLine& variable) {
+    const std::vector<WrittenVariable> expected = VariablesOfSave(backup, file.Encoding());
+    const auto isLacking = [&](const WrittenVariable& variable) {
         return written.empty() || variable.name > written.back().name;
     };
     const auto lacking = std::ranges::count_if(expected, isLacking);
@@ -73,7 +90,7 @@ FileJudgement JudgeVariables(const InspectedFile& file, std::string_view backup)
         return {Completeness::Complete, UnfinishedSign::None, 0};
     // Variables that are all lists may have become empty.
     const bool certain = std::ranges::any_of(
-        expected, [&](const VariableLine& variable) { return isLacking(variable) && !variable.isList; });
+        expected, [&](const WrittenVariable& variable) { return isLacking(variable) && !variable.isList; });
     return certain ? Unfinished(UnfinishedSign::LacksVariables, static_cast<std::size_t>(lacking))
                    : FileJudgement{};
 }
@@ -113,9 +130,43 @@ Text BackupBeside(const Text& file, const FilePorts& ports)
     return backup;
 }
 
-ResolveResult NotResolved(ResolveOutcome outcome, FileResult step)
+// Copies the content of the file or its backup.
+CopyResult KeepContent(const Text& from, std::string& content, const Text& file, const CopyPlace& place,
+                       LocalTime now, const FilePorts& ports)
 {
-    return {.outcome = outcome, .systemText = std::move(step.systemText)};
+    if (FileResult reading = ReadWhole(ports.files, from, content); !reading)
+        return {CopyOutcome::FileUnreadable, {}, std::move(reading.systemText)};
+    return TakeDatedCopyOf(content, file, place, now, ports);
+}
+
+// Also succeeds if the rename was done although it reported a failure.
+FileResult RenameOrFind(const Text& from, const Text& to, FilePort& files)
+{
+    FileResult renaming = files.Rename(from, to);
+    if (!renaming && files.Kind(from) == FileKind::Absent && files.Kind(to) == FileKind::File)
+        return {};
+    return renaming;
+}
+
+// Renames the file aside and the backup to the file. The file aside is removed unless its content
+// is no longer the one that was copied.
+void SwapIn(const Text& backup, const Text& file, const std::string& content, FilePort& files,
+            ResolveResult& result)
+{
+    Text aside = FreeNameBeside(files, file);
+    FileResult step = RenameOrFind(file, aside, files);
+    if (step) {
+        step = RenameOrFind(backup, file, files);
+        if (step && CompareContent(files, aside, content) == ContentMatch::Same)
+            files.Remove(aside);
+        else if (!step)
+            RenameOrFind(aside, file, files);
+    }
+    if (!step)
+        result.outcome = ResolveOutcome::RenameFailed;
+    result.systemText = std::move(step.systemText);
+    if (files.Kind(aside) != FileKind::Absent)
+        result.asidePath = std::move(aside);
 }
 
 } // namespace
@@ -164,27 +215,20 @@ ResolveResult RestoreBackup(const Text& path, const CopyPlace& place, LocalTime 
     const Text backup = BackupBeside(file, ports);
     if (backup.empty() || ports.files.Kind(backup) != FileKind::File)
         return {.outcome = ResolveOutcome::NoBackup};
-    ResolveResult result;
-    if (ports.files.Kind(file) != FileKind::Absent) {
-        result.kept = TakeDatedCopy(file, place, now, ports);
-        if (!result.kept.Succeeded()) {
-            result.outcome = ResolveOutcome::NotKept;
-            return result;
-        }
-        // Renamed first, so that it can be renamed back.
-        result.asidePath = FreeNameBeside(ports.files, file);
-        if (FileResult step = ports.files.Rename(file, result.asidePath); !step)
-            return NotResolved(ResolveOutcome::RenameFailed, std::move(step));
+    if (ports.files.Kind(file) == FileKind::Absent) {
+        FileResult step = RenameOrFind(backup, file, ports.files);
+        return {.outcome = step ? ResolveOutcome::Resolved : ResolveOutcome::RenameFailed,
+                .kept = {CopyOutcome::NoFile, {}, {}},
+                .systemText = std::move(step.systemText)};
     }
-    if (FileResult step = ports.files.Rename(backup, file); !step) {
-        result.outcome = ResolveOutcome::RenameFailed;
-        result.systemText = std::move(step.systemText);
-        if (!result.asidePath.empty() && ports.files.Rename(result.asidePath, file))
-            result.asidePath.clear();
+    std::string content;
+    ResolveResult result;
+    result.kept = KeepContent(file, content, file, place, now, ports);
+    if (!result.kept.Succeeded()) {
+        result.outcome = ResolveOutcome::NotKept;
         return result;
     }
-    if (!result.asidePath.empty() && ports.files.Remove(result.asidePath))
-        result.asidePath.clear();
+    SwapIn(backup, file, content, ports.files, result);
     return result;
 }
 
@@ -196,14 +240,7 @@ ResolveResult KeepFile(const Text& path, const CopyPlace& place, LocalTime now, 
         return {.outcome = ResolveOutcome::NoBackup};
     ResolveResult result;
     std::string content;
-    if (FileResult reading = ReadWhole(ports.files, backup, content); !reading) {
-        result.kept = {CopyOutcome::FileUnreadable, {}, std::move(reading.systemText)};
-        result.outcome = ResolveOutcome::NotKept;
-        return result;
-    }
-    result.kept.outcome = CopyOutcome::NotNeeded;
-    if (CompareContent(ports.files, file, content) != ContentMatch::Same)
-        result.kept = TakeDatedCopyOf(content, file, place, now, ports);
+    result.kept = KeepContent(backup, content, file, place, now, ports);
     if (!result.kept.Succeeded()) {
         result.outcome = ResolveOutcome::NotKept;
         return result;

@@ -73,7 +73,7 @@ InterruptedSave ExamineInterruptedSave(const Text& path, Charset charset, const 
 enum class ResolveOutcome {
     Resolved,
 
-    // Failures. Both files are as before, except that RenameFailed may leave the file under `asidePath`.
+    // Failures. No content is lost. Both files are as before, unless `asidePath` is set.
     NoBackup,     ///< The backup does not exist any more.
     NotKept,      ///< The content that is to go could not be copied; see `kept`.
     RenameFailed, ///< A file could not be renamed.
@@ -84,16 +84,16 @@ enum class ResolveOutcome {
 struct ResolveResult {
     ResolveOutcome outcome = ResolveOutcome::Resolved;
     CopyResult kept{}; ///< The dated copy of the content that was replaced or removed.
-    Text asidePath{};  ///< RenameFailed: where the file is, if it could not be renamed back.
-    Text systemText{}; ///< The system's message; may be empty.
+    Text asidePath{};  ///< A name that the replaced file still has: it could not be removed or renamed back,
+                       ///< or another program was writing it.
+    Text systemText{}; ///< The system's message for a failure; may be empty.
 };
 
 /// Makes the backup the file again, by renaming. Before that the content of the file, if it has any, is
 /// kept as a dated copy. The copies are not pruned.
 ResolveResult RestoreBackup(const Text& path, const CopyPlace& place, LocalTime now, const FilePorts& ports);
 
-/// Keeps the file and removes the backup, whose content is kept as a dated copy unless the file has it. The
-/// copies are not pruned.
+/// Keeps the file and removes the backup, whose content is kept as a dated copy. The copies are not pruned.
 ResolveResult KeepFile(const Text& path, const CopyPlace& place, LocalTime now, const FilePorts& ports);
 
 } // namespace ov

@@ -26,9 +26,7 @@ RestoreResult RestoreCopy(const Text& path, const Text& copyPath, const CopyPlac
         result.kept.outcome = CopyOutcome::NoFile;
     }
     result.save = SaveUnattended(wanted, path, present, ports.files);
-    if (result.save.outcome == UnattendedOutcome::Saved)
-        PruneDatedCopies(path, place, now, ports);
-    else
+    if (result.save.outcome != UnattendedOutcome::Saved)
         result.outcome = RestoreOutcome::NotSaved;
     return result;
 }
