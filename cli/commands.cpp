@@ -16,6 +16,7 @@ constexpr CommandRow kCommands[] = {
     {"find", "Find settings by words", MakeFindCommand},
     {"diff", "Compare two files variable by variable", MakeDiffCommand},
     {"merge", "Merge two changed files variable by variable", MakeMergeCommand},
+    {"restore", "Bring back a dated copy of a file", MakeRestoreCommand},
     {"match", "Match texts with a template", MakeMatchCommand},
     {"reference", "Print the reference of all settings", MakeReferenceCommand},
     {"rules", "Print the rules of check", MakeRulesCommand},

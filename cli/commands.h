@@ -24,5 +24,6 @@ std::unique_ptr<Command> MakeUnsetCommand();
 std::unique_ptr<Command> MakeListCommand();
 std::unique_ptr<Command> MakeDiffCommand();
 std::unique_ptr<Command> MakeMergeCommand();
+std::unique_ptr<Command> MakeRestoreCommand();
 
 } // namespace ov::cli

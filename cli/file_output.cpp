@@ -2,39 +2,11 @@
 
 #include "cli/output.h"
 #include "cli/platform.h"
-#include "config/core/save.h"
-
-#include <exception>
 
 namespace ov::cli
 {
 namespace
 {
-
-// Thrown from a save that could not make a backup, before any file is changed.
-class NoBackup : public std::exception
-{
-  public:
-    explicit NoBackup(Text systemText) : m_systemText(std::move(systemText)) {}
-    const Text& SystemText() const { return m_systemText; }
-
-  private:
-    Text m_systemText;
-};
-
-// There is no user to ask, so every save that needs an answer is refused.
-class Refusals final : public SavePrompts
-{
-  public:
-    bool MayReplace(ReplaceReason /*reason*/, const Text& /*keptPath*/) override { return false; }
-    void TellNoBackup(const Text& systemText) override { throw NoBackup(systemText); }
-};
-
-// The system's message after a colon, or nothing if it is empty.
-std::string Because(const Text& systemText)
-{
-    return systemText.empty() ? std::string() : ": " + Utf8FromText(systemText);
-}
 
 std::string FailureText(const SaveResult& result)
 {
@@ -68,29 +40,12 @@ std::string OldContentText(const SaveResult& result)
     }
 }
 
-// An existing file with the backup's name is never deleted, and a file that is its own backup by
-// name would have no backup.
-bool HasFreeBackupName(const Text& path, FilePort& files, std::string& backup)
-{
-    const Text target = files.LinkTarget(path);
-    const Text name = BackupPath(target.empty() ? path : target);
-    backup = Utf8FromText(name);
-    return files.Kind(name) == FileKind::Absent;
-}
-
-ExitCode Report(const std::string& path, const SaveResult& result, Output& output)
-{
-    if (!result.Saved()) {
-        output.Problem(path + ": " + FailureText(result) + OldContentText(result));
-        return ExitCode::Failed;
-    }
-    if (!result.keptPath.empty())
-        output.Remark(path + ": Another program changed the file meanwhile; what it wrote is in " +
-                      Utf8FromText(result.keptPath) + ".");
-    return ExitCode::Done;
-}
-
 } // namespace
+
+std::string Because(const Text& systemText)
+{
+    return systemText.empty() ? std::string() : ": " + Utf8FromText(systemText);
+}
 
 bool MayWriteTo(const std::string& path, Output& output)
 {
@@ -114,6 +69,28 @@ bool MayWriteTo(const std::string& path, Output& output)
     }
 }
 
+ExitCode ReportSave(const std::string& path, const UnattendedSave& save, Output& output)
+{
+    switch (save.outcome) {
+    case UnattendedOutcome::BackupInTheWay:
+        output.Problem(path + ": " + Utf8FromText(save.backupPath) +
+                       " is in the way: it has the backup's name");
+        return ExitCode::Failed;
+    case UnattendedOutcome::NoBackup:
+        output.Problem(path + ": No backup can be made" + Because(save.systemText) + "; nothing was written");
+        return ExitCode::Failed;
+    case UnattendedOutcome::Failed:
+        output.Problem(path + ": " + FailureText(save.save) + OldContentText(save.save));
+        return ExitCode::Failed;
+    case UnattendedOutcome::Saved:
+        break;
+    }
+    if (!save.save.keptPath.empty())
+        output.Remark(path + ": Another program changed the file meanwhile; what it wrote is in " +
+                      Utf8FromText(save.save.keptPath) + ".");
+    return ExitCode::Done;
+}
+
 ExitCode WriteFile(const std::string& path, const std::optional<std::string>& before,
                    const std::string& after, Output& output)
 {
@@ -123,24 +100,8 @@ ExitCode WriteFile(const std::string& path, const std::optional<std::string>& be
 ExitCode WriteFile(const std::string& path, const std::optional<std::string>& before,
                    const std::string& after, FilePort& files, Output& output)
 {
-    const Text name = TextFromUtf8(path);
-    std::string backup;
-    if (before && !HasFreeBackupName(name, files, backup)) {
-        output.Problem(path + ": " + backup + " is in the way: it has the backup's name");
-        return ExitCode::Failed;
-    }
-    std::optional<KnownFile> known;
-    if (before)
-        known = KnownFile{name, *before};
     const AttributeKeeper attributes(path);
-    Refusals refusals;
-    try {
-        return Report(path, SaveBytes(after, name, known, files, refusals), output);
-    } catch (const NoBackup& noBackup) {
-        output.Problem(path + ": No backup can be made" + Because(noBackup.SystemText()) +
-                       "; nothing was written");
-        return ExitCode::Failed;
-    }
+    return ReportSave(path, SaveUnattended(after, TextFromUtf8(path), before, files), output);
 }
 
 ExitCode ReplaceFile(const std::string& path, const std::string& content, Output& output)

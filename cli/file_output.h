@@ -1,19 +1,22 @@
 #pragma once
 
+#include "base/text.h"
 #include "cli/command.h"
+#include "config/core/unattended_save.h"
 
 #include <optional>
 #include <string>
-
-namespace ov
-{
-class FilePort;
-}
 
 namespace ov::cli
 {
 
 class Output;
+
+/// The system's message after a colon, or nothing if it is empty.
+std::string Because(const Text& systemText);
+
+/// Reports how a save ended and returns the exit code.
+ExitCode ReportSave(const std::string& path, const UnattendedSave& save, Output& output);
 
 /// True if a file may be written under the path: a regular file or nothing exists there. Otherwise
 /// reports the problem.

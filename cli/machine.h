@@ -2,6 +2,7 @@
 
 #include "base/text.h"
 #include "config/core/config_writer.h"
+#include "config/core/local_time.h"
 
 #include <chrono>
 
@@ -10,6 +11,9 @@ namespace ov::cli
 
 /// The current local day.
 std::chrono::year_month_day Today();
+
+/// The current local time.
+LocalTime LocalTimeNow();
 
 /// The texts of a header written now, on this machine, by this user.
 HeaderInfo HeaderOfMachine();

@@ -12,7 +12,7 @@ namespace ov::cli
 namespace
 {
 
-std::tm LocalTimeNow()
+std::tm CalendarNow()
 {
     const std::time_t now = std::time(nullptr);
     std::tm local = {};
@@ -37,14 +37,19 @@ Text ComputerName()
 std::chrono::year_month_day Today()
 {
     using namespace std::chrono;
-    const std::tm now = LocalTimeNow();
+    const std::tm now = CalendarNow();
     return {year(now.tm_year + 1900), month(static_cast<unsigned>(now.tm_mon + 1)),
             day(static_cast<unsigned>(now.tm_mday))};
 }
 
+LocalTime LocalTimeNow()
+{
+    return LocalTimeOf(CalendarNow());
+}
+
 HeaderInfo HeaderOfMachine()
 {
-    return {FormatSaveDate(LocalTimeNow()), UserName(), ComputerName()};
+    return {FormatSaveDate(CalendarNow()), UserName(), ComputerName()};
 }
 
 bool PathExists(const Text& path)

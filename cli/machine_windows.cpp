@@ -15,6 +15,11 @@ std::chrono::year_month_day Today()
             day(static_cast<unsigned>(now.tm_mday))};
 }
 
+LocalTime LocalTimeNow()
+{
+    return LocalTimeOf(GetLocalTimeNow());
+}
+
 HeaderInfo HeaderOfMachine()
 {
     return {FormatSaveDate(GetLocalTimeNow()), GetLogonUserName(), GetMachineName()};

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "config/core/file_port.h"
+#include "config/core/folder_port.h"
 
 #include <cstddef>
 #include <memory>
@@ -46,6 +47,9 @@ bool ReadAll(const std::string& path, std::string& bytes, std::string& problem);
 
 /// The file port of this system, for writing.
 std::unique_ptr<FilePort> MakeFilePort();
+
+/// The folder port of this system.
+std::unique_ptr<FolderPort> MakeFolderPort();
 
 /// Restores the permissions and owner of a file after it was replaced, as far as the system allows. Has
 /// no effect on Windows, where the folder decides. While the object exists, new files of the process are

@@ -1,5 +1,6 @@
 #include "cli/platform.h"
 #include "config/core/posix_file_port.h"
+#include "config/core/posix_folder_port.h"
 
 #include <array>
 #include <cerrno>
@@ -95,6 +96,11 @@ bool ReadAll(const std::string& path, std::string& bytes, std::string& problem)
 std::unique_ptr<FilePort> MakeFilePort()
 {
     return std::make_unique<PosixFilePort>();
+}
+
+std::unique_ptr<FolderPort> MakeFolderPort()
+{
+    return std::make_unique<PosixFolderPort>();
 }
 
 struct AttributeKeeper::Attributes {

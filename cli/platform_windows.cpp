@@ -1,5 +1,6 @@
 #include "cli/platform.h"
 #include "config/win32_file_port.h"
+#include "config/win32_folder_port.h"
 #include "framework/wide.h"
 
 #include <windows.h>
@@ -130,6 +131,11 @@ bool ReadAll(const std::string& path, std::string& bytes, std::string& problem)
 std::unique_ptr<FilePort> MakeFilePort()
 {
     return std::make_unique<CWin32FilePort>();
+}
+
+std::unique_ptr<FolderPort> MakeFolderPort()
+{
+    return std::make_unique<CWin32FolderPort>();
 }
 
 struct AttributeKeeper::Attributes {

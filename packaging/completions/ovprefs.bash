@@ -8,6 +8,7 @@ _ovprefs_option_value() {
     case "$placeholder" in
     *'|'*) mapfile -t COMPREPLY < <(compgen -W "${placeholder//|/ }" -- "$cur") ;;
     FILE) mapfile -t COMPREPLY < <(compgen -f -- "$cur") ;;
+    DIR) mapfile -t COMPREPLY < <(compgen -d -- "$cur") ;;
     esac
 }
 
