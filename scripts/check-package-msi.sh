@@ -6,13 +6,11 @@
 msi_home='drive_c/Program Files/Orthoval Preferences'
 
 # run_msiexec OPTION MSI [PROPERTY...]: silently, as an administrator does from afar.
-# MSI is an installer or the code of an installed product.
 # Through a file: Wine's own processes keep the writing end of a pipe open.
 run_msiexec() {
     local option="$1" msi="$2" code=0
     shift 2
-    [ ! -f "$msi" ] || msi=$(windows_path "$msi")
-    wine msiexec "$option" "$msi" /qn /l\*v "$(windows_path "$folder/msi.log")" "$@" \
+    wine msiexec "$option" "$(windows_path "$msi")" /qn /l\*v "$(windows_path "$folder/msi.log")" "$@" \
         >"$folder/msi.out" 2>&1 || code=$?
     [ "$code" -eq 0 ] || printf 'msiexec ended with exit code %d\n' "$code"
     return "$code"
@@ -24,15 +22,25 @@ registry() {
         iconv -f UTF-16 -t UTF-8 "$folder/export.reg" | tr -d '\r'
 }
 
+# The keys that the installer service creates for its first product and that every
+# Windows has. What is below them counts.
+msi_own_keys() {
+    printf '[HKEY_LOCAL_MACHINE\\Software\\%s]\n' 'Classes\Installer' 'Classes\Installer\'{Features,Products,UpgradeCodes} \
+        'Microsoft\Windows\CurrentVersion\Installer\'{UpgradeCodes,UserData} \
+        'Microsoft\Windows\CurrentVersion\Installer\UserData\S-1-5-18'{,'\Components','\Products'}
+}
+
 # machine_state FILE: the files and the registry, except what Windows itself keeps
-# about its own work: a counter of the installer, and caches of the shell.
+# about its own work: temporary files, and empty folders and keys of the installer.
+# Wine leaves the semicolon of a removed entry at the end of the PATH.
 machine_state() {
     find "$WINEPREFIX/drive_c" -printf '%P %y\n' | grep -vE '^(users/[^/]*/Temp|windows/temp|users/[^/]*/AppData/Local/Temp)/|^windows/Installer d$' |
         sort >"$1"
     local key
     for key in 'HKLM\Software' 'HKLM\System\CurrentControlSet\Control\Session Manager\Environment' 'HKCU\Software' 'HKCU\Environment'; do
-        registry "$key" | grep -v '^$' >>"$1"
-    done
+        registry "$key" | sed '/^"PATH"=/I,/[^\]$/d' | grep -v '^$' | grep -vxFf <(msi_own_keys)
+    done >>"$1"
+    machine_path | sed 's/;*$/\n/' >>"$1"
 }
 
 # machine_path: the PATH of all users.
@@ -76,12 +84,12 @@ installed_program_runs() {
     [[ $(wine 'C:\Program Files\Orthoval Preferences\bin\ovprefs.exe' --version) == "ovprefs "* ]]
 }
 
-# By the product's code: Wine finds no product by the installer's name here.
+# One file is missing, another one is damaged. By the properties that "/fa" stands
+# for, because Wine's msiexec does not have that option.
 repairs() {
-    local product
-    product=$(msiinfo export "$1" Property | sed -n 's/^ProductCode\t\({.*}\).*/\1/p')
-    rm "$WINEPREFIX/$msi_home/bin/ovprefs.exe" "$WINEPREFIX/$msi_home/samples/office.cfg"
-    run_msiexec /fa "$product" && installed_files_are_complete
+    rm "$WINEPREFIX/$msi_home/bin/ovprefs.exe"
+    printf 'damaged\n' >"$WINEPREFIX/$msi_home/samples/office.cfg"
+    run_msiexec /i "$1" REINSTALL=ALL REINSTALLMODE=a && installed_files_are_complete
 }
 
 # One product, the newer one.

@@ -94,9 +94,10 @@ has_window_manager() {
 # use_prefix FOLDER [MODEL]: creates the Wine prefix once. With MODEL, another
 # prefix without running programs, it is a fast copy: the 700 MB of system files
 # are shared by hard links, because only the registry is written later. Prevents
-# Wine's questions about Mono and Gecko, which are not needed.
+# Wine's questions about Mono and Gecko, which are not needed, and entries in the
+# menus of the user's desktop.
 use_prefix() {
-    export WINEPREFIX="$1" WINEARCH=win64 WINEDEBUG=-all WINEDLLOVERRIDES="mscoree=;mshtml="
+    export WINEPREFIX="$1" WINEARCH=win64 WINEDEBUG=-all WINEDLLOVERRIDES="mscoree=;mshtml=;winemenubuilder.exe="
     [ -e "$WINEPREFIX/.complete" ] && return 0
     rm -rf "$WINEPREFIX" "$WINEPREFIX.part"
     if [ -n "${2:-}" ]; then
