@@ -25,8 +25,8 @@ registry() {
 # The keys that the installer service creates for its first product and that every
 # Windows has. What is below them counts.
 msi_own_keys() {
-    printf '[HKEY_LOCAL_MACHINE\\Software\\%s]\n' 'Classes\Installer' 'Classes\Installer\'{Features,Products,UpgradeCodes} \
-        'Microsoft\Windows\CurrentVersion\Installer\'{UpgradeCodes,UserData} \
+    printf '[HKEY_LOCAL_MACHINE\\Software\\%s]\n' 'Classes\Installer'{,'\Features','\Products','\UpgradeCodes'} \
+        'Microsoft\Windows\CurrentVersion\Installer'{'\UpgradeCodes','\UserData'} \
         'Microsoft\Windows\CurrentVersion\Installer\UserData\S-1-5-18'{,'\Components','\Products'}
 }
 
