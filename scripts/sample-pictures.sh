@@ -25,13 +25,17 @@ begin_pictures() {
     use_prefix "${WINEPREFIX:-$build/wine}"
 }
 
-# open_samples [WIDTH HEIGHT]: opens the dialog on copies of the samples, with
-# that outer size in pixels. The copies are in a folder as in an office, because
-# the pictures show the path.
-open_samples() {
+# Copies the samples to a folder as in an office, because the pictures show the path.
+copy_samples() {
     local standards="$WINEPREFIX/drive_c/Standards"
     mkdir -p "$standards"
     cp "$root/samples/office.cfg" "$root/samples/defaults.cfg" "$standards"
+}
+
+# open_samples [WIDTH HEIGHT]: opens the dialog on copies of the samples, with
+# that outer size in pixels.
+open_samples() {
+    copy_samples
     drive start "$(windows_path "$bin/ovPreferencesHost.exe")" 'DEFAULT:C:\Standards\defaults.cfg' \
         'CURRENT:C:\Standards\office.cfg' "USER:J. Whitfield" >/dev/null
     [ "$#" -eq 0 ] || drive size "$1" "$2" >/dev/null
