@@ -55,19 +55,6 @@ TEST(ModalBlocking, CommandsAndClosingWaitForTheModalWindow)
     EXPECT_EQ(scriptEnded, innerResult);
 }
 
-// The system turns the request into a command that it posts. The modal window may be gone before that.
-TEST(ModalBlocking, CloseRequestIsNotKeptUntilTheModalWindowIsGone)
-{
-    CCounting outer;
-    CScriptDialog inner(IDD_SMALL, &outer);
-    outer.Then([&] { inner.DoModal(); });
-    inner.Then([&] {
-        outer.SendMessage(WM_CLOSE);
-        inner.EndDialog(IDOK);
-    });
-    EXPECT_EQ(scriptEnded, outer.DoModal());
-}
-
 TEST(ModalBlocking, NotificationsAreHandledAllTheSame)
 {
     CCounting outer;

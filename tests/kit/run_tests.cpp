@@ -27,14 +27,16 @@ constexpr Suite kSuites[] = {
     {L"core", L"core_tests.exe"},      {L"saving", L"save_tests.exe"},
     {L"companion", L"cli_tests.exe"},  {L"framework", L"framework_tests.exe"},
     {L"windows", L"window_tests.exe"}, {L"program", L"app_tests.exe"},
-    {L"dialog", L"ui_tests.exe"},      {L"walk", L"walker_tests.exe"},
+    {L"dialog", L"ui_tests.exe"},      {L"launcher", L"launcher_tests.exe"},
+    {L"walk", L"walker_tests.exe"},
 };
 
 constexpr const char* kUsage =
     "usage: run-tests [--wine] [--logs=NAME] [--gtest_OPTION...] [all|SUITE...]\n"
     "\n"
     "Runs all suites, or only the named ones: core, saving, companion, framework,\n"
-    "windows, program, dialog, walk. The options of GoogleTest go to the test programs.\n"
+    "windows, program, dialog, launcher, walk. The options of GoogleTest go to the\n"
+    "test programs.\n"
     "Tests about Wine have \"Wine\" in their names and run with --wine only.\n"
     "The logs are in the folder NAME beside the programs, \"logs\" by default.\n";
 

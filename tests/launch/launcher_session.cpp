@@ -1,0 +1,131 @@
+#include "tests/launch/launcher_session.h"
+
+#include "resources/ids.h"
+
+#include <shlobj.h>
+
+using namespace uidriver;
+
+namespace
+{
+
+constexpr const wchar_t* UserDataVariable = L"APPDATA";
+
+struct WindowSearch {
+    DWORD process;
+    HWND except;
+    HWND found = nullptr;
+};
+
+BOOL CALLBACK FindEnabledDialog(HWND window, LPARAM parameter)
+{
+    auto& search = *reinterpret_cast<WindowSearch*>(parameter);
+    DWORD process = 0;
+    GetWindowThreadProcessId(window, &process);
+    if (process != search.process || window == search.except || !IsWindowVisible(window) ||
+        !IsWindowEnabled(window) || ClassOf(window) != L"#32770")
+        return TRUE;
+    search.found = window;
+    return FALSE;
+}
+
+std::wstring LauncherPath()
+{
+    wchar_t path[MAX_PATH] = {};
+    GetModuleFileNameW(nullptr, path, MAX_PATH);
+    const std::wstring program = path;
+    return program.substr(0, program.rfind(L'\\') + 1) + L"ovPreferencesHost.exe";
+}
+
+} // namespace
+
+LauncherSession::LauncherSession()
+{
+    wchar_t before[MAX_PATH] = {};
+    GetEnvironmentVariableW(UserDataVariable, before, MAX_PATH);
+    m_userDataBefore = before;
+    SetEnvironmentVariableW(UserDataVariable, m_userData.Path().c_str());
+}
+
+LauncherSession::~LauncherSession()
+{
+    SetEnvironmentVariableW(UserDataVariable, m_userDataBefore.c_str());
+    if (!m_launcher || !m_launcher->IsRunning())
+        return;
+    ADD_FAILURE() << "the launcher is still running";
+    const HANDLE process = OpenProcess(PROCESS_TERMINATE | SYNCHRONIZE, FALSE, m_launcher->Id());
+    TerminateProcess(process, 1);
+    WaitForSingleObject(process, DefaultDeadline);
+    CloseHandle(process);
+}
+
+LauncherSession::Shown LauncherSession::Look()
+{
+    WindowSearch search{m_launcher->Id(), m_window};
+    EnumWindows(FindEnabledDialog, reinterpret_cast<LPARAM>(&search));
+    if (!search.found || !IsResponsive(search.found))
+        return Shown::Nothing;
+    m_window = search.found;
+    if (GetDlgItem(m_window, IDC_HOST_START_FILE))
+        return Shown::Start;
+    if (GetDlgItem(m_window, IDC_HOST_QUESTION_TEXT))
+        return Shown::Question;
+    return GetDlgItem(m_window, IDC_PREFERENCES_CONFIG_FILE) ? Shown::Dialog : Shown::Box;
+}
+
+LauncherSession::Shown LauncherSession::AwaitNext()
+{
+    Shown shown = Shown::Nothing;
+    Await([&] {
+        shown = Look();
+        return shown != Shown::Nothing || !m_launcher->IsRunning();
+    });
+    return shown;
+}
+
+LauncherSession::Shown LauncherSession::Start(const std::vector<std::wstring>& arguments)
+{
+    m_window = nullptr;
+    m_launcher.emplace(LauncherPath(), arguments);
+    EXPECT_TRUE(m_launcher->IsStarted());
+    return AwaitNext();
+}
+
+LauncherSession::Shown LauncherSession::Press(int button)
+{
+    Click(GetDlgItem(m_window, button));
+    return AwaitNext();
+}
+
+unsigned LauncherSession::ExitCode()
+{
+    EXPECT_TRUE(m_launcher->AwaitEnd());
+    return m_launcher->ExitCode();
+}
+
+std::wstring LauncherSession::Put(const std::wstring& name, const std::string& bytes)
+{
+    EXPECT_TRUE(WriteBytes(m_folder / name, bytes));
+    return m_folder / name;
+}
+
+std::string LauncherSession::Content(const std::wstring& name) const
+{
+    return ReadBytes(m_folder / name).value_or("(no file)");
+}
+
+void LauncherSession::RememberDefaults(const std::wstring& path)
+{
+    const std::wstring folder = m_userData / L"Orthoval\\Preferences";
+    SHCreateDirectoryExW(nullptr, folder.c_str(), nullptr);
+    std::string bytes = "defaults = ";
+    // The paths of these tests are ASCII where the folder for temporary files is.
+    for (const wchar_t unit : path)
+        bytes += static_cast<char>(unit);
+    EXPECT_TRUE(WriteBytes(folder + L"\\launcher.txt", bytes + "\r\n"));
+}
+
+std::vector<std::wstring> LauncherSession::Remembered() const
+{
+    return m_userData.Names();
+}
