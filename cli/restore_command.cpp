@@ -145,15 +145,21 @@ class RestoreCommand final : public Command
         }
         if (!copies.empty())
             return ExitCode::Done;
-        output.Problem(m_path + ": There is no copy");
+        ReportNoCopy(output);
         return ExitCode::Found;
+    }
+
+    void ReportNoCopy(Output& output) const
+    {
+        output.Problem(m_path + (m_folder ? ": There is no copy of it in " + *m_folder
+                                          : std::string(": There is no copy beside it; see --folder")));
     }
 
     // The copy that the options name. Reports the problem and returns null if there is none.
     const ListedCopy* Choose(const std::vector<ListedCopy>& copies, Output& output) const
     {
         if (copies.empty()) {
-            output.Problem(m_path + ": There is no copy");
+            ReportNoCopy(output);
             return nullptr;
         }
         if (!m_copy) {

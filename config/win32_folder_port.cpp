@@ -70,7 +70,9 @@ ov::FileResult CWin32FolderPort::Facts(const ov::Text& path, ov::FileFacts& fact
 ov::FileResult CWin32FolderPort::List(const ov::Text& folder, std::vector<ov::Text>& names)
 {
     names.clear();
-    const ov::Text pattern = (folder.empty() ? ov::Text() : WithSeparator(folder)) + u"*";
+    // "C:" is the current folder of the drive.
+    const bool isComplete = folder.empty() || folder.ends_with(u':');
+    const ov::Text pattern = (isComplete ? folder : WithSeparator(folder)) + u"*";
     WIN32_FIND_DATAW entry{};
     const HANDLE search = ::FindFirstFileW(Wide(pattern), &entry);
     if (search == INVALID_HANDLE_VALUE) {

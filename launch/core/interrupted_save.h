@@ -47,7 +47,7 @@ struct SaveRemnant {
     bool readable = false;
     std::uint64_t size = 0;  ///< In bytes.
     LocalTime changed{};     ///< The time of the last change of the content.
-    FileJudgement judgement; ///< For the backup: Complete unless there is a sign.
+    FileJudgement judgement; ///< For a backup that can be read: Complete unless there is a sign.
 };
 
 /// A backup that a save has left beside the file, because the process was killed or the backup could not

@@ -99,6 +99,13 @@ TEST(DatedCopiesTest, AMissingFolderOfChoiceIsAFailure)
     EXPECT_EQ(scene.memory.contents.size(), 1U);
 }
 
+TEST(DatedCopiesTest, AFolderIsNoCopy)
+{
+    LaunchScene scene;
+    scene.memory.directories = {u"office.cfg 2026-11-21 12.00.00.copy"};
+    EXPECT_TRUE(ListDatedCopies(kPath, {}, scene.ports).copies.empty());
+}
+
 TEST(DatedCopiesTest, AFullDiskLeavesNothing)
 {
     LaunchScene scene;
@@ -240,6 +247,23 @@ TEST(DatedCopiesTest, EachFaultLosesNothing)
                 EXPECT_FALSE(scene.Has(copied[0]));
             }
         });
+}
+
+TEST(DatedCopiesTest, NoPartRemainsAfterRunningOutOfMemory)
+{
+    int failures = 0;
+    for (int step = 1; step < 30; ++step) {
+        LaunchScene scene;
+        scene.memory.contents[kPath] = "A = 1\r\n";
+        scene.steps.faults = {{step, test::StepFault::OutOfMemory}};
+        try {
+            TakeDatedCopy(kPath, {}, kNoon, scene.ports);
+        } catch (const std::bad_alloc&) {
+            ++failures;
+        }
+        EXPECT_EQ(scene.EndingIn(u".part").size(), 0U) << step;
+    }
+    EXPECT_GE(failures, 5);
 }
 
 TEST(DatedCopiesTest, AFolderThatCannotBeListedOrExaminedLosesNothing)
