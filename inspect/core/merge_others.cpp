@@ -3,6 +3,7 @@
 #include "document/core/line_diff.h"
 
 #include <algorithm>
+#include <iterator>
 #include <optional>
 #include <string>
 #include <utility>
@@ -13,6 +14,7 @@ namespace
 {
 
 using LineNumberList = std::vector<std::size_t>;
+using LinePair = std::pair<std::size_t, std::size_t>;
 
 std::vector<std::string> Utf8Of(const std::vector<Text>& texts)
 {
@@ -51,6 +53,12 @@ class OtherLinesMerger
           m_ourChanges(Changes(base.Texts(base.OtherLines()), ours.Texts(ours.OtherLines()))),
           m_theirChanges(Changes(base.Texts(base.OtherLines()), theirs.Texts(theirs.OtherLines())))
     {
+        for (const MergeVariable& variable : theirs.Variables()) {
+            const MergeVariable* const our = ours.Find(variable.name);
+            if (our != nullptr && !variable.lines.empty())
+                m_commonVariables.emplace_back(variable.lines.back(), our->lines.back());
+        }
+        std::ranges::sort(m_commonVariables);
     }
 
     bool Run()
@@ -65,9 +73,11 @@ class OtherLinesMerger
     bool Merge(const LineChange& change)
     {
         const LineNumberList theirLines = Part(m_theirs.OtherLines(), change.newStart, change.newCount);
-        const auto touching = std::find_if(m_ourChanges.begin(), m_ourChanges.end(),
-                                           [&](const LineChange& our) { return Touch(our, change); });
-        if (touching != m_ourChanges.end())
+        // The first of our changes that does not end before theirs.
+        const auto touching = std::ranges::partition_point(m_ourChanges, [&](const LineChange& our) {
+            return our.oldStart + our.oldCount < change.oldStart;
+        });
+        if (touching != m_ourChanges.end() && Touch(*touching, change))
             return MergeTouching(*touching, change, theirLines);
         const std::size_t start = OurPlace(change.oldStart);
         const LineNumberList ourLines = Part(m_ours.OtherLines(), start, change.oldCount);
@@ -103,12 +113,11 @@ class OtherLinesMerger
     // The position among our other lines of a base line that we did not change.
     std::size_t OurPlace(std::size_t basePlace) const
     {
-        std::size_t place = basePlace;
-        for (const LineChange& our : m_ourChanges) {
-            if (our.oldStart < basePlace)
-                place = place + our.newCount - our.oldCount;
-        }
-        return place;
+        const auto next = std::ranges::lower_bound(m_ourChanges, basePlace, {}, &LineChange::oldStart);
+        if (next == m_ourChanges.begin())
+            return basePlace;
+        const LineChange& our = *std::prev(next);
+        return basePlace + our.newStart + our.newCount - our.oldStart - our.oldCount;
     }
 
     // The line above which to insert their new lines, between our other lines `place - 1` and `place`: next
@@ -134,17 +143,10 @@ class OtherLinesMerger
     // The line after the nearest variable above their line that our file also has, in our file.
     std::optional<std::size_t> BelowVariableAbove(std::size_t theirLine) const
     {
-        std::optional<std::size_t> below;
-        std::size_t nearest = 0;
-        for (const MergeVariable& variable : m_theirs.Variables()) {
-            const MergeVariable* const ours = m_ours.Find(variable.name);
-            if (variable.lines.empty() || ours == nullptr || variable.lines.back() > theirLine ||
-                variable.lines.back() < nearest)
-                continue;
-            nearest = variable.lines.back();
-            below = ours->lines.back() + 1;
-        }
-        return below;
+        const auto next = std::ranges::upper_bound(m_commonVariables, theirLine, {}, &LinePair::first);
+        if (next == m_commonVariables.begin())
+            return std::nullopt;
+        return std::prev(next)->second + 1;
     }
 
     const MergeSide& m_ours;
@@ -152,6 +154,7 @@ class OtherLinesMerger
     MergeOutput& m_output;
     std::vector<LineChange> m_ourChanges;
     std::vector<LineChange> m_theirChanges;
+    std::vector<LinePair> m_commonVariables; // The last lines in their file and in ours, by the former.
 };
 
 // Uses their header if only they changed it, and ours if either one was written by Save.

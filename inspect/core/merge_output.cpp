@@ -20,7 +20,8 @@ bool IsAscii(std::string_view bytes)
 // A file in pure ASCII takes the encoding of the other one.
 MergeOutput::MergeOutput(const MergeSide& ours, const MergeSide& theirs)
     : m_ours(ours), m_theirs(theirs),
-      m_charset(IsAscii(ours.File().Bytes()) ? theirs.Encoding() : ours.Encoding()), m_edits(ours.File())
+      m_charset(IsAscii(ours.File().Bytes()) ? theirs.Encoding() : ours.Encoding()), m_encoder(m_charset),
+      m_edits(ours.File())
 {
 }
 
@@ -37,7 +38,7 @@ std::vector<std::string> MergeOutput::TheirLines(const std::vector<std::size_t>&
     std::vector<std::string> texts;
     for (const std::size_t line : lines) {
         std::string& text = texts.emplace_back();
-        if (LocaleEncoder(m_charset).Append(m_theirs.LineText(line), text))
+        if (m_encoder.Append(m_theirs.LineText(line), text))
             continue;
         m_lossy = true;
         text = m_theirs.File().Line(line).text;
@@ -48,7 +49,7 @@ std::vector<std::string> MergeOutput::TheirLines(const std::vector<std::size_t>&
 std::string MergeOutput::NewLine(const Text& text)
 {
     std::string bytes;
-    if (!LocaleEncoder(m_charset).Append(text, bytes))
+    if (!m_encoder.Append(text, bytes))
         m_lossy = true;
     return bytes;
 }

@@ -66,6 +66,7 @@ class MergeOutput
     const MergeSide& m_ours;
     const MergeSide& m_theirs;
     Charset m_charset; ///< The encoding of the result.
+    LocaleEncoder m_encoder;
     LineEdits m_edits;
     bool m_lossy = false;
     bool m_blankBelowHeaderIsSpare = false;

@@ -28,7 +28,7 @@ bool SaysWhenSaved(TextView line)
 } // namespace
 
 MergeSide::MergeSide(std::string_view bytes, Charset charset)
-    : m_document(std::string(bytes)), m_charset(charset)
+    : m_document(std::string(bytes)), m_charset(charset), m_decoder(charset)
 {
     ReadConfig(m_store, kCurrentTable, m_document.Bytes(), charset);
     ReadLines(ReadHeader());
@@ -45,7 +45,7 @@ const MergeVariable* MergeSide::Find(const Text& name) const
 Text MergeSide::LineText(std::size_t line) const
 {
     Text text;
-    LocaleDecoder(m_charset).Append(m_document.Line(line).text, text);
+    m_decoder.Append(m_document.Line(line).text, text);
     return text;
 }
 
@@ -53,7 +53,7 @@ Text MergeSide::LineValue(std::size_t line) const
 {
     const std::string_view bytes = m_document.Parts(line).value;
     Text value;
-    LocaleDecoder(m_charset).Append(bytes, value);
+    m_decoder.Append(bytes, value);
     Text room;
     return IsQuoted(bytes) ? Text(Unquoted(TextView(value), room)) : value;
 }
@@ -118,7 +118,7 @@ void MergeSide::ReadLines(std::size_t first)
 void MergeSide::AddAssignment(std::size_t line, const ConfigLine& parts, std::vector<std::size_t>& above)
 {
     Text name;
-    LocaleDecoder(m_charset).Append(parts.name, name);
+    m_decoder.Append(parts.name, name);
     const auto [place, added] = m_byName.try_emplace(name, m_variables.size());
     if (added)
         m_variables.push_back({.name = name, .lines = {}, .value = {}, .comment = {}});
@@ -137,7 +137,7 @@ void MergeSide::AddAssignment(std::size_t line, const ConfigLine& parts, std::ve
 void MergeSide::AddConditional(const ConfigLine& parts)
 {
     Text name;
-    LocaleDecoder(m_charset).Append(parts.name, name);
+    m_decoder.Append(parts.name, name);
     const auto [place, added] = m_byName.try_emplace(name, m_variables.size());
     if (added)
         m_variables.push_back({.name = name, .lines = {}, .value = {}, .comment = {}});

@@ -74,6 +74,7 @@ class MergeSide
 
     Document m_document;
     Charset m_charset;
+    LocaleDecoder m_decoder;
     SettingStore m_store;
     std::vector<std::size_t> m_headerLines;
     std::optional<std::size_t> m_blankBelowHeader;
