@@ -38,6 +38,8 @@ std::string ReasonText(const RefusedEdit& refused)
         return "an empty entry cannot be kept";
     case EditRefusal::SeveralEntries:
         return "an entry with " + Utf8FromText(refused.detail) + " cannot be kept";
+    case EditRefusal::QuotesPair:
+        return "with unpaired quotes in its entries the list would have other entries";
     case EditRefusal::ListNotPlain:
         return "its lines do not show where its entries begin and end";
     case EditRefusal::NameNotKept:

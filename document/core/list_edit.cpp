@@ -164,7 +164,8 @@ class LinePlan
             }
             base.changed = true;
             if (base.entries.size() > 1) {
-                base.entries.insert(base.entries.begin(), entry);
+                base.entries.push_back(entry);
+                std::rotate(base.entries.begin(), base.entries.end() - 1, base.entries.end());
                 continue;
             }
             const Entries old = std::exchange(base.entries, {entry});
@@ -236,13 +237,25 @@ bool AreEntries(EditSession& session, TextView name, const Entries& entries, con
     for (const Text& entry : entries) {
         if (Trim(entry).empty())
             session.Refuse(EditRefusal::EmptyEntry, name);
-        else if (Trim(entry).find(format.separator) != TextView::npos)
+        else if (EntriesOf(Trim(entry), format) != Entries{Text(Trim(entry))})
             session.Refuse(EditRefusal::SeveralEntries, name, Text(1, format.separator));
         else
             continue;
         return false;
     }
     return true;
+}
+
+// False if the value would be split into other entries: quotes of different entries pair, so that the
+// separator between them no longer separates. Empty entries at the end do not count.
+bool AreKept(Entries entries, TextView value, const ListFormat& format)
+{
+    Entries read = EntriesOf(value, format);
+    for (Entries* each : {&entries, &read}) {
+        while (!each->empty() && each->back().empty())
+            each->pop_back();
+    }
+    return read == entries;
 }
 
 // A new variable extends the value from earlier files. If its entries have to be in one line, that is
@@ -309,6 +322,10 @@ EditResult ChangeList(const EditedFile& file, const Text& name, const ListChange
     const auto lines = session.LinesOf(name);
     const bool assigned = HasAssignment(lines);
     const Text wanted = JoinEntries(entries.Result(), format);
+    if (!AreKept(entries.Result(), wanted, format)) {
+        session.Refuse(EditRefusal::QuotesPair, name);
+        return session.Finish();
+    }
     const bool absent = entries.Result().empty() && !assigned && format.separator == u';';
     session.Want(name, absent ? std::nullopt : std::optional(wanted));
     bool planned = true;

@@ -19,7 +19,8 @@ enum class EditRefusal {
     EndsInCondition,  ///< A new variable would come after an open "%if".
     CharacterLacking, ///< The file's encoding lacks the character in `detail`.
     EmptyEntry,       ///< A list entry is empty.
-    SeveralEntries,   ///< A list entry contains the list's separator, which is in `detail`.
+    SeveralEntries,   ///< A list entry contains the list's separator, which is in `detail`, outside quotes.
+    QuotesPair,       ///< Quotes in different entries would pair, and the list would have other entries.
     ListNotPlain,     ///< The variable's lines do not show which line has which entries.
     NameNotKept,      ///< The reader would not read the name back as a name.
     ValueNotKept,     ///< The value would read back as another one.

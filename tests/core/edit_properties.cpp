@@ -53,30 +53,57 @@ Text Join(const std::vector<Text>& entries, char16_t separator)
     return value;
 }
 
+// A separator between two quotes is part of an entry.
 std::vector<Text> Split(TextView value, char16_t separator)
 {
     std::vector<Text> entries;
-    while (!value.empty()) {
-        const std::size_t end = std::min(value.find(separator), value.size());
-        entries.emplace_back(value.substr(0, end));
-        value.remove_prefix(std::min(end + 1, value.size()));
+    std::size_t start = 0;
+    for (std::size_t i = 0; i < value.size(); ++i) {
+        if (value[i] == u'"') {
+            const std::size_t closing = value.find(u'"', i + 1);
+            i = closing != TextView::npos ? closing : i;
+        } else if (value[i] == separator) {
+            entries.emplace_back(value.substr(start, i - start));
+            start = i + 1;
+        }
     }
+    if (start < value.size())
+        entries.emplace_back(value.substr(start));
     return entries;
 }
 
-bool HasQuote(const Text& text)
+// An entry without its quotes, of which two in a row are one that belongs to the text. Blanks at the end
+// belong to it only between quotes.
+Text KeyOf(TextView entry)
 {
-    return text.find(u'"') != Text::npos;
+    entry = Trim(entry);
+    if (entry == u"\"\"")
+        return {};
+    Text key;
+    bool inside = false;
+    std::size_t kept = 0;
+    for (std::size_t i = 0; i < entry.size(); ++i) {
+        if (entry[i] != u'"' || entry.substr(i, 2) == u"\"\"") {
+            key += entry[i];
+            i += entry[i] == u'"' ? 1 : 0;
+            continue;
+        }
+        inside = !inside;
+        kept = inside ? kept : key.size();
+    }
+    while (key.size() > kept && key.back() == u' ')
+        key.pop_back();
+    return key;
 }
 
 // The entries of a list after the change. Nothing is moved or removed that need not be.
 std::vector<Text> ChangedEntries(std::vector<Text> entries, const ListChange& change)
 {
     const auto there = [&entries](const Text& entry) {
-        return std::ranges::any_of(entries, [&](const Text& each) { return Trim(each) == Trim(entry); });
+        return std::ranges::any_of(entries, [&](const Text& each) { return KeyOf(each) == KeyOf(entry); });
     };
     for (const Text& entry : change.remove)
-        std::erase_if(entries, [&](const Text& each) { return Trim(each) == Trim(entry); });
+        std::erase_if(entries, [&](const Text& each) { return KeyOf(each) == KeyOf(entry); });
     for (const Text& entry : change.prepend) {
         if (!there(entry))
             entries.emplace(entries.begin(), Trim(entry));
@@ -277,64 +304,45 @@ class EditCheck
     std::string FaultOfValues() const
     {
         Values wanted = ValuesOf(m_file.bytes, m_charset);
-        Values values = ValuesOf(m_result.bytes, m_file.CharsetOf(m_result.bytes));
+        const Values values = ValuesOf(m_result.bytes, m_file.CharsetOf(m_result.bytes));
         if (m_edit.kind == AnyEdit::Kind::Set) {
             wanted[m_edit.name] = m_edit.value;
         } else if (m_edit.kind == AnyEdit::Kind::Unset) {
             wanted.erase(m_edit.name);
-        } else if (!SetWantedList(wanted)) {
-            wanted.erase(m_edit.name);
-            values.erase(m_edit.name);
+        } else {
+            SetWantedList(wanted);
         }
         return values == wanted ? "" : "The values are not as wanted";
     }
 
-    // False when quotes make it unclear where entries begin and end.
-    bool SetWantedList(Values& wanted) const
+    void SetWantedList(Values& wanted) const
     {
         const char16_t separator = KnownFacts(m_edit.name).list.separator;
         const auto found = wanted.find(m_edit.name);
         const Text value = found == wanted.end() ? Text() : found->second;
-        if (HasQuote(value) || std::ranges::any_of(m_edit.change.remove, HasQuote) ||
-            std::ranges::any_of(m_edit.change.prepend, HasQuote) ||
-            std::ranges::any_of(m_edit.change.append, HasQuote))
-            return false;
         const std::vector<Text> before = Split(value, separator);
         const std::vector<Text> after = ChangedEntries(before, m_edit.change);
         if (after == before)
-            return true;
+            return;
         if (after.empty() && separator == u';' && !m_before.HasOperation(m_name, '='))
             wanted.erase(m_edit.name);
         else
             wanted[m_edit.name] = Join(after, separator);
-        return true;
     }
 
     // An entry that is removed and added again is moved, each time.
     bool MovesEntry() const
     {
-        const auto plain = [](Text entry) {
-            std::erase(entry, u'"');
-            return Text(Trim(entry));
-        };
         std::set<Text> added;
         for (const std::vector<Text>* entries : {&m_edit.change.prepend, &m_edit.change.append})
-            std::ranges::transform(*entries, std::inserter(added, added.end()), plain);
+            std::ranges::transform(*entries, std::inserter(added, added.end()), KeyOf);
         return std::ranges::any_of(m_edit.change.remove,
-                                   [&](const Text& entry) { return added.contains(plain(entry)); });
-    }
-
-    // Quotes of an added entry may pair with those of its neighbours: the list then has other entries
-    // than those that were added, and adding them again adds more.
-    bool AddsQuote() const
-    {
-        return std::ranges::any_of(m_edit.change.prepend, HasQuote) ||
-               std::ranges::any_of(m_edit.change.append, HasQuote);
+                                   [&](const Text& entry) { return added.contains(KeyOf(entry)); });
     }
 
     std::string FaultOfSecondTime() const
     {
-        if (MovesEntry() || AddsQuote())
+        if (MovesEntry())
             return "";
         const EditResult again = Apply({m_result.bytes, m_file.charset}, m_edit);
         return again.refused.empty() && again.bytes == m_result.bytes ? ""

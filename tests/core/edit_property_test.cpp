@@ -90,7 +90,10 @@ class RandomEdits
 
     std::string Entry()
     {
-        return OneOf({"a", "a", "b", "c", "d", " a ", "b c", "\"q\"", "x,y", "a;b", "", "\xE4", "$(X)/y"});
+        if (Chance(20))
+            return OneOf({"\"q\"", "x\"y", "z\"", "p\"a;b\"", "\"u,v\" w", "\"s;t\"", "\"\"", "a\"\"b", "b#c",
+                          "b\nc", "d\r\n"});
+        return OneOf({"a", "a", "b", "c", "d", " a ", "b c", "x,y", "a;b", "", "\xE4", "$(X)/y"});
     }
 
     std::string Value()

@@ -269,8 +269,49 @@ TEST(ChangeListOfCommas, IsEditedInsideItsLine)
     EXPECT_EQ(List("K_COMMAS = \"a\"\n", u"K_COMMAS", {{u"a"}, {}, {}}), "K_COMMAS = \"\"\n");
 }
 
+TEST(ChangeListOfLines, ASeparatorBetweenQuotesBelongsToTheEntry)
+{
+    const std::string file = "A > a\nA > p\"x;y\"\n";
+    EXPECT_EQ(List("A > a\n", u"A", {{}, {}, {u"p\"x;y\""}}), file);
+    EXPECT_EQ(List(file, u"A", {{}, {}, {u"p\"x;y\""}}), file);
+    EXPECT_EQ(List(file, u"A", {{u"x"}, {}, {u"b"}}), file + "A > b\n");
+    EXPECT_EQ(List(file, u"A", {{u"p\"x;y\""}, {}, {}}), "A > a\n");
+    EXPECT_EQ(List("K_COMMAS > a,b\n", u"K_COMMAS", {{}, {}, {u"\"x,y\""}}), "K_COMMAS > a,b,\"x,y\"\n");
+}
+
+TEST(ChangeListOfLines, QuotesDoNotTellEntriesApart)
+{
+    EXPECT_EQ(List("A = a;\"q\";b\n", u"A", {{u"q"}, {}, {}}), "A = a;b\n");
+    EXPECT_EQ(List("A = a;q\n", u"A", {{}, {}, {u"\"q\""}}), "A = a;q\n");
+}
+
+TEST(ChangeListOfLines, AnUnpairedQuoteStaysButDoesNotPairWithAnother)
+{
+    EXPECT_EQ(List("A > a\n", u"A", {{}, {}, {u"x\"y"}}), "A > a\nA > x\"y\n");
+    EXPECT_EQ(List("A > x\"y\n", u"A", {{}, {}, {u"b"}}), "A > x\"y\nA > b\n");
+    EXPECT_EQ(List("A > x\"y\n", u"A", {{}, {}, {u"b\""}}), Refused(EditRefusal::QuotesPair, "A"));
+    EXPECT_EQ(List("A > b;c\"\n", u"A", {{}, {u"x\"y"}, {}}), Refused(EditRefusal::QuotesPair, "A"));
+    EXPECT_EQ(List("A > b;c\"\n", u"A", {{u"c"}, {u"x\"y"}, {}}), "A > b\nA < x\"y\n");
+}
+
+TEST(ChangeListOfLines, AnEntryThatIsNotReadBackIsRefused)
+{
+    EXPECT_EQ(List("A > a\n", u"A", {{}, {}, {u"\"x;y\""}}),
+              Refused(EditRefusal::ValueNotKept, "A", "a;\"x;y\""));
+    EXPECT_EQ(List("A > a\n", u"A", {{}, {}, {u"\" b \""}}),
+              Refused(EditRefusal::ValueNotKept, "A", "a;\" b \""));
+    EXPECT_EQ(List("A > a\n", u"A", {{}, {}, {u"b\nc"}}), Refused(EditRefusal::ValueNotKept, "A", "a;b\nc"));
+    EXPECT_EQ(List("A > a\n", u"A", {{}, {}, {u"b\r\n"}}), "A > a\nA > b\n");
+    EXPECT_EQ(List("A > a\n", u"A", {{}, {}, {u"b#c"}}), "A > a\nA > b#c\n");
+    EXPECT_EQ(List("K_COMMAS = \"a\"\n", u"K_COMMAS", {{}, {}, {u"b#c"}}),
+              Refused(EditRefusal::ValueNotKept, "K_COMMAS", "a,b#c"));
+}
+
 TEST(ChangeListOfLines, WhatIsNoEntryIsRefused)
 {
+    EXPECT_EQ(List("A = a\n", u"A", {{}, {}, {u"b;"}}), Refused(EditRefusal::SeveralEntries, "A", ";"));
+    EXPECT_EQ(List("A = a\n", u"A", {{}, {}, {u"b\";c"}}), Refused(EditRefusal::SeveralEntries, "A", ";"));
+    EXPECT_EQ(List("A = a\n", u"A", {{u""}, {}, {}}), Refused(EditRefusal::EmptyEntry, "A"));
     EXPECT_EQ(List("A = a\n", u"A", {{}, {}, {u"b;c"}}), Refused(EditRefusal::SeveralEntries, "A", ";"));
     EXPECT_EQ(List("A = a\n", u"A", {{}, {}, {u" "}}), Refused(EditRefusal::EmptyEntry, "A"));
     EXPECT_EQ(List("A = a\n%if X\nA > b\n", u"A", {{}, {}, {u"c"}}), Refused(EditRefusal::Conditional, "A"));
