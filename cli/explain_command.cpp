@@ -87,16 +87,32 @@ class ExplainCommand final : public Command
         const auto record = store.FindSetting(TextView(name), kCurrentTable);
         if (variable == nullptr || !record)
             return "\n" + *m_path + ": not there\n";
-        std::string lines;
-        for (std::size_t line = variable->firstLine; line <= variable->lastLine; ++line) {
-            const std::size_t index = file.Lines()[line].variable;
-            if (index != InspectedFile::kNone && &file.Variables()[index] == variable)
-                lines += (lines.empty() ? "" : ", ") + std::to_string(line + 1);
+        std::vector<std::size_t> lines;
+        for (const InspectedFile::Line& line : file.Lines()) {
+            if (line.variable != InspectedFile::kNone && &file.Variables()[line.variable] == variable)
+                lines.push_back(line.number + 1);
         }
         std::string text = "\n" + *m_path + ":\n  Value: " + Utf8FromText(Text(record->value)) +
-                           "\n  Lines: " + lines + "\n";
+                           "\n  Lines: " + Ranges(lines) + "\n";
         if (!record->comment.empty())
             text += "  Comment:\n" + Indented(Utf8FromText(Text(record->comment)));
+        return text;
+    }
+
+    // "1, 2, 7-12": ascending numbers, with three or more in a row as a range.
+    static std::string Ranges(const std::vector<std::size_t>& numbers)
+    {
+        std::string text;
+        for (std::size_t first = 0, next = 0; first < numbers.size(); first = next) {
+            next = first + 1;
+            while (next < numbers.size() && numbers[next] == numbers[next - 1] + 1)
+                ++next;
+            if (next - first < 3)
+                next = first + 1;
+            text.append(text.empty() ? "" : ", ").append(std::to_string(numbers[first]));
+            if (next - first > 1)
+                text.append("-").append(std::to_string(numbers[next - 1]));
+        }
         return text;
     }
 

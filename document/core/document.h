@@ -1,6 +1,7 @@
 #pragma once
 
 #include "config/core/config_line.h"
+#include "config/core/text_lines.h"
 
 #include <cstddef>
 #include <string>
@@ -26,11 +27,18 @@ class Document
     Document& operator=(const Document&) = delete;
 
     const std::string& Bytes() const { return m_bytes; }
-    std::size_t LineCount() const { return m_lines.size(); }
-    const DocumentLine& Line(std::size_t line) const { return m_lines[line]; }
+    std::size_t LineCount() const { return m_starts.size() - 1; }
+
+    DocumentLine Line(std::size_t line) const
+    {
+        const std::string_view whole(m_bytes.data() + m_starts[line], m_starts[line + 1] - m_starts[line]);
+        const std::string_view text =
+            whole.back() == '\n' ? WithoutCarriageReturn(whole.substr(0, whole.size() - 1)) : whole;
+        return {text, whole.substr(text.size())};
+    }
 
     /// The line parsed as the reader parses it.
-    ConfigLine Parts(std::size_t line) const { return ParseConfigLine(m_lines[line].text); }
+    ConfigLine Parts(std::size_t line) const { return ParseConfigLine(Line(line).text); }
 
     /// The line end for a new line below the given line: that line's own, else that of the nearest line
     /// before it, else CR LF.
@@ -38,7 +46,7 @@ class Document
 
   private:
     std::string m_bytes;
-    std::vector<DocumentLine> m_lines;
+    std::vector<std::size_t> m_starts; ///< The position of each line, and the length of the file.
 };
 
 } // namespace ov

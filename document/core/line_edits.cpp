@@ -81,7 +81,7 @@ std::string LineEdits::Apply() const
     LineJoiner joiner;
     auto next = m_changes.begin();
     for (std::size_t i = 0; i < count; ++i) {
-        const DocumentLine& line = m_document.Line(i);
+        const DocumentLine line = m_document.Line(i);
         if (next == m_changes.end() || next->first != i) {
             joiner.Add(line.text, line.end, m_document.EndBelow(i));
             continue;

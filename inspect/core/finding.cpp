@@ -40,7 +40,9 @@ std::string Quotable(TextView text)
         const CodePoint character = ReadUtf16(text);
         text.remove_prefix(character.length);
         const bool control = character.value < 0x20 || (character.value >= 0x7F && character.value < 0xA0);
-        AppendUtf8(quotable, control || !character.valid ? kReplacementCharacter : character.value);
+        // A byte-order mark has no width: the message would show the name that the variable appears to have.
+        const bool hidden = control || character.value == 0xFEFF;
+        AppendUtf8(quotable, hidden || !character.valid ? kReplacementCharacter : character.value);
     }
     return quotable;
 }

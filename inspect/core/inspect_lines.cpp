@@ -46,87 +46,62 @@ bool HasWord(const InspectedFile& file, std::string_view line)
     return std::ranges::any_of(line, isPlain) || HasWord(file.Decode(line));
 }
 
-/// The comment lines since the last variable, as the reader collects them.
-class CommentBlock
+/// Adds a finding if one of the comments between the lines has a word. `end` is exclusive.
+void InspectLostBlock(Inspection& inspection, std::size_t start, std::size_t end, const std::string& reason)
 {
-  public:
-    void Add(std::size_t line, bool hasWord)
-    {
-        if (m_first == InspectedFile::kNone)
-            m_first = line;
-        m_hasWord |= hasWord;
+    const InspectedFile& file = inspection.File();
+    std::size_t first = InspectedFile::kNone;
+    for (std::size_t line = start; line < end; ++line) {
+        const ConfigLine parts = file.Parts(line);
+        if (parts.kind != LineKind::Comment)
+            continue;
+        if (first == InspectedFile::kNone)
+            first = line;
+        if (HasWord(file, parts.text)) {
+            inspection.Add(RuleId::CommentLost, first, {{"reason", reason}});
+            return;
+        }
     }
-    void Clear() { *this = {}; }
-
-    std::size_t FirstLine() const { return m_first; }
-    bool IsWorthKeeping() const { return m_hasWord; }
-
-  private:
-    std::size_t m_first = InspectedFile::kNone;
-    bool m_hasWord = false;
-};
+}
 
 void FindLostComments(Inspection& inspection)
 {
     const InspectedFile& file = inspection.File();
-    CommentBlock block;
-    bool inHeader = true;
-    for (std::size_t i = 0; i < file.Lines().size(); ++i) {
-        const Line& line = file.Lines()[i];
-        switch (line.parts.kind) {
-        case LineKind::Blank:
-            // Everything above the first blank line is the header.
-            if (inHeader)
-                block.Clear();
-            inHeader = false;
-            break;
-        case LineKind::Comment:
-            block.Add(i, block.IsWorthKeeping() || HasWord(file, line.parts.text));
-            break;
-        case LineKind::Directive:
-            break;
-        case LineKind::Ignored:
-            inHeader = false;
-            break;
-        case LineKind::Assignment: {
-            inHeader = false;
-            const bool isFurther =
-                line.variable != InspectedFile::kNone && file.Variables()[line.variable].firstLine != i;
-            if (isFurther && block.IsWorthKeeping()) {
-                const std::string name = Quotable(file.Decode(line.parts.name));
-                inspection.Add(RuleId::CommentLost, block.FirstLine(),
-                               {{"reason", "a further line of " + name + " follows"}});
-            }
-            block.Clear();
-            break;
+    // The reader collects the comments since the last variable, at first those below the header.
+    std::size_t start = file.HeaderLines().empty() ? 0 : file.HeaderLines().back() + 1;
+    for (const Line& line : file.Lines()) {
+        if (line.kind != LineKind::Assignment)
+            continue;
+        const bool isFurther =
+            line.variable != InspectedFile::kNone && file.Variables()[line.variable].firstLine != line.number;
+        if (isFurther && start < line.number) {
+            const std::string name = Quotable(file.Decode(file.Variables()[line.variable].name));
+            InspectLostBlock(inspection, start, line.number, "a further line of " + name + " follows");
         }
-        }
+        start = line.number + 1;
     }
-    if (block.IsWorthKeeping())
-        inspection.Add(RuleId::CommentLost, block.FirstLine(), {{"reason", "no variable follows"}});
+    InspectLostBlock(inspection, start, file.LineCount(), "no variable follows");
 }
 
-void InspectIgnored(Inspection& inspection, std::size_t number, const Line& line)
+void InspectIgnored(Inspection& inspection, std::size_t number)
 {
     // "NAME=value" and "NAME= value" contain the operator, but not as a separate word.
-    const bool onlyBlanksMissing =
-        line.parts.name.find('=') != std::string_view::npos && line.parts.name.front() != '=';
+    const std::string_view name = inspection.File().Parts(number).name;
+    const bool onlyBlanksMissing = name.find('=') != std::string_view::npos && name.front() != '=';
     inspection.Add(RuleId::LineIgnored, number,
                    {{"hint", onlyBlanksMissing ? "; put a blank on both sides of \"=\"" : ""}});
 }
 
-void InspectOperator(Inspection& inspection, std::size_t number, const Line& line)
+void InspectOperator(Inspection& inspection, std::size_t number)
 {
     const InspectedFile& file = inspection.File();
-    const std::string_view token = line.parts.operatorToken;
-    if (token.size() == 1)
-        return;
-    const Text name = file.Decode(line.parts.name);
-    const std::string value = Quotable(file.Decode(line.parts.value));
+    const ConfigLine parts = file.Parts(number);
+    const Text name = file.Decode(parts.name);
+    const std::string value = Quotable(file.Decode(parts.value));
     Finding* finding =
         inspection.Add(RuleId::MalformedOperator, number,
-                       {{"token", Quotable(file.Decode(token))},
-                        {"operator", std::string(1, line.parts.operation)},
+                       {{"token", Quotable(file.Decode(parts.operatorToken))},
+                        {"operator", std::string(1, parts.operation)},
                         {"variable", Quotable(name)},
                         {"value", value.empty() ? "an empty value" : "the value \"" + value + "\""}});
     if (finding != nullptr)
@@ -143,33 +118,34 @@ void AddAboutVariable(Inspection& inspection, RuleId rule, std::size_t number, c
         finding->variable = name;
 }
 
-void InspectOrder(Inspection& inspection, std::size_t number, const Line& line)
+void InspectOrder(Inspection& inspection, const Line& line)
 {
     const Variable& variable = inspection.File().Variables()[line.variable];
-    if (number == variable.firstLine && line.parts.operation != '=')
-        AddAboutVariable(inspection, RuleId::InheritedList, number, variable,
-                         {"operator", std::string(1, line.parts.operation)});
-    if (variable.lastSet != InspectedFile::kNone && number < variable.lastSet)
-        AddAboutVariable(inspection, RuleId::AssignedAgain, number, variable,
+    if (line.number == variable.firstLine && line.operation != '=')
+        AddAboutVariable(inspection, RuleId::InheritedList, line.number, variable,
+                         {"operator", std::string(1, line.operation)});
+    if (variable.lastSet != InspectedFile::kNone && line.number < variable.lastSet)
+        AddAboutVariable(inspection, RuleId::AssignedAgain, line.number, variable,
                          {"line", std::to_string(variable.lastSet + 1)});
 }
 
-void InspectLine(Inspection& inspection, std::size_t number, const Line& line)
+void InspectLine(Inspection& inspection, const Line& line)
 {
     if (line.isConflictMarker) {
-        inspection.Add(RuleId::ConflictMarker, number, {});
+        inspection.Add(RuleId::ConflictMarker, line.number, {});
         return;
     }
-    switch (line.parts.kind) {
+    switch (line.kind) {
     case LineKind::Directive:
-        inspection.Add(RuleId::DirectiveLost, number, {});
+        inspection.Add(RuleId::DirectiveLost, line.number, {});
         break;
     case LineKind::Ignored:
-        InspectIgnored(inspection, number, line);
+        InspectIgnored(inspection, line.number);
         break;
     case LineKind::Assignment:
-        InspectOperator(inspection, number, line);
-        InspectOrder(inspection, number, line);
+        if (!line.isOperatorPlain)
+            InspectOperator(inspection, line.number);
+        InspectOrder(inspection, line);
         break;
     case LineKind::Blank:
     case LineKind::Comment:
@@ -185,8 +161,8 @@ void InspectLines(Inspection& inspection)
         inspection.AddToFile(RuleId::ByteOrderMark, {});
     if (!file.HeaderLines().empty() && !file.IsHeaderSaved())
         inspection.Add(RuleId::HeaderReplaced, file.HeaderLines().front(), {});
-    for (std::size_t number = 0; number < file.Lines().size(); ++number)
-        InspectLine(inspection, number, file.Lines()[number]);
+    for (const Line& line : file.Lines())
+        InspectLine(inspection, line);
     FindLostComments(inspection);
 }
 

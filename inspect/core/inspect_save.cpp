@@ -83,19 +83,20 @@ void FindChangedValues(Inspection& inspection)
     const InspectedFile& file = inspection.File();
     const SettingStore& store = inspection.Dialog().Store();
     RoundTrip roundTrip;
+    Text room;
     std::vector<std::pair<const Variable*, Text>> doubtful;
     for (const Variable& variable : file.Variables()) {
         if (inspection.Explained().contains(variable.name))
             continue;
-        Text name = file.Decode(variable.name);
-        const auto record = store.FindSetting(TextView(name), kCurrentTable);
+        const CompactView name = file.Decode(variable.name, room);
+        const auto record = store.FindSetting(name, kCurrentTable);
         if (!record)
             continue;
         if (!IsSurelyKept(record->value, record->kind)) {
-            roundTrip.Add(name, *record);
-            doubtful.emplace_back(&variable, std::move(name));
-        } else if (const SettingPlace* place = FindSetting(name)) {
-            const Text before = inspection.ValueOf(*place).value_or(Text());
+            doubtful.emplace_back(&variable, name);
+            roundTrip.Add(doubtful.back().second, *record);
+        } else if (variable.setting != nullptr) {
+            const Text before = inspection.ValueOf(*variable.setting).value_or(Text());
             if (record->value != before)
                 AddChange(inspection, variable, before, Text(record->value));
         }
@@ -134,9 +135,10 @@ Text FirstVariable(const Inspection& inspection, const SettingStore& store)
         if ((first.empty() || variable < first) && store.HasSetting(variable, kCurrentTable))
             first = variable;
     }
+    Text room;
     for (const Variable& variable : inspection.File().Variables()) {
-        const Text name = inspection.File().Decode(variable.name);
-        if (first.empty() || name < first)
+        const CompactView name = inspection.File().Decode(variable.name, room);
+        if (first.empty() || name < CompactView(first))
             first = name;
     }
     return first;

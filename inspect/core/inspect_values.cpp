@@ -165,13 +165,12 @@ std::size_t LongestField(TextView entry, const ListFormat& format)
 /// The variable's last line whose value has more bytes than the limit, or its last line if there is none.
 std::size_t LineOfLongEntry(const InspectedFile& file, const Variable& variable)
 {
-    for (std::size_t line = variable.lastLine + 1; line > variable.firstLine; --line) {
-        const InspectedFile::Line& each = file.Lines()[line - 1];
-        if (each.variable != InspectedFile::kNone && &file.Variables()[each.variable] == &variable &&
-            each.parts.value.size() > kLongestField)
-            return line - 1;
-    }
-    return variable.lastLine;
+    const auto isLong = [&](const InspectedFile::Line& line) {
+        return line.variable != InspectedFile::kNone && &file.Variables()[line.variable] == &variable &&
+               file.Parts(line.number).value.size() > kLongestField;
+    };
+    const auto found = std::find_if(file.Lines().rbegin(), file.Lines().rend(), isLong);
+    return found != file.Lines().rend() ? found->number : variable.lastLine;
 }
 
 void InspectList(Inspection& inspection, const Stored& stored, const ListFormat& format)
@@ -333,8 +332,11 @@ bool BeginsAsASetting(TextView name)
     return folded.starts_with(u"_ORTHOVAL_") || folded.starts_with(u"ORTHOVAL_");
 }
 
-void InspectUnknown(Inspection& inspection, const Variable& variable, const Text& name)
+void InspectUnknown(Inspection& inspection, const Variable& variable)
 {
+    if (!MayBeSimilar(variable.name))
+        return;
+    const Text name = inspection.File().Decode(variable.name);
     if (PageOfOlderVariable(name) != nullptr)
         return;
     const std::optional<Text> similar = SimilarVariable(name);
@@ -346,23 +348,29 @@ void InspectUnknown(Inspection& inspection, const Variable& variable, const Text
     if (finding != nullptr)
         finding->variable = name;
 }
+
+void InspectDefault(Inspection& inspection, const Variable& variable)
+{
+    const Text name = inspection.File().Decode(variable.name);
+    const SettingStore& defaults = inspection.Defaults();
+    if (defaults.HasSetting(name, kCurrentTable) &&
+        inspection.ValueOf(name) == defaults.GetSettingValue(name, kCurrentTable))
+        inspection.AddAt(RuleId::EqualsDefault, variable, {{"variable", Quotable(name)}});
+}
 } // namespace
 
 void InspectValues(Inspection& inspection)
 {
     const InspectedFile& file = inspection.File();
+    const bool comparesDefaults = inspection.Settings().rules.Contains(RuleId::EqualsDefault);
     for (const Variable& variable : file.Variables()) {
-        const Text name = file.Decode(variable.name);
-        const SettingPlace* place = FindSetting(name);
-        if (place == nullptr)
-            InspectUnknown(inspection, variable, name);
+        if (variable.setting == nullptr)
+            InspectUnknown(inspection, variable);
         else
-            InspectSetting(inspection, {*place, variable, inspection.ValueOf(name).value_or(Text())});
-        const bool isDefault =
-            inspection.Defaults().HasSetting(name, kCurrentTable) &&
-            inspection.ValueOf(name) == inspection.Defaults().GetSettingValue(name, kCurrentTable);
-        if (isDefault)
-            inspection.AddAt(RuleId::EqualsDefault, variable, {{"variable", Quotable(name)}});
+            InspectSetting(inspection, {*variable.setting, variable,
+                                        inspection.ValueOf(*variable.setting).value_or(Text())});
+        if (comparesDefaults)
+            InspectDefault(inspection, variable);
     }
     InspectScanPeriod(inspection);
     for (const NamingPair& pair : namingPairs) {

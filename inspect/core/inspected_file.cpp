@@ -23,9 +23,8 @@ bool IsConflictMarker(std::string_view line)
 } // namespace
 
 InspectedFile::InspectedFile(std::string bytes, Charset charset)
-    : m_document(std::move(bytes)), m_charset(charset), m_decoder(charset)
+    : m_document(std::move(bytes)), m_charset(charset), m_decoder(charset), m_encoder(charset)
 {
-    m_lines.reserve(m_document.LineCount());
     for (std::size_t line = 0; line < m_document.LineCount(); ++line)
         AddLine(line);
     FindHeader();
@@ -33,17 +32,23 @@ InspectedFile::InspectedFile(std::string bytes, Charset charset)
 
 void InspectedFile::AddLine(std::size_t number)
 {
-    Line line{m_document.Parts(number)};
-    line.isConflictMarker = IsConflictMarker(m_document.Line(number).text);
-    if (line.parts.kind == LineKind::Assignment && !line.isConflictMarker) {
-        const auto [found, isNew] = m_variableOf.try_emplace(line.parts.name, m_variables.size());
-        if (isNew)
-            m_variables.push_back({line.parts.name, number, number, kNone});
-        Variable& variable = m_variables[found->second];
+    const std::string_view text = m_document.Line(number).text;
+    const ConfigLine parts = ParseConfigLine(text);
+    if (parts.kind == LineKind::Blank || parts.kind == LineKind::Comment)
+        return;
+    Line line{
+        number, kNone, parts.kind, parts.operation, parts.operatorToken.size() == 1, IsConflictMarker(text)};
+    if (parts.kind == LineKind::Assignment && !line.isConflictMarker) {
+        const CompactView name = CompactView::OfBytes(parts.name);
+        line.variable = m_names.Find(name);
+        if (line.variable == SettingTable::kNone) {
+            line.variable = m_names.Insert(name, {}, SettingKindText, {});
+            m_variables.push_back({parts.name, FindSetting(parts.name), number, number, kNone});
+        }
+        Variable& variable = m_variables[line.variable];
         variable.lastLine = number;
-        if (line.parts.operation == '=')
+        if (parts.operation == '=')
             variable.lastSet = number;
-        line.variable = found->second;
     }
     m_lines.push_back(line);
 }
@@ -51,9 +56,9 @@ void InspectedFile::AddLine(std::size_t number)
 void InspectedFile::FindHeader()
 {
     std::vector<std::size_t> comments;
-    std::size_t line = 0;
-    for (; line < m_lines.size(); ++line) {
-        const LineKind kind = m_lines[line].parts.kind;
+    LineKind kind = LineKind::Directive;
+    for (std::size_t line = 0; line < LineCount(); ++line) {
+        kind = Parts(line).kind;
         if (kind == LineKind::Comment)
             comments.push_back(line);
         else if (kind != LineKind::Directive)
@@ -65,7 +70,7 @@ void InspectedFile::FindHeader()
     for (const std::size_t comment : comments)
         texts.push_back(Decode(m_document.Line(comment).text));
     m_savedHeader = ReadSavedHeader(std::span(texts).first(std::min(texts.size(), kSavedHeaderLines)));
-    if (line == m_lines.size() || m_lines[line].parts.kind != LineKind::Blank)
+    if (kind != LineKind::Blank)
         return;
     m_header = std::move(comments);
     m_headerIsSaved = m_savedHeader && m_header.size() == kSavedHeaderLines;
@@ -74,10 +79,10 @@ void InspectedFile::FindHeader()
 const InspectedFile::Variable* InspectedFile::Find(TextView name) const
 {
     std::string bytes;
-    if (!LocaleEncoder(m_charset).Append(name, bytes))
+    if (!m_encoder.Append(name, bytes))
         return nullptr;
-    const auto found = m_variableOf.find(bytes);
-    return found != m_variableOf.end() ? &m_variables[found->second] : nullptr;
+    const SettingTable::Index found = m_names.Find(CompactView::OfBytes(bytes));
+    return found != SettingTable::kNone ? &m_variables[found] : nullptr;
 }
 
 Text InspectedFile::Decode(std::string_view bytes) const
@@ -87,13 +92,22 @@ Text InspectedFile::Decode(std::string_view bytes) const
     return text;
 }
 
+CompactView InspectedFile::Decode(std::string_view bytes, Text& room) const
+{
+    if (m_decoder.IsPlain(bytes))
+        return CompactView::OfBytes(bytes);
+    room.clear();
+    m_decoder.Append(bytes, room);
+    return room;
+}
+
 std::size_t InspectedFile::ValueColumn(std::size_t line) const
 {
-    const std::string_view value = m_lines[line].parts.value;
-    if (m_lines[line].variable == kNone || value.empty())
-        return 1;
     const std::string_view whole = m_document.Line(line).text;
-    std::string_view before = whole.substr(0, static_cast<std::size_t>(value.data() - whole.data()));
+    const ConfigLine parts = ParseConfigLine(whole);
+    if (parts.kind != LineKind::Assignment || parts.value.empty() || IsConflictMarker(whole))
+        return 1;
+    std::string_view before = whole.substr(0, static_cast<std::size_t>(parts.value.data() - whole.data()));
     std::size_t column = 1;
     for (; !before.empty(); ++column)
         before.remove_prefix(m_charset == Charset::Utf8 ? ReadUtf8(before).length : 1);

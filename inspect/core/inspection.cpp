@@ -54,7 +54,7 @@ Finding* Inspection::Add(RuleId rule, std::size_t line, const std::vector<Messag
     if (!m_settings.rules.Contains(rule))
         return nullptr;
     Finding finding{rule, line + 1, 1, FormatMessage(rule, parts), {}, {}, {}, {}};
-    if (line < m_file.Lines().size())
+    if (line < m_file.LineCount())
         finding.column = m_file.ValueColumn(line);
     m_findings.push_back(std::move(finding));
     return &m_findings.back();

@@ -6,6 +6,7 @@
 #include "pages/core/string_table.h"
 
 #include <algorithm>
+#include <array>
 #include <bit>
 #include <cstdint>
 #include <cstdlib>
@@ -86,18 +87,6 @@ std::size_t Difference(TextView one, TextView other, std::size_t largest)
             return largest + 1;
     }
     return row[other.size()];
-}
-
-/// A quick check whether a name may be similar to a known one. All known names begin alike: of three
-/// pieces of that beginning, two wrong letters leave one unchanged.
-bool MayBeSimilar(TextView folded)
-{
-    const TextView beginning = folded.substr(0, 14);
-    for (const TextView piece : {TextView(u"ORT"), TextView(u"HOV"), TextView(u"AL_")}) {
-        if (beginning.find(piece) != TextView::npos)
-            return true;
-    }
-    return false;
 }
 
 ControlKind KindOfControl(const PageRows& page, int controlId)
@@ -188,10 +177,22 @@ std::span<const SettingPlace> AllSettings()
 
 const SettingPlace* FindSetting(TextView variable)
 {
-    static const std::unordered_map<TextView, const SettingPlace*> byName = [] {
-        std::unordered_map<TextView, const SettingPlace*> map;
+    return FindSetting(Utf8FromText(variable));
+}
+
+const SettingPlace* FindSetting(std::string_view variable)
+{
+    // All names are in ASCII, so they are the same bytes in every encoding.
+    static const std::vector<std::string> names = [] {
+        std::vector<std::string> list;
         for (const SettingPlace& place : AllSettings())
-            map.emplace(place.row->variable, &place);
+            list.push_back(Utf8FromText(place.row->variable));
+        return list;
+    }();
+    static const std::unordered_map<std::string_view, const SettingPlace*> byName = [] {
+        std::unordered_map<std::string_view, const SettingPlace*> map;
+        for (std::size_t i = 0; i < names.size(); ++i)
+            map.emplace(names[i], &AllSettings()[i]);
         return map;
     }();
     const auto found = byName.find(variable);
@@ -209,15 +210,26 @@ const PageRows* PageOfOlderVariable(TextView variable)
     return nullptr;
 }
 
+bool MayBeSimilar(std::string_view variable)
+{
+    // All known names begin alike: of three pieces of that beginning, two wrong letters leave one unchanged.
+    const auto isSame = [](char c, char piece) {
+        return ToUpperAscii(static_cast<unsigned char>(c)) == piece;
+    };
+    return std::ranges::any_of(std::array<std::string_view, 3>{"ORT", "HOV", "AL_"}, [&](auto piece) {
+        return !std::ranges::search(variable, piece, isSame).empty();
+    });
+}
+
 std::optional<Text> SimilarVariable(TextView variable)
 {
     const Text folded = Folded(variable);
-    if (!MayBeSimilar(folded))
-        return std::nullopt;
     std::size_t smallest = kLargestDifference;
     std::optional<Text> nearest;
     const std::uint64_t letters = LettersOf(folded);
     for (const KnownVariable& known : KnownVariables()) {
+        if (folded.size() > known.name.size() + smallest || known.name.size() > folded.size() + smallest)
+            continue;
         // A letter that is changed makes one appear and another one disappear.
         if (static_cast<std::size_t>(std::popcount(letters ^ known.letters)) > 2 * smallest)
             continue;

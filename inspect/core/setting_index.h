@@ -6,6 +6,7 @@
 
 #include <optional>
 #include <span>
+#include <string_view>
 #include <vector>
 
 namespace ov
@@ -23,6 +24,9 @@ std::span<const SettingPlace> AllSettings();
 /// The setting stored in the variable; null if no page has it.
 const SettingPlace* FindSetting(TextView variable);
 
+/// The same for a name in the bytes of a file in any encoding that includes ASCII.
+const SettingPlace* FindSetting(std::string_view variable);
+
 /// The page that reads the variable in files of earlier versions and never writes it; null when there
 /// is none.
 const PageRows* PageOfOlderVariable(TextView variable);
@@ -30,6 +34,10 @@ const PageRows* PageOfOlderVariable(TextView variable);
 /// The name of a setting, or of an older variable, that differs from the given one in case only,
 /// or in one or two letters. Nothing if there is none; the nearest one of several.
 std::optional<Text> SimilarVariable(TextView variable);
+
+/// A quick check of a name in the bytes of a file: false if it is certainly neither a known name nor
+/// similar to one.
+bool MayBeSimilar(std::string_view variable);
 
 /// The valid numbers of a setting's control, both ends included.
 struct NumberRange {
