@@ -49,4 +49,9 @@ bool IsUnwritable(const std::wstring& text)
     return std::ranges::any_of(text, [](wchar_t character) { return character > 0xFF; });
 }
 
+bool IsEmptyList(const std::wstring& text)
+{
+    return text.find(L';') != text.npos && text.find_first_not_of(L"; \"") == text.npos;
+}
+
 } // namespace walk

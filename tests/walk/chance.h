@@ -38,4 +38,7 @@ class Chance
 /// knows Latin-1 only.
 bool IsUnwritable(const std::wstring& text);
 
+/// Whether the text, alone in a list, makes a list without an entry, which no save writes.
+bool IsEmptyList(const std::wstring& text);
+
 } // namespace walk

@@ -18,6 +18,20 @@ unsigned FromEnvironment(const char* name, unsigned otherwise)
     return value != nullptr ? static_cast<unsigned>(std::strtoul(value, nullptr, 10)) : otherwise;
 }
 
+/// What the process holds while no dialog is open.
+struct Objects {
+    unsigned gdi = CountGdiObjects();
+    unsigned user = CountUserObjects();
+};
+
+void ExpectNoGrowth(const Objects& first, const Objects& now, unsigned seed)
+{
+    // Fonts of resolutions that no earlier walk has chosen, and what the system keeps in reserve.
+    constexpr unsigned tolerance = 16;
+    EXPECT_LE(now.gdi, first.gdi + tolerance) << "GDI objects after the walk with OV_WALK_SEED=" << seed;
+    EXPECT_LE(now.user, first.user + tolerance) << "USER objects after the walk with OV_WALK_SEED=" << seed;
+}
+
 class RandomUse : public walk::Walk
 {
 };
@@ -28,20 +42,23 @@ TEST_F(RandomUse, HasNoSurprises)
     const ULONGLONG end = GetTickCount64() + 1000ULL * FromEnvironment("OV_WALK_SECONDS", 20);
     const unsigned asked = FromEnvironment("OV_WALK_SEED", 0);
     const int steps = static_cast<int>(FromEnvironment("OV_WALK_STEPS", 300));
-    // What the first walk leaves behind is what the system keeps in reserve.
-    constexpr unsigned tolerance = 16;
-    unsigned userObjects = 0;
     unsigned seed = std::max(asked, 1U);
-    const unsigned first = seed;
+    const unsigned start = seed;
     const auto isTimeOver = [&] { return GetTickCount64() >= end && seed != asked; };
-    for (; !HasFailure() && (seed == first || GetTickCount64() < end); ++seed) {
+    Objects first;
+    Objects now = first;
+    for (; !HasFailure() && (seed == start || GetTickCount64() < end); ++seed) {
         Take(seed, steps, isTimeOver);
-        const unsigned now = CountUserObjects();
-        if (seed == first)
-            userObjects = now;
-        EXPECT_LE(now, userObjects + tolerance) << "USER objects after the walk with OV_WALK_SEED=" << seed;
+        if (HasFailure())
+            break;
+        now = Objects();
+        // The first walk leaves behind what the system keeps in reserve.
+        if (seed == start)
+            first = now;
+        ExpectNoGrowth(first, now, seed);
     }
-    std::printf("%u walks, %d steps, %d dialogs, %d saves\n", seed - first, m_steps, m_openings, m_saves);
+    std::printf("%u walks, %d steps, %d dialogs, %d saves; %u to %u GDI objects, %u to %u USER objects\n",
+                seed - start, m_steps, m_openings, m_saves, first.gdi, now.gdi, first.user, now.user);
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "inspect/core/save_preview.h"
 #include "tests/pages/expected_pages.h"
 #include "tests/support/test_files.h"
+#include "tests/walk/chance.h"
 #include "tests/walk/dialog_checks.h"
 #include "tests/walk/shown_values.h"
 
@@ -44,17 +45,11 @@ std::wstring Wide(const ov::Text& text)
     return {text.begin(), text.end()};
 }
 
-/// A list without an entry, which is not written.
-bool IsEmptyList(const ov::Text& value)
-{
-    return value.find(u';') != value.npos && value.find_first_not_of(u"; \"") == value.npos;
-}
-
 /// What has become of a variable that had this value; empty for nothing.
 std::string FaultOfVariable(const ov::Text& name, const ov::Text& before, const ov::SettingStore& after)
 {
     if (!after.HasSetting(name, ov::kCurrentTable))
-        return IsEmptyList(before) ? "" : Printable(Wide(name)) + " is missing\n";
+        return IsEmptyList(Wide(before)) ? "" : Printable(Wide(name)) + " is missing\n";
     const ov::Text value = after.GetSettingValue(name, ov::kCurrentTable);
     if (value == before || !ComesBack(Wide(before)))
         return "";
@@ -79,17 +74,20 @@ std::string Preview(const std::string& bytes, const std::optional<std::string>& 
 }
 } // namespace
 
-std::string FaultOfSave(const std::optional<std::string>& read, const std::string& saved)
+std::string FaultOfSave(const std::optional<std::string>& read, const std::optional<std::string>& defaults,
+                        const std::string& saved, bool mayLackLists)
 {
     const ov::SettingStore after = Read(saved);
-    ov::SettingStore before;
-    if (read)
-        before = Read(*read);
+    const ov::SettingStore before = Read(read.value_or(""));
+    const ov::SettingStore byDefault = Read(defaults.value_or(""));
+    const auto isEmptyList = [](const ov::SettingStore& store, const ov::Text& name) {
+        return IsEmptyList(Wide(store.GetSettingValue(name, ov::kCurrentTable)));
+    };
     std::string faults;
     const std::set<ov::Text> pageVariables = PageVariables();
     for (const ov::Text& name : pageVariables) {
-        if (!after.HasSetting(name, ov::kCurrentTable) &&
-            !IsEmptyList(before.GetSettingValue(name, ov::kCurrentTable)))
+        if (!mayLackLists && !after.HasSetting(name, ov::kCurrentTable) && !isEmptyList(before, name) &&
+            !isEmptyList(byDefault, name))
             faults += Printable(Wide(name)) + " is missing\n";
     }
     before.VisitInOrder(ov::kCurrentTable, [&](const ov::SettingRecord& record) {
@@ -117,7 +115,10 @@ std::string FaultOfSecondSave(const std::string& once, const std::optional<std::
         // Without a fixed period, the older variable defines one again.
         const bool isPeriod = name == u"_ORTHOVAL_SCANPERIOD_SETTINGS" &&
                               before.HasSetting(u"_ORTHOVAL_SCANPERIOD_VALUE", ov::kCurrentTable);
-        if (!isModels && !isPeriod)
+        // In place of an empty path, the one of the older variable is read.
+        const bool isOlder = name == u"_ORTHOVAL_REPORT_TEMPLATE_JET_DSN_XLS" && record.value.empty() &&
+                             before.HasSetting(u"_ORTHOVAL_REPORT_TEMPLATE_DSN_XLS", ov::kCurrentTable);
+        if (!isModels && !isPeriod && !isOlder)
             faults += FaultOfVariable(name, ov::Text(record.value), after);
         return true;
     });

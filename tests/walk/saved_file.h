@@ -8,8 +8,10 @@ namespace walk
 {
 
 /// Empty if the saved file has all variables of the pages, and all others of the file that the dialog
-/// has read with their values; otherwise a line for each that it has not.
-std::string FaultOfSave(const std::optional<std::string>& read, const std::string& saved);
+/// has read with their values; otherwise a line for each that it has not. With
+/// `mayLackLists`, lists without an entry, which no save writes, were entered on pages.
+std::string FaultOfSave(const std::optional<std::string>& read, const std::optional<std::string>& defaults,
+                        const std::string& saved, bool mayLackLists);
 
 /// A saved file was opened and saved again without a change. Empty if the second file is the first,
 /// but for the date and for texts that no file brings back; otherwise what differs.

@@ -157,6 +157,12 @@ std::string Walk::PressHiddenBox()
     return "sends a click to " + NameOf(box);
 }
 
+void Walk::NoteText(const std::wstring& text)
+{
+    m_unwritable = m_unwritable || IsUnwritable(text);
+    m_emptyList = m_emptyList || IsEmptyList(text);
+}
+
 std::string Walk::EnterText()
 {
     auto found = UsableControls(edits);
@@ -165,7 +171,7 @@ std::string Walk::EnterText()
         return "finds no edit";
     HWND edit = m_chance->OneOf(found);
     const std::wstring text = m_chance->OddText();
-    m_unwritable = m_unwritable || IsUnwritable(text);
+    NoteText(text);
     if (m_chance->Percent(50))
         TypeText(edit, text);
     else

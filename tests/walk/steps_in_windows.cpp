@@ -122,7 +122,7 @@ std::string Walk::StepInEditor()
     case 1: {
         const std::wstring text = m_chance->OddText();
         TypeText(value, text);
-        m_unwritable = m_unwritable || IsUnwritable(text);
+        NoteText(text);
         Click(GetDlgItem(m_input, IDC_CONFIG_SETTING_INSERT));
         return "inserts " + Printable(text);
     }

@@ -107,7 +107,7 @@ void Walk::MakeFiles()
 void Walk::OpenOnFiles()
 {
     ++m_openings;
-    m_wasModified = m_mayReplace = m_unwritable = false;
+    m_wasModified = m_mayReplace = m_unwritable = m_emptyList = false;
     m_reading = true;
     Begin();
     ComeToRest();
@@ -205,10 +205,16 @@ void Walk::CloseDialog()
         Fail(fault);
 }
 
+std::optional<std::string> Walk::Defaults() const
+{
+    return m_defaultPath.empty() ? std::nullopt : ReadBytes(m_defaultPath);
+}
+
 void Walk::ExpectSavedFileComesBack()
 {
     ++m_saves;
-    if (const std::string fault = FaultOfSave(m_read, *m_file->OnDisk()); !fault.empty())
+    if (const std::string fault = FaultOfSave(m_read, Defaults(), *m_file->OnDisk(), m_emptyList);
+        !fault.empty())
         return Fail("the saved file lacks variables:\n" + fault);
     m_currentPath = m_file->Path();
     m_reading = true;
@@ -236,11 +242,8 @@ void Walk::SaveAgain()
     Save();
     if (HasFailure())
         return;
-    std::optional<std::string> defaults;
-    if (!m_defaultPath.empty())
-        defaults = ReadBytes(m_defaultPath);
     m_file->NoteSave(false);
-    const std::string fault = FaultOfSecondSave(once, defaults, *m_file->OnDisk());
+    const std::string fault = FaultOfSecondSave(once, Defaults(), *m_file->OnDisk());
     if (!fault.empty())
         Fail("a second save has changed the file:\n" + fault);
 }

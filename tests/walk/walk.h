@@ -46,6 +46,7 @@ class Walk : public DialogSession
     void Log(const std::string& text) { m_log.push_back(text); }
     void Fail(const std::string& what);
     bool IsModified() const;
+    std::optional<std::string> Defaults() const; ///< the bytes of the defaults, if there are any
 
     // Windows that open over the dialog, steps_in_windows.cpp
     void AnswerMessage(HWND box);
@@ -78,6 +79,9 @@ class Walk : public DialogSession
     std::string PressSave();
     std::string PressCancel();
 
+    /// A control gets the text.
+    void NoteText(const std::wstring& text);
+
     /// The usable controls of the window that takes input, those of a page among them.
     std::vector<HWND> UsableControls(const std::vector<std::wstring>& classes) const;
 
@@ -91,6 +95,7 @@ class Walk : public DialogSession
     unsigned m_gdiAtRest = 0;          ///< after the step before
     unsigned m_gdiObjects = 0;         ///< of the dialog when it is first opened, and of choosers
     bool m_unwritable = false;         ///< a text was entered that no file can hold
+    bool m_emptyList = false;          ///< a text was entered that may be a list without an entry
     std::optional<std::string> m_read; ///< what the dialog shows, but for the steps
 
     // Of the present step
