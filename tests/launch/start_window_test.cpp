@@ -85,8 +85,9 @@ TEST_F(StartWindowTest, ChoosesFilesAndRemembersThem)
     const std::wstring file = Put(L"office.cfg", "_A = 1\r\n");
     const std::wstring defaults = Put(L"defaults.cfg", "_A = 1\r\n");
     ASSERT_EQ(Shown::Start, Start({}));
+    Type(IDC_HOST_START_FILE, L"typed.cfg");
     Browse(IDC_HOST_START_FILE_BROWSE, L"");
-    EXPECT_EQ(L"", TextOf(IDC_HOST_START_FILE));
+    EXPECT_EQ(L"typed.cfg", TextOf(IDC_HOST_START_FILE));
     Browse(IDC_HOST_START_FILE_BROWSE, file);
     EXPECT_EQ(file, TextOf(IDC_HOST_START_FILE));
     Browse(IDC_HOST_START_DEFAULTS_BROWSE, defaults);
