@@ -48,7 +48,7 @@ CopyNames::CopyNames(const Text& path, const Text& folder, const FilePorts& port
     if (!isBeside)
         m_mark.append(u" ").append(
             Hexadecimal(DigestOf(Utf8FromText(key(file.folder) + m_folders.Folded(file.name))), 8));
-    m_folder = isBeside ? std::move(file.folder) : folder;
+    m_folder = isBeside ? file.folder : folder;
     m_name = std::move(file.name);
 }
 

@@ -4,8 +4,8 @@
 #include "config/core/local_time.h"
 #include "launch/core/file_ports.h"
 
-#include <compare>
 #include <optional>
+#include <tuple>
 
 namespace ov
 {
@@ -16,7 +16,11 @@ struct CopyStamp {
     LocalTime time{};
     int number = 1;
 
-    auto operator<=>(const CopyStamp&) const = default;
+    bool operator==(const CopyStamp&) const = default;
+    bool operator<(const CopyStamp& other) const
+    {
+        return std::tie(time, number) < std::tie(other.time, other.number);
+    }
 };
 
 /// The names of the dated copies of one file: "office.cfg 2026-11-22 13.05.12.copy", and

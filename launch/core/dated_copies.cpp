@@ -51,8 +51,9 @@ Listing ListFiles(const CopyNames& names, FolderPort& folders)
         else if (const auto part = names.StampOfUnfinished(entry))
             AddFile(listing.parts, *part, JoinPath(names.Folder(), entry, folders), folders);
     }
-    std::ranges::sort(listing.copies, std::ranges::greater{}, &StampedFile::stamp);
-    std::ranges::sort(listing.parts, std::ranges::greater{}, &StampedFile::stamp);
+    const auto isNewer = [](const StampedFile& a, const StampedFile& b) { return b.stamp < a.stamp; };
+    std::ranges::sort(listing.copies, isNewer);
+    std::ranges::sort(listing.parts, isNewer);
     return listing;
 }
 
@@ -60,7 +61,7 @@ CopyStamp StampAfter(const Listing& listing, LocalTime now)
 {
     CopyStamp stamp{now, 1};
     for (const auto* files : {&listing.copies, &listing.parts}) {
-        if (!files->empty() && files->front().stamp >= stamp)
+        if (!files->empty() && !(files->front().stamp < stamp))
             stamp = {files->front().stamp.time, files->front().stamp.number + 1};
     }
     return stamp;

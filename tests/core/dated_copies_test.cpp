@@ -115,6 +115,19 @@ TEST(DatedCopiesTest, AFullDiskLeavesNothing)
     EXPECT_EQ(scene.memory.contents.size(), 1U);
 }
 
+TEST(DatedCopiesTest, AFailedCopyRemovesNoOtherCopy)
+{
+    LaunchScene scene;
+    for (const char* const content : {"1", "2", "3"}) {
+        scene.memory.contents[kPath] = content;
+        TakeDatedCopy(kPath, {}, kNoon, scene.ports);
+    }
+    scene.memory.contents[kPath] = "longer than the disk has space for";
+    scene.memory.capacity = 3;
+    EXPECT_FALSE(KeepDatedCopy(kPath, {.count = 1}, kNoon, scene.ports).Succeeded());
+    EXPECT_EQ(scene.EndingIn(u".copy").size(), 3U);
+}
+
 // A port that stores other bytes than it was given, as a failing disk does.
 class LyingPort final : public test::ForwardingPort
 {

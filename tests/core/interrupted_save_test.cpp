@@ -45,18 +45,21 @@ TEST(InterruptedSaveTest, ASavedFileIsComplete)
 
 TEST(InterruptedSaveTest, TheBeginningOfASavedFileIsUnfinished)
 {
-    const std::string saved = SavedFrom(kHandWritten);
+    const std::string backup = "A = 1\r\n";
+    const std::string saved = SavedFrom(backup);
+    // Anywhere, at the end of a line, and below a variable, where a blank line follows.
+    const std::string ends[] = {"", "\r\n", "\r\n\r\n"};
     std::mt19937 random(1);
     for (int sample = 0; sample < 60; ++sample) {
-        std::size_t length = random() % saved.size();
-        if (sample % 2 == 0) // At the end of a line.
-            length = saved.find("\r\n", std::min(length, saved.size() - 3)) + 2;
+        const std::string& end = ends[sample % 3];
+        std::size_t length = saved.find(end, random() % saved.size());
+        if (length == std::string::npos)
+            continue;
+        length += std::min<std::size_t>(end.size(), 2);
         if (length == saved.size())
             continue;
-        const FileJudgement judgement = Judge(saved.substr(0, length), kHandWritten);
-        EXPECT_EQ(judgement.completeness, Completeness::Unfinished)
-            << length << " of " << saved.size() << " bytes: ..."
-            << saved.substr(length - std::min<std::size_t>(length, 60), std::min<std::size_t>(length, 60));
+        const FileJudgement judgement = Judge(saved.substr(0, length), backup);
+        EXPECT_EQ(judgement.completeness, Completeness::Unfinished) << length << " of " << saved.size();
         EXPECT_NE(judgement.sign, UnfinishedSign::None);
     }
 }
@@ -263,6 +266,19 @@ TEST(ResolveOnceTest, ContentThatChangedMeanwhileIsNotRemoved)
     EXPECT_EQ(result.asidePath, u"office (replaced).cfg");
     EXPECT_EQ(scene.memory.contents[result.asidePath], "A = newer");
     EXPECT_EQ(scene.memory.contents[kPath], "A = old\r\n");
+}
+
+TEST(ResolveOnceTest, TheFileGetsItsNameBackIfTheBackupCannotBeRenamed)
+{
+    LaunchScene scene;
+    scene.memory.contents[kPath] = "A = n";
+    scene.memory.contents[kBackup] = "A = old\r\n";
+    scene.memory.pinned = {kBackup};
+    const ResolveResult result = RestoreBackup(kPath, {}, kNoon, scene.ports);
+    EXPECT_EQ(result.outcome, ResolveOutcome::RenameFailed);
+    EXPECT_EQ(result.systemText, test::kFaultText);
+    EXPECT_EQ(result.asidePath, u"");
+    EXPECT_EQ(scene.memory.contents[kPath], "A = n");
 }
 
 TEST(ResolveOnceTest, WithoutABackupNothingHappens)
