@@ -1,6 +1,6 @@
 # Sourced by scripts/package: the libraries whose code is in the programs, their
-# licences and the list of them for machines. Needs root, version, full_version,
-# revision, pcre2 and work.
+# licences and the list of them for machines. Needs root, windows, version,
+# full_version, pcre2 and uuid_of.
 # shellcheck shell=bash
 # shellcheck disable=SC2154
 
@@ -59,6 +59,22 @@ sbom_component() {
                 + ($version | @uri))}'
 }
 
+# contained_in PROGRAM: the Debian packages of the libraries in it, one a line. What
+# is in every program of this compiler has no names of its own to look for.
+contained_in() {
+    local symbols
+    symbols=$(x86_64-w64-mingw32-nm "$1")
+    printf 'gcc-mingw-w64-x86-64-posix-runtime\nmingw-w64-x86-64-dev\n'
+    if grep -qwE 'pcre2_match_(8|16|32)' <<<"$symbols"; then printf 'pcre2\n'; fi
+    if grep -q N3CLI <<<"$symbols"; then printf 'libcli11-dev\n'; fi
+    if grep -q N8nlohmann <<<"$symbols"; then printf 'nlohmann-json3-dev\n'; fi
+}
+
+# sbom_dependency PROGRAM: what it contains, by the names of the entries.
+sbom_dependency() {
+    contained_in "$1" | jq -n -R --arg name "${1##*/}" '{ref: $name, dependsOn: [inputs]}'
+}
+
 # sbom_file FILE: an entry of a file of the package.
 sbom_file() {
     jq -n --arg name "${1##*/}" --arg sum "$(sha256sum "$1" | cut -d ' ' -f 1)" --arg version "$version" '{
@@ -73,9 +89,11 @@ make_sbom() {
     {
         for name in "$@"; do sbom_file "$name"; done | jq -s '{files: .}'
         for name in "${libraries[@]}"; do sbom_component "$name"; done | jq -s '{libraries: .}'
+        # With their symbols, which the packed files do not have.
+        for name in "$@"; do sbom_dependency "$windows/bin/${name##*/}"; done | jq -s '{contained: .}'
     } | jq -s --arg version "$version" --arg full "$full_version" \
         --arg time "$(date -u -d "@$SOURCE_DATE_EPOCH" +%FT%TZ)" --arg serial "$(uuid_of "sbom/$full_version")" '
-        add | .libraries as $libraries | {
+        add | {
             bomFormat: "CycloneDX", specVersion: "1.5", serialNumber: "urn:uuid:\($serial | ascii_downcase)", version: 1,
             metadata: {
                 timestamp: $time,
@@ -85,7 +103,5 @@ make_sbom() {
             components: .libraries,
             dependencies: [
                 {ref: "ovPreferences", dependsOn: [.files[]["bom-ref"]]},
-                {ref: "ovPreferences.dll", dependsOn: ["pcre2", "gcc-mingw-w64-x86-64-posix-runtime", "mingw-w64-x86-64-dev"]},
-                {ref: "ovPreferencesHost.exe", dependsOn: ["gcc-mingw-w64-x86-64-posix-runtime", "mingw-w64-x86-64-dev"]},
-                {ref: "ovprefs.exe", dependsOn: [$libraries[]["bom-ref"]]}]}' >"$json"
+                .contained[]]}' >"$json"
 }
