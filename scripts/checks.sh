@@ -6,15 +6,19 @@ passed=0
 failed=0
 
 # check NAME COMMAND...: runs one check; the output of COMMAND explains a failure.
+# Through a file: a program that COMMAND has started and not ended would keep the
+# writing end of a pipe open, and the check would wait for it.
 check() {
-    local name="$1" output
+    local name="$1" log
     shift
-    if output=$("$@" 2>&1); then
+    log=$(mktemp)
+    if ("$@") >"$log" 2>&1; then
         passed=$((passed + 1))
     else
         failed=$((failed + 1))
-        printf '%s: %s\n%s\n' "${0##*/}" "$name" "$output"
+        printf '%s: %s\n%s\n' "${0##*/}" "$name" "$(<"$log")"
     fi
+    rm -f "$log"
 }
 
 # Prints the last line of a suite and returns its success.
