@@ -183,7 +183,7 @@ FileJudgement JudgeSavedFile(std::string_view file, std::string_view backup, Cha
     if (!file.ends_with(kLineEnd))
         return Unfinished(UnfinishedSign::EndsInLine);
     const InspectedFile inspected{std::string(file), charset};
-    if (inspected.Lines().back().parts.kind == LineKind::Comment)
+    if (inspected.Parts(inspected.LineCount() - 1).kind == LineKind::Comment)
         return Unfinished(UnfinishedSign::EndsInComment);
     return JudgeVariables(inspected, backup);
 }
