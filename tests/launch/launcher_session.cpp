@@ -118,11 +118,11 @@ void LauncherSession::RememberDefaults(const std::wstring& path)
 {
     const std::wstring folder = m_userData / L"Orthoval\\Preferences";
     SHCreateDirectoryExW(nullptr, folder.c_str(), nullptr);
-    std::string bytes = "defaults = ";
-    // The paths of these tests are ASCII where the folder for temporary files is.
-    for (const wchar_t unit : path)
-        bytes += static_cast<char>(unit);
-    EXPECT_TRUE(WriteBytes(folder + L"\\launcher.txt", bytes + "\r\n"));
+    std::string bytes(path.size() * 3, '\0');
+    bytes.resize(static_cast<std::size_t>(
+        WideCharToMultiByte(CP_UTF8, 0, path.data(), static_cast<int>(path.size()), bytes.data(),
+                            static_cast<int>(bytes.size()), nullptr, nullptr)));
+    EXPECT_TRUE(WriteBytes(folder + L"\\launcher.txt", "defaults = " + bytes + "\r\n"));
 }
 
 std::vector<std::wstring> LauncherSession::Remembered() const
