@@ -199,14 +199,6 @@ std::vector<Text> PruneDatedCopies(const Text& path, const CopyPlace& place, Loc
     return remaining;
 }
 
-CopyResult KeepDatedCopy(const Text& path, const CopyPlace& place, LocalTime now, const FilePorts& ports)
-{
-    CopyResult result = TakeDatedCopy(path, place, now, ports);
-    if (result.Succeeded())
-        PruneDatedCopies(path, place, now, ports);
-    return result;
-}
-
 void SettleDatedCopy(const Text& path, const CopyResult& taken, const CopyPlace& place, LocalTime now,
                      const FilePorts& ports)
 {

@@ -80,9 +80,6 @@ CopyResult TakeDatedCopyOf(const std::string& content, const Text& path, const C
 std::vector<Text> PruneDatedCopies(const Text& path, const CopyPlace& place, LocalTime now,
                                    const FilePorts& ports);
 
-/// Takes a copy and, if that succeeded, prunes.
-CopyResult KeepDatedCopy(const Text& path, const CopyPlace& place, LocalTime now, const FilePorts& ports);
-
 /// To be called after a program that `taken` was made for has ended. Removes the copy again if it was made
 /// and the file still has the same content. Otherwise prunes.
 void SettleDatedCopy(const Text& path, const CopyResult& taken, const CopyPlace& place, LocalTime now,

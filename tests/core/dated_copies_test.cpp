@@ -24,6 +24,15 @@ using test::LaunchScene;
 const LocalTime kNoon = std::chrono::local_days(std::chrono::year(2026) / 11 / 22) + 12h;
 const Text kPath = u"office.cfg";
 
+// What happens around a change: a copy before it, and the end of it afterwards, when the file has changed.
+CopyResult KeepDatedCopy(const Text& path, const CopyPlace& place, LocalTime now, const FilePorts& ports)
+{
+    CopyResult result = TakeDatedCopy(path, place, now, ports);
+    const CopyResult earlier{result.Succeeded() ? CopyOutcome::NotNeeded : result.outcome, {}, {}};
+    SettleDatedCopy(path, earlier, place, now, ports);
+    return result;
+}
+
 TEST(DatedCopiesTest, IsMadeOnceForEachContent)
 {
     LaunchScene scene;
