@@ -2,6 +2,8 @@
 
 #include "resources/ids.h"
 
+#include <cwctype>
+#include <set>
 #include <shlobj.h>
 
 using namespace uidriver;
@@ -27,6 +29,18 @@ BOOL CALLBACK FindEnabledDialog(HWND window, LPARAM parameter)
         return TRUE;
     search.found = window;
     return FALSE;
+}
+
+// The mnemonic of a button or a label; 0 for none.
+wchar_t MnemonicOf(HWND control)
+{
+    const std::wstring className = ClassOf(control);
+    const bool isText = className == L"Static" && (GetWindowLongPtrW(control, GWL_STYLE) & SS_NOPREFIX) != 0;
+    if ((className != L"Button" && className != L"Static") || isText)
+        return 0;
+    const std::wstring caption = GetText(control);
+    const std::size_t sign = caption.find(L'&');
+    return sign == std::wstring::npos ? L'\0' : static_cast<wchar_t>(std::towupper(caption[sign + 1]));
 }
 
 std::wstring LauncherPath()
@@ -101,6 +115,27 @@ unsigned LauncherSession::ExitCode()
 {
     EXPECT_TRUE(m_launcher->AwaitEnd());
     return m_launcher->ExitCode();
+}
+
+void LauncherSession::ExpectOrder() const
+{
+    RECT client = {};
+    GetClientRect(m_window, &client);
+    std::set<wchar_t> keys;
+    std::vector<RECT> places;
+    for (const HWND control : Children(m_window)) {
+        if (!IsWindowVisible(control))
+            continue;
+        const RECT place = RectIn(control, m_window);
+        RECT common = {};
+        EXPECT_TRUE(UnionRect(&common, &client, &place) && EqualRect(&common, &client))
+            << GetDlgCtrlID(control);
+        for (const RECT& other : places)
+            EXPECT_FALSE(IntersectRect(&common, &place, &other)) << GetDlgCtrlID(control);
+        places.push_back(place);
+        const wchar_t key = MnemonicOf(control);
+        EXPECT_TRUE(key == 0 || keys.insert(key).second) << GetDlgCtrlID(control);
+    }
 }
 
 std::wstring LauncherSession::Put(const std::wstring& name, const std::string& bytes)

@@ -40,6 +40,10 @@ class LauncherSession : public testing::Test
     std::wstring TextOf(int id) const { return uidriver::GetText(Control(id)); }
     void Type(int id, const std::wstring& text) { uidriver::SetText(Control(id), text); }
 
+    /// Expects that every visible control lies in the window and beside the others, and that no two
+    /// have the same mnemonic.
+    void ExpectOrder() const;
+
     /// Writes a file into the folder and returns its path.
     std::wstring Put(const std::wstring& name, const std::string& bytes);
     std::wstring Path(const std::wstring& name) const { return m_folder / name; }

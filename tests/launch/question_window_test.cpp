@@ -5,8 +5,6 @@
 
 #include <windows.h>
 #include <algorithm>
-#include <cwctype>
-#include <set>
 
 using namespace uidriver;
 
@@ -28,31 +26,6 @@ class QuestionWindowTest : public LauncherSession
         EXPECT_EQ(Shown::Nothing, Press(IDCANCEL));
         EXPECT_EQ(3U, ExitCode());
     }
-
-    // Every visible control lies in the window and beside the others, and has a mnemonic of its own.
-    void IsInOrder() const
-    {
-        RECT client = {};
-        GetClientRect(Window(), &client);
-        std::set<wchar_t> keys;
-        std::vector<RECT> places;
-        for (const HWND control : Children(Window())) {
-            if (!IsWindowVisible(control))
-                continue;
-            const RECT place = RectIn(control, Window());
-            RECT common = {};
-            EXPECT_TRUE(UnionRect(&common, &client, &place) && EqualRect(&common, &client))
-                << GetDlgCtrlID(control);
-            for (const RECT& other : places)
-                EXPECT_FALSE(IntersectRect(&common, &place, &other)) << GetDlgCtrlID(control);
-            places.push_back(place);
-            const std::wstring caption = ClassOf(control) == L"Button" ? GetText(control) : std::wstring();
-            if (const auto sign = caption.find(L'&'); sign != std::wstring::npos) {
-                EXPECT_TRUE(keys.insert(static_cast<wchar_t>(std::towupper(caption[sign + 1]))).second)
-                    << GetDlgCtrlID(control);
-            }
-        }
-    }
 };
 
 TEST_F(QuestionWindowTest, ShowsWhatSaveDropsWithTheDifference)
@@ -63,7 +36,7 @@ TEST_F(QuestionWindowTest, ShowsWhatSaveDropsWithTheDifference)
     EXPECT_TRUE(Says(L"Settings that the file does not have, which are added: "));
     EXPECT_EQ(GetDlgItem(Window(), IDCANCEL), FocusIn(Window()));
     EXPECT_FALSE(IsShown(Control(IDC_HOST_QUESTION_DETAILS)));
-    IsInOrder();
+    ExpectOrder();
 
     Click(Control(IDC_HOST_QUESTION_SHOW));
     ASSERT_TRUE(Await([&] { return IsShown(Control(IDC_HOST_QUESTION_DETAILS)); }));
@@ -72,17 +45,17 @@ TEST_F(QuestionWindowTest, ShowsWhatSaveDropsWithTheDifference)
     const LONG_PTR style = GetWindowLongPtrW(Control(IDC_HOST_QUESTION_DETAILS), GWL_STYLE);
     EXPECT_TRUE((style & ES_READONLY) && (style & WS_VSCROLL) && (style & WS_HSCROLL) &&
                 (style & WS_TABSTOP));
-    IsInOrder();
+    ExpectOrder();
 
     RECT before = {};
     GetWindowRect(Window(), &before);
     Resize(Window(), before.right - before.left + 100, before.bottom - before.top + 100);
-    IsInOrder();
+    ExpectOrder();
     const RECT edit = RectIn(Control(IDC_HOST_QUESTION_DETAILS), Window());
     Click(Control(IDC_HOST_QUESTION_SHOW));
     EXPECT_TRUE(Await([&] { return !IsShown(Control(IDC_HOST_QUESTION_DETAILS)); }));
     EXPECT_GT(edit.right - edit.left, before.right - before.left);
-    IsInOrder();
+    ExpectOrder();
     PostKey(Window(), VK_ESCAPE);
     EXPECT_EQ(3U, ExitCode());
 }
@@ -134,7 +107,7 @@ TEST_F(QuestionWindowTest, OffersToResolveAnInterruptedSave)
     EXPECT_TRUE(Says(L", 29 bytes. "));
     EXPECT_FALSE(IsShown(Control(IDC_HOST_QUESTION_SHOW)));
     EXPECT_FALSE(IsShown(Control(IDC_HOST_QUESTION_SILENT)));
-    IsInOrder();
+    ExpectOrder();
     Cancel();
     EXPECT_EQ("#\r\n# O", Content(L"office.cfg"));
     EXPECT_EQ(FileWithDirective, Content(L"office.bak"));
@@ -175,14 +148,14 @@ TEST_F(QuestionWindowTest, AsksAboutMissingFiles)
 {
     ASSERT_EQ(Shown::Question, Start({Path(L"new.cfg")}));
     EXPECT_TRUE(Says(L"There is no file " + Path(L"new.cfg") + L".")) << testing::PrintToString(Question());
-    IsInOrder();
+    ExpectOrder();
     Cancel();
 
     RememberDefaults(Path(L"defaults.cfg"));
     ASSERT_EQ(Shown::Question, Start({Put(L"office.cfg", FileWithDirective)}));
     EXPECT_TRUE(Says(L"The defaults file of your office cannot be used."))
         << testing::PrintToString(Question());
-    IsInOrder();
+    ExpectOrder();
     ASSERT_EQ(Shown::Start, Press(IDYES));
     EXPECT_EQ(Path(L"defaults.cfg"), TextOf(IDC_HOST_START_DEFAULTS));
     Cancel();

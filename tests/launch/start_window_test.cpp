@@ -46,6 +46,7 @@ TEST_F(StartWindowTest, EscapeCancels)
 {
     ASSERT_EQ(Shown::Start, Start({}));
     EXPECT_EQ(Control(IDC_HOST_START_FILE), FocusIn(Window()));
+    ExpectOrder();
     PostKey(Window(), VK_ESCAPE);
     EXPECT_EQ(3U, ExitCode());
 }
