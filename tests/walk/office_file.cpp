@@ -4,6 +4,7 @@
 #include "tests/walk/dialog_checks.h"
 
 #include <algorithm>
+#include <utility>
 
 using namespace uidriver;
 
@@ -35,7 +36,7 @@ OfficeFile::~OfficeFile()
 
 void OfficeFile::NoteReading()
 {
-    m_known = IsUnreadable() ? std::nullopt : m_onDisk;
+    m_known = IsUnreadable() || !m_folderExists ? std::nullopt : m_onDisk;
 }
 
 std::string OfficeFile::Disturb(Chance& chance)
@@ -149,13 +150,14 @@ std::string OfficeFile::NoteSave(bool mayReplace)
     Release();
     m_onDisk = ReadBytes(m_path);
     m_known = m_onDisk;
-    m_backupLeft = false;
+    // A new file has no backup, and a replaced one is kept: neither takes the name of one that was left over.
+    const bool backupStays = std::exchange(m_backupLeft, false) && (!before || mustAsk);
+    if (backupStays)
+        DeleteFileW(BackupPath().c_str());
     if (!m_onDisk || m_onDisk->find("Orthoval Administration Configuration File.") == std::string::npos)
         return "the dialog closed after Save, and no file is saved";
     for (const auto& name : Names()) {
-        // A new file has no backup, and so none is taken for one that was left over.
-        const bool mayStay = name == fileName || name.starts_with(L"office (replaced") || !before;
-        if (!mayStay)
+        if (name != fileName && !name.starts_with(L"office (replaced"))
             return "the save left a file behind: " + Printable(name);
     }
     if (mustAsk && !mayReplace)

@@ -130,6 +130,8 @@ std::string Walk::PressMnemonic()
 std::string Walk::ClickControl()
 {
     const auto controls = UsableControls(everyClass);
+    if (controls.empty())
+        return "finds no control";
     HWND control = m_chance->OneOf(controls);
     const std::string name = NameOf(control);
     const bool isButton = ClassOf(control) == L"Button";
