@@ -112,6 +112,7 @@ TEST(Findings, OfHeadersAndComments)
         {RuleId::CommentLost, "A = 1\n#\n# b\n\n# c\nA > 2\nB = 1\n", {"2:1"}},
         {RuleId::CommentLost, "\n# nothing follows\n", {"2:1"}},
         {RuleId::CommentLost, "# header\n\n# nothing follows\n", {"3:1"}},
+        {RuleId::CommentLost, "A = 1\n# b\nlonely\n%if\nA > 2\n", {"2:1"}},
         {RuleId::CommentLost, "# header\n\n", {}},
         {RuleId::CommentLost, "A = 1\n# \xC3\xA9\nA = 2\n", {"2:1"}},
         {RuleId::CommentLost, "A = 1\n# =====\n#\nA > 2\n# ---\n", {}},
@@ -120,6 +121,7 @@ TEST(Findings, OfHeadersAndComments)
         {RuleId::HeaderRepeats, "A = 1\n", {"1:5"}},
         {RuleId::HeaderRepeats, "\n\nB = 1\n_ORTHOVAL_CHECK_CELLS = 1\nA = 2\n", {"5:5"}},
         {RuleId::HeaderRepeats, savedHeader + "A = 1\n", {"14:5"}},
+        {RuleId::HeaderRepeats, "A = 1\nA > 2\n", {"1:5"}},
         {RuleId::HeaderRepeats, "# note\nA = 1\n", {}},
         {RuleId::HeaderRepeats, "\nA = 1\n", {}},
         {RuleId::HeaderRepeats, "A = 1\n", {}, "#\n\n# note\nA = 1\n"},
@@ -145,6 +147,7 @@ TEST(Findings, OfOperators)
         {RuleId::ConflictMarker, "<<<<<<< a\nA = 1\n=======\n>>>>>>> b\n", {"1:1", "3:1", "4:1"}},
         {RuleId::ConflictMarker, "<<<<<<<\r\n", {"1:1"}},
         {RuleId::ConflictMarker, ">>>>>>> x = y\n", {"1:1"}},
+        {RuleId::ConflictMarker, "<<<<<<a b\n", {}},
         {RuleId::ConflictMarker, "<<<<<<<< a\n======\n======= x\n >>>>>>> b\n>>>>>>>b\n", {}},
         {RuleId::LineIgnored, "<<<<<<< a\n=======\n", {}},
         {RuleId::MalformedOperator, "<<<<<<< a:b\n", {}},
@@ -160,6 +163,7 @@ TEST(Findings, OfWhatSaveMakesOfValues)
         {RuleId::ValueChanges, "A = say \"b\" now\n", {"1:5"}},
         {RuleId::ValueChanges, "_ORTHOVAL_BORDERSHEETS_ERROR_SCALE = 1.5\n", {}},
         {RuleId::ValueChanges, "_ORTHOVAL_REPORT_NAMING = $$userinitials$$-$$currentfile$$\n", {"1:27"}},
+        {RuleId::ValueChanges, "_ORTHOVAL_DICT_DIR = \"/x \"\n", {"1:22"}},
         {RuleId::ValueChanges, "_ORTHOVAL_CHECK_CELLS = Yes\n", {}},
         {RuleId::ValueChanges, "_ORTHOVAL_PROMPT_COLOURTABLE_REMAP = 7\n", {}},
         {RuleId::ValueChanges, "_ORTHOVAL_SCANPERIOD_SETTINGS = 1,1,0,1,13,2011\n", {}},
@@ -174,6 +178,10 @@ TEST(Findings, OfWhatSaveMakesOfValues)
         {RuleId::EntryCut,
          "_ORTHOVAL_CHECK_IGNORED_LEVELS = " + std::string(1024, 'x') + "," + std::string(1024, 'y') + "\n",
          {}},
+        {RuleId::EntryCut,
+         "_ORTHOVAL_COLOURTABLES = " + std::string(1025, 'x') + "\n_ORTHOVAL_COLOURTABLES > a\n",
+         {"1:26"}},
+        {RuleId::EntryCut, "_ORTHOVAL_CHECK_IGNORED_LEVELS = a, " + std::string(1024, 'x') + "\n", {}},
         {RuleId::EntryCut, "_ORTHOVAL_MENU_NAME = " + std::string(2000, 'x') + "\n", {}},
         {RuleId::ByteOrderMark, "\xEF\xBB\xBF# a\n", {"1:1"}},
         {RuleId::ByteOrderMark, "\xEF\xBB\xBF_ORTHOVAL_CHECK_TAGS = 1\nA = 1\n", {"1:1"}},
@@ -188,6 +196,8 @@ TEST(Findings, OfWhatSaveMakesOfValues)
          {"1:1"}},
         {RuleId::NotPlainText, std::string("A\0 \0=\0 \0001\0\n\0", 12), {"1:1"}},
         {RuleId::NotPlainText, "A = 1\rB = 2\r", {"1:1"}},
+        {RuleId::NotPlainText, std::string("\xFE\xFF\0=", 4), {"1:1"}},
+        {RuleId::NotPlainText, std::string("A = \0x\0y\0z\n", 11), {}},
         {RuleId::NotPlainText, "A = 1\r", {}},
         {RuleId::NotPlainText, std::string("A = 1\r\nB = \0\r\n", 14), {}},
         {RuleId::NotPlainText, "", {}},
@@ -209,6 +219,9 @@ TEST(Findings, OfNamesFlagsAndNumbers)
         {RuleId::UnknownVariable, "_orthoval_check_cells = 1\n", {"1:25"}},
         {RuleId::UnknownVariable, "_ORTHOVAL_NO_SUCH = 1\nORTHOVAL_NONE > 1\n", {"1:21", "2:17"}},
         {RuleId::UnknownVariable, "ORTOVAL_LOG_FILE_MAXSIZE = 1\n", {"1:28"}},
+        {RuleId::UnknownVariable, "_orthoval_no_such = 1\n_orthoval_no_such > 2\n", {"1:21"}},
+        {RuleId::UnknownVariable, "_ORTXXVAL_CHECK_CELLS = 1\n_ORTVAL_CHECK_CELLS = 1\n", {"1:25", "2:23"}},
+        {RuleId::UnknownVariable, "_ORTXXXAL_CHECK_CELLS = 1\n_ORTAL_CHECK_CELLS = 1\n", {}},
         {RuleId::UnknownVariable,
          "_ORTHOVAL_CHECK_CELLS = 1\nORTHOVAL_LOG_FILE_MAXSIZE = 1\n_ORTHOVAL_SCANPERIOD_VALUE = 1\n"
          "_ORTHOVAL_REPORT_TEMPLATE_DSN_XLS = x\nHR_OFFICE = 1\nMY_ORTHOVAL_X = 1\n",
@@ -219,7 +232,10 @@ TEST(Findings, OfNamesFlagsAndNumbers)
         {RuleId::NotAFlag,
          "_ORTHOVAL_CHECK_CELLS = 0\n_ORTHOVAL_CHECK_TEXT = \"1\"\n_ORTHOVAL_CHECK_TAGS = \n",
          {}},
+        {RuleId::NotAFlag, "_ORTHOVAL_CHECK_CELLS = \" 1\"\n", {"1:25"}},
         {RuleId::NotANumber, "_ORTHOVAL_MAX_ERROR_UORS = 12 or so\n", {"1:28"}},
+        {RuleId::NotANumber, "_ORTHOVAL_MIN_MU_ERRORSCALE = 1e3\n", {"1:31"}},
+        {RuleId::NotANumber, "_ORTHOVAL_MAX_ERROR_UORS = \" +5 \"\n", {}},
         {RuleId::NotANumber,
          "_ORTHOVAL_WEIGHTING_COLOUR = 25\n_ORTHOVAL_TABLE_BACKUP_MAX = -1\n",
          {"1:30", "2:30"}},
@@ -338,6 +354,54 @@ TEST(Findings, SayWhatBecomesOfAValue)
     EXPECT_EQ(changed[1].after, std::nullopt);
 }
 
+TEST(Findings, SayWhatTheReaderMakesOfALine)
+{
+    const auto has = [](const ov::Finding& finding, const char* part) {
+        return finding.message.find(part) != std::string::npos;
+    };
+    const auto operators = FindingsOf(RuleId::MalformedOperator, "NAME= C:\\x y\nA =1\n");
+    ASSERT_EQ(operators.size(), 2u);
+    EXPECT_TRUE(has(operators[0], "\":\"") && has(operators[0], "\"y\"")) << operators[0].message;
+    EXPECT_TRUE(has(operators[1], "\"=\"") && has(operators[1], "an empty value")) << operators[1].message;
+    const auto ignored = FindingsOf(RuleId::LineIgnored, "A= value\n=A value\n");
+    ASSERT_EQ(ignored.size(), 2u);
+    EXPECT_TRUE(has(ignored[0], "a blank on both sides"));
+    EXPECT_FALSE(has(ignored[1], "a blank on both sides"));
+    const auto again = FindingsOf(RuleId::AssignedAgain, "A = 1\nB = 1\nA = 2\n");
+    ASSERT_EQ(again.size(), 1u);
+    EXPECT_TRUE(has(again[0], "Line 3")) << again[0].message;
+}
+
+TEST(Findings, SayWhatTheDialogMakesOfAValue)
+{
+    const auto flags = FindingsOf(RuleId::NotAFlag,
+                                  "_ORTHOVAL_CHECK_CELLS = Yes\n_ORTHOVAL_REPORT_REF_UNSCALE_DIMS = Yes\n");
+    ASSERT_EQ(flags.size(), 2u);
+    EXPECT_TRUE(flags[0].message.ends_with("_ORTHOVAL_CHECK_CELLS for 0")) << flags[0].message;
+    EXPECT_TRUE(flags[1].message.ends_with("_ORTHOVAL_REPORT_REF_UNSCALE_DIMS for 1")) << flags[1].message;
+    const auto templates =
+        FindingsOf(RuleId::BadTemplate, "_ORTHOVAL_WILDCARD_TYPE = 4\n_ORTHOVAL_CONVENTION_MODELNAME = (\n");
+    ASSERT_EQ(templates.size(), 1u);
+    EXPECT_TRUE(templates[0].message.ends_with("at position 2")) << templates[0].message;
+}
+
+TEST(Findings, NameTheCharacterThatSaveRefuses)
+{
+    const auto inComment =
+        FindingsOf(RuleId::CharacterRefused, "# \xE9\nB = 1\nA = 1\n", "#\n\n# \xC5\x81\nA = 1\n");
+    ASSERT_EQ(inComment.size(), 1u);
+    EXPECT_EQ(inComment[0].variable, u"A");
+    EXPECT_NE(inComment[0].message.find("\xC5\x81"), std::string::npos) << inComment[0].message;
+    ov::InspectionSettings settings;
+    settings.today = std::chrono::year(2026) / 11 / 20;
+    settings.header.machine = {u"Friday", u"\u0141. Reeve", u"CAD-07"};
+    const auto inHeader =
+        ov::Inspector(settings).Inspect(ov::InspectedFile("# n\nA = \xE9\n", ov::Charset::Windows1252));
+    EXPECT_TRUE(std::ranges::any_of(inHeader, [](const ov::Finding& finding) {
+        return finding.rule == RuleId::CharacterRefused && !finding.variable;
+    }));
+}
+
 TEST(Findings, CountTheSettingsThatSaveAddsOnceAFile)
 {
     ExpectPlaces({
@@ -369,6 +433,7 @@ TEST(Findings, NameTheSettingsThatSaveAdds)
     EXPECT_FALSE(has(u"_ORTHOVAL_CHECK_CELLS", u"1"));
     // The server's version and the two counts of fields are never written.
     EXPECT_EQ(added.size(), 175u - 1u - 3u);
+    EXPECT_NE(found[0].message.find("171 settings"), std::string::npos) << found[0].message;
 }
 
 } // namespace
