@@ -221,6 +221,9 @@ TEST(Findings, OfNamesFlagsAndNumbers)
         {RuleId::UnknownVariable, "ORTOVAL_LOG_FILE_MAXSIZE = 1\n", {"1:28"}},
         {RuleId::UnknownVariable, "_orthoval_no_such = 1\n_orthoval_no_such > 2\n", {"1:21"}},
         {RuleId::UnknownVariable, "_ORTXXVAL_CHECK_CELLS = 1\n_ORTVAL_CHECK_CELLS = 1\n", {"1:25", "2:23"}},
+        {RuleId::UnknownVariable,
+         "_ORTXXHOVAL_CHECK_CELLS = 1\n_ORTHOXQL_CHECK_CELLS = 1\n",
+         {"1:27", "2:25"}},
         {RuleId::UnknownVariable, "_ORTXXXAL_CHECK_CELLS = 1\n_ORTAL_CHECK_CELLS = 1\n", {}},
         {RuleId::UnknownVariable,
          "_ORTHOVAL_CHECK_CELLS = 1\nORTHOVAL_LOG_FILE_MAXSIZE = 1\n_ORTHOVAL_SCANPERIOD_VALUE = 1\n"
