@@ -22,6 +22,38 @@ namespace
 
 namespace fs = std::filesystem;
 
+/// Gives the superuser, who may write everything, the rights of another user until the scope ends.
+class OrdinaryUser
+{
+  public:
+    OrdinaryUser() : m_wasSuperuser(geteuid() == 0)
+    {
+        if (m_wasSuperuser) {
+            EXPECT_EQ(setresuid(kNobody, kNobody, 0), 0);
+        }
+    }
+    ~OrdinaryUser()
+    {
+        if (m_wasSuperuser) {
+            EXPECT_EQ(setresuid(0, 0, 0), 0);
+        }
+    }
+    OrdinaryUser(const OrdinaryUser&) = delete;
+    OrdinaryUser& operator=(const OrdinaryUser&) = delete;
+
+    /// Lets that user own a file.
+    static void Give(const fs::path& path)
+    {
+        if (geteuid() == 0) {
+            ASSERT_EQ(chown(path.c_str(), kNobody, static_cast<gid_t>(-1)), 0);
+        }
+    }
+
+  private:
+    static constexpr uid_t kNobody = 65534;
+    const bool m_wasSuperuser;
+};
+
 class PosixFolderPortTest : public testing::Test
 {
   protected:
@@ -88,9 +120,10 @@ TEST_F(PosixFolderPortTest, AWriterThatLocksTheFileIsNoticed)
 
 TEST_F(PosixFolderPortTest, PermissionsAreNoticed)
 {
-    if (geteuid() == 0)
-        GTEST_SKIP() << "the superuser may write everything";
     Write("a.cfg", "");
+    OrdinaryUser::Give(m_folder / "a.cfg");
+    OrdinaryUser::Give(m_folder);
+    const OrdinaryUser user;
     fs::permissions(m_folder / "a.cfg", fs::perms::owner_read);
     FileFacts facts;
     ASSERT_TRUE(m_folders.Facts(PathOf("a.cfg"), facts));
