@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/text.h"
+#include "config/core/setting_store.h"
 
 #include <map>
 #include <string>
