@@ -285,6 +285,9 @@ TEST(Findings, OfChoicesListsAndDates)
         {RuleId::BadTemplate, "_ORTHOVAL_WILDCARD_TYPE = 3\n_ORTHOVAL_CONVENTION_FILENAME = [a\n", {}},
         {RuleId::BadTemplate, "_ORTHOVAL_CONVENTION_FILENAME = [a\n", {}},
         {RuleId::ImpossibleDay, "_ORTHOVAL_SCANPERIOD_VALUE = 2,31,4,2011\n", {"1:30"}},
+        {RuleId::ValueChanges,
+         "_ORTHOVAL_SCANPERIOD_SETTINGS = 1, 1, 0, 1, 1, 2011, 1, 2, 0, 0, 29, 2, 2011, 0\n",
+         {}},
         {RuleId::ImpossibleDay, "_ORTHOVAL_SCANPERIOD_SETTINGS = 1,1,0,1,13,2011\n", {"1:33"}},
         {RuleId::ImpossibleDay,
          "_ORTHOVAL_SCANPERIOD_SETTINGS = 1, 1, 0, 1, 1, 2011, 1, 2, 0, 0, 29, 2, 2011, 0\n",
@@ -296,6 +299,9 @@ TEST(Findings, OfChoicesListsAndDates)
         {RuleId::PathMissing, "_ORTHOVAL_DICT_DIR = /gone\n", {"1:22"}},
         {RuleId::PathMissing, "_ORTHOVAL_COLOURTABLES = /there;/gone\n", {"1:26"}},
         {RuleId::PathMissing, "_ORTHOVAL_BORDERSHEETS = /gone,A1\n", {"1:26"}},
+        {RuleId::PathMissing,
+         "_ORTHOVAL_REPORT_IGNORED_REFFILES = /gone/*.dgn;/gone/a?.dgn\n_ORTHOVAL_TITLEBLOCK_CELLS = /gone\n",
+         {}},
         {RuleId::PathMissing,
          "_ORTHOVAL_DICT_DIR = /there\n_ORTHOVAL_SCRIPTS = $(X)/gone\n_ORTHOVAL_BORDERSHEETS = /there,A1\n"
          "_ORTHOVAL_CONVENTION_FILENAME_HELP_FILE = http://gone\n_ORTHOVAL_MENU_NAME = /gone\n",
@@ -337,6 +343,9 @@ TEST(Findings, OfPagesAndDefaults)
         {RuleId::ListsDiffer,
          "_ORTHOVAL_CONVENTION_FILENAME = a;b\n_ORTHOVAL_CONVENTION_FILENAME_DESCR = \n",
          {}},
+        {RuleId::ListsDiffer,
+         "_ORTHOVAL_CONVENTION_FILENAME = \n_ORTHOVAL_CONVENTION_FILENAME_DESCR = a;b\n",
+         {}},
     });
 }
 
@@ -377,11 +386,14 @@ TEST(Findings, SayWhatTheReaderMakesOfALine)
 
 TEST(Findings, SayWhatTheDialogMakesOfAValue)
 {
-    const auto flags = FindingsOf(RuleId::NotAFlag,
-                                  "_ORTHOVAL_CHECK_CELLS = Yes\n_ORTHOVAL_REPORT_REF_UNSCALE_DIMS = Yes\n");
-    ASSERT_EQ(flags.size(), 2u);
+    const auto flags =
+        FindingsOf(RuleId::NotAFlag, "_ORTHOVAL_CHECK_CELLS = Yes\n_ORTHOVAL_REPORT_REF_UNSCALE_DIMS = Yes\n"
+                                     "_ORTHOVAL_TITLEBLOCK_COUNT_EDF = Yes\n");
+    ASSERT_EQ(flags.size(), 3u);
     EXPECT_TRUE(flags[0].message.ends_with("_ORTHOVAL_CHECK_CELLS for 0")) << flags[0].message;
     EXPECT_TRUE(flags[1].message.ends_with("_ORTHOVAL_REPORT_REF_UNSCALE_DIMS for 1")) << flags[1].message;
+    EXPECT_TRUE(flags[2].message.ends_with("_TITLEBLOCK_COUNT_EDF for 0, and keeps the text"))
+        << flags[2].message;
     const auto templates =
         FindingsOf(RuleId::BadTemplate, "_ORTHOVAL_WILDCARD_TYPE = 4\n_ORTHOVAL_CONVENTION_MODELNAME = (\n");
     ASSERT_EQ(templates.size(), 1u);
