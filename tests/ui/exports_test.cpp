@@ -32,6 +32,7 @@ class ExportsTest : public DialogSession
         HWND window = nullptr;
         HWND active = nullptr;
         bool enabledAfterwards = false;
+        const wchar_t* texts = L""; ///< the paths and the user; null leaves those of the last call
 
         unsigned Show()
         {
@@ -44,7 +45,7 @@ class ExportsTest : public DialogSession
             active = MakeWindow(L"Active");
             SetActiveWindow(active);
             auto* const parent = static_cast<CWnd*>(parentOf(window));
-            const unsigned result = Library::Get().ShowDialogEx()(parent, nullptr, nullptr, nullptr);
+            const unsigned result = Library::Get().ShowDialogEx()(parent, texts, texts, texts);
             enabledAfterwards = IsWindowEnabled(window) && IsWindowEnabled(active);
             DestroyWindow(active);
             DestroyWindow(window);
@@ -208,6 +209,7 @@ TEST_F(ExportsTest, TheDialogAndItsChangesOutliveTheParent)
     ASSERT_TRUE(Open());
     Cancel(); // from here on the library knows the path
     Host host;
+    host.texts = nullptr;
     ASSERT_TRUE(Open([&] { return host.ShowWith([](HWND window) { return window; }); }));
     ClickOnPage(IDC_BRANDING_AUTO);
     PostMessageW(host.window, WM_CLOSE, 0, 0);
@@ -319,7 +321,7 @@ TEST_F(ExportsTest, TheHostsOwnActivationContextIsBackAfterTheCall)
     HANDLE after = nullptr;
     ASSERT_TRUE(Open([&] {
         GetCurrentActCtx(&before);
-        const unsigned result = ShowWithNulls();
+        const unsigned result = Library::Get().ShowDialogEx()(nullptr, L"", L"", L"");
         GetCurrentActCtx(&after);
         return result;
     }));
