@@ -30,6 +30,12 @@ msi_own_keys() {
         'Microsoft\Windows\CurrentVersion\Installer\UserData\S-1-5-18'{,'\Components','\Products'}
 }
 
+# without_wine_keys: the registry on standard input without the keys that Wine
+# creates for the session when a program first asks for colours or metrics.
+without_wine_keys() {
+    awk '/^\[/ { own = index($0, "[HKEY_CURRENT_USER\\Software\\Wine\\Temporary System Parameters") == 1 } !own'
+}
+
 # machine_state FILE: the files and the registry, except what Windows itself keeps
 # about its own work: temporary files, and empty folders and keys of the installer.
 # Wine leaves the semicolon of a removed entry at the end of the PATH.
@@ -38,7 +44,7 @@ machine_state() {
         sort >"$1"
     local key
     for key in 'HKLM\Software' 'HKLM\System\CurrentControlSet\Control\Session Manager\Environment' 'HKCU\Software' 'HKCU\Environment'; do
-        registry "$key" | sed '/^"PATH"=/I,/[^\]$/d' | grep -v '^$' | grep -vxFf <(msi_own_keys)
+        registry "$key" | without_wine_keys | sed '/^"PATH"=/I,/[^\]$/d' | grep -v '^$' | grep -vxFf <(msi_own_keys)
     done >>"$1"
     machine_path | sed 's/;*$/\n/' >>"$1"
 }
