@@ -89,6 +89,7 @@ int wmain(int count, wchar_t** texts)
     if (!call.isAdministrators)
         return ShowDialog(info.m_defaultPath, info.m_currentPath, info.m_userName);
     if (call.noQuestions)
-        return ShowDialog(call.givesDefaults ? info.m_defaultPath : call.path, call.path, info.m_userName);
+        return ShowDialog(info.m_defaultPath.empty() ? call.path : info.m_defaultPath, call.path,
+                          info.m_userName);
     return OpenForAdministrator(call, info.m_defaultPath, info.m_userName);
 }

@@ -53,7 +53,7 @@ ov::Text CopyText(const ov::CopyResult& result)
     case ov::CopyOutcome::FolderUnreadable:
         return HostText(IDS_HOST_COPY_FOLDER_UNREADABLE, {result.systemText});
     case ov::CopyOutcome::NotVerified:
-        return HostText(IDS_HOST_COPY_NOT_VERIFIED, {result.systemText});
+        return HostText(IDS_HOST_COPY_NOT_VERIFIED);
     default:
         return HostText(IDS_HOST_COPY_WRITE_FAILED, {result.systemText});
     }

@@ -104,11 +104,17 @@ void CStartWindow::OnBrowseFolder()
 ov::StartChoice CStartWindow::Entered() const
 {
     const auto text = [this](int id) { return ov::Text(ov::Trim(GetDlgItemText(id))); };
+    // The Explorer copies a path with quotes around it.
+    const auto path = [&](int id) {
+        const ov::Text entered = text(id);
+        const bool isQuoted = entered.size() > 1 && entered.starts_with(u'"') && entered.ends_with(u'"');
+        return isQuoted ? entered.substr(1, entered.size() - 2) : entered;
+    };
     ov::StartChoice entered;
-    entered.file = text(IDC_HOST_START_FILE);
-    entered.defaults = text(IDC_HOST_START_DEFAULTS);
+    entered.file = path(IDC_HOST_START_FILE);
+    entered.defaults = path(IDC_HOST_START_DEFAULTS);
     entered.copies = KeepsCopies() ? ov::ToInteger(text(IDC_HOST_START_COPIES)) : 0;
-    entered.copyFolder = text(IDC_HOST_START_FOLDER);
+    entered.copyFolder = path(IDC_HOST_START_FOLDER);
     return entered;
 }
 

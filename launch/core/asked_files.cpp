@@ -63,7 +63,7 @@ bool AskedFiles::ShouldAsk(const Text& key, const FileLook& look) const
     const AskedFile* const file = Find(key);
     if (file == nullptr)
         return true;
-    return file->state != look.state && (!file->never || look.interrupted.IsFileBroken());
+    return file->state != look.state && (!file->never || look.interrupted.found);
 }
 
 void AskedFiles::Remember(const Text& key, const Text& state)

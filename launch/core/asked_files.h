@@ -27,8 +27,8 @@ class AskedFiles
     std::string Format() const;
 
     /// True if the user should see the remarks of a look at this file: they exist, were not shown for the
-    /// same state, and are wanted. A file that is missing or unfinished after an interrupted save is shown
-    /// even if the user does not want to be asked about it.
+    /// same state, and are wanted. A left-over backup is shown even if the user does not want to be asked
+    /// about the file, because the next save deletes it.
     bool ShouldAsk(const Text& key, const FileLook& look) const;
 
     /// Remembers that the user was asked about this state.

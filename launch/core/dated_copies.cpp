@@ -161,8 +161,11 @@ CopyResult TakeDatedCopy(const Text& path, const CopyPlace& place, LocalTime now
 {
     std::string content;
     FileResult reading = ReadWhole(ports.files, path, content);
-    if (reading)
-        return TakeDatedCopyOf(content, path, place, now, ports);
+    if (reading) {
+        CopyResult result = TakeDatedCopyOf(content, path, place, now, ports);
+        result.content = std::move(content);
+        return result;
+    }
     if (ports.files.Kind(path) == FileKind::Absent)
         return {CopyOutcome::NoFile, {}, {}};
     return {CopyOutcome::FileUnreadable, {}, std::move(reading.systemText)};
@@ -202,16 +205,22 @@ std::vector<Text> PruneDatedCopies(const Text& path, const CopyPlace& place, Loc
 void SettleDatedCopy(const Text& path, const CopyResult& taken, const CopyPlace& place, LocalTime now,
                      const FilePorts& ports)
 {
-    if (taken.outcome == CopyOutcome::Made) {
-        std::string content;
-        const FileResult reading = ReadWhole(ports.files, path, content);
-        if (reading && CompareContent(ports.files, taken.path, content) == ContentMatch::Same) {
-            ports.files.Remove(taken.path);
-            return;
-        }
+    if (!taken.Succeeded())
+        return;
+    std::string content;
+    const bool isUnchanged = ReadWhole(ports.files, path, content) && content == taken.content;
+    const auto hasCopy = [&] {
+        return CompareContent(ports.files, taken.path, taken.content) == ContentMatch::Same;
+    };
+    if (taken.outcome == CopyOutcome::Made && isUnchanged && hasCopy()) {
+        ports.files.Remove(taken.path);
+        return;
     }
-    if (taken.Succeeded())
-        PruneDatedCopies(path, place, now, ports);
+    // A second program on the same file relies on the copy of the first one, which that removes if it ends
+    // without a change.
+    if (!taken.path.empty() && !isUnchanged && !hasCopy())
+        TakeDatedCopyOf(taken.content, path, place, now, ports);
+    PruneDatedCopies(path, place, now, ports);
 }
 
 } // namespace ov

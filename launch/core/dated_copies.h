@@ -57,8 +57,9 @@ enum class CopyOutcome {
 /// The result of taking a copy.
 struct CopyResult {
     CopyOutcome outcome = CopyOutcome::Made;
-    Text path{};       ///< Made, NotNeeded: the copy with the file's content.
-    Text systemText{}; ///< For a failure: the system's message; may be empty.
+    Text path{};           ///< Made, NotNeeded: the copy with the file's content.
+    Text systemText{};     ///< For a failure: the system's message; may be empty.
+    std::string content{}; ///< From TakeDatedCopy if it succeeded: the content of the file.
 
     /// True if the file's content can be lost without a loss.
     bool Succeeded() const { return outcome <= CopyOutcome::NoFile; }
@@ -81,7 +82,8 @@ std::vector<Text> PruneDatedCopies(const Text& path, const CopyPlace& place, Loc
                                    const FilePorts& ports);
 
 /// To be called after a program that `taken` was made for has ended. Removes the copy again if it was made
-/// and the file still has the same content. Otherwise prunes.
+/// and the file still has the same content. Otherwise prunes, and first copies the earlier content once more
+/// if its copy is gone.
 void SettleDatedCopy(const Text& path, const CopyResult& taken, const CopyPlace& place, LocalTime now,
                      const FilePorts& ports);
 

@@ -121,11 +121,13 @@ FileJudgement JudgeBackup(std::string_view backup)
     return {Completeness::Complete, UnfinishedSign::None, 0};
 }
 
-// The path of the backup of the file; empty if the file has none by its name.
+// The path of the backup of the file; empty if the file has none by its name. A file without an extension in
+// a folder with one has its backup beside the folder; what lies there is more likely another file.
 Text BackupBeside(const Text& file, const FilePorts& ports)
 {
     Text backup = BackupPath(file);
-    if (ports.folders.Folded(backup) == ports.folders.Folded(file) || ports.files.IsSameFile(file, backup))
+    if (ports.folders.Folded(backup) == ports.folders.Folded(file) || ports.files.IsSameFile(file, backup) ||
+        SplitPath(backup, ports.folders).folder != SplitPath(file, ports.folders).folder)
         backup.clear();
     return backup;
 }

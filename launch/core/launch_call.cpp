@@ -17,8 +17,8 @@ bool Has(const Text& parameter, TextView keyword)
 
 bool IsPath(const Text& parameter)
 {
-    return !parameter.empty() && !IsSwitch(parameter) && !Has(parameter, u"DEFAULT:") &&
-           !Has(parameter, u"CURRENT:") && !Has(parameter, u"USER:");
+    return !IsSwitch(parameter) && !Has(parameter, u"DEFAULT:") && !Has(parameter, u"CURRENT:") &&
+           !Has(parameter, u"USER:");
 }
 
 /// Collects what the parameters say.

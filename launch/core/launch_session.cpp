@@ -36,6 +36,7 @@ class Session
 
     void LookAtFile();
     void Store(const StartChoice& offered);
+    void RememberFile();
     bool ShouldAsk() const;
     CopyPlace Place() const;
 
@@ -76,14 +77,21 @@ int Session::Run()
         if (const Stop stop = (this->*step)())
             return *stop;
     }
-    m_settings.file = m_choice.file;
-    m_surroundings.memory.Store(kSettingsFile, FormatLaunchSettings(m_settings));
+    RememberFile();
     // Without a defaults file the file is its own.
     const int code =
         m_windows.ShowDialog(m_choice.defaults.empty() ? m_choice.file : m_choice.defaults, m_choice.file);
     if (m_settings.copies != 0)
         SettleDatedCopy(m_choice.file, m_copy, Place(), m_surroundings.now(), m_surroundings.ports);
     return code;
+}
+
+// Another call may have stored settings while this one asked.
+void Session::RememberFile()
+{
+    LaunchSettings settings = ParseLaunchSettings(m_surroundings.memory.Load(kSettingsFile));
+    settings.file = m_choice.file;
+    m_surroundings.memory.Store(kSettingsFile, FormatLaunchSettings(settings));
 }
 
 Session::Stop Session::Choose()
@@ -164,7 +172,8 @@ Session::Stop Session::ResolveInterruptedSave()
         return kExitCancelled;
     const auto resolve = answer == LaunchAnswer::Yes ? &RestoreBackup : &KeepFile;
     const ResolveResult result = resolve(m_choice.file, Place(), m_surroundings.now(), m_surroundings.ports);
-    if (result.outcome != ResolveOutcome::Resolved) {
+    // The backup of a save that another program has finished meanwhile is gone.
+    if (result.outcome != ResolveOutcome::Resolved && result.outcome != ResolveOutcome::NoBackup) {
         m_windows.Tell(BackupUnresolved{m_look.interrupted, result});
         return kExitNoFile;
     }
@@ -180,6 +189,8 @@ Session::Stop Session::ShowRemarks()
     if (reply.answer != LaunchAnswer::Yes)
         return kExitCancelled;
     const Text key = PathKey(m_choice.file, m_surroundings.ports);
+    // Another call may have stored answers while this one asked.
+    m_asked = AskedFiles::Parse(m_surroundings.memory.Load(kAskedFile));
     if (reply.silenced)
         m_asked.NeverAsk(key, m_look.state);
     else

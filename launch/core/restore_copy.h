@@ -28,8 +28,8 @@ struct RestoreResult {
 };
 
 /// Gives a file the content of one of its copies. First copies the content that is replaced, unless the
-/// newest copy has it. The file is written by SaveUnattended, with its guarantees. The oldest copies are
-/// removed only after that.
+/// newest copy has it. The file is written by SaveUnattended, with its guarantees. No copy is
+/// removed.
 RestoreResult RestoreCopy(const Text& path, const Text& copyPath, const CopyPlace& place, LocalTime now,
                           const FilePorts& ports);
 

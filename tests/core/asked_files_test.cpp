@@ -24,10 +24,11 @@ FileLook Remarkable(const Text& state)
     return look;
 }
 
-FileLook Broken(const Text& state)
+FileLook WithBackup(const Text& state)
 {
     FileLook look = Remarkable(state);
     look.interrupted.found = true;
+    look.interrupted.file.exists = true; // and nothing is known to be wrong with it
     return look;
 }
 
@@ -54,16 +55,16 @@ TEST(AskedFilesTest, WithoutARemarkThereIsNothingToAsk)
     EXPECT_FALSE(AskedFiles().ShouldAsk(kKey, FileLook()));
 }
 
-TEST(AskedFilesTest, NeverAsksAgainExceptAboutABrokenFile)
+TEST(AskedFilesTest, NeverAsksAgainExceptAboutABackup)
 {
     AskedFiles asked;
     asked.NeverAsk(kKey, kState);
     asked.Remember(kKey, kState);
     asked = Reread(asked);
     EXPECT_FALSE(asked.ShouldAsk(kKey, Remarkable(kOtherState)));
-    EXPECT_TRUE(asked.ShouldAsk(kKey, Broken(kOtherState)));
+    EXPECT_TRUE(asked.ShouldAsk(kKey, WithBackup(kOtherState)));
     asked.Remember(kKey, kOtherState);
-    EXPECT_FALSE(asked.ShouldAsk(kKey, Broken(kOtherState)));
+    EXPECT_FALSE(asked.ShouldAsk(kKey, WithBackup(kOtherState)));
     EXPECT_FALSE(asked.ShouldAsk(kKey, Remarkable(kState))) << "Still never";
 }
 

@@ -223,6 +223,21 @@ TEST(DatedCopiesTest, AnEarlierCopyRemainsIfTheFileDidNotChange)
     EXPECT_EQ(scene.memory.contents.size(), 2U);
 }
 
+TEST(DatedCopiesTest, IsMadeAgainIfAnotherProgramHasRemovedIt)
+{
+    LaunchScene scene;
+    scene.memory.contents[kPath] = "A = 1\r\n";
+    const CopyResult first = TakeDatedCopy(kPath, {}, kNoon, scene.ports);
+    const CopyResult second = TakeDatedCopy(kPath, {}, kNoon + 1h, scene.ports);
+    ASSERT_EQ(second.outcome, CopyOutcome::NotNeeded);
+    SettleDatedCopy(kPath, first, {}, kNoon + 2h, scene.ports);
+    ASSERT_TRUE(scene.EndingIn(u".copy").empty());
+    scene.memory.contents[kPath] = "A = 2\r\n";
+    SettleDatedCopy(kPath, second, {}, kNoon + 3h, scene.ports);
+    ASSERT_EQ(scene.EndingIn(u".copy").size(), 1U);
+    EXPECT_EQ(scene.memory.contents[scene.EndingIn(u".copy").front()], "A = 1\r\n");
+}
+
 TEST(DatedCopiesTest, RemainsIfTheFileChangedOrIsGone)
 {
     for (const bool gone : {false, true}) {

@@ -106,6 +106,14 @@ TEST(InterruptedSaveTest, WithoutABackupNothingIsFound)
     EXPECT_FALSE(ExamineInterruptedSave(kPath, Charset::OfProcess, scene.ports).found);
 }
 
+TEST(InterruptedSaveTest, AFileBesideTheFolderIsNoBackup)
+{
+    LaunchScene scene;
+    scene.memory.contents[u"std.v2/office"] = kHandWritten;
+    scene.memory.contents[u"std.bak"] = "x";
+    EXPECT_FALSE(ExamineInterruptedSave(u"std.v2/office", Charset::OfProcess, scene.ports).found);
+}
+
 TEST(InterruptedSaveTest, BothFilesAreDescribed)
 {
     LaunchScene scene;

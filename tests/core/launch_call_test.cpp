@@ -51,6 +51,7 @@ TEST(LaunchCallTest, CallsThatNameTheFileToEditOpenAtOnce)
              {u"d.cfg", u"a.cfg"},
              {u"d.cfg", u"a.cfg", u"j"},
              {u"a.cfg", u"CURRENT:b.cfg"},
+             {u"", u"a.cfg"}, // from a script whose variable is empty
          }) {
         const LaunchCall call = Read(parameters);
         EXPECT_FALSE(call.isAdministrators);
