@@ -69,7 +69,7 @@ context_menu_is_added() {
     registry "$key" >"$folder/menu" || return
     # shellcheck disable=SC2016
     diff <(printf '%s\n' '@="Edit with Orthoval Preferences"' \
-        '"Icon"="C:\\Program Files\\Orthoval Preferences\\bin\\ovPreferencesHost.exe"' \
+        '"Icon"="C:\\Program Files\\Orthoval Preferences\\bin\\ovPreferencesHost.exe"' '"NeverDefault"=""' \
         '@="\"C:\\Program Files\\Orthoval Preferences\\bin\\ovPreferencesHost.exe\" \"%1\""') \
         <(grep '^[@"]' "$folder/menu") && ! registry 'HKLM\Software\Classes\.cfg'
 }
