@@ -8,9 +8,8 @@
  */
 #include <ovPreferences.h>
 
-#include <locale.h>
 #include <windows.h>
-
+#include <locale.h>
 #include <shellapi.h>
 
 int WINAPI WinMain(HINSTANCE instance, HINSTANCE previous, LPSTR command_line, int show)

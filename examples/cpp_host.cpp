@@ -7,12 +7,10 @@
 // window then says how the call has ended.
 #include <ovPreferences.h>
 
-#include <clocale>
-#include <string>
-
 #include <windows.h>
-
+#include <clocale>
 #include <shellapi.h>
+#include <string>
 
 namespace
 {
