@@ -81,7 +81,7 @@ FileResult PosixFolderPort::TryWriting(const Text& path)
     if (descriptor < 0)
         return PosixFailure(errno);
     // A save locks the file that it writes.
-    const FileResult result = flock(descriptor, LOCK_EX | LOCK_NB) == 0 ? FileResult{} : PosixFailure(errno);
+    FileResult result = flock(descriptor, LOCK_EX | LOCK_NB) == 0 ? FileResult{} : PosixFailure(errno);
     close(descriptor);
     return result;
 }

@@ -214,10 +214,11 @@ bool MayBeSimilar(std::string_view variable)
 {
     // All known names begin alike: of three pieces of that beginning, two wrong letters leave one unchanged.
     const auto isSame = [](char c, char piece) {
-        return ToUpperAscii(static_cast<unsigned char>(c)) == piece;
+        return ToUpperAscii(static_cast<unsigned char>(c)) == static_cast<unsigned char>(piece);
     };
     return std::ranges::any_of(std::array<std::string_view, 3>{"ORT", "HOV", "AL_"}, [&](auto piece) {
-        return !std::ranges::search(variable, piece, isSame).empty();
+        return std::search(variable.begin(), variable.end(), piece.begin(), piece.end(), isSame) !=
+               variable.end();
     });
 }
 
