@@ -98,13 +98,13 @@ TEST_F(CopyNameTest, AFolderOfChoiceKeepsFilesOfTheSameNameApart)
     const Text name = one.NameOf({kNoon, 3});
     EXPECT_EQ(one.StampOf(name), (CopyStamp{kNoon, 3}));
     EXPECT_EQ(two.StampOf(name), std::nullopt);
-    EXPECT_EQ(Names(u"/work/one/office.cfg", u"copies").StampOf(name), (CopyStamp{kNoon, 3}));
+    EXPECT_EQ(Names(u"/office/one/office.cfg", u"copies").StampOf(name), (CopyStamp{kNoon, 3}));
     EXPECT_EQ(one.Folder(), u"copies");
 }
 
 TEST_F(CopyNameTest, TheFilesOwnFolderIsNoFolderOfChoice)
 {
-    EXPECT_EQ(Names(u"one/office.cfg", u"/work/one").NameOf({kNoon, 1}),
+    EXPECT_EQ(Names(u"one/office.cfg", u"/office/one").NameOf({kNoon, 1}),
               u"office.cfg 2026-11-22 12.00.00.copy");
 }
 

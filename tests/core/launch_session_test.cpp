@@ -15,9 +15,9 @@ namespace ov::test
 namespace
 {
 
-const Text kFile = u"/work/office.cfg";
-const Text kBackup = u"/work/office.bak";
-const Text kDefaults = u"/work/defaults.cfg";
+const Text kFile = u"/office/office.cfg";
+const Text kBackup = u"/office/office.bak";
+const Text kDefaults = u"/office/defaults.cfg";
 
 constexpr std::chrono::year_month_day kToday = std::chrono::year(2026) / 11 / 22;
 
@@ -100,7 +100,7 @@ class LaunchSessionTest : public testing::Test
   protected:
     LaunchSessionTest()
     {
-        m_files.directories = {u"/work", u"/work/", u"/copies"};
+        m_files.directories = {u"/office", u"/office/", u"/copies"};
         m_files.contents[kFile] = CompleteFile();
         m_files.contents[kDefaults] = CompleteFile();
     }
@@ -119,7 +119,7 @@ class LaunchSessionTest : public testing::Test
     int Open(const std::string& bytes)
     {
         m_files.contents[kFile] = bytes;
-        m_memory.files["launcher.txt"] = "defaults = /work/defaults.cfg\n" + m_options;
+        m_memory.files["launcher.txt"] = "defaults = /office/defaults.cfg\n" + m_options;
         return Run({.path = kFile, .defaults = std::nullopt});
     }
 
@@ -232,17 +232,17 @@ TEST_F(LaunchSessionTest, ADefaultsFileThatIsGoneIsChosenAgainOrDoneWithout)
     EXPECT_EQ(kExitCancelled, Run({.path = kFile, .defaults = std::nullopt}));
     EXPECT_EQ((Shown{"defaults"}), m_windows.shown);
 
-    m_files.contents[u"/work/new.cfg"] = CompleteFile();
+    m_files.contents[u"/office/new.cfg"] = CompleteFile();
     m_windows.replies = {kYes};
-    m_windows.chosen = StartChoice{kFile, u"/work/new.cfg", 10, {}};
+    m_windows.chosen = StartChoice{kFile, u"/office/new.cfg", 10, {}};
     EXPECT_EQ(kExitShown, Open(CompleteFile()));
     EXPECT_EQ((Shown{"defaults", "start", "dialog"}), m_windows.shown);
-    EXPECT_EQ(u"/work/new.cfg", m_windows.openedDefaults);
+    EXPECT_EQ(u"/office/new.cfg", m_windows.openedDefaults);
 }
 
 TEST_F(LaunchSessionTest, SaysWhyAPathCannotBeOpened)
 {
-    EXPECT_EQ(kExitNoFile, Run({.path = u"/work", .defaults = kDefaults}));
+    EXPECT_EQ(kExitNoFile, Run({.path = u"/office", .defaults = kDefaults}));
     EXPECT_EQ((Shown{"unusable"}), m_windows.shown);
     EXPECT_EQ(kExitNoFile, Run({.path = u"/nowhere/office.cfg", .defaults = kDefaults}));
     EXPECT_EQ((Shown{"unusable"}), m_windows.shown);
@@ -253,7 +253,7 @@ TEST_F(LaunchSessionTest, SaysWhyAPathCannotBeOpened)
 
 TEST_F(LaunchSessionTest, AsksBeforeItOpensANewFile)
 {
-    const LaunchRequest request{.path = u"/work/new.cfg", .defaults = kDefaults};
+    const LaunchRequest request{.path = u"/office/new.cfg", .defaults = kDefaults};
     EXPECT_EQ(kExitCancelled, Run(request));
     EXPECT_EQ((Shown{"new"}), m_windows.shown);
     m_windows.replies = {kYes};

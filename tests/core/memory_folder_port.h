@@ -10,7 +10,7 @@ namespace ov::test
 {
 
 /// The folders of a file system in memory. "/" separates names; the empty path is the current folder,
-/// "/work/". Its operations are numbered from 1 in call order and fail on request.
+/// "/office/". Its operations are numbered from 1 in call order and fail on request.
 class MemoryFolderPort final : public FolderPort
 {
   public:
@@ -66,7 +66,7 @@ class MemoryFolderPort final : public FolderPort
 
     Text FullFolder(const Text& folder) override
     {
-        Text full = folder.starts_with(u'/') ? folder : u"/work/" + folder;
+        Text full = folder.starts_with(u'/') ? folder : u"/office/" + folder;
         if (!full.ends_with(u'/'))
             full += u'/';
         return full;
