@@ -1,7 +1,5 @@
 #include "config/system_info.h"
 
-#include "framework/afxwin.h"
-
 #include <vector>
 
 namespace
@@ -29,20 +27,25 @@ ov::Text GetMachineName()
     return AskName(&::GetComputerNameW);
 }
 
+std::tm TimeFields(const SYSTEMTIME& local)
+{
+    std::tm fields{};
+    fields.tm_year = local.wYear - 1900;
+    fields.tm_mon = local.wMonth - 1;
+    fields.tm_mday = local.wDay;
+    fields.tm_wday = local.wDayOfWeek;
+    fields.tm_hour = local.wHour;
+    fields.tm_min = local.wMinute;
+    fields.tm_sec = local.wSecond;
+    fields.tm_isdst = -1;
+    return fields;
+}
+
 std::tm GetLocalTimeNow()
 {
     // Not the C library's function: it takes the time zone from an environment variable
     // that other programs set in formats it does not understand.
     SYSTEMTIME now{};
     ::GetLocalTime(&now);
-    std::tm local{};
-    local.tm_year = now.wYear - 1900;
-    local.tm_mon = now.wMonth - 1;
-    local.tm_mday = now.wDay;
-    local.tm_wday = now.wDayOfWeek;
-    local.tm_hour = now.wHour;
-    local.tm_min = now.wMinute;
-    local.tm_sec = now.wSecond;
-    local.tm_isdst = -1;
-    return local;
+    return TimeFields(now);
 }

@@ -1,6 +1,7 @@
 #include "config/win32_folder_port.h"
 
 #include "config/final_path.h"
+#include "config/system_info.h"
 #include "config/win32_file_port.h"
 #include "framework/afxwin.h"
 
@@ -25,14 +26,7 @@ ov::LocalTime LocalTimeOfFile(const FILETIME& time)
     if (!::FileTimeToSystemTime(&time, &universal) ||
         !::SystemTimeToTzSpecificLocalTime(nullptr, &universal, &local))
         return {};
-    std::tm parts{};
-    parts.tm_year = local.wYear - 1900;
-    parts.tm_mon = local.wMonth - 1;
-    parts.tm_mday = local.wDay;
-    parts.tm_hour = local.wHour;
-    parts.tm_min = local.wMinute;
-    parts.tm_sec = local.wSecond;
-    return ov::LocalTimeOf(parts);
+    return ov::LocalTimeOf(TimeFields(local));
 }
 
 ov::Text WithSeparator(ov::Text folder)
